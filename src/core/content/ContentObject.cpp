@@ -25,6 +25,19 @@ bool ContentObject::isVisibleTo(const QString& audience) const
     return m_visibleTo.empty() || m_visibleTo.contains(audience);
 }
 
+void ContentObject::touch()
+{
+    ++m_revision;
+    if (m_changedIds)
+        m_changedIds->insert(m_id);
+}
+
+void ContentObject::enterProject(quint64 firstRevision, std::set<ContentId>* changedIds)
+{
+    m_revision = firstRevision;
+    m_changedIds = changedIds;
+}
+
 bool operator==(const ContentObject& left, const ContentObject& right)
 {
     return left.m_id == right.m_id && left.m_kind == right.m_kind && left.m_visibleTo == right.m_visibleTo

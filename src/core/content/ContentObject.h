@@ -54,10 +54,14 @@ public:
      * changes an object of an open project calls touch() afterwards; the command templates do.
      */
     [[nodiscard]] quint64 revision() const { return m_revision; }
-    void touch() { ++m_revision; }
+    void touch();
 
-    /** For Project alone: starts a new range of revisions when the object enters a project. */
-    void restartRevision(quint64 base) { m_revision = base; }
+    /**
+     * For Project alone: from here on revisions start at `firstRevision` and touch() notes the id in
+     * `changedIds`, which outlives the object's stay.
+     */
+    void enterProject(quint64 firstRevision, std::set<ContentId>* changedIds);
+    void leaveProject() { m_changedIds = nullptr; }
 
     friend bool operator==(const ContentObject& left, const ContentObject& right);
 
@@ -77,6 +81,7 @@ private:
     NameSet m_tags;
     QStringList m_plotThreadIds;
     quint64 m_revision = 0;
+    std::set<ContentId>* m_changedIds = nullptr;
 };
 
 /** The object as its concrete class when its kind is that class's; none otherwise. */
