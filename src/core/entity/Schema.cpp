@@ -1,0 +1,224 @@
+#include "core/entity/Schema.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <set>
+
+namespace tw::core::entity {
+
+using project::Project;
+using taxonomy::Category;
+using taxonomy::Field;
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Taxonomy", text);
+}
+
+/** Walks the schema from the outermost root inwards. `entered` holds the categories on the way, against
+ * loops. */
+class SchemaResolver
+{
+public:
+    explicit SchemaResolver(const Project& project)
+        : m_project(project)
+    {}
+
+    Schema categorySchema(const CategoryId& categoryId)
+    {
+        const std::vector<CategoryId> chain = m_project.taxonomy().ancestorChain(categoryId);
+        if (chain.empty() || !m_entered.insert(chain.front()).second)
+            return {};
+        const Category& root = *m_project.taxonomy().category(chain.front());
+        Schema schema = crossingFields(root);
+        for (const CategoryId& id : chain)
+            addCategory(schema, *m_project.taxonomy().category(id), id == categoryId);
+        return schema;
+    }
+
+    Schema entitySchema(const Entity& entity)
+    {
+        Schema schema = categorySchema(entity.categoryId());
+        for (const Field& field : entity.ownFields()) {
+            const auto inherited = std::ranges::find(schema, field.key, keyOf);
+            if (inherited != schema.end()) {
+                if (inherited->isFixed())
+                    continue;
+                schema.erase(inherited);
+            }
+            schema.push_back({field, FieldOrigin::Entity, {}});
+        }
+        return schema;
+    }
+
+private:
+    static const QString& keyOf(const ResolvedField& resolved) { return resolved.field.key; }
+
+    /** The fields that a category under an entity takes through it: those it lists, in the entity's order. */
+    Schema crossingFields(const Category& root)
+    {
+        const auto* const parent = m_project.findAs<Entity>(root.parentEntityId);
+        if (!parent || root.inheritedKeys.isEmpty())
+            return {};
+        Schema schema = entitySchema(*parent);
+        std::erase_if(schema, [&root](const ResolvedField& resolved) {
+            return !root.inheritedKeys.contains(resolved.field.key);
+        });
+        for (ResolvedField& resolved : schema)
+            resolved.origin = FieldOrigin::ParentEntity;
+        return schema;
+    }
+
+    static void addCategory(Schema& schema, const Category& category, bool isLast)
+    {
+        std::erase_if(schema, [&category](const ResolvedField& resolved) {
+            return category.excludedKeys.contains(resolved.field.key);
+        });
+        const FieldOrigin origin = isLast ? FieldOrigin::Category : FieldOrigin::Ancestor;
+        for (const Field& field : category.fields) {
+            const ResolvedField resolved{field, origin, category.id};
+            const auto known = std::ranges::find(schema, field.key, keyOf);
+            if (known == schema.end())
+                schema.push_back(resolved);
+            else
+                *known = resolved;
+        }
+    }
+
+    const Project& m_project;
+    std::set<CategoryId> m_entered;
+};
+
+QString categoryName(const Project& project, const CategoryId& id)
+{
+    const Category* const category = project.taxonomy().category(id);
+    return category ? category->name : QString();
+}
+
+/** What reaches the entity from its category under that key. */
+std::optional<ResolvedField> inheritedField(const Project& project, const Entity& entity, QStringView key)
+{
+    const Schema schema = schemaOfCategory(project, entity.categoryId());
+    const ResolvedField* const inherited = findField(schema, key);
+    return inherited ? std::optional(*inherited) : std::nullopt;
+}
+
+} // namespace
+
+Schema schemaOfCategory(const Project& project, const CategoryId& categoryId)
+{
+    return SchemaResolver(project).categorySchema(categoryId);
+}
+
+Schema schemaOfEntity(const Project& project, const Entity& entity)
+{
+    return SchemaResolver(project).entitySchema(entity);
+}
+
+const ResolvedField* findField(const Schema& schema, QStringView key)
+{
+    const auto found = std::ranges::find_if(
+        schema, [key](const ResolvedField& resolved) { return resolved.field.key == key; });
+    return found == schema.end() ? nullptr : &*found;
+}
+
+std::optional<QString> shownValue(const ResolvedField& field, const Entity& entity)
+{
+    if (field.isFixed())
+        return field.field.fixedValue;
+    return entity.value(field.field.key);
+}
+
+std::optional<QString> shownValueAt(
+    const ResolvedField& field, const Entity& entity, calendar::StoryInstant instant)
+{
+    if (!field.isFixed()) {
+        if (const auto timed = entity.timedValues().find(field.field.key);
+            timed != entity.timedValues().end()) {
+            const auto after = std::ranges::upper_bound(timed->second, instant, {}, &TimedValue::instant);
+            if (after != timed->second.begin())
+                return std::prev(after)->value;
+        }
+    }
+    return shownValue(field, entity);
+}
+
+Result<void> checkOwnField(const Project& project, const Entity& entity, const Field& field)
+{
+    if (auto checked = taxonomy::checkField(field); !checked)
+        return checked;
+    const auto inherited = inheritedField(project, entity, field.key);
+    if (!inherited || !inherited->isFixed())
+        return {};
+    return Failure{
+        translated(QT_TRANSLATE_NOOP(
+                       "Taxonomy",
+                       "“%1” is a fixed property of the category “%2”, which supplies its value for "
+                       "everything beneath it. An entity cannot hold its own — change it on the "
+                       "category, or give this one a differently-named property."))
+            .arg(inherited->field.displayName(), categoryName(project, inherited->definedBy))};
+}
+
+QString ownFieldNotice(const Project& project, const Entity& entity, const Field& field)
+{
+    const auto inherited = inheritedField(project, entity, field.key);
+    if (!inherited || inherited->isFixed())
+        return {};
+    return translated(
+               QT_TRANSLATE_NOOP(
+                   "Taxonomy",
+                   "“%1” already comes from the category “%2”. Adding it here gives this entity its own "
+                   "version, which overrides the inherited one for it alone."))
+        .arg(inherited->field.displayName(), categoryName(project, inherited->definedBy));
+}
+
+bool isCategoryBeneath(const Project& project, const CategoryId& id, const CategoryId& ancestorId)
+{
+    std::set<CategoryId> visited;
+    const Category* current = project.taxonomy().category(id);
+    while (current && visited.insert(current->id).second) {
+        if (current->id == ancestorId)
+            return true;
+        CategoryId next = current->parentId;
+        if (const auto* const entity = project.findAs<Entity>(current->parentEntityId))
+            next = entity->categoryId();
+        current = project.taxonomy().category(next);
+    }
+    return false;
+}
+
+Result<void> checkMoveToCategory(const Project& project, const CategoryId& id, const CategoryId& newParentId)
+{
+    if (auto checked = project.taxonomy().checkReparent(id, newParentId); !checked)
+        return checked;
+    if (!newParentId.isNull() && isCategoryBeneath(project, newParentId, id))
+        return Failure{translated(QT_TRANSLATE_NOOP("Taxonomy", "Reparenting there would create a cycle."))};
+    return {};
+}
+
+Result<void> checkMoveToEntity(const Project& project, const CategoryId& id, const ContentId& entityId)
+{
+    const Category* const category = project.taxonomy().category(id);
+    if (!category)
+        return Failure{translated(QT_TRANSLATE_NOOP("Taxonomy", "Cannot reparent an unknown category."))};
+    const auto* const entity = project.findAs<Entity>(entityId);
+    if (!entity) {
+        return Failure{translated(QT_TRANSLATE_NOOP(
+            "Taxonomy", "A category can only hang under an entity of this project. Choose another place."))};
+    }
+    if (isCategoryBeneath(project, entity->categoryId(), id)) {
+        return Failure{
+            translated(
+                QT_TRANSLATE_NOOP(
+                    "Taxonomy",
+                    "“%1” lies beneath the category “%2”, so the category cannot hang under it. Move the "
+                    "entity to another category first."))
+                .arg(entity->name(), category->name)};
+    }
+    return {};
+}
+
+} // namespace tw::core::entity

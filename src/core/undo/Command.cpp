@@ -1,0 +1,7 @@
+#include "core/undo/Command.h"
+
+namespace tw::core::undo {
+
+Command::~Command() = default;
+
+} // namespace tw::core::undo
