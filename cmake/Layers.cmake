@@ -17,6 +17,7 @@ set(TW_LAYER_tw_desktop
     tw_tools
     tw_scripting
     Qt6::Core
+    Qt6::DBus
     Qt6::Gui
     Qt6::Widgets
     Qt6::Svg

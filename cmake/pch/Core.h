@@ -1,5 +1,5 @@
-// Precompiled for every target: what most files need and what is slow to parse. Sources still include what they
-// use.
+// Precompiled for every target: what most files need and what is slow to parse. Sources still include what
+// they use.
 #pragma once
 
 #include <QByteArray>
