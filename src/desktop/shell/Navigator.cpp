@@ -1,0 +1,23 @@
+#include "desktop/shell/Navigator.h"
+
+namespace tw::desktop::shell {
+
+Navigator::Navigator(QObject* parent)
+    : QObject(parent)
+{}
+
+void Navigator::setCurrent(const core::ContentId& id)
+{
+    if (m_current == id)
+        return;
+    m_current = id;
+    emit currentChanged(m_current);
+}
+
+void Navigator::open(const core::ContentId& id)
+{
+    setCurrent(id);
+    emit openRequested(id);
+}
+
+} // namespace tw::desktop::shell
