@@ -1,5 +1,7 @@
 #pragma once
 
+class QSettings;
+
 namespace tw::desktop::icons {
 class IconSet;
 }
@@ -19,6 +21,7 @@ struct DeskContext
     Navigator& navigator;
     theme::ThemeManager& themes;
     const icons::IconSet& icons;
+    QSettings& settings;
 };
 
 } // namespace tw::desktop::shell

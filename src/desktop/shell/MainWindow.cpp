@@ -30,12 +30,12 @@ using app::persistence::SaveExtent;
 namespace {
 
 constexpr QSize firstSize{1440, 900};
+constexpr int messageTime = 6000;
 
 } // namespace
 
-MainWindow::MainWindow(const DeskContext& desk, QSettings& settings, QString samplePath)
+MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     : m_desk(desk)
-    , m_settings(settings)
     , m_samplePath(std::move(samplePath))
     , m_center(new QStackedWidget)
     , m_workArea(new WorkArea(desk, m_center))
@@ -59,6 +59,9 @@ MainWindow::MainWindow(const DeskContext& desk, QSettings& settings, QString sam
             if (changes.isEverything || changes.areSettingsChanged)
                 refreshTitle();
         });
+    connect(&desk.navigator, &Navigator::said, this, [this](const QString& text) {
+        statusBar()->showMessage(text, messageTime);
+    });
     connect(m_welcome, &WelcomePage::newRequested, this, &MainWindow::newProject);
     connect(m_welcome, &WelcomePage::openRequested, this, &MainWindow::chooseAndOpen);
     connect(m_welcome, &WelcomePage::sampleRequested, this, &MainWindow::openSample);
@@ -73,10 +76,10 @@ MainWindow::~MainWindow() = default;
 void MainWindow::restoreWindow()
 {
     resize(firstSize);
-    const QByteArray geometry = m_settings.value("window/geometry").toByteArray();
+    const QByteArray geometry = m_desk.settings.value("window/geometry").toByteArray();
     if (!geometry.isEmpty())
         restoreGeometry(geometry);
-    m_docks->restore(m_settings);
+    m_docks->restore(m_desk.settings);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -86,8 +89,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
         return;
     }
     rememberPages();
-    m_settings.setValue("window/geometry", saveGeometry());
-    m_docks->save(m_settings);
+    m_desk.settings.setValue("window/geometry", saveGeometry());
+    m_docks->save(m_desk.settings);
     event->accept();
 }
 
@@ -98,7 +101,7 @@ bool MainWindow::openProject(const QString& path)
     rememberPages();
     if (const auto opened = m_desk.session.open(path); !opened) {
         tell(tr("Open Project"), opened.message());
-        RecentProjects(m_settings).remove(path);
+        RecentProjects(m_desk.settings).remove(path);
         showWelcomeOrWork();
         return false;
     }
@@ -108,9 +111,9 @@ bool MainWindow::openProject(const QString& path)
 
 bool MainWindow::reopenLast()
 {
-    if (m_settings.value("general/reopenLast", u"true"_s).toString() != u"true")
+    if (m_desk.settings.value("general/reopenLast", u"true"_s).toString() != u"true")
         return false;
-    const QStringList recent = RecentProjects(m_settings).paths();
+    const QStringList recent = RecentProjects(m_desk.settings).paths();
     return !recent.isEmpty() && QFileInfo::exists(recent.first()) && openProject(recent.first());
 }
 
@@ -169,7 +172,7 @@ bool MainWindow::saveOrTell(SaveExtent extent)
 {
     const auto saved = m_desk.session.save(extent);
     if (saved)
-        statusBar()->showMessage(tr("Saved."), 3000);
+        statusBar()->showMessage(tr("Saved."), messageTime);
     else
         tell(tr("Save Project"), saved.message());
     return saved.isOk();
@@ -188,7 +191,7 @@ bool MainWindow::saveProjectAs()
         tell(tr("Save Project"), saved.message());
         return false;
     }
-    RecentProjects(m_settings).add(m_desk.session.workspace().displayPath());
+    RecentProjects(m_desk.settings).add(m_desk.session.workspace().displayPath());
     refreshTitle();
     return true;
 }
@@ -235,13 +238,13 @@ void MainWindow::noteOpened()
 {
     const auto& workspace = m_desk.session.workspace();
     if (workspace.hasPath()) {
-        RecentProjects(m_settings).add(workspace.displayPath());
-        m_workArea->restoreIds(m_settings.value(pagesKey()).toStringList());
+        RecentProjects(m_desk.settings).add(workspace.displayPath());
+        m_workArea->restoreIds(m_desk.settings.value(pagesKey()).toStringList());
     }
     showWelcomeOrWork();
     refreshTitle();
     if (!workspace.libraryNotices().isEmpty())
-        statusBar()->showMessage(workspace.libraryNotices().join(u' '), 10000);
+        statusBar()->showMessage(workspace.libraryNotices().join(u' '), messageTime);
 }
 
 QString MainWindow::pagesKey() const
@@ -255,7 +258,7 @@ QString MainWindow::pagesKey() const
 void MainWindow::rememberPages()
 {
     if (m_desk.session.workspace().hasPath())
-        m_settings.setValue(pagesKey(), m_workArea->openIds());
+        m_desk.settings.setValue(pagesKey(), m_workArea->openIds());
 }
 
 bool MainWindow::select(const QString& what)
@@ -272,7 +275,7 @@ bool MainWindow::select(const QString& what)
 void MainWindow::showWelcomeOrWork()
 {
     const bool isOpen = m_desk.session.isProjectOpen();
-    m_welcome->setRecent(RecentProjects(m_settings).paths());
+    m_welcome->setRecent(RecentProjects(m_desk.settings).paths());
     m_center->setCurrentWidget(isOpen ? static_cast<QWidget*>(m_workArea) : m_welcome);
     for (QAction* const action : m_projectActions)
         action->setEnabled(isOpen);

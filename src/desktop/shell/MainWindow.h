@@ -6,7 +6,6 @@
 
 #include <QMainWindow>
 
-class QSettings;
 class QStackedWidget;
 
 namespace tw::desktop::codex {
@@ -25,14 +24,15 @@ class WorkArea;
 
 /**
  * The window: menus, docks around the work area, status bar, and the life of the project from opening to
- * closing. `desk` and `settings` must outlive it.
+ * closing. The parts of `desk` must outlive it.
  */
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    MainWindow(const DeskContext& desk, QSettings& settings, QString samplePath);
+    /** `samplePath` is empty when no sample is installed. */
+    MainWindow(const DeskContext& desk, QString samplePath);
     ~MainWindow() override;
 
     /** Opens a project folder; a failure is told in a message. Asks first when something is unsaved. */
@@ -80,7 +80,6 @@ private:
     void tell(const QString& title, const QString& text);
 
     DeskContext m_desk;
-    QSettings& m_settings;
     QString m_samplePath;
     QStackedWidget* m_center;
     WorkArea* m_workArea;

@@ -158,7 +158,7 @@ void MainWindow::buildHelpMenu()
 void MainWindow::fillRecentMenu()
 {
     m_recentMenu->clear();
-    const QStringList recent = RecentProjects(m_settings).paths();
+    const QStringList recent = RecentProjects(m_desk.settings).paths();
     for (const QString& path : recent.first(std::min<qsizetype>(recent.size(), shownRecent))) {
         QAction* const action = m_recentMenu->addAction(QDir(path).dirName());
         action->setToolTip(QDir::toNativeSeparators(path));

@@ -20,4 +20,9 @@ void Navigator::open(const core::ContentId& id)
     emit openRequested(id);
 }
 
+void Navigator::say(const QString& text)
+{
+    emit said(text);
+}
+
 } // namespace tw::desktop::shell

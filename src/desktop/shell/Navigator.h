@@ -21,9 +21,13 @@ public:
     /** Asks for the object's page or editor in the centre of the window. */
     void open(const core::ContentId& id);
 
+    /** A line for the status bar: something happened that needs no decision. */
+    void say(const QString& text);
+
 signals:
     void currentChanged(const tw::core::ContentId& id);
     void openRequested(const tw::core::ContentId& id);
+    void said(const QString& text);
 
 private:
     core::ContentId m_current;

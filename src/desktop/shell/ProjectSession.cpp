@@ -74,6 +74,12 @@ void ProjectSession::announce()
     if (m_workspace->history().isMacroOpen())
         return;
     const core::project::ProjectChanges changes = m_workspace->projectForEdit().takeChanges();
+    announceChanges(changes);
+}
+
+void ProjectSession::announceChanges(const core::project::ProjectChanges& changes)
+{
+    m_words.update(project(), changes);
     if (!changes.isEmpty())
         emit changed(changes);
     emit historyChanged();
@@ -85,9 +91,7 @@ void ProjectSession::announceEverything()
     static_cast<void>(m_workspace->projectForEdit().takeChanges());
     core::project::ProjectChanges changes;
     changes.isEverything = true;
-    emit changed(changes);
-    emit historyChanged();
-    updateSaveState();
+    announceChanges(changes);
 }
 
 void ProjectSession::replaceWorkspace(std::unique_ptr<Workspace> workspace)

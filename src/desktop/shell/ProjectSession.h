@@ -2,6 +2,7 @@
 
 #include "app/workspace/Workspace.h"
 #include "core/project/ProjectChanges.h"
+#include "desktop/shell/ProjectWords.h"
 
 #include <QObject>
 
@@ -59,6 +60,9 @@ public:
     /** False before anything was opened or begun: there is only an empty project without a name. */
     [[nodiscard]] bool isProjectOpen() const { return m_isProjectOpen; }
 
+    /** Word counts, up to date whenever changed() is heard. */
+    [[nodiscard]] const ProjectWords& words() const { return m_words; }
+
     // Changing
 
     /** Runs a command as one step, or as part of the open macro. Null is ignored. */
@@ -104,6 +108,7 @@ signals:
 
 private:
     void announce();
+    void announceChanges(const core::project::ProjectChanges& changes);
     void replaceWorkspace(std::unique_ptr<app::workspace::Workspace> workspace);
     void announceEverything();
     void updateSaveState();
@@ -111,6 +116,7 @@ private:
 
     const app::persistence::StorageEnvironment& m_environment;
     std::unique_ptr<app::workspace::Workspace> m_workspace;
+    ProjectWords m_words;
     bool m_isProjectOpen = false;
     bool m_typingPending = false;
     bool m_committing = false;

@@ -68,9 +68,8 @@ void StatusStrip::setPage(WorkPage* page)
 
 void StatusStrip::followChanges(const core::project::ProjectChanges& changes)
 {
-    m_words.update(m_desk.session.project(), changes);
     if (changes.isEverything)
-        m_wordsAtOpening = m_words.total();
+        m_wordsAtOpening = m_desk.session.words().total();
     refreshWords();
     refreshPage();
     refreshSaveState();
@@ -95,7 +94,7 @@ void StatusStrip::refreshWords()
     for (QWidget* const widget :
          {static_cast<QWidget*>(m_projectWords), static_cast<QWidget*>(m_sessionWords)})
         widget->setVisible(isOpen);
-    const qint64 total = m_words.total();
+    const qint64 total = m_desk.session.words().total();
     const qint64 session = total - m_wordsAtOpening;
     m_projectWords->setText(tr("Manuscript: %1 words").arg(grouped(total)));
     m_sessionWords->setText(

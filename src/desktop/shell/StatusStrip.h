@@ -2,7 +2,6 @@
 
 #include "desktop/shell/DeskContext.h"
 #include "desktop/shell/ProjectSession.h"
-#include "desktop/shell/ProjectWords.h"
 
 #include <QObject>
 #include <QPointer>
@@ -26,7 +25,6 @@ public:
     StatusStrip(const DeskContext& desk, QStatusBar& bar);
 
     void setPage(WorkPage* page);
-    [[nodiscard]] const ProjectWords& words() const { return m_words; }
 
 private:
     void followChanges(const core::project::ProjectChanges& changes);
@@ -35,7 +33,6 @@ private:
     void refreshSaveState();
 
     DeskContext m_desk;
-    ProjectWords m_words;
     qint64 m_wordsAtOpening = 0;
     QPointer<WorkPage> m_page;
     QLabel* m_pageText;
