@@ -49,6 +49,13 @@ void appendCategory(QByteArray& output, const Category& category)
     writer.endObject();
 }
 
+QByteArray serializeCategory(const Category& category)
+{
+    QByteArray bytes;
+    appendCategory(bytes, category);
+    return bytes;
+}
+
 core::Result<Category> parseCategory(const QByteArray& bytes, const QString& path, TextPool& texts)
 {
     const core::Result<QJsonObject> json = parseJsonObject(bytes, path);

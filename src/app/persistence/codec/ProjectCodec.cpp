@@ -261,7 +261,7 @@ struct RecordOf<Project>
         always<Property<&Project::name, &Project::setName>>("name"_L1));
 };
 
-void appendProjectFile(QByteArray& output, const Project& project)
+void appendProjectDocument(QByteArray& output, const Project& project)
 {
     JsonWriter writer(output);
     writer.beginObject();
@@ -269,7 +269,14 @@ void appendProjectFile(QByteArray& output, const Project& project)
     writer.endObject();
 }
 
-void readProjectFile(const QJsonObject& json, Project& project)
+QByteArray serializeProjectDocument(const Project& project)
+{
+    QByteArray bytes;
+    appendProjectDocument(bytes, project);
+    return bytes;
+}
+
+void readProjectDocument(const QJsonObject& json, Project& project)
 {
     TextPool texts;
     readEntries(json, project, texts);
