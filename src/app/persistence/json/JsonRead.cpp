@@ -4,9 +4,12 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocale>
+#include <QVariant>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -56,7 +59,7 @@ std::optional<qint64> integerOf(const QString& given)
 
 } // namespace
 
-qint64 readInteger(const QJsonValue& value, qint64 fallback)
+std::optional<qint64> readInteger(const QJsonValue& value)
 {
     switch (value.type()) {
     case QJsonValue::Double: {
@@ -66,20 +69,22 @@ qint64 readInteger(const QJsonValue& value, qint64 fallback)
     case QJsonValue::Bool:
         return value.toBool() ? 1 : 0;
     case QJsonValue::String:
-        return integerOf(value.toString()).value_or(fallback);
+        return integerOf(value.toString());
     default:
-        return fallback;
+        return std::nullopt;
     }
 }
 
-qint32 readInteger32(const QJsonValue& value, qint32 fallback)
+std::optional<qint32> readInteger32(const QJsonValue& value)
 {
     using Limits = std::numeric_limits<qint32>;
-    return static_cast<qint32>(
-        std::clamp<qint64>(readInteger(value, fallback), Limits::min(), Limits::max()));
+    const std::optional<qint64> number = readInteger(value);
+    if (!number)
+        return std::nullopt;
+    return static_cast<qint32>(std::clamp<qint64>(*number, Limits::min(), Limits::max()));
 }
 
-double readDouble(const QJsonValue& value, double fallback)
+std::optional<double> readDouble(const QJsonValue& value)
 {
     switch (value.type()) {
     case QJsonValue::Double:
@@ -87,13 +92,13 @@ double readDouble(const QJsonValue& value, double fallback)
     case QJsonValue::Bool:
         return value.toBool() ? 1.0 : 0.0;
     case QJsonValue::String:
-        return finiteNumber(QStringView(value.toString()).trimmed()).value_or(fallback);
+        return finiteNumber(QStringView(value.toString()).trimmed());
     default:
-        return fallback;
+        return std::nullopt;
     }
 }
 
-bool readBool(const QJsonValue& value, bool fallback)
+std::optional<bool> readBool(const QJsonValue& value)
 {
     switch (value.type()) {
     case QJsonValue::Bool:
@@ -103,16 +108,16 @@ bool readBool(const QJsonValue& value, bool fallback)
     case QJsonValue::String: {
         const QString text = value.toString().trimmed();
         if (const std::optional<bool> named = namedBool(text))
-            return *named;
+            return named;
         const std::optional<double> number = finiteNumber(text);
-        return number ? *number != 0.0 : fallback;
+        return number ? std::optional(*number != 0.0) : std::nullopt;
     }
     default:
-        return fallback;
+        return std::nullopt;
     }
 }
 
-QString readText(const QJsonValue& value, const QString& fallback)
+std::optional<QString> readText(const QJsonValue& value)
 {
     switch (value.type()) {
     case QJsonValue::String:
@@ -124,12 +129,14 @@ QString readText(const QJsonValue& value, const QString& fallback)
             return QString::number(number.toLongLong());
         return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
     default:
-        return fallback;
+        return std::nullopt;
     }
 }
 
 QStringList readTextList(const QJsonValue& value)
 {
+    if (value.isString())
+        return {value.toString()};
     const QJsonArray array = value.toArray();
     QStringList texts;
     texts.reserve(array.size());
