@@ -32,6 +32,7 @@ QComboBox* makeSuggestionBox(QWidget* parent)
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return box;
 }
 
@@ -67,10 +68,13 @@ DocumentSection::DocumentSection(const shell::DeskContext& desk, QWidget* parent
     synopsisLabel->setBuddy(m_synopsis);
     form->addRow(synopsisLabel);
     form->addRow(m_synopsis);
+    auto* const dateLabel = new QLabel(tr("Story &date"), this);
+    dateLabel->setBuddy(m_sceneDate);
+    form->addRow(dateLabel);
+    form->addRow(m_sceneDate);
     form->addRow(tr("S&tatus"), m_status);
     form->addRow(tr("&Point of view"), m_pointOfView);
     form->addRow(tr("Te&nsion"), m_tension);
-    form->addRow(tr("Story &date"), m_sceneDate);
     form->addRow(tr("Tar&get"), m_target);
     form->addRow(tr("&Kind"), m_kind);
     m_synopsis->setPlaceholderText(tr("What happens here, in a few sentences"));

@@ -55,6 +55,8 @@ InspectorPanel::InspectorPanel(const shell::DeskContext& desk, QWidget* parent)
     column->addStretch(1);
     m_scroll->setWidget(content);
     m_scroll->setWidgetResizable(true);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 

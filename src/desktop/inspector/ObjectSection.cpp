@@ -7,7 +7,6 @@
 #include "desktop/theme/ThemeManager.h"
 
 #include <QCheckBox>
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -52,17 +51,23 @@ ObjectSection::ObjectSection(const shell::DeskContext& desk, QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(12);
-    auto* const form = new QFormLayout;
-    form->setLabelAlignment(Qt::AlignLeft);
-    form->addRow(tr("T&ags"), m_tags);
-    layout->addLayout(form);
+    auto* const tagsLabel = new QLabel(tr("T&ags"), this);
+    tagsLabel->setBuddy(m_tags);
+    auto* const tagsLayout = new QVBoxLayout;
+    tagsLayout->setSpacing(groupSpacing);
+    tagsLayout->addWidget(tagsLabel);
+    tagsLayout->addWidget(m_tags);
+    layout->addLayout(tagsLayout);
     m_threadGroup = makeGroup(tr("Plot threads"), m_threads, this);
     m_audienceGroup = makeGroup(tr("Visible to"), m_audiences, this);
     m_audienceGroup->setToolTip(tr("With none ticked, every audience sees it."));
     layout->addWidget(m_threadGroup);
     layout->addWidget(m_audienceGroup);
+    auto* const switches = new QVBoxLayout;
+    switches->setSpacing(groupSpacing);
     for (QCheckBox* const box : {m_pinned, m_locked, m_aiExcluded})
-        layout->addWidget(box);
+        switches->addWidget(box);
+    layout->addLayout(switches);
     m_tags->setPlaceholderText(tr("Separated by commas"));
 
     connect(m_tags, &QLineEdit::editingFinished, this, &ObjectSection::commitTags);
