@@ -37,8 +37,8 @@ const QByteArray anyId = "6f1c1e0a-2b3c-4d5e-8f90-a1b2c3d4e5f6";
 
 std::unique_ptr<ContentObject> parsedObject(const QByteArray& bytes)
 {
-    TextPool texts;
-    auto object = parseObject(bytes, u"a.json"_s, texts);
+    ParseScratch scratch;
+    auto object = parseObject(bytes, u"a.json"_s, scratch);
     EXPECT_EQ(object.message(), QString());
     return object ? std::move(object).value() : nullptr;
 }
@@ -258,11 +258,11 @@ TEST(Codecs, writeWhatJsonCannotHoldAsZero)
 
 TEST(CategoryCodec, keepsOneParentAndOneRule)
 {
-    TextPool texts;
+    ParseScratch scratch;
     const auto category = parseCategory(
         R"({"id": ")" + anyId + R"(", "parentId": ")" + anyId + R"(", "parentEntityId": ")" + anyId +
             R"(", "fields": [{"key": "k", "fixed": true, "required": true}]})",
-        u"a"_s, texts);
+        u"a"_s, scratch);
     ASSERT_EQ(category.message(), QString());
     EXPECT_TRUE(category.value().parentId.isNull());
     EXPECT_FALSE(category.value().parentEntityId.isNull());
