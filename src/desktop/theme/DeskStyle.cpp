@@ -232,6 +232,8 @@ void DeskStyle::drawControl(
             return;
         }
     }
+    if (element == CE_Splitter)
+        return drawSplitter(*option, *painter);
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 

@@ -61,6 +61,7 @@ private:
     void drawToolButton(const QStyleOption& option, QPainter& painter) const;
     void drawRow(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     void drawDropLine(const QStyleOption& option, QPainter& painter) const;
+    void drawSplitter(const QStyleOption& option, QPainter& painter) const;
     void drawTabClose(const QStyleOption& option, QPainter& painter) const;
     void drawFocus(const QStyleOption& option, QPainter& painter) const;
     void drawComboBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;

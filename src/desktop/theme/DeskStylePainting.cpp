@@ -248,6 +248,21 @@ void DeskStyle::drawDropLine(const QStyleOption& option, QPainter& painter) cons
     painter.drawLine(start + QPointF(isMirrored ? -knob : knob, 0), end);
 }
 
+void DeskStyle::drawSplitter(const QStyleOption& option, QPainter& painter) const
+{
+    const bool isHovered = option.state & State_MouseOver;
+    const int width = isHovered ? 3 : 1;
+    QRect line = option.rect;
+    if (option.state & State_Horizontal) {
+        line.setWidth(width);
+        line.moveLeft(option.rect.left() + (option.rect.width() - width) / 2);
+    } else {
+        line.setHeight(width);
+        line.moveTop(option.rect.top() + (option.rect.height() - width) / 2);
+    }
+    painter.fillRect(line, m_theme.color(isHovered ? Role::Accent : Role::Line));
+}
+
 void DeskStyle::drawTabClose(const QStyleOption& option, QPainter& painter) const
 {
     const PainterState state(painter);
