@@ -1,0 +1,57 @@
+#include "app/persistence/files/FileSystem.h"
+
+#include "app/persistence/files/PlatformFiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace tw::app::persistence {
+
+namespace {
+
+/** A link is written through, so that it stays a link. */
+QString writtenThrough(const QString& target)
+{
+    const QFileInfo info(target);
+    return info.isSymLink() ? info.symLinkTarget() : target;
+}
+
+} // namespace
+
+std::optional<FileContent> DiskFileSystem::readFile(const QString& path)
+{
+    return platform::readFile(path);
+}
+
+std::optional<FileStamp> DiskFileSystem::stamp(const QString& path)
+{
+    return platform::stampOf(path);
+}
+
+std::optional<QString> DiskFileSystem::writeTemporary(const QString& target, const QByteArray& bytes)
+{
+    return platform::writeTemporary(writtenThrough(target), bytes);
+}
+
+bool DiskFileSystem::replace(const QString& temporary, const QString& target)
+{
+    return platform::replaceFile(temporary, writtenThrough(target));
+}
+
+bool DiskFileSystem::remove(const QString& path)
+{
+    return QFile::remove(path) || !QFileInfo::exists(path);
+}
+
+bool DiskFileSystem::makeFolders(const QString& path)
+{
+    return QDir().mkpath(path);
+}
+
+bool DiskFileSystem::syncFolder(const QString& path)
+{
+    return platform::syncFolder(path);
+}
+
+} // namespace tw::app::persistence

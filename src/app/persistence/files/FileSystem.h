@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace tw::app::persistence {
+
+/** What tells one state of a file from another without reading it. Times are nanoseconds since 1970. */
+struct FileStamp
+{
+    qint64 size = 0;    ///< Bytes.
+    qint64 mtimeNs = 0; ///< Last change of the content.
+    qint64 ctimeNs = 0; ///< Last change of the file's record; 0 where the system keeps none.
+    quint64 inode = 0;  ///< 0 where the system has none.
+    quint64 device = 0;
+
+    bool operator==(const FileStamp&) const = default;
+};
+
+/** A file read whole, with its stamp from the moment before the first byte was read. */
+struct FileContent
+{
+    QByteArray bytes;
+    FileStamp stamp;
+};
+
+/**
+ * The operations on files that loading and saving need. Passed in by reference, so that tests can stand in a
+ * medium that fails. Every operation may be called from any thread. None says more than that it failed:
+ * callers word the failure.
+ */
+class FileSystem
+{
+public:
+    FileSystem() = default;
+    virtual ~FileSystem() = default;
+    Q_DISABLE_COPY_MOVE(FileSystem)
+
+    [[nodiscard]] virtual std::optional<FileContent> readFile(const QString& path) = 0;
+
+    /** No value when nothing is there. Follows links. */
+    [[nodiscard]] virtual std::optional<FileStamp> stamp(const QString& path) = 0;
+
+    /**
+     * Writes the bytes to a new file beside the target, with the target's permissions if it exists, and has
+     * them reach the medium. Gives the new file's path; after a failure nothing is left behind.
+     */
+    [[nodiscard]] virtual std::optional<QString> writeTemporary(
+        const QString& target, const QByteArray& bytes) = 0;
+
+    /** Puts the temporary in the target's place in one step; others see the old file or the new one. */
+    [[nodiscard]] virtual bool replace(const QString& temporary, const QString& target) = 0;
+
+    /** Whether the file is gone, also when it was not there. */
+    virtual bool remove(const QString& path) = 0;
+
+    /** Makes the folder with all missing parents; an existing one is a success. */
+    [[nodiscard]] virtual bool makeFolders(const QString& path) = 0;
+
+    /** Has the names in a folder reach the medium, as far as the system can do that. */
+    [[nodiscard]] virtual bool syncFolder(const QString& path) = 0;
+};
+
+/** The computer's own file system. */
+class DiskFileSystem final : public FileSystem
+{
+public:
+    std::optional<FileContent> readFile(const QString& path) override;
+    std::optional<FileStamp> stamp(const QString& path) override;
+    std::optional<QString> writeTemporary(const QString& target, const QByteArray& bytes) override;
+    bool replace(const QString& temporary, const QString& target) override;
+    bool remove(const QString& path) override;
+    bool makeFolders(const QString& path) override;
+    bool syncFolder(const QString& path) override;
+};
+
+} // namespace tw::app::persistence

@@ -1,0 +1,32 @@
+#include "app/persistence/files/FolderScan.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+
+namespace tw::app::persistence {
+
+bool isTextFile(QStringView name)
+{
+    constexpr std::array<QStringView, 5> suffixes{u"json", u"md", u"txt", u"yaml", u"yml"};
+    const QStringView suffix = name.sliced(name.lastIndexOf(u'.') + 1);
+    if (suffix.size() == name.size())
+        return false;
+    return std::ranges::any_of(
+        suffixes, [&](QStringView known) { return suffix.compare(known, Qt::CaseInsensitive) == 0; });
+}
+
+FolderScan scanFolder(const QString& folder, ScannedFiles which)
+{
+    FolderScan scan;
+    const platform::FolderVisitor visitor{
+        [which](QStringView name) { return which == ScannedFiles::All || isTextFile(name); },
+        [&scan](QString relativePath, platform::Linkage linkage, const FileStamp& stamp) {
+            scan.files.push_back({std::move(relativePath), stamp, linkage});
+        }};
+    scan.isComplete = platform::walkFolder(folder, visitor) || !QFileInfo::exists(folder);
+    return scan;
+}
+
+} // namespace tw::app::persistence

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/persistence/files/PlatformFiles.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace tw::app::persistence {
+
+struct ScannedFile
+{
+    QString relativePath; ///< From the scanned folder, with "/" on every system.
+    FileStamp stamp;
+    platform::Linkage linkage = platform::Linkage::Direct;
+};
+
+enum class ScannedFiles
+{
+    Text, ///< Files whose suffix is json, md, txt, yaml or yml in any case.
+    All,
+};
+
+struct FolderScan
+{
+    std::vector<ScannedFile> files; ///< In no particular order.
+    /** False when part of the tree could not be read: what is missing here need not be missing on disk. */
+    bool isComplete = true;
+};
+
+/**
+ * The regular files below a folder with their stamps, without reading any. Hidden files and folders (a name
+ * that begins with a dot) are left out, and so is what lies behind a link to a folder; a link to a file is
+ * named as such. A missing folder has no files.
+ */
+[[nodiscard]] FolderScan scanFolder(const QString& folder, ScannedFiles which);
+
+/** Whether a file of this name is one of the text files. */
+[[nodiscard]] bool isTextFile(QStringView name);
+
+} // namespace tw::app::persistence

@@ -1,0 +1,39 @@
+#include "app/persistence/files/JsonFile.h"
+
+#include "app/persistence/json/JsonWriter.h"
+
+namespace tw::app::persistence {
+
+namespace {
+
+bool holdsAlready(FileSystem& fileSystem, const QString& path, const QByteArray& bytes)
+{
+    const std::optional<FileStamp> stamp = fileSystem.stamp(path);
+    if (!stamp || stamp->size != bytes.size())
+        return false;
+    const std::optional<FileContent> content = fileSystem.readFile(path);
+    return content && content->bytes == bytes;
+}
+
+} // namespace
+
+core::Result<void> writeJsonFile(
+    FileSystem& fileSystem, SafeWriter& writer, const QString& path, const QByteArray& bytes)
+{
+    if (holdsAlready(fileSystem, path, bytes))
+        return {};
+    return writer.write({path, bytes});
+}
+
+core::Result<void> writeJsonFile(const QString& path, const QJsonObject& object)
+{
+    QByteArray bytes;
+    JsonWriter(bytes).writeValue(object);
+    DiskFileSystem fileSystem;
+    SafeWriter writer(fileSystem);
+    if (const core::Result<void> result = writeJsonFile(fileSystem, writer, path, bytes); !result)
+        return result;
+    return writer.syncFolders();
+}
+
+} // namespace tw::app::persistence

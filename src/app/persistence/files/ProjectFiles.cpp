@@ -1,0 +1,63 @@
+#include "app/persistence/files/ProjectFiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace tw::app::persistence {
+
+namespace {
+
+core::Failure failure(const char* message, const QString& detail)
+{
+    return {QCoreApplication::translate("Persistence", message).arg(detail)};
+}
+
+/** A link that leads nowhere takes up its name as well. */
+bool isTaken(const QFileInfo& file)
+{
+    return file.exists() || file.isSymLink();
+}
+
+QString freeNameIn(const QDir& folder, const QFileInfo& source)
+{
+    QString name = source.fileName();
+    for (int counter = 1; isTaken(QFileInfo(folder, name)); ++counter) {
+        name = source.completeBaseName() + u'-' + QString::number(counter);
+        if (!source.suffix().isEmpty())
+            name += u'.' + source.suffix();
+    }
+    return name;
+}
+
+} // namespace
+
+bool isProjectFile(QStringView relativePath)
+{
+    if (relativePath == projectFileName)
+        return true;
+    const bool isInFolder = relativePath.startsWith(u"objects/") || relativePath.startsWith(u"taxonomy/");
+    return isInFolder && relativePath.endsWith(u".json", Qt::CaseInsensitive);
+}
+
+core::Result<QString> importAsset(const QString& projectFolder, const QString& sourceFile)
+{
+    if (projectFolder.isEmpty())
+        return core::Failure{
+            QCoreApplication::translate("Persistence", "No project directory to import into")};
+    const QFileInfo source(sourceFile);
+    if (!source.isFile())
+        return failure(QT_TRANSLATE_NOOP("Persistence", "Source file does not exist: %1"), sourceFile);
+    const QDir assets(QDir(projectFolder).filePath(assetsFolder.toString()));
+    if (!assets.mkpath(u"."_s))
+        return failure(QT_TRANSLATE_NOOP("Persistence", "Cannot create assets folder in: %1"), projectFolder);
+    const QString name = freeNameIn(assets, source);
+    if (!QFile::copy(sourceFile, assets.filePath(name)))
+        return failure(QT_TRANSLATE_NOOP("Persistence", "Cannot copy file into assets: %1"), sourceFile);
+    return assetsFolder.toString() + u'/' + name;
+}
+
+} // namespace tw::app::persistence

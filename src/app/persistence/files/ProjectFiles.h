@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/foundation/Result.h"
+
+#include <QString>
+#include <QStringView>
+
+namespace tw::app::persistence {
+
+/** The files and folders of a project, relative to its root. */
+inline constexpr QStringView projectFileName = u"project.json";
+inline constexpr QStringView objectsFolder = u"objects";
+inline constexpr QStringView taxonomyFolder = u"taxonomy";
+inline constexpr QStringView assetsFolder = u"assets";
+
+/**
+ * Whether the path, relative to the root and with "/" separators, is one of the files that hold the project:
+ * these take part in change detection and merging.
+ */
+[[nodiscard]] bool isProjectFile(QStringView relativePath);
+
+/**
+ * Copies a file into the project's assets under a name that is still free. Gives the path to store in the
+ * object, "assets/map-1.png".
+ */
+[[nodiscard]] core::Result<QString> importAsset(const QString& projectFolder, const QString& sourceFile);
+
+} // namespace tw::app::persistence

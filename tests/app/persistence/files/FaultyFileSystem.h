@@ -1,0 +1,87 @@
+#pragma once
+
+#include "app/persistence/files/FileSystem.h"
+
+#include <QHash>
+#include <QMutex>
+#include <QStringList>
+
+#include <algorithm>
+#include <limits>
+
+namespace tw::app::persistence {
+
+/** The real file system with faults put in on purpose, and a count of what was asked of it. */
+class FaultyFileSystem final : public FileSystem
+{
+public:
+    static constexpr int always = std::numeric_limits<int>::max();
+
+    /** How many more times an operation on a path fails; `always` for ever. */
+    QHash<QString, int> failingWrites;
+    QHash<QString, int> failingReplacements;
+    QHash<QString, int> failingSyncs;
+    /** The medium is full after so many bytes. */
+    qint64 bytesLeft = std::numeric_limits<qint64>::max();
+
+    [[nodiscard]] int writes() const { return m_writes; }
+    [[nodiscard]] int mostTemporaries() const { return m_mostTemporaries; }
+    [[nodiscard]] const QStringList& replaced() const { return m_replaced; }
+    [[nodiscard]] const QStringList& synced() const { return m_synced; }
+
+    std::optional<FileContent> readFile(const QString& path) override { return m_disk.readFile(path); }
+    std::optional<FileStamp> stamp(const QString& path) override { return m_disk.stamp(path); }
+
+    std::optional<QString> writeTemporary(const QString& target, const QByteArray& bytes) override
+    {
+        {
+            const QMutexLocker lock(&m_mutex);
+            ++m_writes;
+            if (fails(failingWrites, target) || bytesLeft < bytes.size())
+                return std::nullopt;
+            bytesLeft -= bytes.size();
+            m_mostTemporaries = std::max(m_mostTemporaries, ++m_temporaries);
+        }
+        return m_disk.writeTemporary(target, bytes);
+    }
+
+    bool replace(const QString& temporary, const QString& target) override
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (fails(failingReplacements, target) || !m_disk.replace(temporary, target))
+            return false;
+        --m_temporaries;
+        m_replaced.append(target);
+        return true;
+    }
+
+    bool remove(const QString& path) override { return m_disk.remove(path); }
+    bool makeFolders(const QString& path) override { return m_disk.makeFolders(path); }
+
+    bool syncFolder(const QString& path) override
+    {
+        m_synced.append(path);
+        return !fails(failingSyncs, path) && m_disk.syncFolder(path);
+    }
+
+private:
+    static bool fails(QHash<QString, int>& faults, const QString& path)
+    {
+        const auto fault = faults.find(path);
+        if (fault == faults.end() || fault.value() == 0)
+            return false;
+        if (fault.value() != always)
+            --fault.value();
+        return true;
+    }
+
+    DiskFileSystem m_disk;
+    QMutex m_mutex;
+    int m_writes = 0;
+    int m_temporaries = 0;
+    int m_mostTemporaries = 0;
+    QStringList m_replaced;
+    QStringList m_synced;
+};
+
+} // namespace tw::app::persistence

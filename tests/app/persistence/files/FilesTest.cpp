@@ -1,0 +1,172 @@
+#include "app/persistence/files/FileSystem.h"
+#include "app/persistence/files/FolderScan.h"
+#include "app/persistence/files/ProjectFiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+using namespace Qt::Literals::StringLiterals;
+using namespace tw::app::persistence;
+
+namespace {
+
+void store(const QString& path, const QByteArray& bytes)
+{
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+QStringList pathsOf(const FolderScan& scan)
+{
+    QStringList paths;
+    for (const ScannedFile& file : scan.files)
+        paths.append(
+            file.linkage == platform::Linkage::SymbolicLink ? file.relativePath + u'@' : file.relativePath);
+    paths.sort();
+    return paths;
+}
+
+} // namespace
+
+TEST(DiskFileSystem, readsFilesWholeWithTheirStamp)
+{
+    const QTemporaryDir folder;
+    DiskFileSystem files;
+    for (const qsizetype size : {qsizetype{0}, qsizetype{1}, qsizetype{70'000}, qsizetype{300'000}}) {
+        const QString path = folder.filePath(u"ä %1.json"_s.arg(size));
+        const QByteArray bytes(size, 'x');
+        store(path, bytes);
+        const std::optional<FileContent> content = files.readFile(path);
+        ASSERT_TRUE(content);
+        EXPECT_EQ(content->bytes, bytes);
+        EXPECT_EQ(content->stamp.size, size);
+        EXPECT_EQ(content->stamp, files.stamp(path));
+    }
+    EXPECT_FALSE(files.readFile(folder.path()));
+    EXPECT_FALSE(files.readFile(folder.filePath(u"none"_s)));
+    EXPECT_FALSE(files.stamp(folder.filePath(u"none"_s)));
+    EXPECT_TRUE(files.makeFolders(folder.filePath(u"a/b/c"_s)));
+    EXPECT_FALSE(files.makeFolders(folder.filePath(u"ä 1.json/sub"_s)));
+    EXPECT_TRUE(files.syncFolder(folder.path()));
+    EXPECT_FALSE(files.syncFolder(folder.filePath(u"none"_s)));
+}
+
+TEST(DiskFileSystem, tellsAFileFromItsReplacement)
+{
+    const QTemporaryDir folder;
+    DiskFileSystem files;
+    const QString path = folder.filePath(u"a.json"_s);
+    store(path, "same");
+    const std::optional<FileStamp> before = files.stamp(path);
+    const std::optional<QString> temporary = files.writeTemporary(path, "same");
+    ASSERT_TRUE(temporary);
+    EXPECT_EQ(files.stamp(path), before);
+    EXPECT_TRUE(files.replace(*temporary, path));
+    EXPECT_NE(files.stamp(path), before);
+    EXPECT_FALSE(files.replace(*temporary, path));
+}
+
+#ifdef Q_OS_UNIX
+TEST(DiskFileSystem, leavesNothingBehindWhenTheMediumTakesOnlyPartOfTheBytes)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.json"_s);
+    store(path, "old");
+    rlimit usual = {};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit tight{1'000'000, usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tight), 0);
+    const std::optional<QString> temporary =
+        DiskFileSystem().writeTemporary(path, QByteArray(3'000'000, 'x'));
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &usual), 0);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_FALSE(temporary);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"a.json"_s});
+}
+#endif
+
+TEST(FolderScan, findsTheTextFilesOfATreeAndNothingElse)
+{
+    const QTemporaryDir folder;
+    for (const QString& name :
+         {u"project.json"_s, u"README.MD"_s, u"notes.txt"_s, u"a/b.c/deep.YaML"_s, u"a/x.yml"_s,
+          u"objects/1.json"_s, u"assets/map.png"_s, u"json"_s, u"trailing."_s, u".hidden.json"_s,
+          u".git/config.txt"_s, u"ä/ö.md"_s})
+        store(folder.filePath(name), "text");
+    const QTemporaryDir elsewhere;
+    store(elsewhere.filePath(u"far.txt"_s), "far away");
+    ASSERT_TRUE(QFile::link(elsewhere.path(), folder.filePath(u"linked"_s)));
+    ASSERT_TRUE(QFile::link(elsewhere.filePath(u"far.txt"_s), folder.filePath(u"link.txt"_s)));
+    ASSERT_TRUE(QFile::link(elsewhere.filePath(u"gone.txt"_s), folder.filePath(u"broken.txt"_s)));
+    ASSERT_TRUE(QFile::link(folder.path(), folder.filePath(u"a/loop.txt"_s)));
+
+    const QStringList text{u"README.MD"_s, u"a/b.c/deep.YaML"_s, u"a/x.yml"_s,      u"link.txt@"_s,
+                           u"notes.txt"_s, u"objects/1.json"_s,  u"project.json"_s, u"ä/ö.md"_s};
+    const FolderScan scan = scanFolder(folder.path(), ScannedFiles::Text);
+    EXPECT_EQ(pathsOf(scan), text);
+    EXPECT_TRUE(scan.isComplete);
+    DiskFileSystem files;
+    for (const ScannedFile& file : scan.files)
+        EXPECT_EQ(file.stamp, files.stamp(folder.filePath(file.relativePath)))
+            << file.relativePath.toStdString();
+
+    QStringList all = text + QStringList{u"assets/map.png"_s, u"json"_s, u"trailing."_s};
+    all.sort();
+    EXPECT_EQ(pathsOf(scanFolder(folder.path(), ScannedFiles::All)), all);
+    const FolderScan missing = scanFolder(folder.filePath(u"missing"_s), ScannedFiles::All);
+    EXPECT_TRUE(missing.isComplete && missing.files.empty());
+    EXPECT_FALSE(scanFolder(folder.filePath(u"notes.txt"_s), ScannedFiles::All).isComplete);
+}
+
+TEST(ProjectFiles, knowsTheFilesThatHoldAProject)
+{
+    for (const QStringView path :
+         {u"project.json", u"objects/a.json", u"objects/a.JSON", u"taxonomy/sub/a.Json"})
+        EXPECT_TRUE(isProjectFile(path)) << path.toString().toStdString();
+    for (const QStringView path :
+         {u"", u"Project.json", u"objects", u"objects/a.jsonx", u"objects/notes.txt", u"Objects/a.json",
+          u"assets/a.json", u"sub/project.json", u"objectsx/a.json"})
+        EXPECT_FALSE(isProjectFile(path)) << path.toString().toStdString();
+}
+
+TEST(ProjectFiles, importsAssetsUnderFreeNames)
+{
+    const QTemporaryDir folder;
+    const QString project = folder.filePath(u"project"_s);
+    const struct
+    {
+        QString source;
+        QStringList stored;
+    } cases[] = {
+        {u"map.png"_s, {u"assets/map.png"_s, u"assets/map-1.png"_s, u"assets/map-2.png"_s}},
+        {u"a.b%1.tar.gz"_s, {u"assets/a.b%1.tar.gz"_s, u"assets/a.b%1.tar-1.gz"_s}},
+        {u"plain"_s, {u"assets/plain"_s, u"assets/plain-1"_s}},
+    };
+    for (const auto& expected : cases) {
+        const QString source = folder.filePath(expected.source);
+        store(source, expected.source.toUtf8());
+        for (const QString& stored : expected.stored) {
+            EXPECT_EQ(importAsset(project, source).value(), stored);
+            EXPECT_EQ(DiskFileSystem().readFile(project + u'/' + stored)->bytes, expected.source.toUtf8());
+        }
+    }
+    const QString source = folder.filePath(u"map.png"_s);
+    EXPECT_EQ(importAsset({}, source).message(), u"No project directory to import into"_s);
+    const QString missing = folder.filePath(u"none"_s);
+    EXPECT_EQ(importAsset(project, missing).message(), u"Source file does not exist: "_s + missing);
+    EXPECT_EQ(importAsset(project, project).message(), u"Source file does not exist: "_s + project);
+    EXPECT_EQ(importAsset(source, source).message(), u"Cannot create assets folder in: "_s + source);
+}
