@@ -1,6 +1,7 @@
 #include "app/persistence/codec/CategoryCodec.h"
 
 #include "app/persistence/codec/FieldCodec.h"
+#include "app/persistence/files/JsonFile.h"
 
 #include <QCoreApplication>
 
@@ -26,12 +27,11 @@ struct RecordOf<Category>
 namespace {
 
 /** A field is nothing without a key, and its values cannot be kept right under a type nobody knows. */
-bool isField(const QJsonValue& json)
+bool isField(const JsonNode& json)
 {
-    const QJsonObject object = json.toObject();
-    const QJsonValue type = object.value("type"_L1);
-    return !readText(object.value("key"_L1)).value_or(QString()).isEmpty() &&
-           (type.isUndefined() || core::taxonomy::fieldTypeFromName(type.toString()));
+    const JsonNode type = json.value("type"_L1);
+    return !readText(json.value("key"_L1)).value_or(QString()).isEmpty() &&
+           (!type.exists() || core::taxonomy::fieldTypeFromName(type.text()));
 }
 
 core::Failure failure(const char* message, const QString& path)
@@ -56,19 +56,22 @@ QByteArray serializeCategory(const Category& category)
     return bytes;
 }
 
-core::Result<Category> parseCategory(const QByteArray& bytes, const QString& path, TextPool& texts)
+core::Result<Category> parseCategory(const QByteArray& bytes, const QString& path, ParseScratch& scratch)
 {
-    const core::Result<QJsonObject> json = parseJsonObject(bytes, path);
-    if (!json)
-        return core::Failure{json.message()};
-    if (readId<core::CategoryId>(json.value().value("id"_L1)).isNull())
+    if (!scratch.tree.parse(bytes))
+        return invalidJson(path);
+    const JsonNode root = scratch.tree.root();
+    if (readId<core::CategoryId>(root.value("id"_L1)).isNull())
         return failure(QT_TRANSLATE_NOOP("Persistence", "Malformed category file: %1"), path);
-    const QJsonArray fields = json.value().value("fields"_L1).toArray();
-    if (!std::all_of(fields.begin(), fields.end(), isField))
+    bool areFields = true;
+    root.value("fields"_L1).forEachElement([&](const JsonNode& field) {
+        areFields = areFields && isField(field);
+    });
+    if (!areFields)
         return failure(QT_TRANSLATE_NOOP("Persistence", "Malformed field in category: %1"), path);
 
     Category category;
-    readEntries(json.value(), category, texts);
+    readEntries(root, category, scratch.texts);
     // A category has one parent. Nothing crosses from an entity unasked, so hanging under one is the safer
     // reading.
     if (!category.parentEntityId.isNull())

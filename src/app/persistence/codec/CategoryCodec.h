@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/persistence/codec/TextPool.h"
+#include "app/persistence/codec/ParseScratch.h"
 #include "core/foundation/Result.h"
 #include "core/taxonomy/Category.h"
 
@@ -15,6 +15,6 @@ void appendCategory(QByteArray& output, const core::taxonomy::Category& category
 
 /** The category that a file's bytes describe; failures name the path. May run on any thread. */
 [[nodiscard]] core::Result<core::taxonomy::Category> parseCategory(
-    const QByteArray& bytes, const QString& path, TextPool& texts);
+    const QByteArray& bytes, const QString& path, ParseScratch& scratch);
 
 } // namespace tw::app::persistence

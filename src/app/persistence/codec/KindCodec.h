@@ -15,7 +15,7 @@ struct KindCodec
     void (*write)(JsonWriter& writer, const core::content::ContentObject& object);
     /** The object of that id with what the file says about it. Never none. */
     std::unique_ptr<core::content::ContentObject> (*read)(
-        const core::ContentId& id, const QJsonObject& json, TextPool& texts);
+        const core::ContentId& id, const JsonNode& json, TextPool& texts);
 };
 
 [[nodiscard]] KindCodec documentCodec();
@@ -42,7 +42,7 @@ template <class Object, auto Blank>
         [](JsonWriter& writer, const core::content::ContentObject& object) {
             writeEntries(writer, static_cast<const Object&>(object));
         },
-        [](const core::ContentId& id, const QJsonObject& json,
+        [](const core::ContentId& id, const JsonNode& json,
            TextPool& texts) -> std::unique_ptr<core::content::ContentObject> {
             std::unique_ptr<Object> object = Blank(id);
             readEntries(json, *object, texts);
@@ -58,7 +58,7 @@ template <class Object, class Details>
         [](JsonWriter& writer, const core::content::ContentObject& object) {
             writeEntries(writer, static_cast<const Object&>(object).details());
         },
-        [](const core::ContentId& id, const QJsonObject& json,
+        [](const core::ContentId& id, const JsonNode& json,
            TextPool& texts) -> std::unique_ptr<core::content::ContentObject> {
             Details details;
             readEntries(json, details, texts);

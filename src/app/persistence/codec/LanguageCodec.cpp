@@ -254,7 +254,7 @@ KindCodec languageCodec()
             writeEntries(writer, language.details());
             writeEntries(writer, language);
         },
-        [](const core::ContentId& id, const QJsonObject& json,
+        [](const core::ContentId& id, const JsonNode& json,
            TextPool& texts) -> std::unique_ptr<core::content::ContentObject> {
             LanguageDetails details;
             readEntries(json, details, texts);

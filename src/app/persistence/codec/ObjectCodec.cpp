@@ -1,6 +1,7 @@
 #include "app/persistence/codec/ObjectCodec.h"
 
 #include "app/persistence/codec/KindCodec.h"
+#include "app/persistence/files/JsonFile.h"
 
 #include <QCoreApplication>
 
@@ -85,19 +86,18 @@ QByteArray serializeObject(const ContentObject& object)
 }
 
 core::Result<std::unique_ptr<ContentObject>> parseObject(
-    const QByteArray& bytes, const QString& path, TextPool& texts)
+    const QByteArray& bytes, const QString& path, ParseScratch& scratch)
 {
-    core::Result<QJsonObject> json = parseJsonObject(bytes, path);
-    if (!json)
-        return core::Failure{json.message()};
-    const auto id = readId<core::ContentId>(json.value().value("id"_L1));
-    const std::optional<ContentKind> kind =
-        core::content::contentKindFromName(json.value().value("type"_L1).toString());
+    if (!scratch.tree.parse(bytes))
+        return invalidJson(path);
+    const JsonNode root = scratch.tree.root();
+    const auto id = readId<core::ContentId>(root.value("id"_L1));
+    const std::optional<ContentKind> kind = core::content::contentKindFromName(root.value("type"_L1).text());
     if (id.isNull() || !kind)
         return core::Failure{
             QCoreApplication::translate("Persistence", "Malformed object file: %1").arg(path)};
-    std::unique_ptr<ContentObject> object = codecOf(*kind).read(id, json.value(), texts);
-    readEntries(json.value(), *object, texts);
+    std::unique_ptr<ContentObject> object = codecOf(*kind).read(id, root, scratch.texts);
+    readEntries(root, *object, scratch.texts);
     return object;
 }
 

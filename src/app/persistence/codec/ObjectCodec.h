@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/persistence/codec/TextPool.h"
+#include "app/persistence/codec/ParseScratch.h"
 #include "core/content/ContentObject.h"
 #include "core/foundation/Result.h"
 
@@ -17,6 +17,6 @@ void appendObject(QByteArray& output, const core::content::ContentObject& object
 
 /** The object that a file's bytes describe; failures name the path. May run on any thread. */
 [[nodiscard]] core::Result<std::unique_ptr<core::content::ContentObject>> parseObject(
-    const QByteArray& bytes, const QString& path, TextPool& texts);
+    const QByteArray& bytes, const QString& path, ParseScratch& scratch);
 
 } // namespace tw::app::persistence

@@ -1,6 +1,7 @@
 #include "app/persistence/codec/ProjectCodec.h"
 
 #include "app/persistence/codec/Record.h"
+#include "app/persistence/files/JsonFile.h"
 #include "core/project/Project.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -276,10 +277,13 @@ QByteArray serializeProjectDocument(const Project& project)
     return bytes;
 }
 
-void readProjectDocument(const QJsonObject& json, Project& project)
+core::Result<void> readProjectDocument(const QByteArray& bytes, const QString& path, Project& project)
 {
-    TextPool texts;
-    readEntries(json, project, texts);
+    ParseScratch scratch;
+    if (!scratch.tree.parse(bytes))
+        return invalidJson(path);
+    readEntries(scratch.tree.root(), project, scratch.texts);
+    return {};
 }
 
 } // namespace tw::app::persistence

@@ -2,9 +2,9 @@
 
 #include "app/persistence/codec/CategoryCodec.h"
 #include "app/persistence/codec/ObjectCodec.h"
+#include "core/foundation/Result.h"
 
 #include <QByteArray>
-#include <QJsonObject>
 
 namespace tw::core::project {
 class Project;
@@ -17,7 +17,8 @@ void appendProjectDocument(QByteArray& output, const core::project::Project& pro
 
 [[nodiscard]] QByteArray serializeProjectDocument(const core::project::Project& project);
 
-/** Sets what the file has; the project keeps the rest as it is. */
-void readProjectDocument(const QJsonObject& json, core::project::Project& project);
+/** Sets what the file has, the project keeps the rest as it is; a failure names the path. */
+[[nodiscard]] core::Result<void> readProjectDocument(
+    const QByteArray& bytes, const QString& path, core::project::Project& project);
 
 } // namespace tw::app::persistence

@@ -4,9 +4,9 @@
 #include "app/persistence/codec/ObjectCodec.h"
 #include "app/persistence/codec/ProjectCodec.h"
 #include "app/persistence/files/FolderScan.h"
+#include "app/persistence/files/JsonFile.h"
 #include "app/persistence/files/ParallelFor.h"
 #include "app/persistence/files/ProjectFiles.h"
-#include "app/persistence/json/JsonRead.h"
 
 #include <QCoreApplication>
 #include <QMutex>
@@ -30,11 +30,6 @@ core::Failure failure(const char* message, const QString& path)
     return {QCoreApplication::translate("Persistence", message).arg(path)};
 }
 
-core::Failure unreadable(const QString& path)
-{
-    return failure(QT_TRANSLATE_NOOP("Persistence", "Cannot read file: %1"), path);
-}
-
 /** Where the files come from. Contents are asked for on several threads. */
 struct Source
 {
@@ -50,8 +45,8 @@ class WorkSpaces
 public:
     struct WorkSpace
     {
-        TextPool texts;
-        QByteArray scratch;
+        ParseScratch parsing;
+        QByteArray written;
     };
 
     std::unique_ptr<WorkSpace> take()
@@ -134,35 +129,35 @@ private:
         const QString path = m_source.shownPath(item.file.relativePath);
         std::optional<FileContent> content = m_source.content(item.file.relativePath);
         if (!content) {
-            item.parsed = unreadable(path);
+            item.parsed = cannotRead(path);
             return;
         }
         item.file.bytes = std::move(content->bytes);
         item.file.stamp = content->stamp;
-        workSpace.scratch.resize(0);
+        workSpace.written.resize(0);
         QString ownPath;
         if (isObject) {
-            auto object = parseObject(item.file.bytes, path, workSpace.texts);
+            auto object = parseObject(item.file.bytes, path, workSpace.parsing);
             if (!object) {
                 item.parsed = core::Failure{object.message()};
                 return;
             }
-            appendObject(workSpace.scratch, *object.value());
+            appendObject(workSpace.written, *object.value());
             item.file.objectId = object.value()->id();
             ownPath = objectPath(item.file.objectId);
             item.parsed = std::move(object).value();
         } else {
-            auto category = parseCategory(item.file.bytes, path, workSpace.texts);
+            auto category = parseCategory(item.file.bytes, path, workSpace.parsing);
             if (!category) {
                 item.parsed = core::Failure{category.message()};
                 return;
             }
-            appendCategory(workSpace.scratch, category.value());
+            appendCategory(workSpace.written, category.value());
             ownPath = categoryPath(category.value().id);
             item.parsed = std::move(category).value();
         }
         item.file.hasOwnName = ownPath == item.file.relativePath;
-        item.file.isCanonical = workSpace.scratch == item.file.bytes;
+        item.file.isCanonical = workSpace.written == item.file.bytes;
     }
 
     core::Result<void> add(const core::Failure& failed, const QString&) { return failed; }
@@ -196,13 +191,11 @@ private:
         const QString path = m_source.shownPath(file.relativePath);
         std::optional<FileContent> content = m_source.content(file.relativePath);
         if (!content)
-            return unreadable(path);
+            return cannotRead(path);
         file.bytes = std::move(content->bytes);
         file.stamp = content->stamp;
-        const core::Result<QJsonObject> json = parseJsonObject(file.bytes, path);
-        if (!json)
-            return core::Failure{json.message()};
-        readProjectDocument(json.value(), *m_loaded.project);
+        if (auto read = readProjectDocument(file.bytes, path, *m_loaded.project); !read)
+            return read;
         file.hasOwnName = true;
         file.isCanonical = serializeProjectDocument(*m_loaded.project) == file.bytes;
         m_loaded.files.push_back(std::move(file));
@@ -219,7 +212,7 @@ core::Result<QStringList> jsonFilesIn(const QString& root, QStringView folder)
     const QString path = root + u'/' + folder.toString();
     const FolderScan scan = scanFolder(path, ScannedFiles::Text);
     if (!scan.isComplete)
-        return unreadable(path);
+        return cannotRead(path);
     QStringList paths;
     for (const ScannedFile& file : scan.files) {
         QString relativePath = folder.toString() + u'/' + file.relativePath;

@@ -2,7 +2,7 @@
 
 #include "app/persistence/codec/ValueCodec.h"
 
-#include <concepts>
+#include <array>
 #include <tuple>
 #include <type_traits>
 #include <utility>
@@ -114,13 +114,39 @@ void writeEntries(JsonWriter& writer, const Record& record)
     std::apply([&](const auto&... entries) { (writeEntry(entries), ...); }, RecordOf<Record>::entries);
 }
 
+/** The values of a record's entries in an object, in the order of the entries; none where there is no value.
+ */
+template <class Record>
+[[nodiscard]] auto valuesOfEntries(const JsonNode& object)
+{
+    constexpr std::size_t count = std::tuple_size_v<decltype(RecordOf<Record>::entries)>;
+    constexpr std::array<QLatin1StringView, count> keys = std::apply(
+        [](const auto&... entries) { return std::array{entries.key...}; }, RecordOf<Record>::entries);
+    std::array<JsonNode, count> values;
+    // Our own files have their keys in the order of the entries: nearly always the next one is it.
+    std::size_t expected = 0;
+    object.forEachMember([&](const JsonNode& key, const JsonNode& value) {
+        for (std::size_t step = 0; step < count; ++step) {
+            const std::size_t index = (expected + step) % count;
+            if (!key.isText(keys[index]))
+                continue;
+            values[index] = value;
+            expected = index + 1;
+            return;
+        }
+    });
+    return values;
+}
+
 /** Reads what the object has of the record's members; the others stay as they are. */
 template <class Record>
-void readEntries(const QJsonObject& object, Record& record, TextPool& texts)
+void readEntries(const JsonNode& object, Record& record, TextPool& texts)
 {
-    const auto readEntry = [&]<class Access>(const Entry<Access>& entry) {
-        const QJsonValue json = object.value(entry.key);
-        if (json.isUndefined() || json.isNull())
+    const auto values = valuesOfEntries<Record>(object);
+    std::size_t index = 0;
+    const auto readEntry = [&]<class Access>(const Entry<Access>&) {
+        const JsonNode& json = values[index++];
+        if (!json.exists() || json.isNull())
             return;
         Access::edit(record, [&]<class Value>(Value& value) { ValueCodec<Value>::read(json, value, texts); });
     };
@@ -137,11 +163,11 @@ struct ValueCodec<Record>
         writer.endObject();
     }
     static bool isSet(const Record& record) { return !(record == Record()); }
-    static bool read(const QJsonValue& json, Record& record, TextPool& texts)
+    static bool read(const JsonNode& json, Record& record, TextPool& texts)
     {
         if (!json.isObject())
             return false;
-        readEntries(json.toObject(), record, texts);
+        readEntries(json, record, texts);
         return true;
     }
 };

@@ -20,7 +20,7 @@ struct ValueCodec<ConstraintKind>
         writer.writeInteger(static_cast<qint32>(kind));
     }
     static bool isSet(ConstraintKind kind) { return kind != ConstraintKind(); }
-    static bool read(const QJsonValue& json, ConstraintKind& kind, TextPool&)
+    static bool read(const JsonNode& json, ConstraintKind& kind, TextPool&)
     {
         const std::optional<qint32> number = readInteger32(json);
         kind = static_cast<ConstraintKind>(number.value_or(static_cast<qint32>(kind)));

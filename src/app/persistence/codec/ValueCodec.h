@@ -5,7 +5,7 @@
 #include "app/persistence/json/JsonWriter.h"
 #include "core/content/ContentObject.h"
 
-#include <QJsonArray>
+#include <QJsonObject>
 
 #include <map>
 #include <optional>
@@ -39,11 +39,14 @@ struct ValueCodec<QString>
 {
     static void write(JsonWriter& writer, const QString& value) { writer.writeText(value); }
     static bool isSet(const QString& value) { return !value.isEmpty(); }
-    static bool read(const QJsonValue& json, QString& value, TextPool& texts)
+    static bool read(const JsonNode& json, QString& value, TextPool& texts)
     {
-        std::optional<QString> text = readText(json);
-        if (text)
-            value = texts.shared(*std::move(text));
+        if (json.isText()) {
+            value = texts.textOf(json);
+            return true;
+        }
+        const std::optional<QString> text = readText(json);
+        value = text.value_or(value);
         return text.has_value();
     }
 };
@@ -53,7 +56,7 @@ struct ValueCodec<bool>
 {
     static void write(JsonWriter& writer, bool value) { writer.writeBool(value); }
     static bool isSet(bool value) { return value; }
-    static bool read(const QJsonValue& json, bool& value, TextPool&)
+    static bool read(const JsonNode& json, bool& value, TextPool&)
     {
         const std::optional<bool> truth = readBool(json);
         value = truth.value_or(value);
@@ -66,7 +69,7 @@ struct ValueCodec<qint32>
 {
     static void write(JsonWriter& writer, qint32 value) { writer.writeInteger(value); }
     static bool isSet(qint32 value) { return value != 0; }
-    static bool read(const QJsonValue& json, qint32& value, TextPool&)
+    static bool read(const JsonNode& json, qint32& value, TextPool&)
     {
         const std::optional<qint32> number = readInteger32(json);
         value = number.value_or(value);
@@ -79,7 +82,7 @@ struct ValueCodec<qint64>
 {
     static void write(JsonWriter& writer, qint64 value) { writer.writeInteger(value); }
     static bool isSet(qint64 value) { return value != 0; }
-    static bool read(const QJsonValue& json, qint64& value, TextPool&)
+    static bool read(const JsonNode& json, qint64& value, TextPool&)
     {
         const std::optional<qint64> number = readInteger(json);
         value = number.value_or(value);
@@ -92,7 +95,7 @@ struct ValueCodec<double>
 {
     static void write(JsonWriter& writer, double value) { writer.writeDouble(value); }
     static bool isSet(double value) { return value != 0.0; }
-    static bool read(const QJsonValue& json, double& value, TextPool&)
+    static bool read(const JsonNode& json, double& value, TextPool&)
     {
         const std::optional<double> number = readDouble(json);
         value = number.value_or(value);
@@ -111,7 +114,7 @@ struct ValueCodec<core::foundation::Id<Tag>>
         writer.writeText(value.isNull() ? QString() : value.toString());
     }
     static bool isSet(const Id& value) { return !value.isNull(); }
-    static bool read(const QJsonValue& json, Id& value, TextPool&)
+    static bool read(const JsonNode& json, Id& value, TextPool&)
     {
         value = readId<Id>(json);
         return !value.isNull();
@@ -126,9 +129,9 @@ struct ValueCodec<Enumeration>
         writer.writeText(QString(NamesOf<Enumeration>::name(value)));
     }
     static bool isSet(Enumeration value) { return value != Enumeration(); }
-    static bool read(const QJsonValue& json, Enumeration& value, TextPool&)
+    static bool read(const JsonNode& json, Enumeration& value, TextPool&)
     {
-        const std::optional<Enumeration> named = NamesOf<Enumeration>::fromName(json.toString());
+        const std::optional<Enumeration> named = NamesOf<Enumeration>::fromName(json.text());
         value = named.value_or(value);
         return named.has_value();
     }
@@ -142,7 +145,7 @@ struct ValueCodec<std::optional<Value>>
         ValueCodec<Value>::write(writer, *value);
     }
     static bool isSet(const std::optional<Value>& value) { return value.has_value(); }
-    static bool read(const QJsonValue& json, std::optional<Value>& value, TextPool& texts)
+    static bool read(const JsonNode& json, std::optional<Value>& value, TextPool& texts)
     {
         Value inner{};
         const bool isUnderstood = ValueCodec<Value>::read(json, inner, texts);
@@ -166,18 +169,16 @@ struct ListCodec
         writer.endArray();
     }
     static bool isSet(const List& list) { return !list.empty(); }
-    static bool read(const QJsonValue& json, List& list, TextPool& texts)
+    static bool read(const JsonNode& json, List& list, TextPool& texts)
     {
         if (!json.isArray())
             return false;
-        const QJsonArray array = json.toArray();
         list.clear();
-        list.reserve(static_cast<typename List::size_type>(array.size()));
-        for (const QJsonValue& item : array) {
+        json.forEachElement([&](const JsonNode& item) {
             Element element{};
             if (ValueCodec<Element>::read(item, element, texts) || std::is_arithmetic_v<Element>)
                 list.push_back(std::move(element));
-        }
+        });
         return true;
     }
 };
@@ -190,15 +191,20 @@ template <class Element>
 struct ValueCodec<QList<Element>> : ListCodec<QList<Element>>
 {};
 
+/** A text on its own is a list of one; elements of a list that are no strings are left out. */
 template <>
 struct ValueCodec<QStringList> : ListCodec<QStringList>
 {
-    static bool read(const QJsonValue& json, QStringList& list, TextPool& texts)
+    static bool read(const JsonNode& json, QStringList& list, TextPool& texts)
     {
-        list = readTextList(json);
-        for (QString& text : list)
-            text = texts.shared(std::move(text));
-        return json.isArray() || !list.isEmpty();
+        list.clear();
+        if (json.isText())
+            list.append(texts.textOf(json));
+        json.forEachElement([&](const JsonNode& element) {
+            if (element.isText())
+                list.append(texts.textOf(element));
+        });
+        return json.isArray() || json.isText();
     }
 };
 
@@ -213,7 +219,7 @@ struct ValueCodec<core::content::NameSet>
         writer.endArray();
     }
     static bool isSet(const core::content::NameSet& names) { return !names.empty(); }
-    static bool read(const QJsonValue& json, core::content::NameSet& names, TextPool& texts)
+    static bool read(const JsonNode& json, core::content::NameSet& names, TextPool& texts)
     {
         QStringList list;
         const bool isUnderstood = ValueCodec<QStringList>::read(json, list, texts);
@@ -233,7 +239,7 @@ struct ValueCodec<std::set<core::ContentId>>
         writer.endArray();
     }
     static bool isSet(const std::set<core::ContentId>& ids) { return !ids.empty(); }
-    static bool read(const QJsonValue& json, std::set<core::ContentId>& ids, TextPool& texts)
+    static bool read(const JsonNode& json, std::set<core::ContentId>& ids, TextPool& texts)
     {
         std::vector<core::ContentId> list;
         const bool isUnderstood = ValueCodec<std::vector<core::ContentId>>::read(json, list, texts);
@@ -259,16 +265,17 @@ struct ValueCodec<std::map<QString, QString>>
         writer.endObject();
     }
     static bool isSet(const Texts& values) { return !values.empty(); }
-    static bool read(const QJsonValue& json, Texts& values, TextPool& texts)
+    static bool read(const JsonNode& json, Texts& values, TextPool& texts)
     {
-        const QJsonObject object = json.toObject();
-        for (auto member = object.constBegin(); member != object.constEnd(); ++member) {
-            std::optional<QString> text = readText(member.value());
-            if (member.value().isArray())
-                text = readTextList(member.value()).join(u'\n');
-            if (text)
-                values.insert_or_assign(texts.shared(member.key()), texts.shared(*std::move(text)));
-        }
+        values.clear();
+        json.forEachMember([&](const JsonNode& key, const JsonNode& value) {
+            QString text;
+            if (value.isArray())
+                text = readTextList(value).join(u'\n');
+            else if (!ValueCodec<QString>::read(value, text, texts))
+                return;
+            values.insert_or_assign(values.end(), texts.textOf(key), std::move(text));
+        });
         return json.isObject();
     }
 };
@@ -279,9 +286,9 @@ struct ValueCodec<QJsonObject>
 {
     static void write(JsonWriter& writer, const QJsonObject& value) { writer.writeValue(value); }
     static bool isSet(const QJsonObject& value) { return !value.isEmpty(); }
-    static bool read(const QJsonValue& json, QJsonObject& value, TextPool&)
+    static bool read(const JsonNode& json, QJsonObject& value, TextPool&)
     {
-        value = json.toObject();
+        value = json.toJsonValue().toObject();
         return json.isObject();
     }
 };

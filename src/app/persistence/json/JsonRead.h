@@ -1,10 +1,7 @@
 #pragma once
 
-#include "core/foundation/Id.h"
-#include "core/foundation/Result.h"
+#include "app/persistence/json/JsonTree.h"
 
-#include <QJsonObject>
-#include <QJsonValue>
 #include <QStringList>
 
 #include <optional>
@@ -18,32 +15,26 @@ namespace tw::app::persistence {
 
 /** Fractions are cut off; what lies beyond 64 bits stops at the limit. Whole numbers never pass through a
  * double. */
-[[nodiscard]] std::optional<qint64> readInteger(const QJsonValue& value);
+[[nodiscard]] std::optional<qint64> readInteger(const JsonNode& value);
 
 /** The same, stopping at the limits of 32 bits. */
-[[nodiscard]] std::optional<qint32> readInteger32(const QJsonValue& value);
+[[nodiscard]] std::optional<qint32> readInteger32(const JsonNode& value);
 
-[[nodiscard]] std::optional<double> readDouble(const QJsonValue& value);
+[[nodiscard]] std::optional<double> readDouble(const JsonNode& value);
 
-[[nodiscard]] std::optional<bool> readBool(const QJsonValue& value);
+[[nodiscard]] std::optional<bool> readBool(const JsonNode& value);
 
 /** Numbers and booleans become their text. */
-[[nodiscard]] std::optional<QString> readText(const QJsonValue& value);
+[[nodiscard]] std::optional<QString> readText(const JsonNode& value);
 
 /** The texts of an array, without the elements that are no strings. A text on its own is a list of one. */
-[[nodiscard]] QStringList readTextList(const QJsonValue& value);
+[[nodiscard]] QStringList readTextList(const JsonNode& value);
 
 /** The null id when the value is no id. */
 template <class Id>
-[[nodiscard]] Id readId(const QJsonValue& value)
+[[nodiscard]] Id readId(const JsonNode& value)
 {
-    return Id::fromString(value.toString());
+    return Id::fromString(value.text());
 }
-
-/** The object that a file's bytes hold; a failure names the path. */
-[[nodiscard]] core::Result<QJsonObject> parseJsonObject(const QByteArray& bytes, const QString& path);
-
-/** The top-level object of a file, or why there is none. */
-[[nodiscard]] core::Result<QJsonObject> readJsonFile(const QString& path);
 
 } // namespace tw::app::persistence
