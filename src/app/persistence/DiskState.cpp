@@ -1,9 +1,5 @@
 #include "app/persistence/DiskState.h"
 
-#include "app/persistence/files/FolderScan.h"
-
-#include <QSet>
-
 #include <algorithm>
 #include <chrono>
 
@@ -37,9 +33,35 @@ bool DiskState::isSettled(const FileStamp& stamp) const
     return m_clock() - std::max(stamp.mtimeNs, stamp.ctimeNs) > settlingNs;
 }
 
+void DiskState::insert(const QString& relativePath, Record record)
+{
+    m_records.insert(relativePath, std::move(record));
+    if (!m_isVouchedFor.empty())
+        m_newRecords.insert(relativePath);
+}
+
+void DiskState::forget(const QString& relativePath)
+{
+    m_records.remove(relativePath);
+    m_newRecords.insert(relativePath);
+}
+
+void DiskState::clear()
+{
+    m_records.clear();
+    rememberNames({});
+}
+
+void DiskState::rememberNames(FolderScan listing)
+{
+    m_lastScan = std::move(listing);
+    m_isVouchedFor.clear();
+    m_newRecords.clear();
+}
+
 void DiskState::record(const QString& relativePath, QByteArray bytes, const FileStamp& stamp)
 {
-    m_records.insert(relativePath, {std::move(bytes), stamp, isSettled(stamp)});
+    insert(relativePath, {std::move(bytes), stamp, isSettled(stamp)});
 }
 
 void DiskState::recordWritten(const QString& folder, const QString& relativePath, QByteArray bytes)
@@ -47,17 +69,23 @@ void DiskState::recordWritten(const QString& folder, const QString& relativePath
     // A stamp just taken never counts as settled: whatever another program did meanwhile, the next check
     // reads the file.
     const FileStamp stamp = m_fileSystem->stamp(joined(folder, relativePath)).value_or(FileStamp());
-    m_records.insert(relativePath, {std::move(bytes), stamp, false});
+    insert(relativePath, {std::move(bytes), stamp, false});
+}
+
+void DiskState::recordFile(const QString& folder, const QString& relativePath)
+{
+    if (auto content = m_fileSystem->readFile(joined(folder, relativePath)))
+        record(relativePath, std::move(content->bytes), content->stamp);
 }
 
 void DiskState::recordUnseen(const QString& folder)
 {
-    for (const ScannedFile& file : scanFolder(folder, ScannedFiles::Text).files) {
-        if (m_records.contains(file.relativePath))
-            continue;
-        if (auto content = m_fileSystem->readFile(joined(folder, file.relativePath)))
-            record(file.relativePath, std::move(content->bytes), content->stamp);
+    FolderScan listing = listFolder(folder, ScannedFiles::Text);
+    for (const ScannedFile& file : listing.files) {
+        if (!m_records.contains(file.relativePath))
+            recordFile(folder, file.relativePath);
     }
+    rememberNames(std::move(listing));
 }
 
 QByteArray DiskState::bytes(const QString& relativePath) const
@@ -75,22 +103,38 @@ bool DiskState::isSameContent(const QString& path, Record& record)
     return true;
 }
 
+bool DiskState::isVouchedFor(const ScannedFile& file) const
+{
+    const auto earlier = static_cast<std::size_t>(file.earlierIndex);
+    return file.earlierIndex >= 0 && earlier < m_isVouchedFor.size() && m_isVouchedFor[earlier] &&
+           m_lastScan.files[earlier].stamp == file.stamp &&
+           (m_newRecords.isEmpty() || !m_newRecords.contains(file.relativePath));
+}
+
 DiskChanges DiskState::changesIn(const QString& folder)
 {
     DiskChanges changes;
     qsizetype seen = 0;
-    const FolderScan scan = scanFolder(folder, ScannedFiles::Text);
-    for (const ScannedFile& file : scan.files) {
+    FolderScan scan = scanFolder(folder, ScannedFiles::Text, m_lastScan);
+    std::vector<bool> isVouched(scan.files.size(), false);
+    for (std::size_t index = 0; index < scan.files.size(); ++index) {
+        const ScannedFile& file = scan.files[index];
+        if (isVouchedFor(file)) {
+            isVouched[index] = true;
+            ++seen;
+            continue;
+        }
         const auto record = m_records.find(file.relativePath);
         if (record == m_records.end()) {
             changes.added.append(file.relativePath);
             continue;
         }
         ++seen;
-        if (record->isSettled && record->stamp == file.stamp)
-            continue;
-        if (!isSameContent(joined(folder, file.relativePath), *record))
+        const bool isUntouched = record->isSettled && record->stamp == file.stamp;
+        if (!isUntouched && !isSameContent(joined(folder, file.relativePath), *record))
             changes.changed.append(file.relativePath);
+        else
+            isVouched[index] = record->isSettled && record->stamp == file.stamp;
     }
     if (seen != m_records.size()) {
         QSet<QString> present;
@@ -101,6 +145,9 @@ DiskChanges DiskState::changesIn(const QString& folder)
                 changes.removed.append(record.key());
         }
     }
+    m_lastScan = std::move(scan);
+    m_isVouchedFor = std::move(isVouched);
+    m_newRecords.clear();
     changes.added.sort();
     changes.removed.sort();
     changes.changed.sort();

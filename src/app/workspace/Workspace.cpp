@@ -152,7 +152,9 @@ Result<void> Workspace::load(const QString& folder)
         }
         m_openedFolderFingerprint.record(file.relativePath, std::move(file.bytes), file.stamp);
     }
-    m_openedFolderFingerprint.recordUnseen(folder);
+    for (const QString& relativePath : project.otherFiles)
+        m_openedFolderFingerprint.recordFile(folder, relativePath);
+    m_openedFolderFingerprint.rememberNames(std::move(project.listing));
     static_cast<void>(m_project->takeChanges());
     m_undoStack.setClean();
     reloadLibraries();

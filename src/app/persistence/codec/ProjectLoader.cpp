@@ -206,42 +206,53 @@ private:
     LoadedProject m_loaded;
 };
 
-/** The names of the JSON files of one folder, sorted; none of a folder that is not there. */
-core::Result<QStringList> jsonFilesIn(const QString& root, QStringView folder)
+/** Divides what a folder holds; objects and categories are sorted. */
+struct Contents
 {
-    const QString path = root + u'/' + folder.toString();
-    const FolderScan scan = scanFolder(path, ScannedFiles::Text);
-    if (!scan.isComplete)
-        return cannotRead(path);
-    QStringList paths;
-    for (const ScannedFile& file : scan.files) {
-        QString relativePath = folder.toString() + u'/' + file.relativePath;
-        if (isJsonFileIn(folder, relativePath))
-            paths.append(std::move(relativePath));
+    explicit Contents(const FolderScan& listing)
+    {
+        for (const ScannedFile& file : listing.files) {
+            if (isJsonFileIn(objectsFolder, file.relativePath))
+                objects.append(file.relativePath);
+            else if (isJsonFileIn(taxonomyFolder, file.relativePath))
+                categories.append(file.relativePath);
+            else if (file.relativePath != projectFileName)
+                others.append(file.relativePath);
+        }
+        objects.sort();
+        categories.sort();
     }
-    paths.sort();
-    return paths;
-}
+
+    QStringList objects;
+    QStringList categories;
+    QStringList others;
+};
 
 } // namespace
 
 core::Result<LoadedProject> loadFolder(FileSystem& fileSystem, const QString& folder)
 {
-    const core::Result<QStringList> objects = jsonFilesIn(folder, objectsFolder);
-    if (!objects)
-        return core::Failure{objects.message()};
-    const core::Result<QStringList> categories = jsonFilesIn(folder, taxonomyFolder);
-    if (!categories)
-        return core::Failure{categories.message()};
+    FolderScan listing = listFolder(folder, ScannedFiles::Text);
+    for (const QStringView part : {QStringView(), objectsFolder, taxonomyFolder}) {
+        const QString prefix = part.isEmpty() ? QString() : part.toString() + u'/';
+        if (listing.unreadableFolders.contains(prefix))
+            return cannotRead(folder + u'/' + part.toString());
+    }
+    const Contents contents(listing);
 
     Source source;
-    source.objectPaths = objects.value();
-    source.categoryPaths = categories.value();
+    source.objectPaths = contents.objects;
+    source.categoryPaths = contents.categories;
     source.shownPath = [&](const QString& relativePath) { return folder + u'/' + relativePath; };
     source.content = [&](const QString& relativePath) {
         return fileSystem.readFile(source.shownPath(relativePath));
     };
-    return Loading(source).run();
+    core::Result<LoadedProject> loaded = Loading(source).run();
+    if (loaded) {
+        loaded.value().listing = std::move(listing);
+        loaded.value().otherFiles = contents.others;
+    }
+    return loaded;
 }
 
 core::Result<LoadedProject> parseProject(const ProjectFileMap& files)

@@ -2,6 +2,7 @@
 
 #include "app/persistence/codec/ProjectWriter.h"
 #include "app/persistence/files/FileSystem.h"
+#include "app/persistence/files/FolderScan.h"
 #include "core/foundation/Result.h"
 #include "core/project/Project.h"
 
@@ -29,6 +30,10 @@ struct LoadedProject
     std::unique_ptr<core::project::Project> project;
     /** Every file read: objects by name, categories by name, project.json. */
     std::vector<LoadedFile> files;
+    /** The text files of the folder as they were listed before the first was read, these and others. */
+    FolderScan listing;
+    /** Those of them that are no part of the project. */
+    QStringList otherFiles;
 };
 
 /**
