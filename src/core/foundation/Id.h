@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringView>
 #include <QUuid>
+#include <QtEndian>
 
 #include <compare>
 
@@ -47,15 +48,22 @@ public:
     [[nodiscard]] QString toString() const { return m_uuid.toString(QUuid::WithoutBraces); }
 
     friend bool operator==(const Id& left, const Id& right) { return left.m_uuid == right.m_uuid; }
+    /** The order of the text forms, in which the files of objects stand too. */
     friend std::strong_ordering operator<=>(const Id& left, const Id& right)
     {
-        if (left.m_uuid == right.m_uuid)
-            return std::strong_ordering::equal;
-        return left.m_uuid < right.m_uuid ? std::strong_ordering::less : std::strong_ordering::greater;
+        if (const auto order = left.firstHalf() <=> right.firstHalf(); order != 0)
+            return order;
+        return left.secondHalf() <=> right.secondHalf();
     }
     friend size_t qHash(const Id& id, size_t seed = 0) { return ::qHash(id.m_uuid, seed); }
 
 private:
+    [[nodiscard]] quint64 firstHalf() const
+    {
+        return quint64{m_uuid.data1} << 32 | quint64{m_uuid.data2} << 16 | m_uuid.data3;
+    }
+    [[nodiscard]] quint64 secondHalf() const { return qFromBigEndian<quint64>(m_uuid.data4); }
+
     QUuid m_uuid;
 };
 

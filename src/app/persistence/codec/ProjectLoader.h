@@ -19,6 +19,9 @@ struct LoadedFile
     FileStamp stamp; ///< From before the bytes were read; empty for a file from memory.
     /** The object in the file; null for other files. */
     core::ContentId objectId;
+    quint64 revision = 0; ///< That the object has in the project.
+    /** The category in the file; null for other files. */
+    core::CategoryId categoryId;
     /** The path is the one that belongs to the id inside. */
     bool hasOwnName = false;
     /** The bytes are those that a save would write. */
