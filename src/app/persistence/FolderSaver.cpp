@@ -58,7 +58,7 @@ Result<void> FolderSaver::save(const Project& project, SaveExtent extent)
 
 Result<void> FolderSaver::prepareFolder(QStringView name, const char* failureText)
 {
-    const QString path = m_folder + u'/' + name;
+    const QString path = m_folder + u'/' + name.toString();
     const QString nativePath = QDir::toNativeSeparators(path);
     if (!m_fileSystem.makeFolders(path))
         return Failure{translated(failureText).arg(nativePath)};

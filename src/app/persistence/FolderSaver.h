@@ -9,6 +9,8 @@
 #include <QHash>
 #include <QStringList>
 
+#include <limits>
+
 namespace tw::app::persistence {
 
 /** How much of a project a save looks at. */
@@ -19,6 +21,9 @@ enum class SaveExtent
     /** Every object, written anew and compared. */
     Everything,
 };
+
+/** No object ever has this revision: its file is not what we would write. */
+inline constexpr quint64 neverSaved = std::numeric_limits<quint64>::max();
 
 /** What is known of the files on disk, so that a save looks at nothing else than what moved. */
 struct SavedState

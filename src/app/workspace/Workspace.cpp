@@ -53,7 +53,7 @@ Result<void> checkIsProject(const QString& folder)
                 "This is no project: %1. Choose a project folder, the one that holds project.json."),
             folder);
     }
-    if (QFileInfo::exists(folder + u'/' + persistence::projectFileName))
+    if (QFileInfo::exists(folder + u'/' + persistence::projectFileName.toString()))
         return {};
     if (holdsProject(folder)) {
         return failure(

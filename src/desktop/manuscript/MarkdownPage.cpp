@@ -5,7 +5,7 @@
 
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QScrollBar>
+#include <QPainter>
 #include <QTextBlock>
 #include <QWheelEvent>
 
@@ -13,12 +13,23 @@
 
 namespace tw::desktop::manuscript {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int columnCharacters = 66;
-constexpr qreal lineHeightPercent = 150;
+/** Of the font's size. */
+constexpr qreal lineHeight = 1.5;
 constexpr int sideMargin = 56;
+constexpr int narrowMargin = 16;
 constexpr int topMargin = 40;
+
+/** Of running text: an average over letters alone takes the rare wide ones for common. */
+qreal characterWidth(const QFont& font)
+{
+    const QString text = u"She said that the tide would be out by four, and nobody in the room believed her."_s;
+    return QFontMetricsF(font).horizontalAdvance(text) / static_cast<qreal>(text.size());
+}
 
 } // namespace
 
@@ -42,10 +53,9 @@ MarkdownPage::MarkdownPage(theme::ThemeManager& themes, QWidget* parent)
 void MarkdownPage::applyTheme()
 {
     const theme::Theme& theme = m_themes.theme();
-    // The sheet is the viewport; what lies beside it is the desk.
+    // The desk; paintEvent() lays the sheet on it.
     QPalette colors = palette();
-    colors.setColor(QPalette::Base, theme.color(theme::Role::Page));
-    colors.setColor(QPalette::Window, theme.color(theme::Role::Window));
+    colors.setColor(QPalette::Base, theme.color(theme::Role::Window));
     colors.setColor(QPalette::Text, theme.color(theme::Role::Ink));
     setPalette(colors);
 }
@@ -66,8 +76,11 @@ void MarkdownPage::setPageStyle(const PageStyle& style)
 
 void MarkdownPage::formatLines()
 {
+    // Fonts differ in the leading they bring along; the page counts from the font's size.
+    const QFontMetricsF metrics(document()->defaultFont());
+    const qreal size = QFontInfo(document()->defaultFont()).pixelSize();
     QTextBlockFormat format;
-    format.setLineHeight(lineHeightPercent, QTextBlockFormat::ProportionalHeight);
+    format.setLineHeight(100 * lineHeight * size / metrics.lineSpacing(), QTextBlockFormat::ProportionalHeight);
     QTextCursor all(document());
     all.select(QTextCursor::Document);
     all.mergeBlockFormat(format);
@@ -75,19 +88,29 @@ void MarkdownPage::formatLines()
 
 void MarkdownPage::layOutColumn()
 {
-    const int column = QFontMetrics(document()->defaultFont()).averageCharWidth() * columnCharacters;
-    const int sheet = column + 2 * sideMargin;
-    const int scrollBar = verticalScrollBar()->isVisible() ? verticalScrollBar()->width() : 0;
-    const int beside = std::max(0, (width() - scrollBar - sheet) / 2);
-    setViewportMargins(beside, 0, beside, 0);
+    const int column = static_cast<int>(characterWidth(document()->defaultFont()) * columnCharacters);
+    const int available = viewport()->width();
+    const int side = std::clamp((available - column) / 2, std::min(narrowMargin, available / 12), available);
+    m_sheetMargin = std::max(0, side - sideMargin);
     QTextFrameFormat frame = document()->rootFrame()->frameFormat();
-    const int side = std::min(sideMargin, std::max(8, width() / 12));
     frame.setLeftMargin(side);
     frame.setRightMargin(side);
     frame.setTopMargin(topMargin);
     // The last lines can be scrolled to the middle of the window.
     frame.setBottomMargin(std::max(topMargin, height() / 2));
-    document()->rootFrame()->setFrameFormat(frame);
+    if (frame != document()->rootFrame()->frameFormat())
+        document()->rootFrame()->setFrameFormat(frame);
+    viewport()->update();
+}
+
+void MarkdownPage::paintEvent(QPaintEvent* event)
+{
+    // The sheet lies on the desk, from the top of the window to the bottom.
+    QPainter painter(viewport());
+    painter.fillRect(
+        viewport()->rect().adjusted(m_sheetMargin, 0, -m_sheetMargin, 0), m_themes.theme().color(theme::Role::Page));
+    painter.end();
+    QTextEdit::paintEvent(event);
 }
 
 void MarkdownPage::applyText(const QString& text)

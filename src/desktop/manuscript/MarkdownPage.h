@@ -45,6 +45,7 @@ signals:
 
 protected:
     bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -58,6 +59,8 @@ private:
 
     theme::ThemeManager& m_themes;
     PageStyle m_style;
+    /** The desk to the left and right of the sheet, in pixels. */
+    int m_sheetMargin = 0;
 };
 
 } // namespace tw::desktop::manuscript

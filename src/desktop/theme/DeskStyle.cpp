@@ -17,6 +17,7 @@ namespace {
 // Spaces go in steps of 4 device-independent pixels.
 constexpr int step = 4;
 constexpr int controlHeight = 7 * step;
+constexpr int rowHeight = 6 * step + 2;
 constexpr int indicatorSize = 4 * step;
 
 bool isTextArea(const QWidget* widget)
@@ -95,7 +96,7 @@ QSize DeskStyle::sizeFromContents(
     case CT_ItemViewItem:
         if (option != nullptr)
             result.setHeight(std::max(result.height(), option->fontMetrics.height() + 2 * step));
-        result.setHeight(std::max(result.height(), 6 * step + 2));
+        result.setHeight(std::max(result.height(), rowHeight));
         break;
     case CT_PushButton:
         result.rwidth() += 2 * step;
@@ -116,6 +117,27 @@ QSize DeskStyle::sizeFromContents(
         break;
     }
     return result;
+}
+
+QRect DeskStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (element == SE_LineEditContents && frame != nullptr && frame->lineWidth > 0)
+        return rect.adjusted(step, 0, -step, 0);
+    return rect;
+}
+
+QRect DeskStyle::subControlRect(
+    ComplexControl control, const QStyleOptionComplex* option, SubControl part, const QWidget* widget) const
+{
+    const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    const bool isField = (control == CC_ComboBox && part == SC_ComboBoxEditField) ||
+                         (control == CC_SpinBox && part == SC_SpinBoxEditField);
+    if (!isField)
+        return rect;
+    return option->direction == Qt::RightToLeft ? rect.adjusted(0, 0, -step, 0)
+                                                : rect.adjusted(step, 0, 0, 0);
 }
 
 void DeskStyle::drawPrimitive(
@@ -169,8 +191,13 @@ void DeskStyle::drawPrimitive(
             return drawField(*option, *painter);
         break;
     case PE_PanelItemViewItem:
-        return drawRow(*option, *painter);
+        return drawRow(*option, *painter, widget);
     case PE_PanelItemViewRow:
+        // The part left of the first cell, where the branches are; the cells paint themselves.
+        if (option->state & State_Selected) {
+            painter->fillRect(option->rect, option->palette.highlight());
+            return;
+        }
         if (const auto* row = qstyleoption_cast<const QStyleOptionViewItem*>(option);
             row != nullptr && row->features.testFlag(QStyleOptionViewItem::Alternate)) {
             painter->fillRect(option->rect, option->palette.alternateBase());
@@ -205,6 +232,8 @@ void DeskStyle::drawControl(
             return;
         }
     }
+    if (element == CE_Splitter)
+        return drawSplitter(*option, *painter);
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 
@@ -216,6 +245,8 @@ void DeskStyle::drawComplexControl(
         return drawComboBox(*option, *painter, widget);
     case CC_SpinBox:
         return drawSpinBox(*option, *painter, widget);
+    case CC_Slider:
+        return drawSlider(*option, *painter, widget);
     default:
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }

@@ -27,6 +27,11 @@ public:
     QSize sizeFromContents(
         ContentsType type, const QStyleOption* option, const QSize& size,
         const QWidget* widget) const override;
+    QRect subElementRect(
+        SubElement element, const QStyleOption* option, const QWidget* widget) const override;
+    QRect subControlRect(
+        ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+        const QWidget* widget) const override;
     void drawPrimitive(
         PrimitiveElement element, const QStyleOption* option, QPainter* painter,
         const QWidget* widget) const override;
@@ -54,12 +59,14 @@ private:
     void drawRadioButton(const QStyleOption& option, QPainter& painter) const;
     void drawPushButton(const QStyleOption& option, QPainter& painter) const;
     void drawToolButton(const QStyleOption& option, QPainter& painter) const;
-    void drawRow(const QStyleOption& option, QPainter& painter) const;
+    void drawRow(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     void drawDropLine(const QStyleOption& option, QPainter& painter) const;
+    void drawSplitter(const QStyleOption& option, QPainter& painter) const;
     void drawTabClose(const QStyleOption& option, QPainter& painter) const;
     void drawFocus(const QStyleOption& option, QPainter& painter) const;
     void drawComboBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
     void drawSpinBox(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
+    void drawSlider(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
 
     Theme m_theme;
 };

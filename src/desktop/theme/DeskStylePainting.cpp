@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOption>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -206,7 +207,7 @@ void DeskStyle::drawToolButton(const QStyleOption& option, QPainter& painter) co
     }
 }
 
-void DeskStyle::drawRow(const QStyleOption& option, QPainter& painter) const
+void DeskStyle::drawRow(const QStyleOption& option, QPainter& painter, const QWidget* widget) const
 {
     const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(&option);
     if (item != nullptr && item->backgroundBrush.style() != Qt::NoBrush)
@@ -220,9 +221,9 @@ void DeskStyle::drawRow(const QStyleOption& option, QPainter& painter) const
     const QColor fill = isSelected ? option.palette.color(QPalette::Highlight) : m_theme.color(Role::Hover);
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
-    // Cells of one row join; only a row of one cell has its own corners.
-    const bool isAlone = item == nullptr || item->viewItemPosition == QStyleOptionViewItem::OnlyOne ||
-                         item->viewItemPosition == QStyleOptionViewItem::Invalid;
+    // A tree's cells join with each other and with the branches before them; a list's rows stand alone.
+    const bool isAlone = item != nullptr && item->viewItemPosition == QStyleOptionViewItem::OnlyOne &&
+                         qobject_cast<const QTreeView*>(widget) == nullptr;
     if (isAlone)
         painter.drawRoundedRect(option.rect, cornerRadius, cornerRadius);
     else
@@ -245,6 +246,21 @@ void DeskStyle::drawDropLine(const QStyleOption& option, QPainter& painter) cons
     const QPointF end = isMirrored ? rect.topLeft() : rect.topRight();
     painter.drawEllipse(start, knob, knob);
     painter.drawLine(start + QPointF(isMirrored ? -knob : knob, 0), end);
+}
+
+void DeskStyle::drawSplitter(const QStyleOption& option, QPainter& painter) const
+{
+    const bool isHovered = option.state & State_MouseOver;
+    const int width = isHovered ? 3 : 1;
+    QRect line = option.rect;
+    if (option.state & State_Horizontal) {
+        line.setWidth(width);
+        line.moveLeft(option.rect.left() + (option.rect.width() - width) / 2);
+    } else {
+        line.setHeight(width);
+        line.moveTop(option.rect.top() + (option.rect.height() - width) / 2);
+    }
+    painter.fillRect(line, m_theme.color(isHovered ? Role::Accent : Role::Line));
 }
 
 void DeskStyle::drawTabClose(const QStyleOption& option, QPainter& painter) const
@@ -301,6 +317,35 @@ void DeskStyle::drawSpinBox(const QStyleOptionComplex& option, QPainter& painter
     };
     drawStep(SC_SpinBoxUp, Direction::Up, QAbstractSpinBox::StepUpEnabled);
     drawStep(SC_SpinBoxDown, Direction::Down, QAbstractSpinBox::StepDownEnabled);
+}
+
+void DeskStyle::drawSlider(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const
+{
+    const PainterState state(painter);
+    constexpr qreal grooveWidth = 4.0;
+    constexpr qreal knobRadius = 7.0;
+    const bool isHorizontal = option.state & State_Horizontal;
+    const bool isEnabled = option.state & State_Enabled;
+    const QRectF groove = proxy()->subControlRect(CC_Slider, &option, SC_SliderGroove, widget);
+    const QRectF handle = proxy()->subControlRect(CC_Slider, &option, SC_SliderHandle, widget);
+    const QPointF knob = isHorizontal ? QPointF(handle.center().x(), groove.center().y())
+                                      : QPointF(groove.center().x(), handle.center().y());
+    const qreal inset = knobRadius + 1;
+    const QPointF start =
+        isHorizontal ? QPointF(groove.left() + inset, knob.y()) : QPointF(knob.x(), groove.top() + inset);
+    const QPointF end =
+        isHorizontal ? QPointF(groove.right() - inset, knob.y()) : QPointF(knob.x(), groove.bottom() - inset);
+
+    painter.setPen(roundPen(m_theme.color(Role::Shade), grooveWidth));
+    painter.drawLine(start, end);
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(&option);
+    const bool fillsFromEnd = slider != nullptr && slider->upsideDown;
+    const QColor fill = m_theme.color(isEnabled ? Role::Accent : Role::FaintInk);
+    painter.setPen(roundPen(fill, grooveWidth));
+    painter.drawLine(fillsFromEnd ? end : start, knob);
+    painter.setPen(QPen(fill, 2.0));
+    painter.setBrush(m_theme.color(option.state & State_HasFocus ? Role::Selection : Role::Page));
+    painter.drawEllipse(knob, knobRadius - 1, knobRadius - 1);
 }
 
 } // namespace tw::desktop::theme

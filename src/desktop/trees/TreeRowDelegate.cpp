@@ -12,6 +12,13 @@ namespace {
 
 constexpr int gap = 8;
 constexpr int dotSize = 8;
+/** Counts up to here leave the dots in one line. */
+constexpr QLatin1StringView usualCount{"99,999"};
+
+int countWidth(const QStyleOptionViewItem& option, const QString& count)
+{
+    return std::max(option.fontMetrics.horizontalAdvance(usualCount), option.fontMetrics.horizontalAdvance(count));
+}
 
 } // namespace
 
@@ -24,7 +31,7 @@ int TreeRowDelegate::trailingWidth(const QStyleOptionViewItem& option, const QMo
 {
     int width = 0;
     if (const QString count = index.data(CountRole).toString(); !count.isEmpty())
-        width += option.fontMetrics.horizontalAdvance(count) + gap;
+        width += countWidth(option, count) + gap;
     if (index.data(DotRole).isValid())
         width += dotSize + gap;
     return width;
@@ -54,7 +61,7 @@ void TreeRowDelegate::paint(
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     if (const QString count = index.data(CountRole).toString(); !count.isEmpty()) {
-        const int width = option.fontMetrics.horizontalAdvance(count);
+        const int width = countWidth(option, count);
         const QRect place(right - width, option.rect.top(), width, option.rect.height());
         painter->setPen(m_themes.theme().color(inkRole));
         painter->drawText(
