@@ -41,7 +41,7 @@ std::vector<EntityChoice> entityChoices(const Project& project, const CategoryId
             continue;
         choices.push_back({entity->id(), entity->name(), entity->name()});
         for (const QString& alias : entity->aliases())
-            choices.push_back({entity->id(), alias, alias + u" — " + entity->name()});
+            choices.push_back({entity->id(), alias, alias + u" — "_s + entity->name()});
     }
     QCollator collator;
     collator.setCaseSensitivity(Qt::CaseInsensitive);
