@@ -77,7 +77,11 @@ DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId
     recount();
 }
 
-DocumentPage::~DocumentPage() = default;
+DocumentPage::~DocumentPage()
+{
+    // The page loses the focus while it dies; nobody is left to hear of it.
+    disconnect(m_page, nullptr, this, nullptr);
+}
 
 void DocumentPage::addZoomActions()
 {
