@@ -78,7 +78,12 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     refreshTitle();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // The pages go one by one while the window dies, and may hand over their last typing; it must not follow.
+    disconnect(m_workArea, nullptr, this, nullptr);
+    disconnect(&m_desk.session, nullptr, this, nullptr);
+}
 
 void MainWindow::restoreWindow()
 {
