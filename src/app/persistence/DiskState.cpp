@@ -1,5 +1,9 @@
 #include "app/persistence/DiskState.h"
 
+#include "app/persistence/files/ProjectFiles.h"
+
+#include <QCryptographicHash>
+
 #include <algorithm>
 #include <chrono>
 
@@ -13,6 +17,11 @@ constexpr qint64 settlingNs = 2'000'000'000;
 QString joined(const QString& folder, const QString& relativePath)
 {
     return folder + u'/' + relativePath;
+}
+
+QByteArray hashOf(const QByteArray& bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
 
 } // namespace
@@ -61,7 +70,7 @@ void DiskState::rememberNames(FolderScan listing)
 
 void DiskState::record(const QString& relativePath, QByteArray bytes, const FileStamp& stamp)
 {
-    insert(relativePath, {std::move(bytes), stamp, isSettled(stamp)});
+    insert(relativePath, {std::move(bytes), stamp, isSettled(stamp), false});
 }
 
 void DiskState::recordWritten(const QString& folder, const QString& relativePath, QByteArray bytes)
@@ -69,13 +78,18 @@ void DiskState::recordWritten(const QString& folder, const QString& relativePath
     // A stamp just taken never counts as settled: whatever another program did meanwhile, the next check
     // reads the file.
     const FileStamp stamp = m_fileSystem->stamp(joined(folder, relativePath)).value_or(FileStamp());
-    insert(relativePath, {std::move(bytes), stamp, false});
+    insert(relativePath, {std::move(bytes), stamp, false, false});
 }
 
 void DiskState::recordFile(const QString& folder, const QString& relativePath)
 {
-    if (auto content = m_fileSystem->readFile(joined(folder, relativePath)))
-        record(relativePath, std::move(content->bytes), content->stamp);
+    auto content = m_fileSystem->readFile(joined(folder, relativePath));
+    if (!content)
+        return;
+    const bool isOurs = isProjectFile(relativePath);
+    insert(
+        relativePath, {isOurs ? std::move(content->bytes) : hashOf(content->bytes), content->stamp,
+                       isSettled(content->stamp), !isOurs});
 }
 
 void DiskState::recordUnseen(const QString& folder)
@@ -90,13 +104,14 @@ void DiskState::recordUnseen(const QString& folder)
 
 QByteArray DiskState::bytes(const QString& relativePath) const
 {
-    return m_records.value(relativePath).bytes;
+    const Record record = m_records.value(relativePath);
+    return record.isHash ? QByteArray() : record.bytes;
 }
 
 bool DiskState::isSameContent(const QString& path, Record& record)
 {
     const auto content = m_fileSystem->readFile(path);
-    if (!content || content->bytes != record.bytes)
+    if (!content || (record.isHash ? hashOf(content->bytes) : content->bytes) != record.bytes)
         return false;
     record.stamp = content->stamp;
     record.isSettled = isSettled(content->stamp);

@@ -49,7 +49,10 @@ public:
     void forget(const QString& relativePath);
     void clear();
 
-    /** Reads and records one file; one that cannot be read shows at the next check. */
+    /**
+     * Reads and records one file; one that cannot be read shows at the next check. Of files that are not the
+     * project's only a hash is kept: they guard a save, but nobody merges them.
+     */
     void recordFile(const QString& folder, const QString& relativePath);
     /** The same for every text file of the folder that is not recorded yet. */
     void recordUnseen(const QString& folder);
@@ -61,7 +64,7 @@ public:
     {
         return m_records.contains(relativePath);
     }
-    /** The recorded bytes; null when the file is not recorded. */
+    /** The recorded bytes of a project file; null when it is not recorded. */
     [[nodiscard]] QByteArray bytes(const QString& relativePath) const;
     [[nodiscard]] QStringList paths() const { return m_records.keys(); }
 
@@ -76,6 +79,8 @@ private:
         QByteArray bytes;
         FileStamp stamp;
         bool isSettled = false;
+        /** The bytes are the content's hash. */
+        bool isHash = false;
     };
 
     [[nodiscard]] bool isSettled(const FileStamp& stamp) const;

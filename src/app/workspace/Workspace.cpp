@@ -140,6 +140,7 @@ Result<void> Workspace::load(const QString& folder)
     m_folderPath = folder;
     m_openedFolderFingerprint.clear();
     m_saved = {};
+    m_fullSaveDue = false;
     for (persistence::LoadedFile& file : project.files) {
         if (!file.hasOwnName) {
             m_saved.strayFiles.append(file.relativePath);
@@ -175,6 +176,7 @@ Result<void> Workspace::save(SaveExtent extent)
     persistence::FolderSaver saver(m_environment, m_folderPath, m_openedFolderFingerprint, m_saved);
     if (auto saved = saver.save(*m_project, extent); !saved)
         return saved;
+    m_fullSaveDue = extent == SaveExtent::Changed;
     m_undoStack.setClean();
     return {};
 }
@@ -206,6 +208,7 @@ Result<void> Workspace::saveAs(const QString& folder)
     m_singleFilePath.clear();
     m_openedFolderFingerprint = std::move(disk);
     m_saved = std::move(saved);
+    m_fullSaveDue = false;
     m_undoStack.setClean();
     return {};
 }

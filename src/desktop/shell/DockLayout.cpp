@@ -43,8 +43,7 @@ void configureDocking()
 {
     ads::CDockManager::setConfigFlags(
         ads::CDockManager::OpaqueSplitterResize | ads::CDockManager::XmlCompressionEnabled |
-        ads::CDockManager::DragPreviewShowsContentPixmap |
-        ads::CDockManager::DockAreaHasTabsMenuButton |
+        ads::CDockManager::DragPreviewShowsContentPixmap | ads::CDockManager::DockAreaHasTabsMenuButton |
         ads::CDockManager::DockAreaDynamicTabsMenuButtonVisibility |
         ads::CDockManager::FloatingContainerHasWidgetTitle |
         ads::CDockManager::FloatingContainerHasWidgetIcon |
