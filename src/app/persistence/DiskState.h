@@ -48,6 +48,8 @@ public:
     void recordWritten(const QString& folder, const QString& relativePath, QByteArray bytes);
     void forget(const QString& relativePath);
     void clear();
+    /** Makes room for that many records at once. */
+    void reserve(qsizetype count) { m_records.reserve(count); }
 
     /**
      * Reads and records one file; one that cannot be read shows at the next check. Of files that are not the

@@ -141,6 +141,7 @@ Result<void> Workspace::load(const QString& folder)
     m_openedFolderFingerprint.clear();
     m_saved = {};
     m_fullSaveDue = false;
+    m_openedFolderFingerprint.reserve(std::ssize(project.files));
     for (persistence::LoadedFile& file : project.files) {
         if (!file.hasOwnName) {
             m_saved.strayFiles.append(file.relativePath);

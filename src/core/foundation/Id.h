@@ -1,14 +1,23 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QHashFunctions>
 #include <QString>
 #include <QStringView>
 #include <QUuid>
 #include <QtEndian>
 
+#include <array>
 #include <compare>
 
 namespace tw::core::foundation {
+
+/** The text form of an id, without a zero byte at its end. */
+using IdText = std::array<char, 36>;
+
+[[nodiscard]] IdText idText(const QUuid& uuid);
+/** Reads that form, in letters of any case; null for anything else. */
+[[nodiscard]] QUuid uuidFromIdText(QByteArrayView text);
 
 /**
  * A typed 128-bit identifier: a random UUID whose tag keeps the ids of different families apart at compile
@@ -42,8 +51,12 @@ public:
         return Id(QUuid::fromString(text));
     }
 
+    /** The same for the 36-character form alone, as bytes, which is several times faster. */
+    [[nodiscard]] static Id fromText(QByteArrayView text) { return Id(uuidFromIdText(text)); }
+
     [[nodiscard]] bool isNull() const { return m_uuid.isNull(); }
     [[nodiscard]] const QUuid& uuid() const { return m_uuid; }
+    [[nodiscard]] IdText text() const { return idText(m_uuid); }
     [[nodiscard]] QString toString() const { return m_uuid.toString(QUuid::WithoutBraces); }
 
     friend bool operator==(const Id& left, const Id& right) { return left.m_uuid == right.m_uuid; }

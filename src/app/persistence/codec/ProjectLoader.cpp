@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QMutex>
+#include <QStringBuilder>
 
 #include <algorithm>
 #include <functional>
@@ -168,7 +169,10 @@ private:
 
     core::Result<void> add(std::unique_ptr<ContentObject>& object, LoadedFile& file)
     {
-        if (m_loaded.project->contains(file.objectId)) {
+        // In files of our own names the ids ascend like the names: nothing need be searched for.
+        const Project::ObjectMap& objects = m_loaded.project->objects();
+        const bool isBehindAll = objects.empty() || objects.rbegin()->first < file.objectId;
+        if (!isBehindAll && m_loaded.project->contains(file.objectId)) {
             return core::Failure{QCoreApplication::translate("Persistence", "Duplicate object id %1 in %2")
                                      .arg(file.objectId.toString(), m_source.shownPath(file.relativePath))};
         }
@@ -212,6 +216,31 @@ private:
     LoadedProject m_loaded;
 };
 
+/** Sorts paths of one folder; most of them differ at the beginning of their names, which is compared first.
+ */
+void sortPaths(QStringList& paths)
+{
+    struct Entry
+    {
+        quint64 beginning = 0;
+        QString path;
+    };
+    std::vector<Entry> entries;
+    entries.reserve(static_cast<std::size_t>(paths.size()));
+    for (QString& path : paths) {
+        quint64 beginning = 0;
+        const qsizetype name = path.lastIndexOf(u'/') + 1;
+        for (qsizetype index = name; index < name + 4; ++index)
+            beginning = beginning << 16 | (index < path.size() ? path.at(index).unicode() : 0u);
+        entries.push_back({beginning, std::move(path)});
+    }
+    std::ranges::sort(entries, [](const Entry& left, const Entry& right) {
+        return left.beginning != right.beginning ? left.beginning < right.beginning : left.path < right.path;
+    });
+    for (std::size_t index = 0; index < entries.size(); ++index)
+        paths[static_cast<qsizetype>(index)] = std::move(entries[index].path);
+}
+
 /** Divides what a folder holds; objects and categories are sorted. */
 struct Contents
 {
@@ -225,8 +254,8 @@ struct Contents
             else if (file.relativePath != projectFileName)
                 others.append(file.relativePath);
         }
-        objects.sort();
-        categories.sort();
+        sortPaths(objects);
+        sortPaths(categories);
     }
 
     QStringList objects;
@@ -249,7 +278,7 @@ core::Result<LoadedProject> loadFolder(FileSystem& fileSystem, const QString& fo
     Source source;
     source.objectPaths = contents.objects;
     source.categoryPaths = contents.categories;
-    source.shownPath = [&](const QString& relativePath) { return folder + u'/' + relativePath; };
+    source.shownPath = [&](const QString& relativePath) -> QString { return folder % u'/' % relativePath; };
     source.content = [&](const QString& relativePath) {
         return fileSystem.readFile(source.shownPath(relativePath));
     };

@@ -353,8 +353,8 @@ std::optional<FileContent> readFile(const QString& path)
 
     FileContent content{{}, stampFrom(status)};
     QByteArray& bytes = content.bytes;
-    // One byte more than the file has, so that its end is seen without growing.
-    bytes.resize(status.st_size > 0 ? static_cast<qsizetype>(status.st_size) + 1 : firstReadRoom);
+    // Some files of the system tell no size.
+    bytes.resize(status.st_size > 0 ? static_cast<qsizetype>(status.st_size) : firstReadRoom);
     qsizetype used = 0;
     for (;;) {
         const auto room = static_cast<std::size_t>(bytes.size() - used);
@@ -365,6 +365,9 @@ std::optional<FileContent> readFile(const QString& path)
         if (count == 0)
             break;
         used += count;
+        // A file that grew meanwhile has another stamp and shows at the next check.
+        if (used == status.st_size)
+            break;
         if (used == bytes.size())
             bytes.resize(bytes.size() * 2);
     }
