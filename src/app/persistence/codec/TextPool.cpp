@@ -16,10 +16,11 @@ QString TextPool::textOf(const JsonNode& node)
     const QByteArrayView encoded = node.encodedText();
     if (encoded.isEmpty() || encoded.size() > longestShared)
         return node.text();
-    QString& text = m_texts[qHash(encoded) % m_texts.size()];
-    if (!node.isText(QStringView(text)))
-        text = node.text();
-    return text;
+    const std::size_t hash = qHash(encoded);
+    Slot& slot = m_slots[hash % m_slots.size()];
+    if (slot.hash != hash || !node.isText(QStringView(slot.text)))
+        slot = {hash, node.text()};
+    return slot.text;
 }
 
 } // namespace tw::app::persistence

@@ -20,7 +20,13 @@ public:
     [[nodiscard]] QString textOf(const JsonNode& node);
 
 private:
-    std::array<QString, 4096> m_texts;
+    struct Slot
+    {
+        std::size_t hash = 0; ///< Of the text as it stood in its file: most clashes show here.
+        QString text;
+    };
+
+    std::array<Slot, 4096> m_slots;
 };
 
 } // namespace tw::app::persistence
