@@ -20,6 +20,13 @@ void silenceLogging()
     if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES")) {
         qputenv("QT_LOGGING_RULES", "tw.*=false;qt.qpa.*=false;qt.svg.*=true");
     }
+    // The offscreen platform says so of every window that has a least size.
+    static QtMessageHandler usualHandler = nullptr;
+    usualHandler =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& text) {
+            if (!text.contains("propagateSizeHints"_L1))
+                usualHandler(type, context, text);
+        });
 }
 
 } // namespace

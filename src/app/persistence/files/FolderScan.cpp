@@ -1,5 +1,7 @@
 #include "app/persistence/files/FolderScan.h"
 
+#include "app/persistence/files/PlatformFiles.h"
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -19,13 +21,10 @@ bool isTextFile(QStringView name)
 
 FolderScan scanFolder(const QString& folder, ScannedFiles which)
 {
-    FolderScan scan;
-    const platform::FolderVisitor visitor{
-        [which](QStringView name) { return which == ScannedFiles::All || isTextFile(name); },
-        [&scan](QString relativePath, platform::Linkage linkage, const FileStamp& stamp) {
-            scan.files.push_back({std::move(relativePath), stamp, linkage});
-        }};
-    scan.isComplete = platform::walkFolder(folder, visitor) || !QFileInfo::exists(folder);
+    const auto wants = [which](QStringView name) { return which == ScannedFiles::All || isTextFile(name); };
+    FolderScan scan = platform::walkFolder(folder, wants);
+    if (!QFileInfo::exists(folder))
+        scan.isComplete = true;
     return scan;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/persistence/files/PlatformFiles.h"
+#include "app/persistence/files/FileSystem.h"
 
 #include <QString>
 
@@ -8,11 +8,17 @@
 
 namespace tw::app::persistence {
 
+enum class Linkage
+{
+    Direct,
+    SymbolicLink, ///< The stamp is that of the file behind the link.
+};
+
 struct ScannedFile
 {
     QString relativePath; ///< From the scanned folder, with "/" on every system.
     FileStamp stamp;
-    platform::Linkage linkage = platform::Linkage::Direct;
+    Linkage linkage = Linkage::Direct;
 };
 
 enum class ScannedFiles

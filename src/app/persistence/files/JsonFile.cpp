@@ -2,6 +2,10 @@
 
 #include "app/persistence/json/JsonWriter.h"
 
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonDocument>
+
 namespace tw::app::persistence {
 
 namespace {
@@ -16,6 +20,27 @@ bool holdsAlready(FileSystem& fileSystem, const QString& path, const QByteArray&
 }
 
 } // namespace
+
+core::Failure cannotRead(const QString& path)
+{
+    return {QCoreApplication::translate("Persistence", "Cannot read file: %1").arg(path)};
+}
+
+core::Failure invalidJson(const QString& path)
+{
+    return {QCoreApplication::translate("Persistence", "Invalid JSON in file: %1").arg(path)};
+}
+
+core::Result<QJsonObject> readJsonFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return cannotRead(path);
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    if (!document.isObject())
+        return invalidJson(path);
+    return document.object();
+}
 
 core::Result<void> writeJsonFile(
     FileSystem& fileSystem, SafeWriter& writer, const QString& path, const QByteArray& bytes)

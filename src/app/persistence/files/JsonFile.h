@@ -6,6 +6,13 @@
 
 namespace tw::app::persistence {
 
+/** The messages of a file that cannot be opened, and of one that holds no JSON object. */
+[[nodiscard]] core::Failure cannotRead(const QString& path);
+[[nodiscard]] core::Failure invalidJson(const QString& path);
+
+/** The top-level object of a file, or why there is none. */
+[[nodiscard]] core::Result<QJsonObject> readJsonFile(const QString& path);
+
 /**
  * Writes a JSON file through the writer, unless it holds these very bytes already: an unchanged file keeps
  * its times, so that sync clients see only real changes.

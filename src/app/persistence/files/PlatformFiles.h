@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/persistence/files/FileSystem.h"
+#include "app/persistence/files/FolderScan.h"
 
 #include <QStringView>
 
@@ -21,24 +22,12 @@ inline constexpr QLatin1StringView temporaryPrefix(".vellory-save-");
 [[nodiscard]] bool replaceFile(const QString& from, const QString& to);
 [[nodiscard]] bool syncFolder(const QString& path);
 
-enum class Linkage
-{
-    Direct,
-    SymbolicLink, ///< The stamp is that of the file behind the link.
-};
-
-struct FolderVisitor
-{
-    /** Whether a file of this name is worth a look. */
-    std::function<bool(QStringView name)> wants;
-    std::function<void(QString relativePath, Linkage linkage, const FileStamp& stamp)> found;
-};
+using NameFilter = std::function<bool(QStringView name)>;
 
 /**
- * Visits the regular files below a folder in no particular order. Names that begin with a dot are left out,
- * links to folders are not followed. False when some folder could not be read to its end; a missing root
- * counts as one.
+ * The regular files below a folder whose names the filter wants, as scanFolder tells them. The filter is
+ * called from several threads.
  */
-[[nodiscard]] bool walkFolder(const QString& root, const FolderVisitor& visitor);
+[[nodiscard]] FolderScan walkFolder(const QString& root, const NameFilter& wants);
 
 } // namespace tw::app::persistence::platform

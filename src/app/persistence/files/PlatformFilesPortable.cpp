@@ -78,22 +78,22 @@ bool syncFolder(const QString& path)
     return QFileInfo(path).isDir();
 }
 
-bool walkFolder(const QString& root, const FolderVisitor& visitor)
+FolderScan walkFolder(const QString& root, const NameFilter& wants)
 {
+    FolderScan scan;
     const QDir folder(root);
     QDirIterator entries(root, QDir::Files, QDirIterator::Subdirectories);
     while (entries.hasNext()) {
         entries.next();
         const QFileInfo info = entries.fileInfo();
-        if (!visitor.wants(info.fileName()))
+        const QString path = folder.relativeFilePath(info.filePath());
+        if (!wants(info.fileName()) || path.startsWith(u'.') || path.contains(u"/."_s))
             continue;
-        const QString relativePath = folder.relativeFilePath(info.filePath());
-        if (relativePath.startsWith(u'.') || relativePath.contains(u"/."_s))
-            continue;
-        visitor.found(
-            relativePath, info.isSymLink() ? Linkage::SymbolicLink : Linkage::Direct, stampFrom(info));
+        const Linkage linkage = info.isSymLink() ? Linkage::SymbolicLink : Linkage::Direct;
+        scan.files.push_back({path, stampFrom(info), linkage});
     }
-    return folder.exists();
+    scan.isComplete = folder.exists();
+    return scan;
 }
 
 } // namespace tw::app::persistence::platform

@@ -2,14 +2,18 @@
 
 #ifdef Q_OS_UNIX
 
+#include "app/persistence/files/ParallelFor.h"
+
 #include <QFile>
 #include <QRandomGenerator>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -26,6 +30,7 @@ constexpr mode_t newFileMode = 0666;
 constexpr mode_t permissionBits = 07777;
 constexpr int nameAttempts = 16;
 constexpr qsizetype firstReadRoom = 64 * 1024;
+constexpr qsizetype inspectedTogether = 1024;
 
 /** An open file that closes itself. */
 class Descriptor
@@ -124,79 +129,159 @@ Descriptor createBeside(const QString& target, QString& path)
     return Descriptor(-1);
 }
 
-QString decoded(const char* name)
+/** The path of an entry: most names are plain ASCII, for which the long way around is not needed. */
+QString joined(const QString& prefix, QByteArrayView name)
 {
-    const QByteArrayView bytes(name);
     const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
-    if (std::all_of(bytes.begin(), bytes.end(), isAscii))
-        return QString::fromLatin1(bytes);
-    return QFile::decodeName(name);
+    if (!std::all_of(name.begin(), name.end(), isAscii))
+        return prefix + QFile::decodeName(name.toByteArray());
+    QString path(prefix.size() + name.size(), Qt::Uninitialized);
+    QChar* end = std::copy(prefix.cbegin(), prefix.cend(), path.data());
+    std::transform(name.begin(), name.end(), end, [](char byte) { return QLatin1Char(byte); });
+    return path;
 }
+
+/** The names in one folder, in one piece of memory. */
+class Listing
+{
+public:
+    struct Entry
+    {
+        ino_t inode;
+        qsizetype offset;
+        unsigned char type;
+    };
+
+    /** False when the folder could not be read to its end. Hidden names are left out. */
+    bool read(DIR* folder)
+    {
+        for (;;) {
+            errno = 0;
+            const dirent* entry = ::readdir(folder);
+            if (!entry)
+                break;
+            if (entry->d_name[0] == '.')
+                continue;
+            m_entries.push_back({entry->d_ino, m_names.size(), entry->d_type});
+            m_names.append(entry->d_name, static_cast<qsizetype>(std::strlen(entry->d_name)) + 1);
+        }
+        const bool isComplete = errno == 0;
+        // The records of neighbouring numbers lie together, on the medium as in memory.
+        std::ranges::sort(m_entries, {}, &Entry::inode);
+        return isComplete;
+    }
+
+    [[nodiscard]] const std::vector<Entry>& entries() const { return m_entries; }
+    [[nodiscard]] const char* name(const Entry& entry) const { return m_names.constData() + entry.offset; }
+
+private:
+    std::vector<Entry> m_entries;
+    QByteArray m_names;
+};
 
 /** Walks one tree; the folders open at any time are those between the root and the present one. */
 class Walk
 {
 public:
-    explicit Walk(const FolderVisitor& visitor)
-        : m_visitor(visitor)
+    explicit Walk(const NameFilter& wants)
+        : m_wants(wants)
     {}
 
-    bool run(Descriptor folder, const QString& prefix)
+    void run(Descriptor folder, const QString& prefix)
     {
-        if (!folder.isOpen())
-            return false;
-        const std::unique_ptr<DIR, int (*)(DIR*)> entries(::fdopendir(folder.number()), ::closedir);
-        if (!entries)
-            return false;
-        const int number = folder.release();
-        bool isComplete = true;
-        for (;;) {
-            errno = 0;
-            const dirent* entry = ::readdir(entries.get());
-            if (!entry)
-                return isComplete && errno == 0;
-            if (entry->d_name[0] != '.')
-                isComplete = visit(number, *entry, prefix) && isComplete;
+        std::unique_ptr<DIR, int (*)(DIR*)> stream(nullptr, ::closedir);
+        if (folder.isOpen())
+            stream.reset(::fdopendir(folder.number()));
+        if (!stream) {
+            m_scan.isComplete = false;
+            return;
         }
+        const int number = folder.release();
+        Listing listing;
+        if (!listing.read(stream.get()))
+            m_scan.isComplete = false;
+        std::vector<Finding> findings = inspectAll(number, listing, prefix);
+        for (std::size_t index = 0; index < findings.size(); ++index)
+            take(number, listing.name(listing.entries()[index]), findings[index]);
     }
+
+    [[nodiscard]] FolderScan& result() { return m_scan; }
 
 private:
-    bool visit(int folder, const dirent& entry, const QString& prefix)
+    enum class Kind
     {
-        const QString name = decoded(entry.d_name);
-        // Most entries are files of no interest or files to be stamped: the type saves a call for the others.
-        if (entry.d_type == DT_DIR)
-            return enter(folder, entry.d_name, prefix + name);
-        const bool isUnknown = entry.d_type == DT_UNKNOWN;
-        if (!isUnknown && !m_visitor.wants(name))
-            return true;
+        Nothing,
+        File,
+        Folder,
+        Unreadable,
+    };
 
+    struct Finding
+    {
+        ScannedFile file;
+        Kind kind = Kind::Nothing;
+    };
+
+    /** Nearly all the time of a walk goes into asking for the records, so a large folder is shared out. */
+    std::vector<Finding> inspectAll(int folder, const Listing& listing, const QString& prefix) const
+    {
+        std::vector<Finding> findings(listing.entries().size());
+        parallelFor(std::ssize(findings), inspectedTogether, [&](qsizetype begin, qsizetype end) {
+            for (auto index = static_cast<std::size_t>(begin); index < static_cast<std::size_t>(end);
+                 ++index) {
+                const Listing::Entry& entry = listing.entries()[index];
+                ScannedFile& file = findings[index].file;
+                file.relativePath = joined(prefix, listing.name(entry));
+                const bool isWanted = m_wants(QStringView(file.relativePath).sliced(prefix.size()));
+                findings[index].kind = inspect(folder, listing.name(entry), entry.type, isWanted, file);
+            }
+        });
+        return findings;
+    }
+
+    static Kind inspect(int folder, const char* name, unsigned char type, bool isWanted, ScannedFile& file)
+    {
+        if (type == DT_DIR)
+            return Kind::Folder;
+        if (!isWanted && type != DT_UNKNOWN)
+            return Kind::Nothing;
         struct stat status = {};
-        if (::fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
-            return errno == ENOENT;
+        if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+            return errno == ENOENT ? Kind::Nothing : Kind::Unreadable;
         if (S_ISDIR(status.st_mode))
-            return enter(folder, entry.d_name, prefix + name);
-        Linkage linkage = Linkage::Direct;
+            return Kind::Folder;
         if (S_ISLNK(status.st_mode)) {
-            linkage = Linkage::SymbolicLink;
-            if (::fstatat(folder, entry.d_name, &status, 0) != 0)
-                return true;
+            file.linkage = Linkage::SymbolicLink;
+            if (::fstatat(folder, name, &status, 0) != 0)
+                return Kind::Nothing;
         }
-        if (S_ISREG(status.st_mode) && (!isUnknown || m_visitor.wants(name)))
-            m_visitor.found(prefix + name, linkage, stampFrom(status));
-        return true;
+        file.stamp = stampFrom(status);
+        return isWanted && S_ISREG(status.st_mode) ? Kind::File : Kind::Nothing;
     }
 
-    bool enter(int folder, const char* name, const QString& path)
+    void take(int folder, const char* name, Finding& finding)
     {
-        constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-        Descriptor inner(repeatedWhileInterrupted([&] { return ::openat(folder, name, flags); }));
-        if (!inner.isOpen() && errno == ENOENT)
-            return true;
-        return run(std::move(inner), path + u'/');
+        switch (finding.kind) {
+        case Kind::Nothing:
+            break;
+        case Kind::File:
+            m_scan.files.push_back(std::move(finding.file));
+            break;
+        case Kind::Folder: {
+            constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+            Descriptor inner(repeatedWhileInterrupted([&] { return ::openat(folder, name, flags); }));
+            if (inner.isOpen() || errno != ENOENT)
+                run(std::move(inner), finding.file.relativePath + u'/');
+            break;
+        }
+        case Kind::Unreadable:
+            m_scan.isComplete = false;
+            break;
+        }
     }
 
-    const FolderVisitor& m_visitor;
+    const NameFilter& m_wants;
+    FolderScan m_scan;
 };
 
 } // namespace
@@ -273,9 +358,11 @@ bool syncFolder(const QString& path)
            errno == ENOTSUP;
 }
 
-bool walkFolder(const QString& root, const FolderVisitor& visitor)
+FolderScan walkFolder(const QString& root, const NameFilter& wants)
 {
-    return Walk(visitor).run(openPath(QFile::encodeName(root), O_RDONLY | O_DIRECTORY), QString());
+    Walk walk(wants);
+    walk.run(openPath(QFile::encodeName(root), O_RDONLY | O_DIRECTORY), QString());
+    return std::move(walk.result());
 }
 
 } // namespace tw::app::persistence::platform

@@ -43,6 +43,24 @@ bool isProjectFile(QStringView relativePath)
     return isInFolder && relativePath.endsWith(u".json", Qt::CaseInsensitive);
 }
 
+QString objectPath(const core::ContentId& id)
+{
+    return objectsFolder.toString() + u'/' + id.toString() + u".json"_s;
+}
+
+QString categoryPath(const core::CategoryId& id)
+{
+    return taxonomyFolder.toString() + u'/' + id.toString() + u".json"_s;
+}
+
+bool isJsonFileIn(QStringView folder, QStringView relativePath)
+{
+    if (!relativePath.startsWith(folder) || !relativePath.endsWith(u".json", Qt::CaseInsensitive))
+        return false;
+    const QStringView name = relativePath.sliced(folder.size());
+    return name.startsWith(u'/') && name.lastIndexOf(u'/') == 0 && !name.startsWith(u"/.");
+}
+
 core::Result<QString> importAsset(const QString& projectFolder, const QString& sourceFile)
 {
     if (projectFolder.isEmpty())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/foundation/Id.h"
 #include "core/foundation/Result.h"
 
 #include <QString>
@@ -18,6 +19,16 @@ inline constexpr QStringView assetsFolder = u"assets";
  * these take part in change detection and merging.
  */
 [[nodiscard]] bool isProjectFile(QStringView relativePath);
+
+/** Where an object's file is: named by its id alone, so that it never moves. */
+[[nodiscard]] QString objectPath(const core::ContentId& id);
+[[nodiscard]] QString categoryPath(const core::CategoryId& id);
+
+/**
+ * Whether the path is that of a JSON file directly in the folder, as objects and categories are; files
+ * further down and hidden ones are not read.
+ */
+[[nodiscard]] bool isJsonFileIn(QStringView folder, QStringView relativePath);
 
 /**
  * Copies a file into the project's assets under a name that is still free. Gives the path to store in the

@@ -1,12 +1,11 @@
 #include "app/persistence/json/JsonRead.h"
 
-#include <QCoreApplication>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
+#include <QLocale>
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -27,134 +26,110 @@ qint64 truncated(double number)
     return static_cast<qint64>(number);
 }
 
-std::optional<double> finiteNumber(QStringView text)
+/** No value for what is not written as an integer of 64 bits. */
+std::optional<qint64> exactInteger(QByteArrayView digits)
+{
+    qint64 number = 0;
+    const auto [end, error] = std::from_chars(digits.begin(), digits.end(), number);
+    return error == std::errc() && end == digits.end() ? std::optional(number) : std::nullopt;
+}
+
+std::optional<double> finiteNumber(QByteArrayView digits)
 {
     bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
+    const double number = digits.toDouble(&isNumber);
     return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
-std::optional<bool> namedBool(QStringView text)
+std::optional<qint64> integerOf(QByteArrayView digits)
 {
-    if (text.compare(u"true", Qt::CaseInsensitive) == 0)
+    if (const std::optional<qint64> exact = exactInteger(digits))
+        return exact;
+    const std::optional<double> number = finiteNumber(digits);
+    return number ? std::optional(truncated(*number)) : std::nullopt;
+}
+
+/** The text without blanks around it, for reading as something else. */
+QByteArray plainForm(const JsonNode& value)
+{
+    return value.text().trimmed().toUtf8();
+}
+
+std::optional<bool> namedBool(const QByteArray& text)
+{
+    if (text.compare("true", Qt::CaseInsensitive) == 0)
         return true;
-    if (text.compare(u"false", Qt::CaseInsensitive) == 0)
+    if (text.compare("false", Qt::CaseInsensitive) == 0)
         return false;
     return std::nullopt;
 }
 
-std::optional<qint64> integerOf(const QString& given)
+} // namespace
+
+std::optional<qint64> readInteger(const JsonNode& value)
 {
-    const QStringView text = QStringView(given).trimmed();
-    bool isInteger = false;
-    if (const qint64 number = text.toLongLong(&isInteger); isInteger)
+    if (value.isNumber())
+        return integerOf(value.digits());
+    if (value.isBool())
+        return value.isTrue() ? 1 : 0;
+    const QByteArray text = plainForm(value);
+    if (const std::optional<qint64> number = integerOf(text))
         return number;
-    if (const std::optional<double> number = finiteNumber(text))
-        return truncated(*number);
     return namedBool(text);
 }
 
-} // namespace
-
-qint64 readInteger(const QJsonValue& value, qint64 fallback)
-{
-    switch (value.type()) {
-    case QJsonValue::Double: {
-        const qint64 exact = value.toInteger(Integers::min());
-        return exact != Integers::min() ? exact : truncated(value.toDouble());
-    }
-    case QJsonValue::Bool:
-        return value.toBool() ? 1 : 0;
-    case QJsonValue::String:
-        return integerOf(value.toString()).value_or(fallback);
-    default:
-        return fallback;
-    }
-}
-
-qint32 readInteger32(const QJsonValue& value, qint32 fallback)
+std::optional<qint32> readInteger32(const JsonNode& value)
 {
     using Limits = std::numeric_limits<qint32>;
-    return static_cast<qint32>(
-        std::clamp<qint64>(readInteger(value, fallback), Limits::min(), Limits::max()));
+    const std::optional<qint64> number = readInteger(value);
+    if (!number)
+        return std::nullopt;
+    return static_cast<qint32>(std::clamp<qint64>(*number, Limits::min(), Limits::max()));
 }
 
-double readDouble(const QJsonValue& value, double fallback)
+std::optional<double> readDouble(const JsonNode& value)
 {
-    switch (value.type()) {
-    case QJsonValue::Double:
-        return value.toDouble();
-    case QJsonValue::Bool:
-        return value.toBool() ? 1.0 : 0.0;
-    case QJsonValue::String:
-        return finiteNumber(QStringView(value.toString()).trimmed()).value_or(fallback);
-    default:
-        return fallback;
-    }
+    if (value.isNumber())
+        return finiteNumber(value.digits());
+    if (value.isBool())
+        return value.isTrue() ? 1.0 : 0.0;
+    return finiteNumber(plainForm(value));
 }
 
-bool readBool(const QJsonValue& value, bool fallback)
+std::optional<bool> readBool(const JsonNode& value)
 {
-    switch (value.type()) {
-    case QJsonValue::Bool:
-        return value.toBool();
-    case QJsonValue::Double:
-        return value.toDouble() != 0.0;
-    case QJsonValue::String: {
-        const QString text = value.toString().trimmed();
-        if (const std::optional<bool> named = namedBool(text))
-            return *named;
-        const std::optional<double> number = finiteNumber(text);
-        return number ? *number != 0.0 : fallback;
-    }
-    default:
-        return fallback;
-    }
+    if (value.isBool())
+        return value.isTrue();
+    if (const std::optional<bool> named = namedBool(plainForm(value)))
+        return named;
+    const std::optional<double> number = readDouble(value);
+    return number ? std::optional(*number != 0.0) : std::nullopt;
 }
 
-QString readText(const QJsonValue& value, const QString& fallback)
+std::optional<QString> readText(const JsonNode& value)
 {
-    switch (value.type()) {
-    case QJsonValue::String:
-        return value.toString();
-    case QJsonValue::Bool:
-        return value.toBool() ? u"true"_s : u"false"_s;
-    case QJsonValue::Double:
-        if (const QVariant number = value.toVariant(); number.typeId() == QMetaType::LongLong)
-            return QString::number(number.toLongLong());
-        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
-    default:
-        return fallback;
-    }
+    if (value.isText())
+        return value.text();
+    if (value.isBool())
+        return value.isTrue() ? u"true"_s : u"false"_s;
+    if (!value.isNumber())
+        return std::nullopt;
+    if (const std::optional<qint64> integer = exactInteger(value.digits()))
+        return QString::number(*integer);
+    return QString::number(readDouble(value).value_or(0.0), 'g', QLocale::FloatingPointShortest);
 }
 
-QStringList readTextList(const QJsonValue& value)
+QStringList readTextList(const JsonNode& value)
 {
-    const QJsonArray array = value.toArray();
+    if (value.isText())
+        return {value.text()};
     QStringList texts;
-    texts.reserve(array.size());
-    for (const QJsonValue& element : array) {
-        if (element.isString())
-            texts.append(element.toString());
-    }
+    texts.reserve(value.sizeHint());
+    value.forEachElement([&](const JsonNode& element) {
+        if (element.isText())
+            texts.append(element.text());
+    });
     return texts;
-}
-
-core::Result<QJsonObject> parseJsonObject(const QByteArray& bytes, const QString& path)
-{
-    const QJsonDocument document = QJsonDocument::fromJson(bytes);
-    if (!document.isObject())
-        return core::Failure{
-            QCoreApplication::translate("Persistence", "Invalid JSON in file: %1").arg(path)};
-    return document.object();
-}
-
-core::Result<QJsonObject> readJsonFile(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return core::Failure{QCoreApplication::translate("Persistence", "Cannot read file: %1").arg(path)};
-    return parseJsonObject(file.readAll(), path);
 }
 
 } // namespace tw::app::persistence

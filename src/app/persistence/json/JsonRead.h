@@ -1,58 +1,40 @@
 #pragma once
 
-#include "core/foundation/Id.h"
-#include "core/foundation/Result.h"
+#include "app/persistence/json/JsonTree.h"
 
-#include <QJsonObject>
-#include <QJsonValue>
 #include <QStringList>
 
-#include <limits>
 #include <optional>
 
 /**
  * Reading of single values the way a person's hand may have left them, so that an edited file loses nothing
- * that can be understood: "12" is a number, 12 a text, 2.9 an integer of 2, "true" a boolean. A value that
- * cannot be understood is the fallback.
+ * that can be understood: "12" is a number, 12 a text, 2.9 an integer of 2, "true" a boolean. There is no
+ * value where nothing can be understood.
  */
 namespace tw::app::persistence {
 
 /** Fractions are cut off; what lies beyond 64 bits stops at the limit. Whole numbers never pass through a
  * double. */
-[[nodiscard]] qint64 readInteger(const QJsonValue& value, qint64 fallback = 0);
+[[nodiscard]] std::optional<qint64> readInteger(const JsonNode& value);
 
 /** The same, stopping at the limits of 32 bits. */
-[[nodiscard]] qint32 readInteger32(const QJsonValue& value, qint32 fallback = 0);
+[[nodiscard]] std::optional<qint32> readInteger32(const JsonNode& value);
 
-[[nodiscard]] double readDouble(const QJsonValue& value, double fallback = 0.0);
+[[nodiscard]] std::optional<double> readDouble(const JsonNode& value);
 
-[[nodiscard]] bool readBool(const QJsonValue& value, bool fallback = false);
+[[nodiscard]] std::optional<bool> readBool(const JsonNode& value);
 
 /** Numbers and booleans become their text. */
-[[nodiscard]] QString readText(const QJsonValue& value, const QString& fallback = {});
+[[nodiscard]] std::optional<QString> readText(const JsonNode& value);
 
-/** The texts of an array; elements that are no strings are left out. */
-[[nodiscard]] QStringList readTextList(const QJsonValue& value);
+/** The texts of an array, without the elements that are no strings. A text on its own is a list of one. */
+[[nodiscard]] QStringList readTextList(const JsonNode& value);
 
 /** The null id when the value is no id. */
 template <class Id>
-[[nodiscard]] Id readId(const QJsonValue& value)
+[[nodiscard]] Id readId(const JsonNode& value)
 {
-    return Id::fromString(value.toString());
+    return Id::fromString(value.text());
 }
-
-/** No value when there is no id. */
-template <class Id>
-[[nodiscard]] std::optional<Id> readOptionalId(const QJsonValue& value)
-{
-    const Id id = readId<Id>(value);
-    return id.isNull() ? std::nullopt : std::optional(id);
-}
-
-/** The object that a file's bytes hold; a failure names the path. */
-[[nodiscard]] core::Result<QJsonObject> parseJsonObject(const QByteArray& bytes, const QString& path);
-
-/** The top-level object of a file, or why there is none. */
-[[nodiscard]] core::Result<QJsonObject> readJsonFile(const QString& path);
 
 } // namespace tw::app::persistence

@@ -32,8 +32,7 @@ QStringList pathsOf(const FolderScan& scan)
 {
     QStringList paths;
     for (const ScannedFile& file : scan.files)
-        paths.append(
-            file.linkage == platform::Linkage::SymbolicLink ? file.relativePath + u'@' : file.relativePath);
+        paths.append(file.linkage == Linkage::SymbolicLink ? file.relativePath + u'@' : file.relativePath);
     paths.sort();
     return paths;
 }

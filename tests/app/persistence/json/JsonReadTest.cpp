@@ -1,11 +1,10 @@
 #include "app/persistence/json/JsonRead.h"
 
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QTemporaryDir>
+#include "core/foundation/Id.h"
 
 #include <gtest/gtest.h>
+
+#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace tw::app::persistence;
@@ -13,10 +12,22 @@ using tw::core::ContentId;
 
 namespace {
 
-QJsonValue parsed(const QByteArray& json)
+/** One value as it stands in a file. */
+class Parsed
 {
-    return QJsonDocument::fromJson('[' + json + ']').array().at(0);
-}
+public:
+    explicit Parsed(const QByteArray& json)
+        : m_bytes("{\"v\": " + json + '}')
+    {
+        EXPECT_TRUE(m_tree.parse(m_bytes)) << json.constData();
+    }
+
+    [[nodiscard]] JsonNode value() const { return m_tree.root().value("v"_L1); }
+
+private:
+    QByteArray m_bytes;
+    JsonTree m_tree;
+};
 
 } // namespace
 
@@ -58,45 +69,30 @@ TEST(JsonRead, understandsScalarsThatAHandHasTouched)
         {"{}", none, none, true, u"fallback"_s},
     };
     for (const auto& expected : cases) {
-        const QJsonValue value = parsed(expected.json);
-        EXPECT_EQ(readInteger(value, none), expected.integer) << expected.json.constData();
-        EXPECT_EQ(readDouble(value, none), expected.number) << expected.json.constData();
-        EXPECT_EQ(readBool(value, true), expected.isTrue) << expected.json.constData();
-        EXPECT_EQ(readText(value, u"fallback"_s), expected.text) << expected.json.constData();
+        const Parsed parsed(expected.json);
+        const JsonNode value = parsed.value();
+        EXPECT_EQ(readInteger(value).value_or(none), expected.integer) << expected.json.constData();
+        EXPECT_EQ(readDouble(value).value_or(none), expected.number) << expected.json.constData();
+        EXPECT_EQ(readBool(value).value_or(true), expected.isTrue) << expected.json.constData();
+        EXPECT_EQ(readText(value).value_or(u"fallback"_s), expected.text) << expected.json.constData();
     }
-    EXPECT_EQ(readInteger(QJsonValue(QJsonValue::Undefined), 3), 3);
-    EXPECT_EQ(readInteger32(parsed("-3000000000")), std::numeric_limits<qint32>::min());
-    EXPECT_EQ(readInteger32(parsed("\"3e9\"")), std::numeric_limits<qint32>::max());
-    EXPECT_FALSE(readBool(parsed("\"no idea\"")));
+    EXPECT_EQ(readInteger(JsonNode()), std::nullopt);
+    EXPECT_EQ(readInteger32(Parsed("-3000000000").value()), std::numeric_limits<qint32>::min());
+    EXPECT_EQ(readInteger32(Parsed("\"3e9\"").value()), std::numeric_limits<qint32>::max());
 }
 
 TEST(JsonRead, takesTheStringsOfAListAndOnlyWholeIds)
 {
-    EXPECT_EQ(readTextList(parsed(R"(["a", 1, null, "", "b", ["c"]])")), (QStringList{u"a"_s, {}, u"b"_s}));
-    EXPECT_EQ(readTextList(parsed("\"a\"")), QStringList());
-    const QString text = u"6f1c1e0a-2b3c-4d5e-8f90-a1b2c3d4e5f6"_s;
-    EXPECT_EQ(readId<ContentId>(text).toString(), text);
-    EXPECT_EQ(readOptionalId<ContentId>(QString(u'{' + text + u'}'))->toString(), text);
-    EXPECT_FALSE(readOptionalId<ContentId>(QString(text + u"-and-more"_s)));
-    EXPECT_TRUE(readId<ContentId>(parsed("12")).isNull());
-}
-
-TEST(JsonRead, saysWhyAFileHoldsNoObject)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"100%1.json"_s);
-    EXPECT_EQ(readJsonFile(path).message(), u"Cannot read file: "_s + path);
-    EXPECT_EQ(readJsonFile(folder.path()).message(), u"Cannot read file: "_s + folder.path());
-    for (const char* broken : {"", "[]", "{\"a\": 1", "{} x", "\"text\"", "{\"a\": 1e999}"}) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(broken);
-        file.close();
-        EXPECT_EQ(readJsonFile(path).message(), u"Invalid JSON in file: "_s + path) << broken;
-    }
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("{\"a\": \"b\"}");
-    file.close();
-    EXPECT_EQ(readJsonFile(path).value().value(u"a"_s), u"b"_s);
+    EXPECT_EQ(
+        readTextList(Parsed(R"(["a", 1, null, "", "b", ["c"]])").value()), (QStringList{u"a"_s, {}, u"b"_s}));
+    EXPECT_EQ(readTextList(Parsed("\"a b\"").value()), QStringList{u"a b"_s});
+    EXPECT_EQ(readTextList(Parsed("12").value()), QStringList());
+    const QByteArray text = "6f1c1e0a-2b3c-4d5e-8f90-a1b2c3d4e5f6";
+    const auto id = [](const QByteArray& json) {
+        return readId<ContentId>(Parsed('"' + json + '"').value());
+    };
+    EXPECT_EQ(id(text).toString().toLatin1(), text);
+    EXPECT_EQ(id('{' + text + '}').toString().toLatin1(), text);
+    EXPECT_TRUE(id(text + "-and-more").isNull());
+    EXPECT_TRUE(readId<ContentId>(Parsed("12").value()).isNull());
 }

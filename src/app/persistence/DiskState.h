@@ -1,0 +1,83 @@
+#pragma once
+
+#include "app/persistence/files/FileSystem.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace tw::app::persistence {
+
+/** Nanoseconds since 1970. */
+using Clock = std::function<qint64()>;
+[[nodiscard]] qint64 systemClock();
+
+/** How the text files of a folder differ from what was recorded. Paths are relative, sorted. */
+struct DiskChanges
+{
+    QStringList added;
+    QStringList removed;
+    QStringList changed;
+
+    [[nodiscard]] bool isEmpty() const { return added.isEmpty() && removed.isEmpty() && changed.isEmpty(); }
+};
+
+/**
+ * What the text files of a project folder looked like when this program last read or wrote them: the guard
+ * against overwriting what others wrote, and the common ancestor of a merge. Bytes are kept once and shared.
+ *
+ * A file whose stamp is the recorded one is unchanged without being read, provided the stamp had settled when
+ * it was taken: a file changed twice within the clock's resolution keeps its stamp. Any other file is read
+ * and compared, so a touched time or an identical rewrite is no change.
+ *
+ * Belongs to the main thread. The file system must outlive it.
+ */
+class DiskState
+{
+public:
+    explicit DiskState(FileSystem& fileSystem, Clock clock = systemClock);
+
+    /** Records a file as just read or written. */
+    void record(const QString& relativePath, QByteArray bytes, const FileStamp& stamp);
+    /** Records our own write of these bytes with the stamp the file has now. */
+    void recordWritten(const QString& folder, const QString& relativePath, QByteArray bytes);
+    void forget(const QString& relativePath) { m_records.remove(relativePath); }
+    void clear() { m_records.clear(); }
+
+    /** Reads and records every text file of the folder that is not recorded yet. */
+    void recordUnseen(const QString& folder);
+
+    [[nodiscard]] qsizetype count() const { return m_records.size(); }
+    [[nodiscard]] bool contains(const QString& relativePath) const
+    {
+        return m_records.contains(relativePath);
+    }
+    /** The recorded bytes; null when the file is not recorded. */
+    [[nodiscard]] QByteArray bytes(const QString& relativePath) const;
+    [[nodiscard]] QStringList paths() const { return m_records.keys(); }
+
+    /** Compares the folder with the records: one stat a file, plus a read of what moved. */
+    [[nodiscard]] DiskChanges changesIn(const QString& folder);
+    /** Whether one file is still as recorded; one that is not recorded must not exist. */
+    [[nodiscard]] bool isUnchanged(const QString& folder, const QString& relativePath);
+
+private:
+    struct Record
+    {
+        QByteArray bytes;
+        FileStamp stamp;
+        bool isSettled = false;
+    };
+
+    [[nodiscard]] bool isSettled(const FileStamp& stamp) const;
+    /** Reads the file and compares; an equal one gets its new stamp. */
+    [[nodiscard]] bool isSameContent(const QString& path, Record& record);
+
+    FileSystem* m_fileSystem; // never null; a pointer, so that a state can be replaced whole
+    Clock m_clock;
+    QHash<QString, Record> m_records;
+};
+
+} // namespace tw::app::persistence

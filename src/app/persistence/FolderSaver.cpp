@@ -1,0 +1,208 @@
+#include "app/persistence/FolderSaver.h"
+
+#include "app/persistence/codec/ProjectCodec.h"
+#include "app/persistence/files/ProjectFiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace tw::app::persistence {
+
+using core::Failure;
+using core::Result;
+using core::project::Project;
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Persistence", text);
+}
+
+bool isIn(QStringView folder, const QString& relativePath)
+{
+    return relativePath.startsWith(folder) && relativePath.size() > folder.size() &&
+           relativePath.at(folder.size()) == u'/' && relativePath.indexOf(u'/', folder.size() + 1) < 0;
+}
+
+} // namespace
+
+Failure changedOnDiskFailure()
+{
+    return {translated(QT_TRANSLATE_NOOP(
+        "Persistence", "The project changed on disk since it was opened, so saving now would overwrite those "
+                       "changes. Review "
+                       "them first."))};
+}
+
+FolderSaver::FolderSaver(
+    const StorageEnvironment& environment, QString folder, DiskState& disk, SavedState& saved)
+    : m_folder(std::move(folder))
+    , m_fileSystem(environment.fileSystem)
+    , m_disk(disk)
+    , m_saved(saved)
+    , m_writer(environment.fileSystem, environment.retryPolicy, environment.sleeper)
+{}
+
+Result<void> FolderSaver::save(const Project& project, SaveExtent extent)
+{
+    if (auto saved = saveObjects(project, extent); !saved)
+        return saved;
+    if (auto saved = saveTaxonomy(project); !saved)
+        return saved;
+    if (auto saved = saveProjectDocument(project); !saved)
+        return saved;
+    return m_writer.syncFolders();
+}
+
+Result<void> FolderSaver::prepareFolder(QStringView name, const char* failureText)
+{
+    const QString path = m_folder + u'/' + name.toString();
+    const QString nativePath = QDir::toNativeSeparators(path);
+    if (!m_fileSystem.makeFolders(path))
+        return Failure{translated(failureText).arg(nativePath)};
+    if (QFileInfo(path).isSymLink()) {
+        return Failure{
+            translated(QT_TRANSLATE_NOOP(
+                           "Persistence",
+                           "The folder %1 is a link that leads out of the project. Put a real folder in "
+                           "its place, then save again."))
+                .arg(nativePath)};
+    }
+    return {};
+}
+
+Result<void> FolderSaver::saveObjects(const Project& project, SaveExtent extent)
+{
+    if (auto ready = prepareFolder(
+            objectsFolder, QT_TRANSLATE_NOOP("Persistence", "Cannot create project folder: %1"));
+        !ready)
+        return ready;
+    std::vector<PendingFile> files;
+    qsizetype known = 0;
+    for (const auto& [id, object] : project.objects()) {
+        const auto saved = m_saved.revisions.constFind(id);
+        const bool isKnown = saved != m_saved.revisions.constEnd();
+        known += isKnown ? 1 : 0;
+        if (extent == SaveExtent::Changed && isKnown && *saved == object->revision())
+            continue;
+        files.push_back({objectPath(id), serializeObject(*object), id, object->revision()});
+    }
+    if (auto written = writeChanged(std::move(files)); !written)
+        return written;
+
+    QStringList obsolete;
+    if (known != m_saved.revisions.size()) {
+        for (auto saved = m_saved.revisions.cbegin(); saved != m_saved.revisions.cend(); ++saved) {
+            if (!project.contains(saved.key()))
+                obsolete.append(objectPath(saved.key()));
+        }
+    }
+    if (auto removed = removeFiles(obsolete); !removed)
+        return removed;
+    m_saved.revisions.removeIf([&project](const auto& saved) { return !project.contains(saved.key()); });
+    return removeStrays(objectsFolder);
+}
+
+Result<void> FolderSaver::saveTaxonomy(const Project& project)
+{
+    if (auto ready = prepareFolder(
+            taxonomyFolder, QT_TRANSLATE_NOOP("Persistence", "Cannot create taxonomy folder: %1"));
+        !ready)
+        return ready;
+    std::vector<PendingFile> files;
+    QSet<QString> kept;
+    for (const auto& [id, category] : project.taxonomy().categories()) {
+        files.push_back({categoryPath(id), serializeCategory(category), {}, 0});
+        kept.insert(files.back().relativePath);
+    }
+    if (auto written = writeChanged(std::move(files)); !written)
+        return written;
+
+    QStringList obsolete;
+    for (const QString& path : m_disk.paths()) {
+        if (isIn(taxonomyFolder, path) && isProjectFile(path) && !kept.contains(path.toLower()))
+            obsolete.append(path);
+    }
+    if (auto removed = removeFiles(obsolete); !removed)
+        return removed;
+    return removeStrays(taxonomyFolder);
+}
+
+Result<void> FolderSaver::saveProjectDocument(const Project& project)
+{
+    return writeChanged({{projectFileName.toString(), serializeProjectDocument(project), {}, 0}});
+}
+
+Result<void> FolderSaver::writeChanged(std::vector<PendingFile> files)
+{
+    std::vector<PendingFile> changed;
+    QList<FileWrite> writes;
+    for (PendingFile& file : files) {
+        if (m_disk.contains(file.relativePath) && m_disk.bytes(file.relativePath) == file.bytes) {
+            if (!file.objectId.isNull())
+                m_saved.revisions.insert(file.objectId, file.revision);
+            continue;
+        }
+        writes.append({m_folder + u'/' + file.relativePath, file.bytes});
+        changed.push_back(std::move(file));
+    }
+    const BatchOutcome outcome = m_writer.writeAll(writes, [&](qsizetype index) -> Result<void> {
+        const PendingFile& file = changed[static_cast<std::size_t>(index)];
+        if (!m_disk.isUnchanged(m_folder, file.relativePath))
+            return changedOnDiskFailure();
+        return {};
+    });
+    for (qsizetype index = 0; index < outcome.committed; ++index)
+        noteSaved(changed[static_cast<std::size_t>(index)]);
+    return outcome.result;
+}
+
+void FolderSaver::noteSaved(const PendingFile& file)
+{
+    m_disk.recordWritten(m_folder, file.relativePath, file.bytes);
+    if (!file.objectId.isNull())
+        m_saved.revisions.insert(file.objectId, file.revision);
+}
+
+Result<void> FolderSaver::removeFiles(const QStringList& relativePaths)
+{
+    for (const QString& relativePath : relativePaths) {
+        const QString path = m_folder + u'/' + relativePath;
+        if (m_disk.contains(relativePath) && !m_disk.isUnchanged(m_folder, relativePath))
+            return changedOnDiskFailure();
+        if (!m_writer.remove(path)) {
+            return Failure{
+                translated(QT_TRANSLATE_NOOP(
+                               "Persistence",
+                               "Could not remove '%1' (it may be locked by another program -- the desktop "
+                               "app, a sync client, or antivirus)."))
+                    .arg(path)};
+        }
+        m_disk.forget(relativePath);
+    }
+    return {};
+}
+
+Result<void> FolderSaver::removeStrays(QStringView folder)
+{
+    QStringList strays;
+    for (const QString& relativePath : m_saved.strayFiles) {
+        if (!isIn(folder, relativePath))
+            continue;
+        // Where case does not count in names, the stray may be the very file that was just written.
+        const auto stray = m_fileSystem.stamp(m_folder + u'/' + relativePath);
+        const auto written = m_fileSystem.stamp(m_folder + u'/' + relativePath.toLower());
+        if (relativePath == relativePath.toLower() || !stray || !written || *stray != *written)
+            strays.append(relativePath);
+        else
+            m_disk.forget(relativePath);
+    }
+    if (auto removed = removeFiles(strays); !removed)
+        return removed;
+    m_saved.strayFiles.removeIf([folder](const QString& path) { return isIn(folder, path); });
+    return {};
+}
+
+} // namespace tw::app::persistence

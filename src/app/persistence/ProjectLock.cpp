@@ -1,0 +1,57 @@
+#include "app/persistence/ProjectLock.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+
+#include <chrono>
+
+namespace tw::app::persistence {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::milliseconds longestWait{1500};
+
+QString lockPath(const QString& projectPath, const QString& dataFolder)
+{
+    const QFileInfo info(projectPath);
+    const QString canonical = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    const QByteArray hash = QCryptographicHash::hash(canonical.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return dataFolder + u"/locks/"_s + QString::fromLatin1(hash.first(32)) + u".lock"_s;
+}
+
+} // namespace
+
+core::Result<ProjectLock> ProjectLock::acquire(const QString& projectPath, const QString& dataFolder)
+{
+    const QString path = lockPath(projectPath, dataFolder);
+    if (!QDir().mkpath(QFileInfo(path).path())) {
+        return core::Failure{
+            QCoreApplication::translate("Persistence", "Cannot create the folder for locks: %1")
+                .arg(QDir::toNativeSeparators(QFileInfo(path).path()))};
+    }
+    auto file = std::make_unique<QLockFile>(path);
+    // A crashed holder is known by its process id; age alone says nothing about a slow disk.
+    file->setStaleLockTime(0);
+    if (!file->tryLock(static_cast<int>(longestWait.count()))) {
+        return core::Failure{
+            QCoreApplication::translate(
+                "Persistence", "Another program is saving this project right now: %1. Try again in a moment.")
+                .arg(QDir::toNativeSeparators(projectPath))};
+    }
+    return ProjectLock(std::move(file));
+}
+
+ProjectLock::ProjectLock(std::unique_ptr<QLockFile> file)
+    : m_file(std::move(file))
+{}
+
+ProjectLock::ProjectLock(ProjectLock&&) noexcept = default;
+ProjectLock& ProjectLock::operator=(ProjectLock&&) noexcept = default;
+ProjectLock::~ProjectLock() = default;
+
+} // namespace tw::app::persistence

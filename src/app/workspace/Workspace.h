@@ -1,0 +1,104 @@
+#pragma once
+
+#include "app/persistence/DiskState.h"
+#include "app/persistence/FolderSaver.h"
+#include "app/persistence/StorageEnvironment.h"
+#include "app/workspace/MountedLibrary.h"
+#include "core/foundation/Result.h"
+#include "core/project/Project.h"
+#include "core/undo/UndoStack.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace tw::app::workspace {
+
+/**
+ * One open project in memory: its objects, its history, and where it lives on disk and what the disk looked
+ * like. Every reader gets the project's data here, every change goes through the undo stack.
+ *
+ * Main thread only. The storage environment must outlive it. Failures leave the workspace as it was.
+ */
+class Workspace
+{
+public:
+    /** A new, empty project without a place on disk. */
+    explicit Workspace(const persistence::StorageEnvironment& environment);
+    ~Workspace();
+
+    Workspace(const Workspace&) = delete;
+    Workspace& operator=(const Workspace&) = delete;
+
+    /** Opens a project folder. Nothing is kept of one that fails to load. */
+    [[nodiscard]] static core::Result<std::unique_ptr<Workspace>> openFolder(
+        const persistence::StorageEnvironment& environment, const QString& folder);
+
+    [[nodiscard]] const core::project::Project& project() const { return *m_project; }
+    /** For building commands and for running them; nothing else changes the project. */
+    [[nodiscard]] core::project::Project& projectForEdit() { return *m_project; }
+    [[nodiscard]] core::undo::UndoStack& undoStack() { return m_undoStack; }
+    [[nodiscard]] const core::undo::UndoStack& history() const { return m_undoStack; }
+
+    /** The project folder; empty when the project was never saved. */
+    [[nodiscard]] const QString& folderPath() const { return m_folderPath; }
+    [[nodiscard]] bool hasPath() const { return !m_folderPath.isEmpty(); }
+    /** The path of a project that is one file; empty for a folder. */
+    [[nodiscard]] const QString& singleFilePath() const { return m_singleFilePath; }
+    [[nodiscard]] bool hasSingleFile() const { return !m_singleFilePath.isEmpty(); }
+    /** The path to show and to remember. */
+    [[nodiscard]] const QString& displayPath() const;
+    /** The project's name, or that of its folder or file; empty for a new one. */
+    [[nodiscard]] QString displayName() const;
+
+    [[nodiscard]] bool isModified() const { return m_undoStack.isModified(); }
+    void markModified() { m_undoStack.markModified(); }
+
+    /**
+     * Writes what moved since the last save. Refused, with nothing written, when the folder changed under us.
+     * `SaveExtent::Everything` writes every object anew and compares: for closing and copies.
+     */
+    [[nodiscard]] core::Result<void> save(persistence::SaveExtent extent = persistence::SaveExtent::Changed);
+
+    /**
+     * Gives the project a new folder, with a copy of its assets and other files, and saves it there. Refused
+     * when the folder holds another project.
+     */
+    [[nodiscard]] core::Result<void> saveAs(const QString& folder);
+
+    /** Reads the project anew; the history is lost. Refused while a macro is open. */
+    [[nodiscard]] core::Result<void> reload();
+
+    /** How the folder differs from what was last read or written here. */
+    [[nodiscard]] persistence::DiskChanges externalChanges();
+
+    /** Copies a file into the project's assets; gives the path to store in the object. */
+    [[nodiscard]] core::Result<QString> importAsset(const QString& sourceFile);
+
+    /** Other projects that can be read from this one. Ids of the open project win. */
+    [[nodiscard]] const std::vector<MountedLibrary>& libraries() const { return m_libraries; }
+    /** What went wrong with libraries at the last load; the project itself is open all the same. */
+    [[nodiscard]] const QStringList& libraryNotices() const { return m_libraryNotices; }
+    /** Reads the mounted libraries anew, after the list of mounts changed. */
+    void reloadLibraries();
+
+private:
+    [[nodiscard]] core::Result<void> load(const QString& folder);
+
+    const persistence::StorageEnvironment& m_environment;
+    std::unique_ptr<core::project::Project> m_project;
+    core::undo::UndoStack m_undoStack;
+    QString m_folderPath;
+    QString m_singleFilePath;
+    /** Size and time of the single file when it was opened or last saved. */
+    qint64 m_openedFileSize = 0;
+    QDateTime m_openedFileTime;
+    persistence::DiskState m_openedFolderFingerprint;
+    persistence::SavedState m_saved;
+    std::vector<MountedLibrary> m_libraries;
+    QStringList m_libraryNotices;
+};
+
+} // namespace tw::app::workspace

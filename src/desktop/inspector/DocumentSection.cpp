@@ -1,0 +1,187 @@
+#include "desktop/inspector/DocumentSection.h"
+
+#include "core/document/DocumentCommands.h"
+#include "desktop/fields/StoryDateEdit.h"
+#include "desktop/inspector/NoteEdit.h"
+#include "desktop/shell/ProjectSession.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <set>
+
+namespace tw::desktop::inspector {
+
+using core::document::Document;
+using core::document::DocumentKind;
+
+namespace {
+
+constexpr int synopsisLines = 6;
+constexpr int tensionSteps = 10;
+constexpr int largestTarget = 1'000'000;
+constexpr int targetStep = 100;
+
+QComboBox* makeSuggestionBox(QWidget* parent)
+{
+    auto* const box = new QComboBox(parent);
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return box;
+}
+
+void setSuggestions(QComboBox& box, const std::set<QString>& texts, const QString& shown)
+{
+    const QSignalBlocker blocker(box);
+    box.clear();
+    for (const QString& text : texts)
+        box.addItem(text);
+    box.setEditText(shown);
+}
+
+} // namespace
+
+DocumentSection::DocumentSection(const shell::DeskContext& desk, QWidget* parent)
+    : QWidget(parent)
+    , m_desk(desk)
+    , m_synopsis(new NoteEdit(synopsisLines, this))
+    , m_kind(new QComboBox(this))
+    , m_status(makeSuggestionBox(this))
+    , m_pointOfView(makeSuggestionBox(this))
+    , m_tension(new QSpinBox(this))
+    , m_sceneDate(new fields::StoryDateEdit(desk.themes, this))
+    , m_target(new QSpinBox(this))
+{
+    auto* const form = new QFormLayout(this);
+    form->setContentsMargins(0, 0, 0, 0);
+    form->setVerticalSpacing(8);
+    form->setRowWrapPolicy(QFormLayout::DontWrapRows);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setLabelAlignment(Qt::AlignLeft);
+    auto* const synopsisLabel = new QLabel(tr("S&ynopsis"), this);
+    synopsisLabel->setBuddy(m_synopsis);
+    form->addRow(synopsisLabel);
+    form->addRow(m_synopsis);
+    auto* const dateLabel = new QLabel(tr("Story &date"), this);
+    dateLabel->setBuddy(m_sceneDate);
+    form->addRow(dateLabel);
+    form->addRow(m_sceneDate);
+    form->addRow(tr("S&tatus"), m_status);
+    form->addRow(tr("&Point of view"), m_pointOfView);
+    form->addRow(tr("Te&nsion"), m_tension);
+    form->addRow(tr("Tar&get"), m_target);
+    form->addRow(tr("&Kind"), m_kind);
+    m_synopsis->setPlaceholderText(tr("What happens here, in a few sentences"));
+    m_synopsis->setAccessibleName(tr("Synopsis"));
+    m_kind->addItem(tr("Prose"), static_cast<int>(DocumentKind::Prose));
+    m_kind->addItem(tr("Screenplay"), static_cast<int>(DocumentKind::Screenplay));
+    m_kind->addItem(tr("Note"), static_cast<int>(DocumentKind::Note));
+    m_tension->setRange(0, tensionSteps);
+    m_tension->setKeyboardTracking(false);
+    m_target->setRange(0, largestTarget);
+    m_target->setSingleStep(targetStep);
+    m_target->setGroupSeparatorShown(true);
+    m_target->setSpecialValueText(tr("None"));
+    m_target->setSuffix(tr(" words"));
+    m_target->setKeyboardTracking(false);
+    connectFields();
+}
+
+void DocumentSection::connectFields()
+{
+    namespace doc = core::document;
+    connect(m_synopsis, &NoteEdit::textCommitted, this, [this](const QString& text) {
+        apply<doc::SetDocumentSynopsisCommand>(text);
+    });
+    connect(m_kind, &QComboBox::activated, this, [this] {
+        apply<doc::SetDocumentKindCommand>(static_cast<DocumentKind>(m_kind->currentData().toInt()));
+    });
+    const auto commitStatus = [this] {
+        if (document() && document()->status() != m_status->currentText())
+            apply<doc::SetDocumentStatusCommand>(m_status->currentText());
+    };
+    connect(m_status, &QComboBox::activated, this, commitStatus);
+    connect(m_status->lineEdit(), &QLineEdit::editingFinished, this, commitStatus);
+    const auto commitPointOfView = [this] {
+        if (document() && document()->pointOfView() != m_pointOfView->currentText())
+            apply<doc::SetDocumentPointOfViewCommand>(m_pointOfView->currentText());
+    };
+    connect(m_pointOfView, &QComboBox::activated, this, commitPointOfView);
+    connect(m_pointOfView->lineEdit(), &QLineEdit::editingFinished, this, commitPointOfView);
+    connect(m_tension, &QSpinBox::valueChanged, this, [this](int value) {
+        apply<doc::SetDocumentTensionLevelCommand>(value);
+    });
+    connect(m_target, &QSpinBox::valueChanged, this, [this](int value) {
+        apply<doc::SetDocumentTargetCommand>(value);
+    });
+    connect(
+        m_sceneDate, &fields::StoryDateEdit::instantEdited, this,
+        [this](const std::optional<core::calendar::StoryInstant>& instant) {
+            apply<doc::SetDocumentSceneInstantCommand>(instant);
+        });
+    connect(&m_desk.session, &shell::ProjectSession::commitRequested, this, &DocumentSection::commitPending);
+}
+
+template <class Command, class Value>
+void DocumentSection::apply(Value value)
+{
+    if (auto* const shown = m_desk.session.projectForCommands().findAsForEdit<Document>(m_id))
+        m_desk.session.apply(std::make_unique<Command>(*shown, std::move(value)));
+}
+
+const Document* DocumentSection::document() const
+{
+    return m_desk.session.project().findAs<Document>(m_id);
+}
+
+void DocumentSection::commitPending()
+{
+    m_synopsis->commit();
+}
+
+void DocumentSection::showDocument(const core::ContentId& id)
+{
+    if (id != m_id)
+        commitPending();
+    m_id = id;
+    const Document* const shown = document();
+    setEnabled(shown && !shown->isLocked());
+    if (!shown)
+        return;
+    m_synopsis->showText(shown->synopsis());
+    fillSuggestions();
+    const QSignalBlocker kindBlocker(m_kind);
+    m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(shown->documentKind())));
+    const QSignalBlocker tensionBlocker(m_tension);
+    // A file may hold any number; showing it must not change it.
+    m_tension->setRange(std::min(0, shown->tensionLevel()), std::max(tensionSteps, shown->tensionLevel()));
+    m_tension->setValue(shown->tensionLevel());
+    const QSignalBlocker targetBlocker(m_target);
+    m_target->setRange(
+        std::min(0, shown->wordCountTarget()), std::max(largestTarget, shown->wordCountTarget()));
+    m_target->setValue(shown->wordCountTarget());
+    m_sceneDate->setCalendar(m_desk.session.project().calendar());
+    m_sceneDate->setInstant(shown->sceneInstant());
+}
+
+void DocumentSection::fillSuggestions()
+{
+    std::set<QString> statuses{tr("Idea"), tr("First draft"), tr("Revised"), tr("Final")};
+    std::set<QString> pointsOfView;
+    for (const Document* other : core::project::objectsOf<Document>(m_desk.session.project())) {
+        statuses.insert(other->status());
+        pointsOfView.insert(other->pointOfView());
+    }
+    statuses.erase(QString());
+    pointsOfView.erase(QString());
+    setSuggestions(*m_status, statuses, document()->status());
+    setSuggestions(*m_pointOfView, pointsOfView, document()->pointOfView());
+}
+
+} // namespace tw::desktop::inspector

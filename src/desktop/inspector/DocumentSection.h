@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/foundation/Id.h"
+#include "desktop/shell/DeskContext.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QComboBox;
+class QSpinBox;
+
+namespace tw::core::document {
+class Document;
+}
+namespace tw::core::undo {
+class Command;
+}
+namespace tw::desktop::fields {
+class StoryDateEdit;
+}
+
+namespace tw::desktop::inspector {
+
+class NoteEdit;
+
+/** The planning data of a document: each field one command, committed when it is left. */
+class DocumentSection final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    DocumentSection(const shell::DeskContext& desk, QWidget* parent);
+
+    /** Null shows nothing. What was typed for the document before is committed first. */
+    void showDocument(const core::ContentId& id);
+
+private:
+    void connectFields();
+    void commitPending();
+    void fillSuggestions();
+    /** Builds a command for the shown document and applies it. */
+    template <class Command, class Value>
+    void apply(Value value);
+    [[nodiscard]] const core::document::Document* document() const;
+
+    shell::DeskContext m_desk;
+    core::ContentId m_id;
+    NoteEdit* m_synopsis;
+    QComboBox* m_kind;
+    QComboBox* m_status;
+    QComboBox* m_pointOfView;
+    QSpinBox* m_tension;
+    fields::StoryDateEdit* m_sceneDate;
+    QSpinBox* m_target;
+};
+
+} // namespace tw::desktop::inspector

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "core/project/ProjectChanges.h"
+#include "desktop/icons/Icon.h"
+#include "desktop/shell/DeskContext.h"
+
+#include <QAbstractItemModel>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace tw::core::document {
+class Document;
+}
+
+namespace tw::desktop::manuscript {
+
+[[nodiscard]] icons::Icon iconForDocument(const core::document::Document& document, bool hasChildren);
+
+/**
+ * The tree of documents for a NavigatorTree: titles to rename in place, rows to drag, words and status.
+ * Follows the session; a change of structure resets it, and whoever shows it restores what was open by id.
+ */
+class ManuscriptModel final : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    explicit ManuscriptModel(const shell::DeskContext& desk, QObject* parent = nullptr);
+    ~ManuscriptModel() override;
+
+    [[nodiscard]] core::ContentId idAt(const QModelIndex& index) const;
+    [[nodiscard]] QModelIndex indexOf(const core::ContentId& id) const;
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& child) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    Qt::DropActions supportedDropActions() const override;
+    QStringList mimeTypes() const override;
+    QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    bool canDropMimeData(
+        const QMimeData* data, Qt::DropAction action, int row, int column,
+        const QModelIndex& parent) const override;
+    bool dropMimeData(
+        const QMimeData* data, Qt::DropAction action, int row, int column,
+        const QModelIndex& parent) override;
+
+private:
+    struct Node;
+
+    void followChanges(const core::project::ProjectChanges& changes);
+    [[nodiscard]] bool isSameStructure() const;
+    void rebuild();
+    [[nodiscard]] const Node* nodeAt(const QModelIndex& index) const;
+    [[nodiscard]] QModelIndex indexOfNode(const Node& node) const;
+    [[nodiscard]] qint64 wordsBeneath(const Node& node) const;
+    [[nodiscard]] QVariant dotColor(const core::document::Document& document) const;
+
+    shell::DeskContext m_desk;
+    std::unique_ptr<Node> m_root;
+    std::map<core::ContentId, Node*> m_nodes;
+};
+
+} // namespace tw::desktop::manuscript

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QTextEdit>
+
+namespace tw::desktop::theme {
+class ThemeManager;
+}
+
+namespace tw::desktop::manuscript {
+
+/** How the page is set. */
+struct PageStyle
+{
+    QString fontFamily;
+    qreal fontPointSize = 13;
+    /** 1.0 is the font's own size; apart from the font, as a magnifying glass. */
+    qreal zoom = 1.0;
+
+    friend bool operator==(const PageStyle&, const PageStyle&) = default;
+};
+
+/**
+ * A sheet of paper for Markdown text: a column some 66 characters wide in the middle, generous lines, the
+ * marks of the markup shown quietly. Holds plain text; undo belongs to the project, not to this widget.
+ */
+class MarkdownPage final : public QTextEdit
+{
+    Q_OBJECT
+
+public:
+    MarkdownPage(theme::ThemeManager& themes, QWidget* parent);
+
+    void setPageStyle(const PageStyle& style);
+
+    /**
+     * Makes the text this one by the smallest edit, so that cursor and scroll position stay where they are.
+     * Emits nothing but the document's own signals.
+     */
+    void applyText(const QString& text);
+
+signals:
+    void focusLeft();
+    /** Ctrl and the wheel: one step larger (1) or smaller (-1). */
+    void zoomStepRequested(int step);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    bool canInsertFromMimeData(const QMimeData* source) const override;
+    void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    void applyTheme();
+    void layOutColumn();
+    void formatLines();
+
+    theme::ThemeManager& m_themes;
+    PageStyle m_style;
+    /** The desk to the left and right of the sheet, in pixels. */
+    int m_sheetMargin = 0;
+};
+
+} // namespace tw::desktop::manuscript

@@ -1,0 +1,177 @@
+#include "desktop/shell/DockLayout.h"
+
+#include "desktop/icons/IconSet.h"
+#include "desktop/theme/StyleSheets.h"
+#include "desktop/theme/ThemeManager.h"
+
+#include <DockAreaWidget.h>
+#include <DockManager.h>
+#include <DockSplitter.h>
+#include <DockWidget.h>
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QSettings>
+
+#include <array>
+
+namespace tw::desktop::shell {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/** Raised when panels change so much that an old layout would lose some of them. */
+constexpr int layoutVersion = 1;
+
+constexpr std::array allPlaces{DockPlace::Left, DockPlace::Right, DockPlace::Bottom};
+
+ads::DockWidgetArea areaOf(DockPlace place)
+{
+    switch (place) {
+    case DockPlace::Left:
+        return ads::LeftDockWidgetArea;
+    case DockPlace::Right:
+        return ads::RightDockWidgetArea;
+    case DockPlace::Bottom:
+        return ads::BottomDockWidgetArea;
+    }
+    return ads::LeftDockWidgetArea;
+}
+
+void configureDocking()
+{
+    ads::CDockManager::setConfigFlags(
+        ads::CDockManager::OpaqueSplitterResize | ads::CDockManager::XmlCompressionEnabled |
+        ads::CDockManager::DragPreviewShowsContentPixmap |
+        ads::CDockManager::DockAreaHasTabsMenuButton |
+        ads::CDockManager::DockAreaDynamicTabsMenuButtonVisibility |
+        ads::CDockManager::FloatingContainerHasWidgetTitle |
+        ads::CDockManager::FloatingContainerHasWidgetIcon |
+        ads::CDockManager::HideSingleCentralWidgetTitleBar | ads::CDockManager::FocusHighlighting |
+        ads::CDockManager::DockAreaHasCloseButton | ads::CDockManager::DockAreaCloseButtonClosesTab |
+        ads::CDockManager::DockAreaHideDisabledButtons);
+}
+
+} // namespace
+
+DockLayout::DockLayout(
+    QMainWindow& window, QWidget* center, theme::ThemeManager& themes, const icons::IconSet& icons)
+    : QObject(&window)
+    , m_themes(themes)
+    , m_icons(icons)
+    , m_window(window)
+{
+    configureDocking();
+    m_manager = new ads::CDockManager(&window);
+    auto* const central = new ads::CDockWidget(u"center"_s);
+    central->setObjectName(u"center"_s);
+    central->setWidget(center, ads::CDockWidget::ForceNoScrollArea);
+    central->setFeature(ads::CDockWidget::NoTab, true);
+    m_manager->setCentralWidget(central);
+    applyTheme();
+    connect(&themes, &theme::ThemeManager::themeChanged, this, &DockLayout::applyTheme);
+}
+
+void DockLayout::applyTheme()
+{
+    m_manager->setStyleSheet(theme::dockingStyleSheet(m_themes.theme()));
+}
+
+void DockLayout::addPanel(const PanelSpec& spec, QWidget* panel)
+{
+    auto* const dock = new ads::CDockWidget(spec.title);
+    dock->setObjectName(spec.objectName);
+    dock->setWidget(panel, ads::CDockWidget::ForceNoScrollArea);
+    dock->setMinimumSizeHintMode(ads::CDockWidget::MinimumSizeHintFromContent);
+    dock->setIcon(m_icons.icon(spec.icon));
+    dock->toggleViewAction()->setIcon(m_icons.icon(spec.icon));
+    m_panels.push_back({spec, dock});
+}
+
+void DockLayout::fillMenu(QMenu& menu)
+{
+    for (const DockPlace place : allPlaces) {
+        bool isEmpty = true;
+        for (const Panel& panel : m_panels) {
+            if (panel.spec.place != place)
+                continue;
+            menu.addAction(panel.dock->toggleViewAction());
+            isEmpty = false;
+        }
+        if (!isEmpty)
+            menu.addSeparator();
+    }
+    auto* const resetAction = menu.addAction(m_icons.icon(icons::Icon::Layout), tr("Reset Layout"));
+    connect(resetAction, &QAction::triggered, this, &DockLayout::reset);
+}
+
+bool DockLayout::showPanel(const QString& objectName)
+{
+    for (const Panel& panel : m_panels) {
+        if (panel.spec.objectName != objectName)
+            continue;
+        panel.dock->toggleView(true);
+        panel.dock->setAsCurrentTab();
+        panel.dock->widget()->setFocus(Qt::ShortcutFocusReason);
+        return true;
+    }
+    return false;
+}
+
+QStringList DockLayout::panelNames() const
+{
+    QStringList names;
+    for (const Panel& panel : m_panels)
+        names.append(panel.spec.objectName);
+    return names;
+}
+
+void DockLayout::placeAll()
+{
+    // One tab group a place, the first panel of each in front.
+    for (const DockPlace place : allPlaces) {
+        ads::CDockAreaWidget* group = nullptr;
+        ads::CDockWidget* first = nullptr;
+        for (const Panel& panel : m_panels) {
+            if (panel.spec.place != place)
+                continue;
+            group = group ? m_manager->addDockWidgetTabToArea(panel.dock, group)
+                          : m_manager->addDockWidget(areaOf(place), panel.dock);
+            panel.dock->toggleView(true);
+            first = first ? first : panel.dock;
+        }
+        if (first)
+            first->setAsCurrentTab();
+    }
+}
+
+void DockLayout::reset()
+{
+    placeAll();
+    // Navigators and inspector keep their size, the work gets the rest.
+    const int unit = m_window.fontMetrics().averageCharWidth();
+    const QList<ads::CDockSplitter*> splitters = m_manager->findChildren<ads::CDockSplitter*>();
+    for (ads::CDockSplitter* const splitter : splitters) {
+        if (splitter->orientation() != Qt::Horizontal || splitter->count() != 3)
+            continue;
+        const int side = 38 * unit;
+        const int total = std::max(splitter->width(), m_window.width());
+        splitter->setSizes({side, std::max(total - 2 * side, side), side});
+    }
+}
+
+void DockLayout::restore(const QSettings& settings)
+{
+    placeAll();
+    const QByteArray state = settings.value("window/dockState").toByteArray();
+    if (state.isEmpty() || !m_manager->restoreState(state, layoutVersion))
+        reset();
+}
+
+void DockLayout::save(QSettings& settings) const
+{
+    settings.setValue("window/dockState", m_manager->saveState(layoutVersion));
+}
+
+} // namespace tw::desktop::shell

@@ -1,0 +1,303 @@
+#include "desktop/shell/MainWindow.h"
+
+#include "desktop/icons/IconSet.h"
+#include "desktop/shell/DockLayout.h"
+#include "desktop/shell/Navigator.h"
+#include "desktop/shell/ObjectTitles.h"
+#include "desktop/shell/ProjectSession.h"
+#include "desktop/shell/RecentProjects.h"
+#include "desktop/shell/StatusStrip.h"
+#include "desktop/shell/WelcomePage.h"
+#include "desktop/shell/WorkArea.h"
+
+#include <QCloseEvent>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QStandardPaths>
+#include <QStatusBar>
+
+namespace tw::desktop::shell {
+
+using namespace Qt::Literals::StringLiterals;
+using app::persistence::SaveExtent;
+
+namespace {
+
+constexpr QSize firstSize{1440, 900};
+constexpr int messageTime = 6000;
+
+} // namespace
+
+MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
+    : m_desk(desk)
+    , m_samplePath(std::move(samplePath))
+    , m_center(new QStackedWidget)
+    , m_workArea(new WorkArea(desk, m_center))
+    , m_welcome(new WelcomePage(desk.icons, !m_samplePath.isEmpty(), m_center))
+    , m_docks(nullptr)
+    , m_status(new StatusStrip(desk, *statusBar()))
+{
+    setObjectName(u"mainWindow"_s);
+    m_center->addWidget(m_welcome);
+    m_center->addWidget(m_workArea);
+    m_docks = new DockLayout(*this, m_center, desk.themes, desk.icons);
+    addPanels();
+    buildMenus();
+    restoreWindow();
+
+    connect(m_workArea, &WorkArea::currentPageChanged, m_status, &StatusStrip::setPage);
+    connect(&desk.session, &ProjectSession::historyChanged, this, &MainWindow::refreshHistory);
+    connect(&desk.session, &ProjectSession::saveStateChanged, this, &MainWindow::refreshTitle);
+    connect(
+        &desk.session, &ProjectSession::changed, this, [this](const core::project::ProjectChanges& changes) {
+            if (changes.isEverything || changes.areSettingsChanged)
+                refreshTitle();
+        });
+    connect(&desk.navigator, &Navigator::said, this, [this](const QString& text) {
+        statusBar()->showMessage(text, messageTime);
+    });
+    connect(m_welcome, &WelcomePage::newRequested, this, &MainWindow::newProject);
+    connect(m_welcome, &WelcomePage::openRequested, this, &MainWindow::chooseAndOpen);
+    connect(m_welcome, &WelcomePage::sampleRequested, this, &MainWindow::openSample);
+    connect(m_welcome, &WelcomePage::recentRequested, this, &MainWindow::openProject);
+    showWelcomeOrWork();
+    refreshHistory();
+    refreshTitle();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::restoreWindow()
+{
+    resize(firstSize);
+    const QByteArray geometry = m_desk.settings.value("window/geometry").toByteArray();
+    if (!geometry.isEmpty())
+        restoreGeometry(geometry);
+    m_docks->restore(m_desk.settings);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!settleUnsavedChanges()) {
+        event->ignore();
+        return;
+    }
+    rememberPages();
+    m_desk.settings.setValue("window/geometry", saveGeometry());
+    m_docks->save(m_desk.settings);
+    event->accept();
+}
+
+bool MainWindow::openProject(const QString& path)
+{
+    if (!settleUnsavedChanges())
+        return false;
+    rememberPages();
+    if (const auto opened = m_desk.session.open(path); !opened) {
+        tell(tr("Open Project"), opened.message());
+        RecentProjects(m_desk.settings).remove(path);
+        showWelcomeOrWork();
+        return false;
+    }
+    noteOpened();
+    return true;
+}
+
+bool MainWindow::reopenLast()
+{
+    if (m_desk.settings.value("general/reopenLast", u"true"_s).toString() != u"true")
+        return false;
+    const QStringList recent = RecentProjects(m_desk.settings).paths();
+    return !recent.isEmpty() && QFileInfo::exists(recent.first()) && openProject(recent.first());
+}
+
+void MainWindow::openSample()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString copy = documents + u"/Vellory/"_s + QFileInfo(m_samplePath).fileName();
+    if (QFileInfo::exists(copy)) {
+        openProject(copy);
+        return;
+    }
+    // The sample itself stays as it came: the writer gets a copy to play with.
+    if (!settleUnsavedChanges())
+        return;
+    rememberPages();
+    auto opened = m_desk.session.open(m_samplePath);
+    if (opened)
+        opened = m_desk.session.saveAs(copy);
+    if (!opened)
+        tell(tr("Open the Sample"), opened.message());
+    noteOpened();
+}
+
+void MainWindow::newProject()
+{
+    if (!settleUnsavedChanges())
+        return;
+    bool accepted = false;
+    const QString name = QInputDialog::getText(
+        this, tr("New Project"), tr("What is the project called?"), QLineEdit::Normal, tr("Untitled"),
+        &accepted);
+    if (!accepted)
+        return;
+    rememberPages();
+    m_desk.session.startNew(name.trimmed().isEmpty() ? tr("Untitled") : name.trimmed());
+    noteOpened();
+}
+
+void MainWindow::chooseAndOpen()
+{
+    const QString folder = QFileDialog::getExistingDirectory(
+        this, tr("Open Project"), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    if (!folder.isEmpty())
+        openProject(folder);
+}
+
+void MainWindow::saveProject()
+{
+    if (m_desk.session.workspace().hasPath())
+        static_cast<void>(saveOrTell(SaveExtent::Changed));
+    else
+        saveProjectAs();
+}
+
+bool MainWindow::saveOrTell(SaveExtent extent)
+{
+    const auto saved = m_desk.session.save(extent);
+    if (saved)
+        statusBar()->showMessage(tr("Saved."), messageTime);
+    else
+        tell(tr("Save Project"), saved.message());
+    return saved.isOk();
+}
+
+bool MainWindow::saveProjectAs()
+{
+    const QString suggestion = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' +
+                               m_desk.session.workspace().displayName();
+    const QString folder = QFileDialog::getSaveFileName(
+        this, tr("Save Project As a Folder"), suggestion, QString(), nullptr,
+        QFileDialog::DontConfirmOverwrite);
+    if (folder.isEmpty())
+        return false;
+    if (const auto saved = m_desk.session.saveAs(folder); !saved) {
+        tell(tr("Save Project"), saved.message());
+        return false;
+    }
+    RecentProjects(m_desk.settings).add(m_desk.session.workspace().displayPath());
+    refreshTitle();
+    return true;
+}
+
+void MainWindow::reloadProject()
+{
+    if (m_desk.session.isModified()) {
+        QMessageBox question(
+            QMessageBox::Question, tr("Read the Project Anew"),
+            tr("“%1” has changes that are not saved. Reading it anew from disk drops them.")
+                .arg(m_desk.session.workspace().displayName()),
+            QMessageBox::Cancel, this);
+        const QPushButton* const drop = question.addButton(tr("Drop Changes"), QMessageBox::DestructiveRole);
+        question.exec();
+        if (question.clickedButton() != drop)
+            return;
+    }
+    if (const auto reloaded = m_desk.session.reload(); !reloaded)
+        tell(tr("Read the Project Anew"), reloaded.message());
+}
+
+bool MainWindow::settleUnsavedChanges()
+{
+    m_desk.session.commitPendingEdits();
+    if (!m_desk.session.isModified())
+        return true;
+    QMessageBox question(
+        QMessageBox::Question, tr("Unsaved Changes"),
+        tr("“%1” has changes that are not saved.").arg(m_desk.session.workspace().displayName()),
+        QMessageBox::NoButton, this);
+    const QPushButton* const save = question.addButton(tr("Save"), QMessageBox::AcceptRole);
+    const QPushButton* const discard =
+        question.addButton(tr("Discard Changes"), QMessageBox::DestructiveRole);
+    question.addButton(tr("Cancel"), QMessageBox::RejectRole);
+    question.exec();
+    if (question.clickedButton() == discard)
+        return true;
+    if (question.clickedButton() != save)
+        return false;
+    return m_desk.session.workspace().hasPath() ? saveOrTell(SaveExtent::Everything) : saveProjectAs();
+}
+
+void MainWindow::noteOpened()
+{
+    const auto& workspace = m_desk.session.workspace();
+    if (workspace.hasPath()) {
+        RecentProjects(m_desk.settings).add(workspace.displayPath());
+        m_workArea->restoreIds(m_desk.settings.value(pagesKey()).toStringList());
+    }
+    showWelcomeOrWork();
+    refreshTitle();
+    if (!workspace.libraryNotices().isEmpty())
+        statusBar()->showMessage(workspace.libraryNotices().join(u' '), messageTime);
+}
+
+QString MainWindow::pagesKey() const
+{
+    // Settings keys take slashes for groups; the hash of a path has none.
+    const QByteArray path = m_desk.session.workspace().displayPath().toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex();
+    return u"window/pages/"_s + QString::fromLatin1(hash.first(16));
+}
+
+void MainWindow::rememberPages()
+{
+    if (m_desk.session.workspace().hasPath())
+        m_desk.settings.setValue(pagesKey(), m_workArea->openIds());
+}
+
+bool MainWindow::select(const QString& what)
+{
+    if (m_docks->showPanel(what))
+        return true;
+    const core::ContentId id = findObject(m_desk.session.project(), what);
+    if (id.isNull())
+        return false;
+    m_desk.navigator.open(id);
+    return true;
+}
+
+void MainWindow::showWelcomeOrWork()
+{
+    const bool isOpen = m_desk.session.isProjectOpen();
+    m_welcome->setRecent(RecentProjects(m_desk.settings).paths());
+    m_center->setCurrentWidget(isOpen ? static_cast<QWidget*>(m_workArea) : m_welcome);
+    for (QAction* const action : m_projectActions)
+        action->setEnabled(isOpen);
+}
+
+void MainWindow::refreshTitle()
+{
+    const auto& session = m_desk.session;
+    if (!session.isProjectOpen()) {
+        setWindowTitle(tr("Vellory"));
+        setWindowModified(false);
+        return;
+    }
+    setWindowTitle(tr("%1[*] – Vellory").arg(session.workspace().displayName()));
+    setWindowModified(session.isModified());
+}
+
+void MainWindow::tell(const QString& title, const QString& text)
+{
+    QMessageBox message(QMessageBox::Warning, title, text, QMessageBox::NoButton, this);
+    message.addButton(tr("Close"), QMessageBox::AcceptRole);
+    message.exec();
+}
+
+} // namespace tw::desktop::shell

@@ -1,0 +1,180 @@
+#include "desktop/shell/MainWindow.h"
+
+#include "desktop/codex/CodexPanel.h"
+#include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/ManuscriptPanel.h"
+#include "desktop/shell/DockLayout.h"
+#include "desktop/shell/ProjectSession.h"
+#include "desktop/shell/RecentProjects.h"
+#include "desktop/shell/WorkArea.h"
+#include "desktop/theme/Theme.h"
+#include "desktop/theme/ThemeManager.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+
+namespace tw::desktop::shell {
+
+using namespace Qt::Literals::StringLiterals;
+using icons::Icon;
+
+namespace {
+
+constexpr int shownRecent = 10;
+
+} // namespace
+
+template <class Handler>
+QAction* MainWindow::addAction(
+    QMenu& menu, Icon icon, const QString& text, const QKeySequence& keys, Handler handler)
+{
+    QAction* const action = menu.addAction(m_desk.icons.icon(icon), text);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, handler);
+    return action;
+}
+
+void MainWindow::buildMenus()
+{
+    buildFileMenu();
+    buildEditMenu();
+    buildInsertMenu();
+    buildViewMenu();
+    buildCodexMenu();
+    QMenu* const windows = menuBar()->addMenu(tr("&Windows"));
+    m_docks->fillMenu(*windows);
+    buildHelpMenu();
+}
+
+void MainWindow::buildFileMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&File"));
+    addAction(menu, Icon::New, tr("&New Project…"), QKeySequence::New, [this] { newProject(); });
+    addAction(menu, Icon::Open, tr("&Open Project…"), QKeySequence::Open, [this] { chooseAndOpen(); });
+    m_recentMenu = menu.addMenu(m_desk.icons.icon(Icon::History), tr("Open &Recent"));
+    connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
+    if (!m_samplePath.isEmpty())
+        addAction(menu, Icon::Manuscript, tr("Open the Sa&mple"), {}, [this] { openSample(); });
+    menu.addSeparator();
+    m_saveAction = addAction(menu, Icon::Save, tr("&Save"), QKeySequence::Save, [this] { saveProject(); });
+    m_projectActions = {
+        m_saveAction,
+        addAction(
+            menu, Icon::Export, tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+            [this] { saveProjectAs(); }),
+        addAction(menu, Icon::Refresh, tr("Read Anew from &Disk"), {}, [this] { reloadProject(); }),
+    };
+    menu.addSeparator();
+    addAction(menu, Icon::Close, tr("&Quit"), QKeySequence::Quit, [this] { close(); });
+}
+
+void MainWindow::buildEditMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&Edit"));
+    m_undoAction =
+        addAction(menu, Icon::Undo, tr("Undo"), QKeySequence::Undo, [this] { m_desk.session.undo(); });
+    m_redoAction =
+        addAction(menu, Icon::Redo, tr("Redo"), QKeySequence::Redo, [this] { m_desk.session.redo(); });
+    m_redoAction->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    menu.addSeparator();
+    for (QAction* const action : m_manuscript->editActions())
+        menu.addAction(action);
+}
+
+void MainWindow::buildInsertMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&Insert"));
+    for (QAction* const action : m_manuscript->insertActions()) {
+        menu.addAction(action);
+        m_projectActions.append(action);
+    }
+}
+
+void MainWindow::buildCodexMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&Codex"));
+    for (QAction* const action : m_codex->menuActions())
+        menu.addAction(action);
+}
+
+void MainWindow::buildViewMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&View"));
+    QMenu* const themes = menu.addMenu(m_desk.icons.icon(Icon::Theme), tr("&Theme"));
+    auto* const group = new QActionGroup(this);
+    const auto addTheme = [&](const QString& choice, const QString& title) {
+        QAction* const action = themes->addAction(title);
+        action->setCheckable(true);
+        action->setChecked(m_desk.themes.choice() == choice);
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, choice] { m_desk.themes.setChoice(choice); });
+    };
+    for (const theme::Theme& theme : theme::builtInThemes())
+        addTheme(theme.name, theme.title());
+    themes->addSeparator();
+    addTheme(theme::ThemeManager::systemChoice, tr("Follow the System"));
+    menu.addSeparator();
+    addAction(
+        menu, Icon::Split, tr("&Split Side by Side"), QKeySequence(Qt::CTRL | Qt::Key_Backslash),
+        [this] { m_workArea->splitCurrent(); });
+    addAction(menu, Icon::ChevronRight, tr("&Next Tab"), QKeySequence(Qt::CTRL | Qt::Key_PageDown), [this] {
+        m_workArea->stepTab(1);
+    });
+    addAction(menu, Icon::ChevronLeft, tr("&Previous Tab"), QKeySequence(Qt::CTRL | Qt::Key_PageUp), [this] {
+        m_workArea->stepTab(-1);
+    });
+    addAction(
+        menu, Icon::Close, tr("&Close Tab"), QKeySequence::Close, [this] { m_workArea->closeCurrent(); });
+    menu.addSeparator();
+    QAction* const fullScreen =
+        addAction(menu, Icon::FullScreen, tr("&Full Screen"), QKeySequence(Qt::Key_F11), [this] {
+            setWindowState(windowState() ^ Qt::WindowFullScreen);
+        });
+    fullScreen->setObjectName(u"fullScreen"_s);
+}
+
+void MainWindow::buildHelpMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&Help"));
+    addAction(menu, Icon::Information, tr("&About Vellory"), {}, [this] {
+        QMessageBox about(
+            QMessageBox::NoIcon, tr("About Vellory"),
+            tr("<h3>Vellory %1</h3><p>A writing and worldbuilding workspace for novelists, screenwriters and "
+               "game "
+               "masters.</p><p>Free software under the GNU General Public License, version 3 or later.</p>")
+                .arg(QApplication::applicationVersion()),
+            QMessageBox::NoButton, this);
+        about.setIconPixmap(icons::applicationIcon().pixmap(64, 64));
+        about.addButton(tr("Close"), QMessageBox::AcceptRole);
+        about.exec();
+    });
+}
+
+void MainWindow::fillRecentMenu()
+{
+    m_recentMenu->clear();
+    const QStringList recent = RecentProjects(m_desk.settings).paths();
+    for (const QString& path : recent.first(std::min<qsizetype>(recent.size(), shownRecent))) {
+        QAction* const action = m_recentMenu->addAction(QDir(path).dirName());
+        action->setToolTip(QDir::toNativeSeparators(path));
+        connect(action, &QAction::triggered, this, [this, path] { openProject(path); });
+    }
+    if (recent.isEmpty())
+        m_recentMenu->addAction(tr("Nothing opened yet"))->setEnabled(false);
+}
+
+void MainWindow::refreshHistory()
+{
+    const ProjectSession& session = m_desk.session;
+    m_undoAction->setEnabled(session.canUndo());
+    m_undoAction->setText(session.canUndo() ? tr("Undo %1").arg(session.undoText()) : tr("Undo"));
+    m_redoAction->setEnabled(session.canRedo());
+    m_redoAction->setText(session.canRedo() ? tr("Redo %1").arg(session.redoText()) : tr("Redo"));
+}
+
+} // namespace tw::desktop::shell

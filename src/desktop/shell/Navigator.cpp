@@ -1,0 +1,28 @@
+#include "desktop/shell/Navigator.h"
+
+namespace tw::desktop::shell {
+
+Navigator::Navigator(QObject* parent)
+    : QObject(parent)
+{}
+
+void Navigator::setCurrent(const core::ContentId& id)
+{
+    if (m_current == id)
+        return;
+    m_current = id;
+    emit currentChanged(m_current);
+}
+
+void Navigator::open(const core::ContentId& id)
+{
+    setCurrent(id);
+    emit openRequested(id);
+}
+
+void Navigator::say(const QString& text)
+{
+    emit said(text);
+}
+
+} // namespace tw::desktop::shell

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/foundation/Id.h"
+
+#include <QObject>
+
+namespace tw::desktop::shell {
+
+/** What the writer looks at: panels say what was selected or asked for, and follow what others say. */
+class Navigator final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Navigator(QObject* parent = nullptr);
+
+    /** The object whose properties are shown; null for none. */
+    [[nodiscard]] const core::ContentId& current() const { return m_current; }
+    void setCurrent(const core::ContentId& id);
+
+    /** Asks for the object's page or editor in the centre of the window. */
+    void open(const core::ContentId& id);
+
+    /** A line for the status bar: something happened that needs no decision. */
+    void say(const QString& text);
+
+signals:
+    void currentChanged(const tw::core::ContentId& id);
+    void openRequested(const tw::core::ContentId& id);
+    void said(const QString& text);
+
+private:
+    core::ContentId m_current;
+};
+
+} // namespace tw::desktop::shell

@@ -1,0 +1,175 @@
+#include "desktop/shell/ProjectSession.h"
+
+#include <QScopedValueRollback>
+
+namespace tw::desktop::shell {
+
+using app::persistence::SaveExtent;
+using app::workspace::Workspace;
+using core::Result;
+
+ProjectSession::MacroScope::~MacroScope()
+{
+    if (!m_session)
+        return;
+    m_session->m_workspace->undoStack().endMacro();
+    m_session->announce();
+}
+
+ProjectSession::ProjectSession(const app::persistence::StorageEnvironment& environment, QObject* parent)
+    : QObject(parent)
+    , m_environment(environment)
+    , m_workspace(std::make_unique<Workspace>(environment))
+{}
+
+ProjectSession::~ProjectSession() = default;
+
+void ProjectSession::apply(std::unique_ptr<core::undo::Command> command)
+{
+    if (!command)
+        return;
+    commitPendingEdits();
+    m_workspace->undoStack().push(std::move(command));
+    announce();
+}
+
+ProjectSession::MacroScope ProjectSession::macro(const QString& label)
+{
+    commitPendingEdits();
+    m_workspace->undoStack().beginMacro(label);
+    return MacroScope(*this);
+}
+
+void ProjectSession::undo()
+{
+    commitPendingEdits();
+    m_workspace->undoStack().undo();
+    announce();
+}
+
+void ProjectSession::redo()
+{
+    commitPendingEdits();
+    m_workspace->undoStack().redo();
+    announce();
+}
+
+void ProjectSession::commitPendingEdits()
+{
+    // The edits that come out of this are commands themselves.
+    if (m_committing)
+        return;
+    const QScopedValueRollback guard(m_committing, true);
+    emit commitRequested();
+}
+
+void ProjectSession::setTypingPending(bool pending)
+{
+    m_typingPending = pending;
+    updateSaveState();
+}
+
+void ProjectSession::announce()
+{
+    if (m_workspace->history().isMacroOpen())
+        return;
+    const core::project::ProjectChanges changes = m_workspace->projectForEdit().takeChanges();
+    announceChanges(changes);
+}
+
+void ProjectSession::announceChanges(const core::project::ProjectChanges& changes)
+{
+    m_words.update(project(), changes);
+    if (!changes.isEmpty())
+        emit changed(changes);
+    emit historyChanged();
+    updateSaveState();
+}
+
+void ProjectSession::announceEverything()
+{
+    static_cast<void>(m_workspace->projectForEdit().takeChanges());
+    core::project::ProjectChanges changes;
+    changes.isEverything = true;
+    announceChanges(changes);
+}
+
+void ProjectSession::replaceWorkspace(std::unique_ptr<Workspace> workspace)
+{
+    // The old one lives until everybody has let go of it.
+    std::swap(m_workspace, workspace);
+    m_isProjectOpen = true;
+    m_typingPending = false;
+    m_saveFailure.clear();
+    announceEverything();
+}
+
+void ProjectSession::startNew(const QString& name)
+{
+    auto workspace = std::make_unique<Workspace>(m_environment);
+    workspace->projectForEdit().setName(name);
+    workspace->markModified();
+    replaceWorkspace(std::move(workspace));
+}
+
+Result<void> ProjectSession::open(const QString& folder)
+{
+    auto opened = Workspace::openFolder(m_environment, folder);
+    if (!opened)
+        return core::Failure{opened.message()};
+    replaceWorkspace(std::move(opened).value());
+    return {};
+}
+
+Result<void> ProjectSession::save(SaveExtent extent)
+{
+    commitPendingEdits();
+    return noteSave(m_workspace->save(extent));
+}
+
+Result<void> ProjectSession::saveAs(const QString& folder)
+{
+    commitPendingEdits();
+    return noteSave(m_workspace->saveAs(folder));
+}
+
+Result<void> ProjectSession::noteSave(Result<void> result)
+{
+    m_saveFailure = result.message();
+    updateSaveState();
+    return result;
+}
+
+Result<void> ProjectSession::reload()
+{
+    auto reloaded = m_workspace->reload();
+    if (reloaded) {
+        m_typingPending = false;
+        m_saveFailure.clear();
+        announceEverything();
+    }
+    return reloaded;
+}
+
+Result<QString> ProjectSession::importAsset(const QString& sourceFile)
+{
+    return m_workspace->importAsset(sourceFile);
+}
+
+SaveState ProjectSession::saveState() const
+{
+    if (!isModified())
+        return SaveState::Saved;
+    return m_saveFailure.isEmpty() ? SaveState::Modified : SaveState::Failed;
+}
+
+void ProjectSession::updateSaveState()
+{
+    const SaveState state = saveState();
+    if (state == m_announcedState)
+        return;
+    m_announcedState = state;
+    emit saveStateChanged(state);
+}
+
+} // namespace tw::desktop::shell

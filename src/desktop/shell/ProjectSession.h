@@ -1,0 +1,127 @@
+#pragma once
+
+#include "app/workspace/Workspace.h"
+#include "core/project/ProjectChanges.h"
+#include "desktop/shell/ProjectWords.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace tw::desktop::shell {
+
+enum class SaveState
+{
+    /** Nothing to save. */
+    Saved,
+    Modified,
+    /** The last save failed; the project is modified all the same. */
+    Failed,
+};
+
+/**
+ * The open project as the panels see it: read it, change it by commands, hear one signal after every change,
+ * whoever made it. Owns the workspace. Main thread only.
+ *
+ * Panels hold ids, never pointers to objects, across changed(). An editor that keeps typing back for a moment
+ * listens to commitRequested() and pushes what it holds, so that no save, undo or command runs ahead of the
+ * writer's last words.
+ */
+class ProjectSession final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Ends a macro when it goes out of scope; the changes inside are announced together. */
+    class MacroScope
+    {
+    public:
+        explicit MacroScope(ProjectSession& session)
+            : m_session(&session)
+        {}
+        MacroScope(MacroScope&& other) noexcept
+            : m_session(std::exchange(other.m_session, nullptr))
+        {}
+        MacroScope& operator=(MacroScope&&) = delete;
+        ~MacroScope();
+
+    private:
+        ProjectSession* m_session;
+    };
+
+    explicit ProjectSession(
+        const app::persistence::StorageEnvironment& environment, QObject* parent = nullptr);
+    ~ProjectSession() override;
+
+    [[nodiscard]] const core::project::Project& project() const { return m_workspace->project(); }
+    /** For building commands, which need objects they may change. Push them with apply(). */
+    [[nodiscard]] core::project::Project& projectForCommands() { return m_workspace->projectForEdit(); }
+    [[nodiscard]] const app::workspace::Workspace& workspace() const { return *m_workspace; }
+    /** False before anything was opened or begun: there is only an empty project without a name. */
+    [[nodiscard]] bool isProjectOpen() const { return m_isProjectOpen; }
+
+    /** Word counts, up to date whenever changed() is heard. */
+    [[nodiscard]] const ProjectWords& words() const { return m_words; }
+
+    // Changing
+
+    /** Runs a command as one step, or as part of the open macro. Null is ignored. */
+    void apply(std::unique_ptr<core::undo::Command> command);
+    /** Commands applied until the scope ends are one step. */
+    [[nodiscard]] MacroScope macro(const QString& label);
+    void undo();
+    void redo();
+    [[nodiscard]] bool canUndo() const { return m_workspace->history().canUndo(); }
+    [[nodiscard]] bool canRedo() const { return m_workspace->history().canRedo(); }
+    [[nodiscard]] QString undoText() const { return m_workspace->history().undoText(); }
+    [[nodiscard]] QString redoText() const { return m_workspace->history().redoText(); }
+
+    /** Has editors push the typing they hold. */
+    void commitPendingEdits();
+    /** An editor holds typing that is not in the project yet, or no longer does. */
+    void setTypingPending(bool pending);
+
+    // Project life
+
+    /** Begins a new project without a place on disk, in the place of the open one. */
+    void startNew(const QString& name);
+    /** The open project stays when this fails. */
+    [[nodiscard]] core::Result<void> open(const QString& folder);
+    [[nodiscard]] core::Result<void> save(
+        app::persistence::SaveExtent extent = app::persistence::SaveExtent::Changed);
+    [[nodiscard]] core::Result<void> saveAs(const QString& folder);
+    [[nodiscard]] core::Result<void> reload();
+    [[nodiscard]] core::Result<QString> importAsset(const QString& sourceFile);
+
+    [[nodiscard]] bool isModified() const { return m_typingPending || m_workspace->isModified(); }
+    [[nodiscard]] SaveState saveState() const;
+    /** Why the last save failed; empty when it did not. */
+    [[nodiscard]] const QString& saveFailure() const { return m_saveFailure; }
+
+signals:
+    /** After every change; `isEverything` when another project took the place of the old one. */
+    void changed(const tw::core::project::ProjectChanges& changes);
+    /** The steps that undo() and redo() would take are different now. */
+    void historyChanged();
+    void saveStateChanged(tw::desktop::shell::SaveState state);
+    void commitRequested();
+
+private:
+    void announce();
+    void announceChanges(const core::project::ProjectChanges& changes);
+    void replaceWorkspace(std::unique_ptr<app::workspace::Workspace> workspace);
+    void announceEverything();
+    void updateSaveState();
+    [[nodiscard]] core::Result<void> noteSave(core::Result<void> result);
+
+    const app::persistence::StorageEnvironment& m_environment;
+    std::unique_ptr<app::workspace::Workspace> m_workspace;
+    ProjectWords m_words;
+    bool m_isProjectOpen = false;
+    bool m_typingPending = false;
+    bool m_committing = false;
+    QString m_saveFailure;
+    SaveState m_announcedState = SaveState::Saved;
+};
+
+} // namespace tw::desktop::shell

@@ -1,0 +1,139 @@
+#include "desktop/shell/StatusStrip.h"
+
+#include "core/document/Document.h"
+#include "desktop/icons/IconSet.h"
+#include "desktop/shell/WorkPage.h"
+#include "desktop/theme/ThemeManager.h"
+
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QStatusBar>
+
+namespace tw::desktop::shell {
+
+namespace {
+
+constexpr int iconSize = 16;
+constexpr int barHeight = 4;
+
+QString grouped(qint64 number)
+{
+    return QLocale().toString(number);
+}
+
+QLabel* addLabel(QStatusBar& bar)
+{
+    auto* const label = new QLabel(&bar);
+    bar.addPermanentWidget(label);
+    return label;
+}
+
+} // namespace
+
+StatusStrip::StatusStrip(const DeskContext& desk, QStatusBar& bar)
+    : QObject(&bar)
+    , m_desk(desk)
+    , m_pageText(addLabel(bar))
+    , m_storyDate(addLabel(bar))
+    , m_projectWords(addLabel(bar))
+    , m_sessionWords(addLabel(bar))
+    , m_dailyTarget(new QProgressBar(&bar))
+    , m_saveIcon(nullptr)
+    , m_saveText(nullptr)
+{
+    m_dailyTarget->setTextVisible(false);
+    m_dailyTarget->setFixedHeight(barHeight);
+    m_dailyTarget->setFixedWidth(bar.fontMetrics().averageCharWidth() * 12);
+    m_dailyTarget->setAccessibleName(tr("Words of the day's target"));
+    bar.addPermanentWidget(m_dailyTarget);
+    m_saveIcon = addLabel(bar);
+    m_saveText = addLabel(bar);
+    connect(&desk.session, &ProjectSession::changed, this, &StatusStrip::followChanges);
+    connect(&desk.session, &ProjectSession::saveStateChanged, this, &StatusStrip::refreshSaveState);
+    connect(&desk.themes, &theme::ThemeManager::themeChanged, this, &StatusStrip::refreshSaveState);
+    refreshWords();
+    refreshSaveState();
+}
+
+void StatusStrip::setPage(WorkPage* page)
+{
+    if (m_page)
+        disconnect(m_page, nullptr, this, nullptr);
+    m_page = page;
+    if (page)
+        connect(page, &WorkPage::statusTextChanged, this, &StatusStrip::refreshPage);
+    refreshPage();
+}
+
+void StatusStrip::followChanges(const core::project::ProjectChanges& changes)
+{
+    if (changes.isEverything)
+        m_wordsAtOpening = m_desk.session.words().total();
+    refreshWords();
+    refreshPage();
+    refreshSaveState();
+}
+
+void StatusStrip::refreshPage()
+{
+    m_pageText->setText(m_page ? m_page->statusText() : QString());
+    m_pageText->setVisible(!m_pageText->text().isEmpty());
+    const auto& project = m_desk.session.project();
+    const auto* const document =
+        m_page ? project.findAs<core::document::Document>(m_page->objectId()) : nullptr;
+    const bool hasDate = document && document->sceneInstant();
+    m_storyDate->setText(hasDate ? project.calendar().formatInstant(*document->sceneInstant()) : QString());
+    m_storyDate->setToolTip(tr("When the scene happens in the story"));
+    m_storyDate->setVisible(hasDate);
+}
+
+void StatusStrip::refreshWords()
+{
+    const bool isOpen = m_desk.session.isProjectOpen();
+    for (QWidget* const widget :
+         {static_cast<QWidget*>(m_projectWords), static_cast<QWidget*>(m_sessionWords)})
+        widget->setVisible(isOpen);
+    const qint64 total = m_desk.session.words().total();
+    const qint64 session = total - m_wordsAtOpening;
+    m_projectWords->setText(tr("Manuscript: %1 words").arg(grouped(total)));
+    m_sessionWords->setText(
+        session >= 0 ? tr("Session: +%1").arg(grouped(session)) : tr("Session: −%1").arg(grouped(-session)));
+    m_sessionWords->setToolTip(tr("Words since the project was opened"));
+    const qint64 target = m_desk.session.project().writingGoal().dailyWordTarget;
+    m_dailyTarget->setVisible(isOpen && target > 0);
+    if (target > 0) {
+        constexpr int steps = 1000;
+        m_dailyTarget->setRange(0, steps);
+        m_dailyTarget->setValue(static_cast<int>(std::clamp<qint64>(session, 0, target) * steps / target));
+        m_dailyTarget->setToolTip(tr("%1 of %2 words today").arg(grouped(session), grouped(target)));
+    }
+}
+
+void StatusStrip::refreshSaveState()
+{
+    const ProjectSession& session = m_desk.session;
+    const bool isOpen = session.isProjectOpen();
+    m_saveIcon->setVisible(isOpen);
+    m_saveText->setVisible(isOpen);
+    const theme::Theme& colors = m_desk.themes.theme();
+    switch (session.saveState()) {
+    case SaveState::Saved:
+        m_saveIcon->setPixmap(m_desk.icons.icon(icons::Icon::Check, colors.color(theme::Role::Success))
+                                  .pixmap(iconSize, iconSize));
+        m_saveText->setText(tr("Saved"));
+        break;
+    case SaveState::Modified:
+        m_saveIcon->setPixmap(m_desk.icons.icon(icons::Icon::Save).pixmap(iconSize, iconSize));
+        m_saveText->setText(session.workspace().hasPath() ? tr("Unsaved changes") : tr("Never saved"));
+        break;
+    case SaveState::Failed:
+        m_saveIcon->setPixmap(m_desk.icons.icon(icons::Icon::Error, colors.color(theme::Role::Error))
+                                  .pixmap(iconSize, iconSize));
+        m_saveText->setText(tr("Not saved"));
+        break;
+    }
+    m_saveText->setToolTip(session.saveFailure());
+}
+
+} // namespace tw::desktop::shell

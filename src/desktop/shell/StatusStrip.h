@@ -1,0 +1,47 @@
+#pragma once
+
+#include "desktop/shell/DeskContext.h"
+#include "desktop/shell/ProjectSession.h"
+
+#include <QObject>
+#include <QPointer>
+
+class QLabel;
+class QProgressBar;
+class QStatusBar;
+
+namespace tw::desktop::shell {
+
+class WorkPage;
+
+/** What the status bar always shows: words, the day's target, the scene's story date, whether all is saved.
+ */
+class StatusStrip final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** Adds its labels to the bar, which owns them. */
+    StatusStrip(const DeskContext& desk, QStatusBar& bar);
+
+    void setPage(WorkPage* page);
+
+private:
+    void followChanges(const core::project::ProjectChanges& changes);
+    void refreshWords();
+    void refreshPage();
+    void refreshSaveState();
+
+    DeskContext m_desk;
+    qint64 m_wordsAtOpening = 0;
+    QPointer<WorkPage> m_page;
+    QLabel* m_pageText;
+    QLabel* m_storyDate;
+    QLabel* m_projectWords;
+    QLabel* m_sessionWords;
+    QProgressBar* m_dailyTarget;
+    QLabel* m_saveIcon;
+    QLabel* m_saveText;
+};
+
+} // namespace tw::desktop::shell

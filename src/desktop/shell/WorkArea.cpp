@@ -1,0 +1,255 @@
+#include "desktop/shell/WorkArea.h"
+
+#include "desktop/shell/Navigator.h"
+#include "desktop/shell/ProjectSession.h"
+
+#include <QApplication>
+#include <QSignalBlocker>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace tw::desktop::shell {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int maximumPanes = 2;
+/** Separates the panes in the list of open pages; the page that a pane shows has the other mark before it. */
+constexpr QLatin1StringView paneMark{"|"};
+constexpr QChar shownMark = u'*';
+
+WorkPage* pageAt(const QTabWidget* pane, int index)
+{
+    return qobject_cast<WorkPage*>(pane->widget(index));
+}
+
+} // namespace
+
+WorkArea::WorkArea(const DeskContext& desk, QWidget* parent)
+    : QSplitter(Qt::Horizontal, parent)
+    , m_desk(desk)
+{
+    setObjectName(u"workArea"_s);
+    setChildrenCollapsible(false);
+    m_activePane = addPane();
+    connect(&desk.session, &ProjectSession::changed, this, &WorkArea::followChanges);
+    connect(&desk.navigator, &Navigator::openRequested, this, &WorkArea::openPage);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
+}
+
+void WorkArea::setFactory(core::content::ContentKind kind, PageFactory factory)
+{
+    m_factories.insert_or_assign(kind, std::move(factory));
+}
+
+QTabWidget* WorkArea::addPane()
+{
+    auto* const pane = new QTabWidget(this);
+    pane->setDocumentMode(true);
+    pane->setTabsClosable(true);
+    pane->setMovable(true);
+    pane->tabBar()->setElideMode(Qt::ElideRight);
+    pane->tabBar()->setExpanding(false);
+    pane->tabBar()->setAccessibleName(tr("Open pages"));
+    addWidget(pane);
+    connect(pane, &QTabWidget::tabCloseRequested, this, [this, pane](int index) { closeTab(pane, index); });
+    connect(pane, &QTabWidget::currentChanged, this, [this, pane] { showPane(pane); });
+    connect(pane, &QTabWidget::tabBarClicked, this, [this, pane] { showPane(pane); });
+    return pane;
+}
+
+QTabWidget* WorkArea::activePane() const
+{
+    return m_activePane;
+}
+
+WorkPage* WorkArea::currentPage() const
+{
+    return qobject_cast<WorkPage*>(activePane()->currentWidget());
+}
+
+bool WorkArea::hasPages() const
+{
+    for (int index = 0; index < count(); ++index) {
+        if (static_cast<QTabWidget*>(widget(index))->count() > 0)
+            return true;
+    }
+    return false;
+}
+
+WorkPage* WorkArea::makePage(const core::ContentId& id, QTabWidget* pane)
+{
+    const auto* const object = m_desk.session.project().find(id);
+    const auto factory = object ? m_factories.find(object->kind()) : m_factories.end();
+    if (factory == m_factories.end())
+        return nullptr;
+    WorkPage* const page = factory->second(id, pane);
+    const int index = pane->addTab(page, page->icon(), QString());
+    connect(page, &WorkPage::titleChanged, this, [this, page] { refreshTab(page); });
+    refreshTab(page);
+    pane->setCurrentIndex(index);
+    return page;
+}
+
+void WorkArea::openPage(const core::ContentId& id)
+{
+    QTabWidget* const pane = activePane();
+    for (int index = 0; index < pane->count(); ++index) {
+        if (WorkPage* const page = pageAt(pane, index); page && page->objectId() == id) {
+            pane->setCurrentIndex(index);
+            page->takeFocus();
+            return;
+        }
+    }
+    if (WorkPage* const page = makePage(id, pane))
+        page->takeFocus();
+    announceCurrent();
+}
+
+void WorkArea::splitCurrent()
+{
+    const WorkPage* const page = currentPage();
+    if (!page)
+        return;
+    const core::ContentId id = page->objectId();
+    if (count() < maximumPanes) {
+        static_cast<void>(addPane());
+        setSizes({width() / 2, width() / 2});
+    }
+    m_activePane = static_cast<QTabWidget*>(widget(activePane() == widget(0) ? 1 : 0));
+    openPage(id);
+}
+
+void WorkArea::closeCurrent()
+{
+    if (activePane()->currentIndex() >= 0)
+        closeTab(activePane(), activePane()->currentIndex());
+}
+
+void WorkArea::closeTab(QTabWidget* pane, int index)
+{
+    m_desk.session.commitPendingEdits();
+    QWidget* const page = pane->widget(index);
+    pane->removeTab(index);
+    page->deleteLater();
+    if (pane->count() == 0 && count() > 1) {
+        m_activePane = static_cast<QTabWidget*>(widget(pane == widget(0) ? 1 : 0));
+        pane->setParent(nullptr);
+        pane->deleteLater();
+    }
+    announceCurrent();
+}
+
+void WorkArea::closeAll()
+{
+    for (int paneIndex = count() - 1; paneIndex >= 0; --paneIndex) {
+        auto* const pane = static_cast<QTabWidget*>(widget(paneIndex));
+        while (pane->count() > 0)
+            closeTab(pane, pane->count() - 1);
+    }
+}
+
+void WorkArea::stepTab(int step)
+{
+    QTabWidget* const pane = activePane();
+    if (pane->count() > 0)
+        pane->setCurrentIndex((pane->currentIndex() + step + pane->count()) % pane->count());
+}
+
+void WorkArea::followFocus(QWidget* focused)
+{
+    for (int index = 0; focused && index < count(); ++index) {
+        if (widget(index)->isAncestorOf(focused))
+            showPane(static_cast<QTabWidget*>(widget(index)));
+    }
+}
+
+void WorkArea::showPane(QTabWidget* pane)
+{
+    m_activePane = pane;
+    announceCurrent();
+}
+
+void WorkArea::announceCurrent()
+{
+    WorkPage* const page = currentPage();
+    if (page == m_announcedPage)
+        return;
+    m_announcedPage = page;
+    if (page)
+        m_desk.navigator.setCurrent(page->objectId());
+    emit currentPageChanged(page);
+}
+
+void WorkArea::refreshTab(WorkPage* page)
+{
+    for (int paneIndex = 0; paneIndex < count(); ++paneIndex) {
+        auto* const pane = static_cast<QTabWidget*>(widget(paneIndex));
+        if (const int index = pane->indexOf(page); index >= 0) {
+            // An ampersand in a title is no mnemonic.
+            pane->setTabText(index, QString(page->title()).replace(u'&', u"&&"_s));
+            pane->setTabToolTip(index, page->title());
+            pane->setTabIcon(index, page->icon());
+        }
+    }
+}
+
+void WorkArea::followChanges(const core::project::ProjectChanges& changes)
+{
+    if (changes.removed.empty() && !changes.isEverything)
+        return;
+    for (int paneIndex = count() - 1; paneIndex >= 0; --paneIndex) {
+        auto* const pane = static_cast<QTabWidget*>(widget(paneIndex));
+        for (int index = pane->count() - 1; index >= 0; --index) {
+            const WorkPage* const page = pageAt(pane, index);
+            if (page && !m_desk.session.project().contains(page->objectId()))
+                closeTab(pane, index);
+        }
+    }
+}
+
+QStringList WorkArea::openIds() const
+{
+    QStringList ids;
+    for (int paneIndex = 0; paneIndex < count(); ++paneIndex) {
+        const auto* const pane = static_cast<QTabWidget*>(widget(paneIndex));
+        if (paneIndex > 0)
+            ids.append(paneMark);
+        for (int index = 0; index < pane->count(); ++index) {
+            const WorkPage* const page = pageAt(pane, index);
+            if (!page)
+                continue;
+            const QString id = page->objectId().toString();
+            ids.append(index == pane->currentIndex() ? shownMark + id : id);
+        }
+    }
+    return ids;
+}
+
+void WorkArea::restoreIds(const QStringList& ids)
+{
+    std::vector<std::pair<QTabWidget*, int>> shown;
+    for (const QString& id : ids) {
+        if (id == paneMark) {
+            if (count() < maximumPanes && hasPages())
+                m_activePane = addPane();
+            continue;
+        }
+        const bool isShown = id.startsWith(shownMark);
+        const auto objectId = core::ContentId::fromString(isShown ? QStringView(id).mid(1) : QStringView(id));
+        if (!m_desk.session.project().contains(objectId))
+            continue;
+        openPage(objectId);
+        if (isShown)
+            shown.emplace_back(activePane(), activePane()->currentIndex());
+    }
+    for (const auto& [pane, index] : shown)
+        pane->setCurrentIndex(index);
+    if (activePane()->count() == 0 && count() > 1) {
+        delete m_activePane;
+        m_activePane = static_cast<QTabWidget*>(widget(0));
+    }
+}
+
+} // namespace tw::desktop::shell

@@ -1,0 +1,187 @@
+#include "desktop/trees/NavigatorTree.h"
+
+#include "desktop/theme/ThemeManager.h"
+#include "desktop/trees/TreeRoles.h"
+#include "desktop/trees/TreeRowDelegate.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScopedValueRollback>
+
+namespace tw::desktop::trees {
+
+namespace {
+
+constexpr int hintMargin = 24;
+
+} // namespace
+
+NavigatorTree::NavigatorTree(const theme::ThemeManager& themes, QWidget* parent)
+    : QTreeView(parent)
+    , m_hint(new QLabel(viewport()))
+{
+    m_filter.setRecursiveFilteringEnabled(true);
+    m_filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_filter.setAutoAcceptChildRows(true);
+    setItemDelegate(new TreeRowDelegate(themes, this));
+    setHeaderHidden(true);
+    setUniformRowHeights(true);
+    setFrameShape(QFrame::NoFrame);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(EditKeyPressed);
+    setDragDropMode(InternalMove);
+    setDropIndicatorShown(true);
+    setAutoExpandDelay(600);
+    setTextElideMode(Qt::ElideRight);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
+    connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) {
+        if (selectionModel()->selectedRows().size() == 1)
+            emit sourceActivated(m_filter.mapToSource(index));
+    });
+    connect(this, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
+        if (!m_restoring && m_filter.filterRegularExpression().pattern().isEmpty())
+            m_collapsed.insert(index.data(IdRole).toString());
+    });
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex& index) {
+        if (!m_restoring && m_filter.filterRegularExpression().pattern().isEmpty())
+            m_collapsed.remove(index.data(IdRole).toString());
+    });
+}
+
+void NavigatorTree::setSource(QAbstractItemModel& source)
+{
+    // Remembered before the filter hears of the reset, restored after it.
+    connect(&source, &QAbstractItemModel::modelAboutToBeReset, this, &NavigatorTree::rememberState);
+    m_filter.setSourceModel(&source);
+    setModel(&m_filter);
+    connect(&m_filter, &QAbstractItemModel::modelReset, this, &NavigatorTree::restoreState);
+    restoreState();
+}
+
+void NavigatorTree::setFilter(const QString& text)
+{
+    const QScopedValueRollback guard(m_restoring, true);
+    m_filter.setFilterFixedString(text);
+    setDragEnabled(text.isEmpty());
+    setAcceptDrops(text.isEmpty());
+    if (text.isEmpty())
+        restoreExpansion({});
+    else
+        expandAll();
+    showHint();
+}
+
+void NavigatorTree::setEmptyHint(const QString& text)
+{
+    m_hint->setText(text);
+    showHint();
+}
+
+void NavigatorTree::showHint()
+{
+    m_hint->setGeometry(viewport()->rect().adjusted(hintMargin, hintMargin, -hintMargin, -hintMargin));
+    m_hint->setVisible(m_filter.rowCount() == 0);
+}
+
+void NavigatorTree::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    showHint();
+}
+
+QModelIndex NavigatorTree::currentSource() const
+{
+    return m_filter.mapToSource(currentIndex());
+}
+
+QModelIndexList NavigatorTree::selectedSources() const
+{
+    QModelIndexList sources;
+    QModelIndexList rows = selectionModel()->selectedRows();
+    // In the order in which they stand in the tree, not in which they were clicked.
+    std::ranges::sort(rows, [this](const QModelIndex& left, const QModelIndex& right) {
+        return visualRect(left).top() < visualRect(right).top();
+    });
+    for (const QModelIndex& row : rows)
+        sources.append(m_filter.mapToSource(row));
+    return sources;
+}
+
+void NavigatorTree::selectSource(const QModelIndex& source)
+{
+    const QModelIndex index = m_filter.mapFromSource(source);
+    if (!index.isValid() || index == currentIndex())
+        return;
+    setCurrentIndex(index);
+    scrollTo(index);
+}
+
+void NavigatorTree::renameSource(const QModelIndex& source)
+{
+    selectSource(source);
+    if (const QModelIndex index = m_filter.mapFromSource(source); index.isValid())
+        edit(index);
+}
+
+QStringList NavigatorTree::collapsedIds() const
+{
+    return QStringList(m_collapsed.begin(), m_collapsed.end());
+}
+
+void NavigatorTree::setCollapsedIds(const QStringList& ids)
+{
+    m_collapsed = QSet<QString>(ids.begin(), ids.end());
+    const QScopedValueRollback guard(m_restoring, true);
+    restoreExpansion({});
+}
+
+void NavigatorTree::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTreeView::currentChanged(current, previous);
+    if (!m_restoring)
+        emit currentSourceChanged(m_filter.mapToSource(current));
+}
+
+void NavigatorTree::keyPressEvent(QKeyEvent* event)
+{
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && state() != EditingState && currentIndex().isValid()) {
+        emit sourceActivated(currentSource());
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void NavigatorTree::rememberState()
+{
+    m_selectedIds.clear();
+    for (const QModelIndex& row : selectionModel()->selectedRows())
+        m_selectedIds.append(row.data(IdRole).toString());
+    m_currentId = currentIndex().data(IdRole).toString();
+}
+
+void NavigatorTree::restoreState()
+{
+    const QScopedValueRollback guard(m_restoring, true);
+    restoreExpansion({});
+    showHint();
+}
+
+void NavigatorTree::restoreExpansion(const QModelIndex& parent)
+{
+    for (int row = 0; row < m_filter.rowCount(parent); ++row) {
+        const QModelIndex index = m_filter.index(row, 0, parent);
+        const QString id = index.data(IdRole).toString();
+        setExpanded(index, !m_collapsed.contains(id));
+        if (id == m_currentId)
+            selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        if (m_selectedIds.contains(id))
+            selectionModel()->select(index, QItemSelectionModel::Select);
+        restoreExpansion(index);
+    }
+}
+
+} // namespace tw::desktop::trees

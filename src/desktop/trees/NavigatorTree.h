@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QSet>
+#include <QSortFilterProxyModel>
+#include <QTreeView>
+
+class QLabel;
+
+namespace tw::desktop::theme {
+class ThemeManager;
+}
+
+namespace tw::desktop::trees {
+
+/**
+ * The tree of a navigator panel over any model that gives TreeRole::IdRole: filter as you type, rows that
+ * stay open and selected by id when the model is built anew, a drop line, renaming in place, and a hint in
+ * the middle while there is nothing to show.
+ */
+class NavigatorTree final : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    NavigatorTree(const theme::ThemeManager& themes, QWidget* parent);
+
+    /** The model stays the caller's and must outlive the tree. Replaces setModel(). */
+    void setSource(QAbstractItemModel& source);
+    /** Rows that contain the text, with the rows above them. Dragging rests while a filter is set. */
+    void setFilter(const QString& text);
+    /** What to say and do when there are no rows. */
+    void setEmptyHint(const QString& text);
+
+    /** Of the model, not of the filter. */
+    [[nodiscard]] QModelIndex currentSource() const;
+    [[nodiscard]] QModelIndexList selectedSources() const;
+    /** Selects and shows a row of the model. */
+    void selectSource(const QModelIndex& source);
+    void renameSource(const QModelIndex& source);
+
+    /** Rows are open at first; the ids of those the user closed. */
+    [[nodiscard]] QStringList collapsedIds() const;
+    void setCollapsedIds(const QStringList& ids);
+
+signals:
+    /** The current row is another one; invalid for none. */
+    void currentSourceChanged(const QModelIndex& source);
+    /** Clicked, or Return pressed. */
+    void sourceActivated(const QModelIndex& source);
+
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void rememberState();
+    void restoreState();
+    void restoreExpansion(const QModelIndex& parent);
+    void showHint();
+
+    QSortFilterProxyModel m_filter;
+    QLabel* m_hint;
+    QSet<QString> m_collapsed;
+    QStringList m_selectedIds;
+    QString m_currentId;
+    bool m_restoring = false;
+};
+
+} // namespace tw::desktop::trees

@@ -1,0 +1,152 @@
+#include "desktop/manuscript/DocumentPage.h"
+#include "core/document/DocumentCommands.h"
+#include "core/document/WordCount.h"
+#include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/support/TestDesk.h"
+
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace tw::desktop::manuscript {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+class DocumentPageTest : public testing::Test
+{
+protected:
+    DocumentPageTest()
+        : id(desk.addDocument(u"Chapter"_s, {}, 0))
+    {
+        desk.document(id).setBody({u"First paragraph.\n\nSecond."_s, {}});
+        page = std::make_unique<DocumentPage>(desk.context, id, nullptr);
+        page->resize(900, 600);
+        page->show();
+    }
+
+    void type(const QString& text) { QTest::keyClicks(&page->page(), text); }
+    const QString& body() { return desk.document(id).body().text; }
+
+    test::TestDesk desk;
+    core::ContentId id;
+    std::unique_ptr<DocumentPage> page;
+};
+
+} // namespace
+
+TEST_F(DocumentPageTest, typingIsOneStepABurstAndUndoKeepsTheCursor)
+{
+    QTextCursor cursor = page->page().textCursor();
+    cursor.setPosition(5);
+    page->page().setTextCursor(cursor);
+    type(u"ly"_s);
+    EXPECT_EQ(body(), u"First paragraph.\n\nSecond."_s) << "not yet committed";
+    EXPECT_TRUE(desk.session.isModified()) << "but the project knows";
+    desk.session.commitPendingEdits();
+    EXPECT_EQ(body(), u"Firstly paragraph.\n\nSecond."_s);
+    type(u","_s);
+
+    desk.session.undo();
+    EXPECT_EQ(body(), u"Firstly paragraph.\n\nSecond."_s) << "the typing still held is a step of its own";
+    EXPECT_EQ(page->page().toPlainText(), body());
+    EXPECT_EQ(page->page().textCursor().position(), 7);
+    desk.session.undo();
+    EXPECT_EQ(page->page().toPlainText(), u"First paragraph.\n\nSecond."_s);
+    EXPECT_EQ(page->page().textCursor().position(), 5);
+    EXPECT_EQ(desk.session.redoText(), u"Edit document body"_s);
+    desk.session.redo();
+    EXPECT_EQ(page->page().toPlainText(), u"Firstly paragraph.\n\nSecond."_s);
+}
+
+TEST_F(DocumentPageTest, twoPagesOfOneDocumentShowTheSameText)
+{
+    DocumentPage other(desk.context, id, nullptr);
+    type(u"X"_s);
+    desk.session.commitPendingEdits();
+    EXPECT_EQ(other.page().toPlainText(), u"XFirst paragraph.\n\nSecond."_s);
+    QTest::keyClicks(&other.page(), u"Y"_s);
+    desk.session.commitPendingEdits();
+    EXPECT_EQ(page->page().toPlainText(), other.page().toPlainText());
+}
+
+TEST_F(DocumentPageTest, savingTakesTheLastWordsAlong)
+{
+    ASSERT_TRUE(desk.session.saveAs(desk.folder.filePath(u"p"_s)));
+    type(u"Last words. "_s);
+    ASSERT_TRUE(desk.session.save());
+    EXPECT_FALSE(desk.session.isModified());
+    auto reopened = app::workspace::Workspace::openFolder(desk.environment, desk.folder.filePath(u"p"_s));
+    ASSERT_TRUE(reopened);
+    const auto* const document = reopened.value()->project().findAs<core::document::Document>(id);
+    EXPECT_TRUE(document->body().text.startsWith(u"Last words. First"_s));
+}
+
+TEST_F(DocumentPageTest, lockedDocumentsAreReadOnly)
+{
+    desk.document(id).setLocked(true);
+    DocumentPage locked(desk.context, id, nullptr);
+    QTest::keyClicks(&locked.page(), u"no"_s);
+    desk.session.commitPendingEdits();
+    EXPECT_EQ(body(), u"First paragraph.\n\nSecond."_s);
+    EXPECT_FALSE(desk.session.canUndo());
+}
+
+TEST_F(DocumentPageTest, zoomIsApartFromTheFontAndChangesNoText)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowActive(page.get()));
+    QTest::keyClick(page.get(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_GT(desk.settings.value("editor/zoom").toReal(), 1.0);
+    EXPECT_FALSE(desk.settings.contains("editor/fontSize"));
+    EXPECT_FALSE(desk.session.isModified() && desk.session.canUndo());
+    desk.session.commitPendingEdits();
+    EXPECT_FALSE(desk.session.canUndo());
+}
+
+TEST(MarkdownPageTest, applyTextMakesAnyTextOfAnyOther)
+{
+    test::TestDesk desk;
+    MarkdownPage page(desk.themes, nullptr);
+    std::mt19937 random(3);
+    const QString letters = u"ab\n*# é"_s;
+    QString text;
+    for (int round = 0; round < 300; ++round) {
+        const auto start = static_cast<qsizetype>(random() % static_cast<std::size_t>(text.size() + 1));
+        const auto length = std::min<qsizetype>(random() % 5, text.size() - start);
+        QString piece;
+        for (auto count = random() % 6; count > 0; --count)
+            piece += letters[static_cast<qsizetype>(random() % static_cast<std::size_t>(letters.size()))];
+        text.replace(start, length, piece);
+        page.applyText(text);
+        ASSERT_EQ(page.toPlainText(), text);
+    }
+}
+
+TEST(WordCountTest, countsAsAWriterDoes)
+{
+    const struct
+    {
+        const char16_t* text;
+        qint64 words;
+    } cases[] = {
+        {u"", 0},
+        {u"  \n ", 0},
+        {u"It’s twenty-one o'clock.", 3},
+        {u"salt—debt – weather", 3},
+        {u"# Heading\n\n*So* **loud**[^1]", 4},
+        {u"* * *\n---", 0},
+        {u"1,204 is two", 4},
+        {u"Ærøskøbing naïve", 2},
+        {u"'quoted' -dash- end-", 3},
+    };
+    for (const auto& sample : cases)
+        EXPECT_EQ(core::document::countWords(QStringView(sample.text)), sample.words)
+            << QString::fromUtf16(sample.text).toStdString();
+}
+
+} // namespace tw::desktop::manuscript

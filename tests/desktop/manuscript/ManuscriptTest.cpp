@@ -1,0 +1,200 @@
+#include "core/document/DocumentTree.h"
+#include "desktop/manuscript/ManuscriptEdits.h"
+#include "desktop/manuscript/ManuscriptModel.h"
+#include "desktop/manuscript/ManuscriptPanel.h"
+#include "desktop/support/TestDesk.h"
+#include "desktop/trees/NavigatorTree.h"
+#include "desktop/trees/TreeRoles.h"
+
+#include <QAbstractItemModelTester>
+#include <QMimeData>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace tw::desktop::manuscript {
+
+using namespace Qt::Literals::StringLiterals;
+using core::ContentId;
+using core::document::DocumentKind;
+
+namespace {
+
+class ManuscriptTest : public testing::Test
+{
+protected:
+    ManuscriptTest()
+    {
+        part = desk.addDocument(u"Part"_s, {}, 0);
+        one = desk.addDocument(u"One"_s, part, 0);
+        two = desk.addDocument(u"Two"_s, part, 1);
+        three = desk.addDocument(u"Three"_s, part, 2);
+        notes = desk.addDocument(u"Notes"_s, {}, 1);
+        desk.document(one).setBody({u"It was low water."_s, {}});
+        desk.announce();
+    }
+
+    /** "Part(One Two Three) Notes" */
+    QString shape(const ContentId& parent = {}) const
+    {
+        QStringList parts;
+        for (const ContentId& id : core::document::childDocuments(desk.session.project(), parent)) {
+            const QString below = shape(id);
+            const auto* const document = desk.session.project().findAs<core::document::Document>(id);
+            parts.append(document->title() + (below.isEmpty() ? QString() : u'(' + below + u')'));
+        }
+        return parts.join(u' ');
+    }
+
+    test::TestDesk desk;
+    ContentId part, one, two, three, notes;
+};
+
+} // namespace
+
+TEST_F(ManuscriptTest, stepsMoveUpDownInAndOut)
+{
+    const struct
+    {
+        ContentId id;
+        MoveDirection direction;
+        bool moves;
+        const char16_t* result;
+    } cases[] = {
+        {two, MoveDirection::Up, true, u"Part(Two One Three) Notes"},
+        {one, MoveDirection::Up, false, u"Part(One Two Three) Notes"},
+        {two, MoveDirection::Down, true, u"Part(One Three Two) Notes"},
+        {three, MoveDirection::Down, false, u"Part(One Two Three) Notes"},
+        {two, MoveDirection::In, true, u"Part(One(Two) Three) Notes"},
+        {one, MoveDirection::In, false, u"Part(One Two Three) Notes"},
+        {two, MoveDirection::Out, true, u"Part(One Three) Two Notes"},
+        {part, MoveDirection::Out, false, u"Part(One Two Three) Notes"},
+        {notes, MoveDirection::In, true, u"Part(One Two Three Notes)"},
+    };
+    for (const auto& step : cases) {
+        EXPECT_EQ(stepDocument(desk.session, step.id, step.direction), step.moves);
+        EXPECT_EQ(shape(), QString::fromUtf16(step.result));
+        if (step.moves)
+            desk.session.undo();
+        EXPECT_EQ(shape(), u"Part(One Two Three) Notes"_s);
+    }
+}
+
+TEST_F(ManuscriptTest, severalMoveTogetherInOneStep)
+{
+    moveDocuments(desk.session, {one, three}, {}, notes);
+    EXPECT_EQ(shape(), u"Part(Two) One Three Notes"_s);
+    desk.session.undo();
+    moveDocuments(desk.session, {three, two}, part, one);
+    EXPECT_EQ(shape(), u"Part(Three Two One) Notes"_s);
+    desk.session.undo();
+    moveDocuments(desk.session, {two, three}, part, three);
+    EXPECT_EQ(shape(), u"Part(One Two Three) Notes"_s);
+    desk.session.undo();
+    moveDocuments(desk.session, {part, one}, notes, {});
+    EXPECT_EQ(shape(), u"Notes(Part(One Two Three))"_s) << "what lies beneath goes along";
+    desk.session.undo();
+    moveDocuments(desk.session, {part}, two, {});
+    EXPECT_EQ(shape(), u"Part(One Two Three) Notes"_s) << "nothing goes under itself";
+    EXPECT_FALSE(desk.session.canUndo());
+}
+
+TEST_F(ManuscriptTest, addingAndRemovingAreOneStepEach)
+{
+    const ContentId added =
+        addDocument(desk.session, DocumentKind::Prose, u"New"_s, placeAfter(desk.session, one));
+    EXPECT_EQ(shape(), u"Part(One New Two Three) Notes"_s);
+    EXPECT_EQ(desk.session.undoText(), u"Add document"_s);
+    desk.session.undo();
+    EXPECT_FALSE(desk.session.project().contains(added));
+    EXPECT_EQ(removeDocuments(desk.session, {one, part}), 4U);
+    EXPECT_EQ(shape(), u"Notes"_s);
+    desk.session.undo();
+    EXPECT_EQ(shape(), u"Part(One Two Three) Notes"_s);
+}
+
+TEST_F(ManuscriptTest, modelStaysTrueThroughRandomEdits)
+{
+    ManuscriptModel model(desk.context);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    std::mt19937 random(5);
+    for (int round = 0; round < 200; ++round) {
+        const auto documents = desk.session.project().objectsOfKind(core::content::ContentKind::Document);
+        const ContentId id = documents.empty() ? ContentId() : documents[random() % documents.size()]->id();
+        switch (random() % 6) {
+        case 0:
+            addDocument(desk.session, DocumentKind::Note, u"Added"_s, placeAfter(desk.session, id));
+            break;
+        case 1:
+            removeDocuments(desk.session, {id});
+            break;
+        case 2:
+            desk.session.undo();
+            break;
+        case 3:
+            desk.session.redo();
+            break;
+        default:
+            stepDocument(desk.session, id, static_cast<MoveDirection>(random() % 4));
+        }
+        const core::document::DocumentTree tree = core::document::documentTree(desk.session.project());
+        for (const auto& [parent, children] : tree) {
+            const QModelIndex parentIndex = model.indexOf(parent);
+            ASSERT_EQ(model.rowCount(parentIndex), static_cast<int>(children.size()));
+            for (std::size_t row = 0; row < children.size(); ++row)
+                ASSERT_EQ(model.idAt(model.index(static_cast<int>(row), 0, parentIndex)), children[row]);
+        }
+    }
+}
+
+TEST_F(ManuscriptTest, rowsTellWordsOfWhatIsBeneath)
+{
+    ManuscriptModel model(desk.context);
+    EXPECT_EQ(model.indexOf(part).data(trees::CountRole).toString(), u"4"_s);
+    EXPECT_TRUE(model.setData(model.indexOf(one), u"  Renamed "_s));
+    EXPECT_EQ(desk.document(one).title(), u"Renamed"_s);
+    EXPECT_FALSE(model.setData(model.indexOf(one), u"   "_s));
+    EXPECT_EQ(desk.session.undoText(), u"Rename document"_s);
+}
+
+TEST_F(ManuscriptTest, droppingRowsReordersThem)
+{
+    ManuscriptModel model(desk.context);
+    const std::unique_ptr<QMimeData> dragged(model.mimeData({model.indexOf(three)}));
+    const QModelIndex target = model.indexOf(part);
+    EXPECT_TRUE(model.canDropMimeData(dragged.get(), Qt::MoveAction, 0, 0, target));
+    model.dropMimeData(dragged.get(), Qt::MoveAction, 0, 0, target);
+    EXPECT_EQ(shape(), u"Part(Three One Two) Notes"_s);
+    const std::unique_ptr<QMimeData> parent(model.mimeData({model.indexOf(part)}));
+    EXPECT_FALSE(model.canDropMimeData(parent.get(), Qt::MoveAction, -1, -1, model.indexOf(two)));
+}
+
+TEST_F(ManuscriptTest, panelWorksByKeyboard)
+{
+    ManuscriptPanel panel(desk.context, nullptr);
+    panel.resize(300, 400);
+    panel.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    trees::NavigatorTree& tree = panel.tree();
+    tree.setFocus();
+    desk.navigator.setCurrent(two);
+    ASSERT_EQ(tree.currentSource().data().toString(), u"Two"_s);
+    QTest::keyClick(&tree, Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(shape(), u"Part(Two One Three) Notes"_s);
+    EXPECT_EQ(tree.currentSource().data().toString(), u"Two"_s) << "the row stays selected where it went";
+    QTest::keyClick(&tree, Qt::Key_Delete);
+    EXPECT_EQ(shape(), u"Part(One Three) Notes"_s);
+    desk.session.undo();
+    desk.session.undo();
+    EXPECT_EQ(shape(), u"Part(One Two Three) Notes"_s);
+
+    tree.setFilter(u"thr"_s);
+    EXPECT_EQ(tree.model()->rowCount(), 1);
+    EXPECT_EQ(tree.model()->rowCount(tree.model()->index(0, 0)), 1);
+    tree.setFilter({});
+    EXPECT_EQ(tree.model()->rowCount(), 2);
+}
+
+} // namespace tw::desktop::manuscript
