@@ -1,5 +1,6 @@
 #include "desktop/shell/MainWindow.h"
 
+#include "core/document/DocumentTree.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/Navigator.h"
@@ -15,6 +16,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
@@ -40,18 +42,23 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_center(new QStackedWidget)
     , m_workArea(new WorkArea(desk, m_center))
     , m_welcome(new WelcomePage(desk.icons, !m_samplePath.isEmpty(), m_center))
+    , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entry in the codex."), m_center))
     , m_docks(nullptr)
     , m_status(new StatusStrip(desk, *statusBar()))
 {
     setObjectName(u"mainWindow"_s);
     m_center->addWidget(m_welcome);
     m_center->addWidget(m_workArea);
+    m_center->addWidget(m_emptyHint);
+    m_emptyHint->setAlignment(Qt::AlignCenter);
+    m_emptyHint->setForegroundRole(QPalette::PlaceholderText);
     m_docks = new DockLayout(*this, m_center, desk.themes, desk.icons);
     addPanels();
     buildMenus();
     restoreWindow();
 
     connect(m_workArea, &WorkArea::currentPageChanged, m_status, &StatusStrip::setPage);
+    connect(m_workArea, &WorkArea::currentPageChanged, this, &MainWindow::showCenter);
     connect(&desk.session, &ProjectSession::historyChanged, this, &MainWindow::refreshHistory);
     connect(&desk.session, &ProjectSession::saveStateChanged, this, &MainWindow::refreshTitle);
     connect(
@@ -66,7 +73,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     connect(m_welcome, &WelcomePage::openRequested, this, &MainWindow::chooseAndOpen);
     connect(m_welcome, &WelcomePage::sampleRequested, this, &MainWindow::openSample);
     connect(m_welcome, &WelcomePage::recentRequested, this, &MainWindow::openProject);
-    showWelcomeOrWork();
+    showCenter();
     refreshHistory();
     refreshTitle();
 }
@@ -102,7 +109,7 @@ bool MainWindow::openProject(const QString& path)
     if (const auto opened = m_desk.session.open(path); !opened) {
         tell(tr("Open Project"), opened.message());
         RecentProjects(m_desk.settings).remove(path);
-        showWelcomeOrWork();
+        showCenter();
         return false;
     }
     noteOpened();
@@ -241,10 +248,29 @@ void MainWindow::noteOpened()
         RecentProjects(m_desk.settings).add(workspace.displayPath());
         m_workArea->restoreIds(m_desk.settings.value(pagesKey()).toStringList());
     }
-    showWelcomeOrWork();
+    if (!m_workArea->hasPages())
+        openFirstDocument();
+    showCenter();
     refreshTitle();
     if (!workspace.libraryNotices().isEmpty())
         statusBar()->showMessage(workspace.libraryNotices().join(u' '), messageTime);
+}
+
+void MainWindow::openFirstDocument()
+{
+    const auto& project = m_desk.session.project();
+    const core::document::DocumentTree tree = core::document::documentTree(project);
+    const auto roots = tree.find({});
+    if (roots == tree.end())
+        return;
+    for (const core::ContentId& root : roots->second) {
+        for (const core::ContentId& id : core::document::documentSubtree(project, root)) {
+            if (project.findAs<core::document::Document>(id)->body().text.isEmpty())
+                continue;
+            m_desk.navigator.open(id);
+            return;
+        }
+    }
 }
 
 QString MainWindow::pagesKey() const
@@ -272,11 +298,16 @@ bool MainWindow::select(const QString& what)
     return true;
 }
 
-void MainWindow::showWelcomeOrWork()
+void MainWindow::showCenter()
 {
     const bool isOpen = m_desk.session.isProjectOpen();
     m_welcome->setRecent(RecentProjects(m_desk.settings).paths());
-    m_center->setCurrentWidget(isOpen ? static_cast<QWidget*>(m_workArea) : m_welcome);
+    if (!isOpen)
+        m_center->setCurrentWidget(m_welcome);
+    else if (m_workArea->hasPages())
+        m_center->setCurrentWidget(m_workArea);
+    else
+        m_center->setCurrentWidget(m_emptyHint);
     for (QAction* const action : m_projectActions)
         action->setEnabled(isOpen);
 }

@@ -6,6 +6,7 @@
 
 #include <QMainWindow>
 
+class QLabel;
 class QStackedWidget;
 
 namespace tw::desktop::codex {
@@ -76,7 +77,8 @@ private:
     void fillRecentMenu();
     void refreshHistory();
     void refreshTitle();
-    void showWelcomeOrWork();
+    void openFirstDocument();
+    void showCenter();
     void tell(const QString& title, const QString& text);
 
     DeskContext m_desk;
@@ -84,6 +86,7 @@ private:
     QStackedWidget* m_center;
     WorkArea* m_workArea;
     WelcomePage* m_welcome;
+    QLabel* m_emptyHint;
     DockLayout* m_docks;
     StatusStrip* m_status;
     QMenu* m_recentMenu = nullptr;

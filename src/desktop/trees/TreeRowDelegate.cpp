@@ -43,19 +43,21 @@ void TreeRowDelegate::paint(
     QStyleOptionViewItem row = option;
     initStyleOption(&row, index);
     const QStyle* const style = row.widget ? row.widget->style() : QApplication::style();
-    // The whole row is selected or hovered, the title ends before the count.
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const int trailing = trailingWidth(row, index);
+    // The whole row is selected, hovered and focused; the title ends before the count.
     QStyleOptionViewItem background = row;
     background.text.clear();
     background.icon = {};
     background.features &= ~QStyleOptionViewItem::HasDecoration;
     style->drawControl(QStyle::CE_ItemViewItem, &background, painter, row.widget);
     row.rect = QStyle::visualRect(option.direction, option.rect, option.rect.adjusted(0, 0, -trailing, 0));
-    row.state &= ~(QStyle::State_HasFocus);
+    row.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected | QStyle::State_MouseOver);
     row.backgroundBrush = Qt::NoBrush;
+    if (isSelected)
+        row.palette.setColor(QPalette::Text, m_themes.theme().color(theme::Role::SelectionInk));
     style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
 
-    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const auto inkRole = isSelected ? theme::Role::SelectionInk : theme::Role::QuietInk;
     int right = option.rect.right() - gap / 2;
     painter->save();

@@ -1,30 +1,26 @@
 #pragma once
 
-#include <QSet>
+#include "app/persistence/json/JsonTree.h"
+
 #include <QString>
+
+#include <array>
 
 namespace tw::app::persistence {
 
 /**
  * Makes equal texts share their memory: field keys, tags, statuses, colours and ids stand in thousands of
- * objects of a large project. Lives as long as a load takes and belongs to one thread at a time.
+ * objects of a large project. Remembers a limited number, of which the latest stay, so that texts seen once
+ * cost nothing later. Lives as long as a load takes and belongs to one thread at a time.
  */
 class TextPool
 {
 public:
-    [[nodiscard]] QString shared(QString text) { return *m_texts.insert(std::move(text)); }
-
-    /** Shares texts of the length that statuses, colours and ids have; others seldom occur twice. */
-    [[nodiscard]] QString sharedIfLikely(QString text)
-    {
-        constexpr qsizetype longestLabel = 12;
-        constexpr qsizetype idLength = 36;
-        const bool isLikely = !text.isEmpty() && (text.size() <= longestLabel || text.size() == idLength);
-        return isLikely ? shared(std::move(text)) : text;
-    }
+    /** The text of a node, in the memory of an equal one where that is at hand. */
+    [[nodiscard]] QString textOf(const JsonNode& node);
 
 private:
-    QSet<QString> m_texts;
+    std::array<QString, 4096> m_texts;
 };
 
 } // namespace tw::app::persistence

@@ -41,9 +41,12 @@ struct ValueCodec<QString>
     static bool isSet(const QString& value) { return !value.isEmpty(); }
     static bool read(const JsonNode& json, QString& value, TextPool& texts)
     {
-        std::optional<QString> text = readText(json);
-        if (text)
-            value = texts.sharedIfLikely(*std::move(text));
+        if (json.isText()) {
+            value = texts.textOf(json);
+            return true;
+        }
+        const std::optional<QString> text = readText(json);
+        value = text.value_or(value);
         return text.has_value();
     }
 };
@@ -188,15 +191,20 @@ template <class Element>
 struct ValueCodec<QList<Element>> : ListCodec<QList<Element>>
 {};
 
+/** A text on its own is a list of one; elements of a list that are no strings are left out. */
 template <>
 struct ValueCodec<QStringList> : ListCodec<QStringList>
 {
     static bool read(const JsonNode& json, QStringList& list, TextPool& texts)
     {
-        list = readTextList(json);
-        for (QString& text : list)
-            text = texts.shared(std::move(text));
-        return json.isArray() || !list.isEmpty();
+        list.clear();
+        if (json.isText())
+            list.append(texts.textOf(json));
+        json.forEachElement([&](const JsonNode& element) {
+            if (element.isText())
+                list.append(texts.textOf(element));
+        });
+        return json.isArray() || json.isText();
     }
 };
 
@@ -261,13 +269,12 @@ struct ValueCodec<std::map<QString, QString>>
     {
         values.clear();
         json.forEachMember([&](const JsonNode& key, const JsonNode& value) {
-            std::optional<QString> text = readText(value);
+            QString text;
             if (value.isArray())
                 text = readTextList(value).join(u'\n');
-            if (text) {
-                values.insert_or_assign(
-                    values.end(), texts.shared(key.text()), texts.sharedIfLikely(*std::move(text)));
-            }
+            else if (!ValueCodec<QString>::read(value, text, texts))
+                return;
+            values.insert_or_assign(values.end(), texts.textOf(key), std::move(text));
         });
         return json.isObject();
     }

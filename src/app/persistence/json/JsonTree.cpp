@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QStringDecoder>
 
 #include <limits>
 
@@ -54,29 +55,37 @@ char16_t escapedCharacter(char letter)
 /** Decodes a text that the parser has found well-formed. */
 QString decoded(QByteArrayView bytes)
 {
-    QString text;
-    text.reserve(bytes.size());
-    qsizetype position = 0;
-    while (position < bytes.size()) {
-        const qsizetype found = bytes.indexOf('\\', position);
-        const qsizetype end = found < 0 ? bytes.size() : found;
-        text += QString::fromUtf8(bytes.sliced(position, end - position));
-        position = end;
-        if (position == bytes.size())
+    // No character has more units in UTF-16 than bytes here. A mark at the start of a text is part of it.
+    QString text(bytes.size(), Qt::Uninitialized);
+    QChar* end = text.data();
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    while (!bytes.isEmpty()) {
+        const qsizetype escape = bytes.indexOf('\\');
+        end = decoder.appendToBuffer(end, bytes.first(escape < 0 ? bytes.size() : escape));
+        if (escape < 0)
             break;
-        const char letter = bytes.at(position + 1);
-        position += 2;
+        const char letter = bytes.at(escape + 1);
+        bytes = bytes.sliced(escape + 2);
         if (letter != 'u') {
-            text += QChar(escapedCharacter(letter));
+            *end++ = QChar(escapedCharacter(letter));
             continue;
         }
         unsigned unit = 0;
-        for (const char digit : bytes.sliced(position, 4))
+        for (const char digit : bytes.first(4))
             unit = unit * 16 + static_cast<unsigned>(hexValue(digit));
-        text += QChar(static_cast<char16_t>(unit));
-        position += 4;
+        *end++ = QChar(static_cast<char16_t>(unit));
+        bytes = bytes.sliced(4);
     }
+    text.truncate(end - text.constData());
     return text;
+}
+
+bool isAscii(QByteArrayView bytes)
+{
+    unsigned char all = 0;
+    for (const char byte : bytes)
+        all |= static_cast<unsigned char>(byte);
+    return all < 0x80;
 }
 
 } // namespace
@@ -185,23 +194,30 @@ private:
     {
         ++m_cursor;
         const std::size_t node = addNode(Type::Text);
-        bool isAscii = true;
-        bool hasEscape = false;
-        for (; m_cursor != m_end && *m_cursor != '"'; ++m_cursor) {
-            if (static_cast<signed char>(*m_cursor) < 0) {
-                isAscii = false;
-            } else if (*m_cursor == '\\') {
-                hasEscape = true;
-                if (!skipEscape())
-                    return false;
-            }
-        }
-        if (m_cursor == m_end)
+        const qsizetype quote = QByteArrayView(m_cursor, m_end).indexOf('"');
+        if (quote < 0)
+            return false;
+        const bool hasEscape = QByteArrayView(m_cursor, quote).contains('\\');
+        if (!hasEscape)
+            m_cursor += quote;
+        else if (!skipEscapedText())
             return false;
         closeNode(node);
-        m_nodes[node].isPlain = isAscii && !hasEscape;
+        const QByteArrayView text(m_begin + m_nodes[node].start, m_cursor);
+        const bool hasOnlyAscii = isAscii(text);
+        m_nodes[node].isPlain = hasOnlyAscii && !hasEscape;
         ++m_cursor;
-        return isAscii || QByteArrayView(m_begin + m_nodes[node].start, m_nodes[node].length).isValidUtf8();
+        return hasOnlyAscii || text.isValidUtf8();
+    }
+
+    /** Moves to the quotation mark behind a text in which backslashes stand. */
+    bool skipEscapedText()
+    {
+        for (; m_cursor != m_end && *m_cursor != '"'; ++m_cursor) {
+            if (*m_cursor == '\\' && !skipEscape())
+                return false;
+        }
+        return m_cursor != m_end;
     }
 
     /** Leaves the cursor on the escape's last byte. */
@@ -293,6 +309,18 @@ QString JsonNode::text() const
 QByteArrayView JsonNode::digits() const
 {
     return isNumber() ? slice() : QByteArrayView();
+}
+
+QByteArrayView JsonNode::encodedText() const
+{
+    return isText() ? slice() : QByteArrayView();
+}
+
+bool JsonNode::isText(QStringView expected) const
+{
+    if (!isText())
+        return false;
+    return node().isPlain ? QLatin1StringView(slice()) == expected : text() == expected;
 }
 
 bool JsonNode::isText(QLatin1StringView expected) const

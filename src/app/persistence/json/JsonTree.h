@@ -77,7 +77,11 @@ public:
     [[nodiscard]] QString text() const;
     /** The number as it is written; empty when this is none. */
     [[nodiscard]] QByteArrayView digits() const;
-    /** Whether this is exactly that text, which has to be ASCII. */
+    /** The text as it stands in the file, with its escapes; equal ones are equal texts. */
+    [[nodiscard]] QByteArrayView encodedText() const;
+    /** Whether this is exactly that text. */
+    [[nodiscard]] bool isText(QStringView expected) const;
+    /** The same for a text of ASCII. */
     [[nodiscard]] bool isText(QLatin1StringView expected) const;
 
     /** An upper bound of the number of elements or members. */

@@ -183,6 +183,14 @@ TEST(JsonTree, judgesDamagedTextsAsQtDoes)
     }
 }
 
+TEST(JsonTree, keepsMarksAtTheStartOfATextAndBehindAnEscape)
+{
+    const QByteArray json = "{\"v\": \"\xef\xbb\xbfx\\n\xef\xbb\xbfy\"}";
+    JsonTree tree;
+    ASSERT_TRUE(tree.parse(json));
+    EXPECT_EQ(tree.root().value("v"_L1).text(), u"\ufeffx\n\ufeffy"_s);
+}
+
 TEST(JsonTree, takesTheLastOfEqualKeysAndDecodesKeys)
 {
     const QByteArray json = R"({"a": 1, "\u0061b": 2, "a": 3, "ä": 4})";
