@@ -1,9 +1,9 @@
 #include "desktop/fields/StoryDateEdit.h"
 
 #include "core/calendar/DateReader.h"
-#include "desktop/theme/ThemeManager.h"
+#include "desktop/fields/EditorKeys.h"
+#include "desktop/fields/NoteLabel.h"
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -13,9 +13,8 @@ using core::calendar::StoryInstant;
 
 StoryDateEdit::StoryDateEdit(theme::ThemeManager& themes, QWidget* parent)
     : QWidget(parent)
-    , m_themes(themes)
     , m_text(new QLineEdit(this))
-    , m_reading(new QLabel(this))
+    , m_reading(new NoteLabel(themes, this))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -23,15 +22,19 @@ StoryDateEdit::StoryDateEdit(theme::ThemeManager& themes, QWidget* parent)
     layout->addWidget(m_text);
     layout->addWidget(m_reading);
     m_text->setPlaceholderText(tr("No date"));
-    m_reading->setWordWrap(true);
-    m_reading->hide();
     setFocusProxy(m_text);
-    connect(m_text, &QLineEdit::textEdited, this, &StoryDateEdit::showReading);
-    connect(m_text, &QLineEdit::editingFinished, this, &StoryDateEdit::finish);
+    new EditorKeys(*m_text, [this] { setInstant(m_instant); });
+    connect(m_text, &QLineEdit::textEdited, this, [this] {
+        showReading();
+        emit typed();
+    });
+    connect(m_text, &QLineEdit::editingFinished, this, &StoryDateEdit::commit);
 }
 
 void StoryDateEdit::setCalendar(const core::calendar::Calendar& calendar)
 {
+    if (calendar == m_calendar)
+        return;
     m_calendar = calendar;
     setInstant(m_instant);
 }
@@ -39,14 +42,19 @@ void StoryDateEdit::setCalendar(const core::calendar::Calendar& calendar)
 void StoryDateEdit::setInstant(const std::optional<StoryInstant>& instant)
 {
     m_instant = instant;
-    m_text->setText(instant ? m_calendar.formatInstant(*instant) : QString());
+    m_text->setText(shownText());
     m_text->setCursorPosition(0);
-    m_reading->hide();
+    m_reading->setNote({});
 }
 
 void StoryDateEdit::setReadOnly(bool readOnly)
 {
     m_text->setReadOnly(readOnly);
+}
+
+QString StoryDateEdit::shownText() const
+{
+    return m_instant ? m_calendar.formatInstant(*m_instant) : QString();
 }
 
 std::optional<StoryInstant> StoryDateEdit::reading() const
@@ -55,25 +63,31 @@ std::optional<StoryInstant> StoryDateEdit::reading() const
     return parts ? std::optional(m_calendar.minutesFromParts(*parts)) : std::nullopt;
 }
 
-void StoryDateEdit::showReading()
+bool StoryDateEdit::isReadable() const
 {
-    const bool isEmpty = m_text->text().trimmed().isEmpty();
-    m_reading->setVisible(!isEmpty);
-    if (isEmpty)
-        return;
-    const auto instant = reading();
-    const auto role = instant ? theme::Role::QuietInk : theme::Role::Error;
-    QPalette colors = m_reading->palette();
-    colors.setColor(QPalette::WindowText, m_themes.theme().color(role));
-    m_reading->setPalette(colors);
-    m_reading->setText(
-        instant ? tr("Reads as %1").arg(m_calendar.formatInstant(*instant))
-                : tr("Not a date this calendar can read. Write it like “%1” or just a year.")
-                      .arg(m_calendar.formatInstant(0)));
+    return m_text->text().trimmed().isEmpty() || m_text->text() == shownText() || reading();
 }
 
-void StoryDateEdit::finish()
+void StoryDateEdit::showReading()
 {
+    if (m_text->text().trimmed().isEmpty())
+        m_reading->setNote({});
+    else if (const auto instant = reading())
+        m_reading->setNote(tr("Reads as %1").arg(m_calendar.formatInstant(*instant)));
+    else
+        m_reading->setNote(
+            tr("Not a date this calendar can read. Write it like “%1” or just a year.")
+                .arg(m_calendar.formatInstant(0)),
+            NoteLabel::Tone::Error);
+}
+
+void StoryDateEdit::commit()
+{
+    // The formatter's own text may be a date the reader cannot take back; untouched text is no edit.
+    if (m_text->text() == shownText()) {
+        m_reading->setNote({});
+        return;
+    }
     const bool isEmpty = m_text->text().trimmed().isEmpty();
     const auto instant = isEmpty ? std::nullopt : reading();
     if (!isEmpty && !instant) {
@@ -82,13 +96,9 @@ void StoryDateEdit::finish()
         return;
     }
     const bool isOther = instant != m_instant;
-    // The formatter's own text may be a date the reader cannot take back; untouched text is no edit.
-    if (!isOther || m_text->text() == (m_instant ? m_calendar.formatInstant(*m_instant) : QString())) {
-        setInstant(m_instant);
-        return;
-    }
     setInstant(instant);
-    emit instantEdited(instant);
+    if (isOther)
+        emit instantEdited(instant);
 }
 
 } // namespace tw::desktop::fields

@@ -6,7 +6,6 @@
 
 #include <optional>
 
-class QLabel;
 class QLineEdit;
 
 namespace tw::desktop::theme {
@@ -14,6 +13,8 @@ class ThemeManager;
 }
 
 namespace tw::desktop::fields {
+
+class NoteLabel;
 
 /**
  * A field for a story date: reads what the project's date reader reads, shows the reading beneath while the
@@ -26,26 +27,34 @@ class StoryDateEdit final : public QWidget
 public:
     explicit StoryDateEdit(theme::ThemeManager& themes, QWidget* parent);
 
+    /** Another calendar shows the instant anew, in place of uncommitted typing; the same one changes nothing.
+     */
     void setCalendar(const core::calendar::Calendar& calendar);
     /** Shows the instant in the calendar; emits nothing. */
     void setInstant(const std::optional<core::calendar::StoryInstant>& instant);
     [[nodiscard]] const std::optional<core::calendar::StoryInstant>& instant() const { return m_instant; }
     void setReadOnly(bool readOnly);
 
+    /** Takes what was typed as if the field had been left. */
+    void commit();
+    /** False while the field holds text that is no date. */
+    [[nodiscard]] bool isReadable() const;
+
 signals:
+    /** The writer is typing. */
+    void typed();
     /** The writer finished and the text reads as another date than before, or as none. */
     void instantEdited(const std::optional<tw::core::calendar::StoryInstant>& instant);
 
 private:
+    [[nodiscard]] QString shownText() const;
     [[nodiscard]] std::optional<core::calendar::StoryInstant> reading() const;
     void showReading();
-    void finish();
 
-    theme::ThemeManager& m_themes;
     core::calendar::Calendar m_calendar;
     std::optional<core::calendar::StoryInstant> m_instant;
     QLineEdit* m_text;
-    QLabel* m_reading;
+    NoteLabel* m_reading;
 };
 
 } // namespace tw::desktop::fields

@@ -170,6 +170,11 @@ void DocumentPage::followChanges(const core::project::ProjectChanges& changes)
 {
     if (!changes.concerns(objectId()) || !m_desk.session.project().contains(objectId()))
         return;
+    if (changes.isEverything) {
+        // The project was read anew: typing that was held back belonged to the one before.
+        m_burst.stop();
+        m_hasTyping = false;
+    }
     showDocument();
     recount();
     emit titleChanged();

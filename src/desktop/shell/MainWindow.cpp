@@ -223,8 +223,12 @@ void MainWindow::reloadProject()
 bool MainWindow::settleUnsavedChanges()
 {
     m_desk.session.commitPendingEdits();
-    if (!m_desk.session.isModified())
+    if (!m_desk.session.isModified()) {
+        // Nothing is unsaved, so a refusal because of others' changes loses nothing.
+        if (m_desk.session.workspace().isFullSaveDue())
+            static_cast<void>(m_desk.session.save(SaveExtent::Everything));
         return true;
+    }
     QMessageBox question(
         QMessageBox::Question, tr("Unsaved Changes"),
         tr("“%1” has changes that are not saved.").arg(m_desk.session.workspace().displayName()),

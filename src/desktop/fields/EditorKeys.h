@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+class QWidget;
+
+namespace tw::desktop::fields {
+
+/**
+ * The keys that every editor of a value treats alike: undo and redo go to the project, not to the editor's
+ * own history, and Escape takes back what was typed since the value was last stored. Owned by the editor.
+ */
+class EditorKeys final : public QObject
+{
+    Q_OBJECT
+
+public:
+    EditorKeys(QWidget& editor, std::function<void()> takeBack);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    std::function<void()> m_takeBack;
+};
+
+} // namespace tw::desktop::fields

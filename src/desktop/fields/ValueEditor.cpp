@@ -1,0 +1,65 @@
+#include "desktop/fields/ValueEditor.h"
+
+#include "desktop/fields/BooleanValueEditor.h"
+#include "desktop/fields/ChoiceValueEditor.h"
+#include "desktop/fields/DateValueEditor.h"
+#include "desktop/fields/NumberValueEditor.h"
+#include "desktop/fields/ReferenceValueEditor.h"
+#include "desktop/fields/TextValueEditor.h"
+#include "desktop/fields/UrlValueEditor.h"
+
+namespace tw::desktop::fields {
+
+using core::taxonomy::FieldType;
+
+ValueEditor::ValueEditor(QWidget* parent)
+    : QWidget(parent)
+{}
+
+void ValueEditor::setValue(const std::optional<QString>& value)
+{
+    m_value = value;
+    present();
+}
+
+void ValueEditor::commit() {}
+
+void ValueEditor::follow(const core::project::ProjectChanges&) {}
+
+void ValueEditor::finish(const std::optional<QString>& value)
+{
+    if (value == m_value)
+        return;
+    m_value = value;
+    emit valueEdited(value);
+}
+
+void ValueEditor::finishText(const QString& text, const QString& shownText)
+{
+    if (text != shownText)
+        finish(text.isEmpty() ? std::nullopt : std::optional(text));
+}
+
+ValueEditor* makeValueEditor(
+    const shell::DeskContext& desk, const core::taxonomy::Field& field, QWidget* parent)
+{
+    switch (field.type) {
+    case FieldType::Number:
+        return new NumberValueEditor(desk.themes, parent);
+    case FieldType::Boolean:
+        return new BooleanValueEditor(desk.themes, parent);
+    case FieldType::Date:
+        return new DateValueEditor(desk, parent);
+    case FieldType::Reference:
+        return new ReferenceValueEditor(desk, field.referenceCategory, parent);
+    case FieldType::Choice:
+        return new ChoiceValueEditor(field.options, parent);
+    case FieldType::Url:
+        return new UrlValueEditor(desk.icons, parent);
+    case FieldType::Text:
+        break;
+    }
+    return new TextValueEditor(parent);
+}
+
+} // namespace tw::desktop::fields
