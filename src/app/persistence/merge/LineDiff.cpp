@@ -40,7 +40,8 @@ public:
     /** The matched lines in order, or none when more than `longestScript` edits are needed. */
     [[nodiscard]] std::optional<std::vector<Match>> run()
     {
-        const qsizetype limit = std::min(longestScript, std::ssize(m_before) + std::ssize(m_after));
+        const qsizetype limit =
+            std::min<qsizetype>(longestScript, std::ssize(m_before) + std::ssize(m_after));
         for (qsizetype edits = 0; edits <= limit; ++edits) {
             m_rows.emplace_back(static_cast<std::size_t>(2 * edits + 1), 0);
             for (qsizetype diagonal = -edits; diagonal <= edits; diagonal += 2) {

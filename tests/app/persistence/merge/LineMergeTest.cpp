@@ -87,8 +87,9 @@ TEST(LineMergeTest, mergesByTheRules)
     for (const auto& sample : cases) {
         const LineMerge merge = mergeLines(lines(sample.base), lines(sample.mine), lines(sample.theirs));
         EXPECT_EQ(merge.isClean(), sample.merged != nullptr) << sample.name;
-        if (sample.merged)
+        if (sample.merged) {
             EXPECT_EQ(merge.text, lines(sample.merged)) << sample.name;
+        }
         const LineMerge mirrored = mergeLines(lines(sample.base), lines(sample.theirs), lines(sample.mine));
         EXPECT_EQ(mirrored.isClean(), merge.isClean()) << sample.name;
     }
