@@ -1,7 +1,9 @@
 #include "app/persistence/DiskState.h"
 
 #include "app/persistence/files/FolderScan.h"
+#include "app/persistence/files/ProjectFiles.h"
 
+#include <QCryptographicHash>
 #include <QSet>
 
 #include <algorithm>
@@ -17,6 +19,11 @@ constexpr qint64 settlingNs = 2'000'000'000;
 QString joined(const QString& folder, const QString& relativePath)
 {
     return folder + u'/' + relativePath;
+}
+
+QByteArray hashOf(const QByteArray& bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
 
 } // namespace
@@ -39,7 +46,7 @@ bool DiskState::isSettled(const FileStamp& stamp) const
 
 void DiskState::record(const QString& relativePath, QByteArray bytes, const FileStamp& stamp)
 {
-    m_records.insert(relativePath, {std::move(bytes), stamp, isSettled(stamp)});
+    m_records.insert(relativePath, {std::move(bytes), stamp, isSettled(stamp), false});
 }
 
 void DiskState::recordWritten(const QString& folder, const QString& relativePath, QByteArray bytes)
@@ -47,7 +54,7 @@ void DiskState::recordWritten(const QString& folder, const QString& relativePath
     // A stamp just taken never counts as settled: whatever another program did meanwhile, the next check
     // reads the file.
     const FileStamp stamp = m_fileSystem->stamp(joined(folder, relativePath)).value_or(FileStamp());
-    m_records.insert(relativePath, {std::move(bytes), stamp, false});
+    m_records.insert(relativePath, {std::move(bytes), stamp, false, false});
 }
 
 void DiskState::recordUnseen(const QString& folder)
@@ -55,20 +62,26 @@ void DiskState::recordUnseen(const QString& folder)
     for (const ScannedFile& file : scanFolder(folder, ScannedFiles::Text).files) {
         if (m_records.contains(file.relativePath))
             continue;
-        if (auto content = m_fileSystem->readFile(joined(folder, file.relativePath)))
-            record(file.relativePath, std::move(content->bytes), content->stamp);
+        auto content = m_fileSystem->readFile(joined(folder, file.relativePath));
+        if (!content)
+            continue;
+        const bool isOurs = isProjectFile(file.relativePath);
+        m_records.insert(
+            file.relativePath, {isOurs ? std::move(content->bytes) : hashOf(content->bytes), content->stamp,
+                                isSettled(content->stamp), !isOurs});
     }
 }
 
 QByteArray DiskState::bytes(const QString& relativePath) const
 {
-    return m_records.value(relativePath).bytes;
+    const Record record = m_records.value(relativePath);
+    return record.isHash ? QByteArray() : record.bytes;
 }
 
 bool DiskState::isSameContent(const QString& path, Record& record)
 {
     const auto content = m_fileSystem->readFile(path);
-    if (!content || content->bytes != record.bytes)
+    if (!content || (record.isHash ? hashOf(content->bytes) : content->bytes) != record.bytes)
         return false;
     record.stamp = content->stamp;
     record.isSettled = isSettled(content->stamp);

@@ -46,7 +46,10 @@ public:
     void forget(const QString& relativePath) { m_records.remove(relativePath); }
     void clear() { m_records.clear(); }
 
-    /** Reads and records every text file of the folder that is not recorded yet. */
+    /**
+     * Reads and records every text file of the folder that is not recorded yet. Of files that are not the
+     * project's only a hash is kept: they guard a save, but nobody merges them.
+     */
     void recordUnseen(const QString& folder);
 
     [[nodiscard]] qsizetype count() const { return m_records.size(); }
@@ -54,7 +57,7 @@ public:
     {
         return m_records.contains(relativePath);
     }
-    /** The recorded bytes; null when the file is not recorded. */
+    /** The recorded bytes of a project file; null when it is not recorded. */
     [[nodiscard]] QByteArray bytes(const QString& relativePath) const;
     [[nodiscard]] QStringList paths() const { return m_records.keys(); }
 
@@ -69,6 +72,8 @@ private:
         QByteArray bytes;
         FileStamp stamp;
         bool isSettled = false;
+        /** The bytes are the content's hash. */
+        bool isHash = false;
     };
 
     [[nodiscard]] bool isSettled(const FileStamp& stamp) const;

@@ -140,6 +140,7 @@ Result<void> Workspace::load(const QString& folder)
     m_folderPath = folder;
     m_openedFolderFingerprint.clear();
     m_saved = {};
+    m_fullSaveDue = false;
     m_saved.revisions.reserve(static_cast<qsizetype>(project.files.size()));
     for (persistence::LoadedFile& file : project.files) {
         const core::content::ContentObject* const object = m_project->find(file.objectId);
@@ -172,6 +173,7 @@ Result<void> Workspace::save(SaveExtent extent)
     persistence::FolderSaver saver(m_environment, m_folderPath, m_openedFolderFingerprint, m_saved);
     if (auto saved = saver.save(*m_project, extent); !saved)
         return saved;
+    m_fullSaveDue = extent == SaveExtent::Changed;
     m_undoStack.setClean();
     return {};
 }
@@ -203,6 +205,7 @@ Result<void> Workspace::saveAs(const QString& folder)
     m_singleFilePath.clear();
     m_openedFolderFingerprint = std::move(disk);
     m_saved = std::move(saved);
+    m_fullSaveDue = false;
     m_undoStack.setClean();
     return {};
 }

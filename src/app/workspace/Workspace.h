@@ -62,6 +62,10 @@ public:
      */
     [[nodiscard]] core::Result<void> save(persistence::SaveExtent extent = persistence::SaveExtent::Changed);
 
+    /** True after saves that looked only at what moved: whoever closes the project saves everything once
+     * more. */
+    [[nodiscard]] bool isFullSaveDue() const { return m_fullSaveDue; }
+
     /**
      * Gives the project a new folder, with a copy of its assets and other files, and saves it there. Refused
      * when the folder holds another project.
@@ -97,6 +101,7 @@ private:
     QDateTime m_openedFileTime;
     persistence::DiskState m_openedFolderFingerprint;
     persistence::SavedState m_saved;
+    bool m_fullSaveDue = false;
     std::vector<MountedLibrary> m_libraries;
     QStringList m_libraryNotices;
 };

@@ -137,6 +137,17 @@ bool stepDocument(ProjectSession& session, const ContentId& id, MoveDirection di
     return false;
 }
 
+ContentId firstLocked(const ProjectSession& session, const std::vector<ContentId>& ids)
+{
+    for (const ContentId& id : ids) {
+        for (const ContentId& below : core::document::documentSubtree(session.project(), id)) {
+            if (session.project().find(below)->isLocked())
+                return below;
+        }
+    }
+    return {};
+}
+
 std::size_t removeDocuments(ProjectSession& session, const std::vector<ContentId>& ids)
 {
     auto& project = session.projectForCommands();

@@ -47,6 +47,10 @@ enum class MoveDirection
 /** Moves one document a step; false when there is no such step. */
 bool stepDocument(shell::ProjectSession& session, const core::ContentId& id, MoveDirection direction);
 
+/** The first locked document among these and everything beneath them; null when there is none. */
+[[nodiscard]] core::ContentId firstLocked(
+    const shell::ProjectSession& session, const std::vector<core::ContentId>& ids);
+
 /** Removes documents with everything beneath them as one step; gives how many went. */
 std::size_t removeDocuments(shell::ProjectSession& session, const std::vector<core::ContentId>& ids);
 

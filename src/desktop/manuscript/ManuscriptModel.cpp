@@ -226,8 +226,10 @@ Qt::ItemFlags ManuscriptModel::flags(const QModelIndex& index) const
 {
     if (!index.isValid())
         return Qt::ItemIsDropEnabled;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled |
-           Qt::ItemIsDropEnabled;
+    const auto* const document = m_desk.session.project().findAs<Document>(idAt(index));
+    const Qt::ItemFlags always =
+        Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
+    return document && document->isLocked() ? always : always | Qt::ItemIsEditable;
 }
 
 Qt::DropActions ManuscriptModel::supportedDropActions() const

@@ -4,6 +4,7 @@
 #include "desktop/manuscript/ManuscriptEdits.h"
 #include "desktop/manuscript/ManuscriptModel.h"
 #include "desktop/shell/Navigator.h"
+#include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/PanelHeader.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/trees/NavigatorTree.h"
@@ -34,7 +35,6 @@ ManuscriptPanel::ManuscriptPanel(const shell::DeskContext& desk, QWidget* parent
     setFocusProxy(m_tree);
     m_tree->setAccessibleName(tr("Manuscript"));
     m_tree->setSource(*m_model);
-    m_tree->setEmptyHint(tr("No documents here. Press + to write the first one."));
     m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
     makeInsertActions();
     makeEditActions();
@@ -133,6 +133,11 @@ void ManuscriptPanel::removeSelected()
         ids.push_back(m_model->idAt(index));
     if (ids.empty())
         return;
+    if (const ContentId locked = firstLocked(m_desk.session, ids); !locked.isNull()) {
+        const QString title = shell::objectTitle(*m_desk.session.project().find(locked));
+        m_desk.navigator.say(tr("“%1” is locked. Unlock it in the inspector to remove it.").arg(title));
+        return;
+    }
     const QString first = m_tree->selectedSources().first().data().toString();
     const auto removed = static_cast<int>(removeDocuments(m_desk.session, ids));
     if (removed == 1)
@@ -162,8 +167,12 @@ void ManuscriptPanel::refreshActions()
     const bool hasCurrent = m_tree->currentSource().isValid();
     for (QAction* const action : m_editActions)
         action->setEnabled(hasCurrent);
+    const bool isOpen = m_desk.session.isProjectOpen();
     for (QAction* const action : m_insertActions)
-        action->setEnabled(m_desk.session.isProjectOpen());
+        action->setEnabled(isOpen);
+    m_tree->setEmptyHint(
+        isOpen ? tr("No documents here. Press + to write the first one.")
+               : tr("Open a project, or begin one."));
 }
 
 } // namespace tw::desktop::manuscript

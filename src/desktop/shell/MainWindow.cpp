@@ -47,6 +47,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_status(new StatusStrip(desk, *statusBar()))
 {
     setObjectName(u"mainWindow"_s);
+    statusBar()->setSizeGripEnabled(false);
     m_center->addWidget(m_welcome);
     m_center->addWidget(m_workArea);
     m_center->addWidget(m_emptyHint);
@@ -78,7 +79,12 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     refreshTitle();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // The pages go one by one while the window dies, and may hand over their last typing; it must not follow.
+    disconnect(m_workArea, nullptr, this, nullptr);
+    disconnect(&m_desk.session, nullptr, this, nullptr);
+}
 
 void MainWindow::restoreWindow()
 {
@@ -223,8 +229,12 @@ void MainWindow::reloadProject()
 bool MainWindow::settleUnsavedChanges()
 {
     m_desk.session.commitPendingEdits();
-    if (!m_desk.session.isModified())
+    if (!m_desk.session.isModified()) {
+        // Nothing is unsaved, so a refusal because of others' changes loses nothing.
+        if (m_desk.session.workspace().isFullSaveDue())
+            static_cast<void>(m_desk.session.save(SaveExtent::Everything));
         return true;
+    }
     QMessageBox question(
         QMessageBox::Question, tr("Unsaved Changes"),
         tr("“%1” has changes that are not saved.").arg(m_desk.session.workspace().displayName()),

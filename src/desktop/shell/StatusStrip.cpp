@@ -106,7 +106,8 @@ void StatusStrip::refreshWords()
         constexpr int steps = 1000;
         m_dailyTarget->setRange(0, steps);
         m_dailyTarget->setValue(static_cast<int>(std::clamp<qint64>(session, 0, target) * steps / target));
-        m_dailyTarget->setToolTip(tr("%1 of %2 words today").arg(grouped(session), grouped(target)));
+        m_dailyTarget->setToolTip(
+            tr("%1 of %2 words of the daily target").arg(grouped(session), grouped(target)));
     }
 }
 
