@@ -240,7 +240,6 @@ QWidget* FieldsSection::makeOwnMenu(const QString& key, QWidget* parent)
     auto* const button = new QToolButton(parent);
     button->setIcon(desk().icons.icon(Icon::More));
     button->setAutoRaise(true);
-    button->setPopupMode(QToolButton::InstantPopup);
     button->setToolTip(tr("Edit or remove this property"));
     button->setAccessibleName(button->toolTip());
     auto* const menu = new QMenu(button);
@@ -250,7 +249,10 @@ QWidget* FieldsSection::makeOwnMenu(const QString& key, QWidget* parent)
     connect(
         menu->addAction(desk().icons.icon(Icon::Remove), tr("&Remove Property")), &QAction::triggered, this,
         [this, key] { removeOwnField(desk(), entityId(), key); });
-    button->setMenu(menu);
+    // Not as the button's own menu, which would put an arrow over the dots.
+    connect(button, &QToolButton::clicked, menu, [button, menu] {
+        menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
+    });
     button->setHidden(m_isReadOnly);
     return button;
 }

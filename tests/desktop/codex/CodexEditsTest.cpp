@@ -136,6 +136,7 @@ TEST_F(CodexEditsTest, panelWorksByKeyboardAndSaysWhatMoved)
     ASSERT_NE(editor, nullptr);
     QTest::keyClicks(editor, u"Zoe"_s);
     QTest::keyClick(editor, Qt::Key_Return);
+    QCoreApplication::processEvents();
     EXPECT_EQ(entity(annis).name(), u"Zoe"_s);
 
     entity(annis).setLocked(true);

@@ -283,7 +283,7 @@ TEST_F(ValueEditorTest, undoAndRedoGoToTheProject)
     make(FieldType::Url).setValue(u"one"_s);
     QTest::keyClicks(&line(), u"more"_s);
     QKeyEvent undo(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
-    undo.accept();
+    undo.ignore(); // As the window sends it; a field that wants the key accepts it.
     QApplication::sendEvent(&line(), &undo);
     EXPECT_FALSE(undo.isAccepted());
 }
