@@ -47,6 +47,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_status(new StatusStrip(desk, *statusBar()))
 {
     setObjectName(u"mainWindow"_s);
+    statusBar()->setSizeGripEnabled(false);
     m_center->addWidget(m_welcome);
     m_center->addWidget(m_workArea);
     m_center->addWidget(m_emptyHint);

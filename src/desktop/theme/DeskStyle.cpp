@@ -1,6 +1,6 @@
 #include "desktop/theme/DeskStyle.h"
 
-#include <QAbstractItemView>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
