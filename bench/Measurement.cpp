@@ -45,7 +45,8 @@ void ResultTable::addTitle(const QString& title)
     std::fflush(stdout);
 }
 
-void ResultTable::addTimes(const QString& what, const QString& reference, const Comparison& times, std::optional<double> aim)
+void ResultTable::addTimes(
+    const QString& what, const QString& reference, const Comparison& times, std::optional<double> aim)
 {
     const QString amounts =
         u"%1 ms : %2 ms"_s.arg(times.measured * 1e3, 9, 'f', 2).arg(times.reference * 1e3, 9, 'f', 2);

@@ -24,7 +24,8 @@ enum class Counted
 {
     /** The best of each side: for what keeps a processor busy. */
     Best,
-    /** The two neighbouring runs of middle ratio: for what waits for a medium whose pace changes meanwhile. */
+    /** The two neighbouring runs of middle ratio: for what waits for a medium whose pace changes meanwhile.
+     */
     MiddlePair,
 };
 
@@ -36,7 +37,8 @@ struct Runs
 
 /**
  * Runs the reference and what is measured against it in turn, so that a load on the machine meets both, after
- * one run of each that does not count. `prepare` comes before every run of what is measured and takes no time.
+ * one run of each that does not count. `prepare` comes before every run of what is measured and takes no
+ * time.
  */
 [[nodiscard]] Comparison compare(
     const Runs& runs, const Work& reference, const Work& measured, const Work& prepare = [] {});

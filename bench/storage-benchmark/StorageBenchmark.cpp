@@ -130,7 +130,8 @@ void StorageBenchmark::measureMemory(ResultTable& table)
         bytesOnDisk += static_cast<double>(QFileInfo(file).size());
     const double workspace = residentGrowth(Kept::Workspace, m_folder, memoryProcesses);
     const double documents = residentGrowth(Kept::JsonDocuments, m_folder, memoryProcesses);
-    table.addSizes(u"memory, project open"_s, u"keeping every QJsonDocument"_s, {workspace, documents}, aim(1.5));
+    table.addSizes(
+        u"memory, project open"_s, u"keeping every QJsonDocument"_s, {workspace, documents}, aim(1.5));
     table.addSizes(u"memory, project open"_s, u"bytes on disk"_s, {workspace, bytesOnDisk}, {});
 }
 
@@ -157,8 +158,8 @@ void StorageBenchmark::measureChecks(ResultTable& table)
             }),
         aim(1.5));
     table.addTimes(
-        u"save, nothing changed"_s, statOfEveryFile, compare(runs(Counted::Best), statEveryFile, [&] { save(); }),
-        aim(1.5));
+        u"save, nothing changed"_s, statOfEveryFile,
+        compare(runs(Counted::Best), statEveryFile, [&] { save(); }), aim(1.5));
     if (stampsBelow(m_fileSystem, m_folder) != before)
         giveUp(u"A save without changes wrote to the folder."_s);
 }
@@ -210,7 +211,8 @@ void StorageBenchmark::measureSaveOfMany(ResultTable& table)
             }
         });
     table.addTimes(
-        u"save, %L1 entities changed"_s.arg(changed.size()), u"as many QSaveFiles, one by one"_s, times, aim(0.5));
+        u"save, %L1 entities changed"_s.arg(changed.size()), u"as many QSaveFiles, one by one"_s, times,
+        aim(0.5));
 }
 
 } // namespace tw::bench
