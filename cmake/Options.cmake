@@ -8,7 +8,9 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# Generated sources need nothing that is built: so checks that want only them stay quick.
 set(CMAKE_GLOBAL_AUTOGEN_TARGET ON)
+set(CMAKE_AUTOGEN_ORIGIN_DEPENDS OFF)
 
 add_library(tw_options INTERFACE)
 target_compile_features(tw_options INTERFACE cxx_std_20)

@@ -30,10 +30,10 @@ enum class ContentKind : qint32
 
 /** Every kind, in order of its value. */
 inline constexpr std::array allContentKinds{
-    ContentKind::Document, ContentKind::Entity,        ContentKind::Spreadsheet, ContentKind::Chart,
-    ContentKind::Map,      ContentKind::Timeline,      ContentKind::TimelineEvent, ContentKind::Media,
-    ContentKind::Source,   ContentKind::Task,          ContentKind::Canvas,      ContentKind::Comment,
-    ContentKind::Language, ContentKind::RandomTable,   ContentKind::StatBlock,
+    ContentKind::Document, ContentKind::Entity,      ContentKind::Spreadsheet,   ContentKind::Chart,
+    ContentKind::Map,      ContentKind::Timeline,    ContentKind::TimelineEvent, ContentKind::Media,
+    ContentKind::Source,   ContentKind::Task,        ContentKind::Canvas,        ContentKind::Comment,
+    ContentKind::Language, ContentKind::RandomTable, ContentKind::StatBlock,
 };
 
 /** The kind's name in files and tools; empty for a value outside the list. */

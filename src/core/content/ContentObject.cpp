@@ -40,9 +40,9 @@ void ContentObject::enterProject(quint64 firstRevision, std::set<ContentId>* cha
 
 bool operator==(const ContentObject& left, const ContentObject& right)
 {
-    return left.m_id == right.m_id && left.m_kind == right.m_kind && left.m_visibleTo == right.m_visibleTo
-        && left.m_tags == right.m_tags && left.m_aiExcluded == right.m_aiExcluded
-        && left.m_locked == right.m_locked && left.m_plotThreadIds == right.m_plotThreadIds;
+    return left.m_id == right.m_id && left.m_kind == right.m_kind && left.m_visibleTo == right.m_visibleTo &&
+           left.m_tags == right.m_tags && left.m_aiExcluded == right.m_aiExcluded &&
+           left.m_locked == right.m_locked && left.m_plotThreadIds == right.m_plotThreadIds;
 }
 
 namespace {

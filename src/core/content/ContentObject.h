@@ -69,8 +69,7 @@ protected:
     ContentObject(ContentId id, ContentKind kind)
         : m_id(id)
         , m_kind(kind)
-    {
-    }
+    {}
 
 private:
     ContentId m_id;

@@ -16,8 +16,7 @@ Entity::Entity(ContentId id, CategoryId categoryId, QString name)
     : ContentObject(id, staticKind)
     , m_categoryId(categoryId)
     , m_name(std::move(name))
-{
-}
+{}
 
 Entity::~Entity() = default;
 
@@ -39,11 +38,13 @@ void Entity::setValue(const QString& key, std::optional<QString> value)
 
 bool operator==(const Entity& left, const Entity& right)
 {
-    return static_cast<const content::ContentObject&>(left) == static_cast<const content::ContentObject&>(right)
-        && left.m_categoryId == right.m_categoryId && left.m_sortIndex == right.m_sortIndex
-        && left.m_name == right.m_name && left.m_values == right.m_values && left.m_lifespan == right.m_lifespan
-        && left.m_timedValues == right.m_timedValues && left.m_aliases == right.m_aliases
-        && left.m_gallery == right.m_gallery && left.m_ownFields == right.m_ownFields;
+    return static_cast<const content::ContentObject&>(left) ==
+               static_cast<const content::ContentObject&>(right) &&
+           left.m_categoryId == right.m_categoryId && left.m_sortIndex == right.m_sortIndex &&
+           left.m_name == right.m_name && left.m_values == right.m_values &&
+           left.m_lifespan == right.m_lifespan && left.m_timedValues == right.m_timedValues &&
+           left.m_aliases == right.m_aliases && left.m_gallery == right.m_gallery &&
+           left.m_ownFields == right.m_ownFields;
 }
 
 } // namespace tw::core::entity

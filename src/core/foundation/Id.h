@@ -22,8 +22,7 @@ public:
     Id() = default;
     explicit Id(const QUuid& uuid)
         : m_uuid(uuid)
-    {
-    }
+    {}
 
     /** A fresh random id. */
     [[nodiscard]] static Id create() { return Id(QUuid::createUuid()); }

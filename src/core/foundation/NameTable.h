@@ -30,9 +30,8 @@ template <class Value, std::size_t Count>
 [[nodiscard]] std::optional<Value> valueNamed(
     const std::array<NamedValue<Value>, Count>& table, QStringView name)
 {
-    const auto row = std::ranges::find_if(table, [name](const auto& candidate) {
-        return name == candidate.name;
-    });
+    const auto row =
+        std::ranges::find_if(table, [name](const auto& candidate) { return name == candidate.name; });
     if (row == table.end())
         return std::nullopt;
     return row->value;

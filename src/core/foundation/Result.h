@@ -24,12 +24,10 @@ class [[nodiscard]] Result
 public:
     Result(T value)
         : m_outcome(std::in_place_index<0>, std::move(value))
-    {
-    }
+    {}
     Result(Failure failure)
         : m_outcome(std::in_place_index<1>, std::move(failure))
-    {
-    }
+    {}
 
     [[nodiscard]] bool isOk() const { return m_outcome.index() == 0; }
     [[nodiscard]] explicit operator bool() const { return isOk(); }
@@ -52,8 +50,7 @@ public:
     Result() = default;
     Result(Failure failure)
         : m_failure(std::move(failure))
-    {
-    }
+    {}
 
     [[nodiscard]] bool isOk() const { return !m_failure.has_value(); }
     [[nodiscard]] explicit operator bool() const { return isOk(); }

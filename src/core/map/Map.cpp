@@ -30,18 +30,18 @@ std::optional<GridKind> gridKindFromName(QStringView name)
 Map::Map(ContentId id, QString title)
     : ContentObject(id, staticKind)
     , m_title(std::move(title))
-{
-}
+{}
 
 Map::~Map() = default;
 
 bool operator==(const Map& left, const Map& right)
 {
-    return static_cast<const content::ContentObject&>(left) == static_cast<const content::ContentObject&>(right)
-        && left.m_title == right.m_title && left.m_imageAssetPath == right.m_imageAssetPath
-        && left.m_regions == right.m_regions && left.m_routes == right.m_routes && left.m_pins == right.m_pins
-        && left.m_grid == right.m_grid && left.m_tokens == right.m_tokens
-        && left.m_travelSettings == right.m_travelSettings;
+    return static_cast<const content::ContentObject&>(left) ==
+               static_cast<const content::ContentObject&>(right) &&
+           left.m_title == right.m_title && left.m_imageAssetPath == right.m_imageAssetPath &&
+           left.m_regions == right.m_regions && left.m_routes == right.m_routes &&
+           left.m_pins == right.m_pins && left.m_grid == right.m_grid && left.m_tokens == right.m_tokens &&
+           left.m_travelSettings == right.m_travelSettings;
 }
 
 TravelSettings travelSettingsFor(const Map& map, const MapRoute& route)

@@ -61,8 +61,8 @@ void Project::insert(std::unique_ptr<ContentObject> object)
 
     auto& sameKind = kindList(inserted->kind());
     const auto place = sameKind.empty() || sameKind.back()->id() < inserted->id()
-        ? sameKind.end()
-        : std::ranges::lower_bound(sameKind, inserted->id(), {}, &ContentObject::id);
+                           ? sameKind.end()
+                           : std::ranges::lower_bound(sameKind, inserted->id(), {}, &ContentObject::id);
     sameKind.insert(place, inserted);
 
     m_changes.removed.erase(inserted->id());
@@ -114,18 +114,21 @@ ProjectChanges Project::takeChanges()
 
 bool operator==(const Project& left, const Project& right)
 {
-    return hasSameObjects(left.m_objects, right.m_objects) && left.m_taxonomy == right.m_taxonomy
-        && left.m_name == right.m_name && left.m_pinned == right.m_pinned
-        && left.m_audiences == right.m_audiences && left.m_defaultAudiences == right.m_defaultAudiences
-        && left.m_savedSearches == right.m_savedSearches && left.m_entityTemplates == right.m_entityTemplates
-        && left.m_propertyMigration == right.m_propertyMigration && left.m_plotThreads == right.m_plotThreads
-        && left.m_beatSheet == right.m_beatSheet && left.m_continuityRules == right.m_continuityRules
-        && left.m_timelineEras == right.m_timelineEras && left.m_timelineMarkers == right.m_timelineMarkers
-        && left.m_timelineBookmarks == right.m_timelineBookmarks && left.m_timelineView == right.m_timelineView
-        && left.m_timelineViewPresets == right.m_timelineViewPresets
-        && left.m_libraryMounts == right.m_libraryMounts && left.m_writingLog == right.m_writingLog
-        && left.m_writingGoal == right.m_writingGoal && left.m_calendar == right.m_calendar
-        && left.m_reckonings == right.m_reckonings;
+    return hasSameObjects(left.m_objects, right.m_objects) && left.m_taxonomy == right.m_taxonomy &&
+           left.m_name == right.m_name && left.m_pinned == right.m_pinned &&
+           left.m_audiences == right.m_audiences && left.m_defaultAudiences == right.m_defaultAudiences &&
+           left.m_savedSearches == right.m_savedSearches &&
+           left.m_entityTemplates == right.m_entityTemplates &&
+           left.m_propertyMigration == right.m_propertyMigration &&
+           left.m_plotThreads == right.m_plotThreads && left.m_beatSheet == right.m_beatSheet &&
+           left.m_continuityRules == right.m_continuityRules && left.m_timelineEras == right.m_timelineEras &&
+           left.m_timelineMarkers == right.m_timelineMarkers &&
+           left.m_timelineBookmarks == right.m_timelineBookmarks &&
+           left.m_timelineView == right.m_timelineView &&
+           left.m_timelineViewPresets == right.m_timelineViewPresets &&
+           left.m_libraryMounts == right.m_libraryMounts && left.m_writingLog == right.m_writingLog &&
+           left.m_writingGoal == right.m_writingGoal && left.m_calendar == right.m_calendar &&
+           left.m_reckonings == right.m_reckonings;
 }
 
 } // namespace tw::core::project

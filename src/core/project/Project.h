@@ -95,12 +95,21 @@ public:
     [[nodiscard]] const std::vector<SavedSearch>& savedSearches() const { return m_savedSearches; }
     void setSavedSearches(std::vector<SavedSearch> searches) { m_savedSearches = std::move(searches); }
 
-    [[nodiscard]] const std::vector<entity::EntityTemplate>& entityTemplates() const { return m_entityTemplates; }
+    [[nodiscard]] const std::vector<entity::EntityTemplate>& entityTemplates() const
+    {
+        return m_entityTemplates;
+    }
     void setEntityTemplates(std::vector<entity::EntityTemplate> list) { m_entityTemplates = std::move(list); }
 
     /** None when the question never came up. */
-    [[nodiscard]] const std::optional<PropertyMigration>& propertyMigration() const { return m_propertyMigration; }
-    void setPropertyMigration(std::optional<PropertyMigration> state) { m_propertyMigration = std::move(state); }
+    [[nodiscard]] const std::optional<PropertyMigration>& propertyMigration() const
+    {
+        return m_propertyMigration;
+    }
+    void setPropertyMigration(std::optional<PropertyMigration> state)
+    {
+        m_propertyMigration = std::move(state);
+    }
 
     [[nodiscard]] const std::vector<plot::PlotThread>& plotThreads() const { return m_plotThreads; }
     void setPlotThreads(std::vector<plot::PlotThread> threads) { m_plotThreads = std::move(threads); }
@@ -108,14 +117,26 @@ public:
     [[nodiscard]] const plot::BeatSheet& beatSheet() const { return m_beatSheet; }
     void setBeatSheet(plot::BeatSheet sheet) { m_beatSheet = std::move(sheet); }
 
-    [[nodiscard]] const std::vector<timeline::ContinuityRule>& continuityRules() const { return m_continuityRules; }
-    void setContinuityRules(std::vector<timeline::ContinuityRule> rules) { m_continuityRules = std::move(rules); }
+    [[nodiscard]] const std::vector<timeline::ContinuityRule>& continuityRules() const
+    {
+        return m_continuityRules;
+    }
+    void setContinuityRules(std::vector<timeline::ContinuityRule> rules)
+    {
+        m_continuityRules = std::move(rules);
+    }
 
     [[nodiscard]] const std::vector<timeline::TimelineEra>& timelineEras() const { return m_timelineEras; }
     void setTimelineEras(std::vector<timeline::TimelineEra> eras) { m_timelineEras = std::move(eras); }
 
-    [[nodiscard]] const std::vector<timeline::TimelineMarker>& timelineMarkers() const { return m_timelineMarkers; }
-    void setTimelineMarkers(std::vector<timeline::TimelineMarker> list) { m_timelineMarkers = std::move(list); }
+    [[nodiscard]] const std::vector<timeline::TimelineMarker>& timelineMarkers() const
+    {
+        return m_timelineMarkers;
+    }
+    void setTimelineMarkers(std::vector<timeline::TimelineMarker> list)
+    {
+        m_timelineMarkers = std::move(list);
+    }
 
     [[nodiscard]] const std::vector<timeline::TimelineBookmark>& timelineBookmarks() const
     {

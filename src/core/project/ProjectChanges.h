@@ -21,8 +21,8 @@ struct ProjectChanges
 
     [[nodiscard]] bool isEmpty() const
     {
-        return added.empty() && removed.empty() && changed.empty() && !isTaxonomyChanged
-            && !areSettingsChanged && !isEverything;
+        return added.empty() && removed.empty() && changed.empty() && !isTaxonomyChanged &&
+               !areSettingsChanged && !isEverything;
     }
     [[nodiscard]] bool concerns(const ContentId& id) const
     {

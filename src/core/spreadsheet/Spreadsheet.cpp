@@ -15,8 +15,7 @@ void dropTrailingZeros(std::vector<qint32>& sizes)
 Spreadsheet::Spreadsheet(ContentId id, QString title)
     : ContentObject(id, staticKind)
     , m_title(std::move(title))
-{
-}
+{}
 
 Spreadsheet::~Spreadsheet() = default;
 
@@ -49,9 +48,10 @@ void Spreadsheet::setSizes(SheetSizes sizes)
 
 bool operator==(const Spreadsheet& left, const Spreadsheet& right)
 {
-    return static_cast<const content::ContentObject&>(left) == static_cast<const content::ContentObject&>(right)
-        && left.m_title == right.m_title && left.m_grid == right.m_grid && left.m_sizes == right.m_sizes
-        && left.m_linkedCategoryId == right.m_linkedCategoryId;
+    return static_cast<const content::ContentObject&>(left) ==
+               static_cast<const content::ContentObject&>(right) &&
+           left.m_title == right.m_title && left.m_grid == right.m_grid && left.m_sizes == right.m_sizes &&
+           left.m_linkedCategoryId == right.m_linkedCategoryId;
 }
 
 } // namespace tw::core::spreadsheet

@@ -32,19 +32,19 @@ std::optional<TaskPriority> taskPriorityFromName(QStringView name)
 Task::Task(ContentId id, QString title)
     : ContentObject(id, staticKind)
     , m_title(std::move(title))
-{
-}
+{}
 
 Task::~Task() = default;
 
 bool operator==(const Task& left, const Task& right)
 {
-    return static_cast<const content::ContentObject&>(left) == static_cast<const content::ContentObject&>(right)
-        && left.m_title == right.m_title && left.m_description == right.m_description
-        && left.m_done == right.m_done && left.m_priority == right.m_priority
-        && left.m_sortIndex == right.m_sortIndex && left.m_board == right.m_board
-        && left.m_dueDate == right.m_dueDate && left.m_status == right.m_status
-        && left.m_targetId == right.m_targetId && left.m_submission == right.m_submission;
+    return static_cast<const content::ContentObject&>(left) ==
+               static_cast<const content::ContentObject&>(right) &&
+           left.m_title == right.m_title && left.m_description == right.m_description &&
+           left.m_done == right.m_done && left.m_priority == right.m_priority &&
+           left.m_sortIndex == right.m_sortIndex && left.m_board == right.m_board &&
+           left.m_dueDate == right.m_dueDate && left.m_status == right.m_status &&
+           left.m_targetId == right.m_targetId && left.m_submission == right.m_submission;
 }
 
 } // namespace tw::core::task

@@ -45,9 +45,9 @@ Result<void> checkField(const Field& field)
         return Failure{QCoreApplication::translate("Taxonomy", "A field needs a key. Give it a name first.")};
     if (field.isFixed && field.isRequired) {
         return Failure{QCoreApplication::translate(
-            "Taxonomy",
-            "A field cannot be both \"fixed\" and \"required\": a fixed field's value is supplied once by the "
-            "category, so there is nothing for an entity to be required to fill in.")};
+            "Taxonomy", "A field cannot be both \"fixed\" and \"required\": a fixed field's value is "
+                        "supplied once by the "
+                        "category, so there is nothing for an entity to be required to fill in.")};
     }
     return {};
 }

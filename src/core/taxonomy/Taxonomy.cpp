@@ -86,8 +86,8 @@ std::vector<CategoryId> Taxonomy::sortedSiblings(Predicate isSibling) const
             siblings.push_back(&category);
     }
     std::ranges::sort(siblings, [](const Category* left, const Category* right) {
-        return std::tie(left->sortIndex, left->name, left->id)
-            < std::tie(right->sortIndex, right->name, right->id);
+        return std::tie(left->sortIndex, left->name, left->id) <
+               std::tie(right->sortIndex, right->name, right->id);
     });
     std::vector<CategoryId> ids;
     ids.reserve(siblings.size());

@@ -7,7 +7,6 @@
 #include "desktop/shell/ProjectSession.h"
 
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -24,6 +23,7 @@ namespace {
 
 constexpr QSize dialogSize(620, 560);
 constexpr int keyRole = Qt::UserRole;
+constexpr int columnGap = 20;
 
 FieldList without(FieldList fields, int index)
 {
@@ -82,11 +82,12 @@ void CategoryPropertiesDialog::makeOwnList(QVBoxLayout& layout)
     auto* const row = new QHBoxLayout;
     layout.addLayout(row, 3);
     row->addWidget(m_own, 1);
-    m_own->setHeaderLabels({tr("Name"), tr("Type"), QString()});
+    m_own->setColumnCount(3);
+    m_own->setHeaderHidden(true);
     m_own->setRootIsDecorated(false);
     m_own->setUniformRowHeights(true);
+    m_own->setAllColumnsShowFocus(true);
     m_own->setAccessibleName(heading->text());
-    m_own->header()->setStretchLastSection(true);
     auto* const column = new QVBoxLayout;
     row->addLayout(column);
     const auto addButton = [&](Icon icon, const QString& text, auto handler) {
@@ -171,8 +172,10 @@ void CategoryPropertiesDialog::showFields(int current)
         item->setToolTip(0, field.description);
         item->setToolTip(2, marksOf(field));
     }
-    m_own->resizeColumnToContents(0);
-    m_own->resizeColumnToContents(1);
+    for (int column = 0; column < 2; ++column) {
+        m_own->resizeColumnToContents(column);
+        m_own->setColumnWidth(column, m_own->columnWidth(column) + columnGap);
+    }
     m_own->setCurrentItem(m_own->topLevelItem(current));
     refreshButtons();
 }

@@ -58,6 +58,14 @@ CodexPanel::CodexPanel(const shell::DeskContext& desk, QWidget* parent)
     refreshActions();
 }
 
+CodexPanel::~CodexPanel()
+{
+    // The tree goes after this; a name that is still being edited in it is committed on its way out.
+    m_tree->disconnect(this);
+    m_desk.session.disconnect(this);
+    m_desk.navigator.disconnect(this);
+}
+
 template <class Handler>
 QAction* CodexPanel::addMenuAction(
     Icon icon, const QString& text, const QKeySequence& keys, KeyScope scope, Handler handler)

@@ -28,6 +28,7 @@ class CodexPanel final : public QWidget
 
 public:
     CodexPanel(const shell::DeskContext& desk, QWidget* parent);
+    ~CodexPanel() override;
 
     /** For the Codex menu. Keys without a modifier work while the tree has the focus. */
     [[nodiscard]] const QList<QAction*>& menuActions() const { return m_menuActions; }

@@ -2,7 +2,6 @@
 
 #include "core/entity/EntityCommands.h"
 #include "desktop/codex/CategoryChooser.h"
-#include "desktop/codex/CategoryPaths.h"
 #include "desktop/codex/CodexEdits.h"
 #include "desktop/fields/ChipField.h"
 #include "desktop/fields/EditorKeys.h"
@@ -11,6 +10,7 @@
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/Fonts.h"
+#include "desktop/theme/ThemeManager.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -26,20 +26,21 @@ namespace {
 
 constexpr qreal nameScale = 2.0;
 constexpr int chevronSize = 12;
+const QString parentLink = u"entity"_s;
 
 } // namespace
 
 EntityHeading::EntityHeading(const shell::DeskContext& desk, const core::ContentId& entityId, QWidget* parent)
     : EntitySection(desk, entityId, parent)
-    , m_parentEntity(new QLabel(this))
-    , m_category(new QToolButton(this))
+    , m_place(new QLabel(this))
+    , m_move(new QToolButton(this))
     , m_name(new QLineEdit(this))
-    , m_aliases(new fields::ChipField(desk.themes, desk.icons, this))
+    , m_aliases(new fields::ChipField(desk.themes, desk.icons, fields::ChipField::Frame::None, this))
 {
     auto* const place = new QHBoxLayout;
-    place->setSpacing(0);
-    place->addWidget(m_parentEntity);
-    place->addWidget(m_category);
+    place->setSpacing(4);
+    place->addWidget(m_place);
+    place->addWidget(m_move);
     place->addStretch();
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -47,25 +48,42 @@ EntityHeading::EntityHeading(const shell::DeskContext& desk, const core::Content
     layout->addLayout(place);
     layout->addWidget(m_name);
     layout->addWidget(m_aliases);
+    makePlace();
     makeName();
+    makeAliases();
+}
 
-    m_category->setAutoRaise(true);
-    m_category->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_category->setIcon(desk.icons.icon(icons::Icon::ChevronDown));
-    m_category->setIconSize({chevronSize, chevronSize});
-    m_category->setToolTip(tr("Move to another category"));
-    m_category->setForegroundRole(QPalette::Link);
-    connect(m_category, &QToolButton::clicked, this, &EntityHeading::chooseCategory);
-    connect(m_parentEntity, &QLabel::linkActivated, this, [this] {
-        this->desk().navigator.open(m_parentEntityId);
+void EntityHeading::makePlace()
+{
+    m_move->setAutoRaise(true);
+    m_move->setIcon(desk().icons.icon(icons::Icon::ChevronDown));
+    m_move->setIconSize({chevronSize, chevronSize});
+    m_move->setToolTip(tr("Move to another category"));
+    m_move->setAccessibleName(m_move->toolTip());
+    m_place->setTextFormat(Qt::RichText);
+    m_place->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    m_place->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
+    connect(m_move, &QToolButton::clicked, this, &EntityHeading::chooseCategory);
+    connect(m_place, &QLabel::linkActivated, this, [this](const QString& link) {
+        if (link == parentLink)
+            desk().navigator.open(m_parentEntityId);
+        else if (!m_isReadOnly)
+            chooseCategory();
     });
+    connect(&desk().themes, &theme::ThemeManager::themeChanged, this, [this] {
+        if (const Entity* const present = entity())
+            showPlace(*present);
+    });
+}
 
-    QLineEdit& aliasEdit = m_aliases->lineEdit();
-    aliasEdit.setPlaceholderText(tr("Add another name"));
-    aliasEdit.setAccessibleName(tr("Other names"));
-    new fields::EditorKeys(aliasEdit, [this] { m_aliases->lineEdit().clear(); });
-    connect(&aliasEdit, &QLineEdit::textEdited, this, &EntityHeading::typed);
-    connect(&aliasEdit, &QLineEdit::editingFinished, this, &EntityHeading::commitAlias);
+void EntityHeading::makeAliases()
+{
+    QLineEdit& edit = m_aliases->lineEdit();
+    edit.setPlaceholderText(tr("Add another name"));
+    edit.setAccessibleName(tr("Other names"));
+    new fields::EditorKeys(edit, [this] { m_aliases->lineEdit().clear(); });
+    connect(&edit, &QLineEdit::textEdited, this, &EntityHeading::typed);
+    connect(&edit, &QLineEdit::editingFinished, this, &EntityHeading::commitAlias);
     connect(m_aliases, &fields::ChipField::removeRequested, this, [this](int index) {
         if (const Entity* const present = entity()) {
             QStringList aliases = present->aliases();
@@ -112,24 +130,28 @@ void EntityHeading::showPlace(const Entity& entity)
     for (const core::CategoryId& id : chain)
         names.append(project.taxonomy().category(id)->name);
     const QString path = names.isEmpty() ? tr("No category") : names.join(u" › "_s);
-    m_category->setText(QString(path).replace(u'&', u"&&"_s));
-    m_category->setAccessibleName(tr("Category: %1").arg(path));
-
     const auto* const root = chain.empty() ? nullptr : project.taxonomy().category(chain.front());
     const auto* const parent = root ? project.findAs<Entity>(root->parentEntityId) : nullptr;
     m_parentEntityId = parent ? parent->id() : core::ContentId();
-    m_parentEntity->setVisible(parent != nullptr);
-    if (parent) {
-        m_parentEntity->setText(u"<a href=\"#\" style=\"text-decoration:none\">%1</a> ›"_s.arg(
-            shell::objectTitle(*parent).toHtmlEscaped()));
-    }
+
+    const auto& theme = desk().themes.theme();
+    const auto link = [&theme](const QString& target, const QString& text, theme::Role role) {
+        return u"<a href=\"%1\" style=\"color:%2; text-decoration:none\">%3</a>"_s.arg(
+            target, theme.color(role).name(), text.toHtmlEscaped());
+    };
+    QString text = link(u"category"_s, path, theme::Role::QuietInk);
+    if (parent)
+        text.prepend(link(parentLink, shell::objectTitle(*parent), theme::Role::Link) + u" › "_s);
+    if (text != m_place->text())
+        m_place->setText(text);
 }
 
 void EntityHeading::setReadOnly(bool readOnly)
 {
     m_name->setReadOnly(readOnly);
     m_aliases->setReadOnly(readOnly);
-    m_category->setEnabled(!readOnly);
+    m_move->setHidden(readOnly);
+    m_isReadOnly = readOnly;
 }
 
 void EntityHeading::chooseCategory()
@@ -141,7 +163,7 @@ void EntityHeading::chooseCategory()
     connect(chooser, &CategoryChooser::chosen, this, [this](const core::CategoryId& id) {
         static_cast<void>(moveInCodex(desk().session, {{entityId()}, {}}, {{id, {}}, {}}));
     });
-    chooser->popUpUnder(*m_category);
+    chooser->popUpUnder(*m_place);
 }
 
 void EntityHeading::commit()

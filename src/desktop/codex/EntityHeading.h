@@ -28,20 +28,23 @@ public:
     [[nodiscard]] fields::ChipField& aliases() { return *m_aliases; }
 
 private:
+    void makePlace();
     void makeName();
+    void makeAliases();
     void showPlace(const core::entity::Entity& entity);
     void chooseCategory();
     void commitName();
     void commitAlias();
     void setAliases(const QStringList& aliases);
 
-    QLabel* m_parentEntity;
-    QToolButton* m_category;
+    QLabel* m_place;
+    QToolButton* m_move;
     QLineEdit* m_name;
     fields::ChipField* m_aliases;
     /** As last shown or stored; what differs from it is the writer's. */
     QString m_shownName;
     core::ContentId m_parentEntityId;
+    bool m_isReadOnly = false;
 };
 
 } // namespace tw::desktop::codex

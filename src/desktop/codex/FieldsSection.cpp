@@ -75,7 +75,7 @@ struct FieldRow
     ~FieldRow()
     {
         // Perhaps on the way out of a signal of the very editor.
-        for (QWidget* const widget : {static_cast<QWidget*>(label), body, menu}) {
+        for (QWidget* const widget : {static_cast<QWidget*>(label), body}) {
             if (widget) {
                 widget->hide();
                 widget->deleteLater();
@@ -143,7 +143,7 @@ void FieldsSection::arrange()
         auto* const heading = new SectionHeading(desk().icons.icon(iconOf(group.source)), title, this);
         heading->setToolTip(groupToolTip(group, title));
         m_headings.push_back(heading);
-        m_grid->addWidget(heading, gridRow++, 0, 1, 3);
+        m_grid->addWidget(heading, gridRow++, 0, 1, 2);
         heading->show();
         for (const ResolvedField& resolved : group.fields) {
             // A control whose field is the same stays, with the cursor in it.
@@ -165,8 +165,6 @@ void FieldsSection::placeRow(FieldRow& row, int gridRow)
 {
     m_grid->addWidget(row.label, gridRow, 0, Qt::AlignTop);
     m_grid->addWidget(row.body, gridRow, 1);
-    if (row.menu)
-        m_grid->addWidget(row.menu, gridRow, 2, Qt::AlignTop);
 }
 
 std::unique_ptr<FieldRow> FieldsSection::makeRow(const ResolvedField& resolved)
@@ -191,7 +189,14 @@ std::unique_ptr<FieldRow> FieldsSection::makeRow(const ResolvedField& resolved)
         layout->setSpacing(4);
         row->editor = fields::makeValueEditor(desk(), resolved.field, row->body);
         row->required = new NoteLabel(desk().themes, row->body);
-        layout->addWidget(row->editor);
+        auto* const line = new QHBoxLayout;
+        line->setSpacing(4);
+        line->addWidget(row->editor, 1);
+        if (resolved.origin == core::entity::FieldOrigin::Entity) {
+            row->menu = makeOwnMenu(key, row->body);
+            line->addWidget(row->menu, 0, Qt::AlignTop);
+        }
+        layout->addLayout(line);
         layout->addWidget(row->required);
         row->body->setFocusProxy(row->editor);
         row->editor->setReadOnly(m_isReadOnly);
@@ -205,10 +210,6 @@ std::unique_ptr<FieldRow> FieldsSection::makeRow(const ResolvedField& resolved)
         connect(
             row->editor, &ValueEditor::valueEdited, this,
             [this, key](const std::optional<QString>& value) { storeValue(key, value); });
-    }
-    if (resolved.origin == core::entity::FieldOrigin::Entity) {
-        row->menu = makeOwnMenu(key);
-        row->menu->setHidden(m_isReadOnly);
     }
     row->label->show();
     row->body->show();
@@ -234,12 +235,11 @@ QWidget* FieldsSection::makeFixedValue(const ResolvedField& resolved)
     return body;
 }
 
-QWidget* FieldsSection::makeOwnMenu(const QString& key)
+QWidget* FieldsSection::makeOwnMenu(const QString& key, QWidget* parent)
 {
-    auto* const button = new QToolButton(this);
+    auto* const button = new QToolButton(parent);
     button->setIcon(desk().icons.icon(Icon::More));
     button->setAutoRaise(true);
-    button->setPopupMode(QToolButton::InstantPopup);
     button->setToolTip(tr("Edit or remove this property"));
     button->setAccessibleName(button->toolTip());
     auto* const menu = new QMenu(button);
@@ -249,8 +249,11 @@ QWidget* FieldsSection::makeOwnMenu(const QString& key)
     connect(
         menu->addAction(desk().icons.icon(Icon::Remove), tr("&Remove Property")), &QAction::triggered, this,
         [this, key] { removeOwnField(desk(), entityId(), key); });
-    button->setMenu(menu);
-    button->show();
+    // Not as the button's own menu, which would put an arrow over the dots.
+    connect(button, &QToolButton::clicked, menu, [button, menu] {
+        menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
+    });
+    button->setHidden(m_isReadOnly);
     return button;
 }
 

@@ -45,7 +45,7 @@ private:
     void placeRow(FieldRow& row, int gridRow);
     [[nodiscard]] std::unique_ptr<FieldRow> makeRow(const core::entity::ResolvedField& resolved);
     [[nodiscard]] QWidget* makeFixedValue(const core::entity::ResolvedField& resolved);
-    [[nodiscard]] QWidget* makeOwnMenu(const QString& key);
+    [[nodiscard]] QWidget* makeOwnMenu(const QString& key, QWidget* parent);
     void showValues(const core::entity::Entity& entity);
     void storeValue(const QString& key, const std::optional<QString>& value);
 

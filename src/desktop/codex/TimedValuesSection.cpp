@@ -7,7 +7,6 @@
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/ProjectSession.h"
 
-#include <QHeaderView>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -25,6 +24,7 @@ using icons::Icon;
 namespace {
 
 constexpr int mostVisibleRows = 8;
+constexpr int columnGap = 20;
 
 /** The lines of fields that reach the entity; the others are listed among what is hidden. */
 std::vector<TimedEntry> shownEntries(const Entity& entity, const Schema& schema)
@@ -76,9 +76,11 @@ TimedValuesSection::TimedValuesSection(
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(new SectionHeading(desk.icons.icon(Icon::History), tr("State over time"), this));
     layout->addWidget(m_table);
-    m_table->setHeaderLabels({tr("Property"), tr("From"), tr("Value")});
+    m_table->setColumnCount(3);
+    m_table->setHeaderHidden(true);
     m_table->setRootIsDecorated(false);
     m_table->setUniformRowHeights(true);
+    m_table->setAllColumnsShowFocus(true);
     m_table->setAccessibleName(tr("State over time"));
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     makeButtons();
@@ -131,12 +133,14 @@ void TimedValuesSection::fill(const std::vector<QStringList>& rows)
         item->setToolTip(2, row.last());
     }
     m_table->setCurrentItem(m_table->topLevelItem(std::min(current, static_cast<int>(rows.size()) - 1)));
-    m_table->resizeColumnToContents(0);
-    m_table->resizeColumnToContents(1);
+    for (int column = 0; column < 2; ++column) {
+        m_table->resizeColumnToContents(column);
+        m_table->setColumnWidth(column, m_table->columnWidth(column) + columnGap);
+    }
     m_table->setHidden(rows.empty());
     const int visibleRows = std::min(static_cast<int>(rows.size()), mostVisibleRows);
     const int rowHeight = rows.empty() ? 0 : m_table->sizeHintForRow(0);
-    m_table->setFixedHeight(m_table->header()->sizeHint().height() + visibleRows * rowHeight + 4);
+    m_table->setFixedHeight(visibleRows * rowHeight);
 }
 
 std::optional<TimedEntry> TimedValuesSection::currentEntry() const

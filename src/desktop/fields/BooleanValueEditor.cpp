@@ -11,6 +11,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/** As high as the other controls, so that the labels beside them stand alike. */
+constexpr int rowHeight = 28;
 constexpr QLatin1StringView trueName{"true"};
 constexpr QLatin1StringView falseName{"false"};
 
@@ -28,6 +30,7 @@ BooleanValueEditor::BooleanValueEditor(theme::ThemeManager& themes, QWidget* par
     layout->addWidget(m_note);
     setFocusProxy(m_box);
     m_box->setTristate(true);
+    m_box->setMinimumHeight(rowHeight);
     m_box->setToolTip(tr("Yes, no, not set: a click goes on to the next"));
     connect(m_box, &QCheckBox::clicked, this, &BooleanValueEditor::takeNext);
 }

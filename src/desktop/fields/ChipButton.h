@@ -2,9 +2,34 @@
 
 #include "desktop/fields/ChipField.h"
 
+#include <QAbstractButton>
+
 class QToolButton;
 
 namespace tw::desktop::fields {
+
+/** The name on a chip, in the colour of what it is. */
+class ChipName final : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    ChipName(theme::ThemeManager& themes, const icons::IconSet& icons, QWidget* parent);
+
+    void setState(Chip::State state);
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] QColor color() const;
+    [[nodiscard]] bool hasMark() const { return m_state == Chip::State::Missing; }
+
+    theme::ThemeManager& m_themes;
+    const icons::IconSet& m_icons;
+    Chip::State m_state = Chip::State::Plain;
+};
 
 /** A chip of a ChipField. */
 class ChipButton final : public QWidget
@@ -26,12 +51,9 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void applyColors();
-
     theme::ThemeManager& m_themes;
-    const icons::IconSet& m_icons;
     Chip m_chip;
-    QToolButton* m_name;
+    ChipName* m_name;
     QToolButton* m_remove;
 };
 

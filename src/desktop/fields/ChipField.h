@@ -39,13 +39,23 @@ struct Chip
     friend bool operator==(const Chip&, const Chip&) = default;
 };
 
-/** A list of things in lines, each with a button to take it out, and a field at the end to add one. */
+/**
+ * A list of things in lines, each with a button to take it out, and room at the end to type another one: all
+ * of it one field.
+ */
 class ChipField final : public QWidget
 {
     Q_OBJECT
 
 public:
-    ChipField(theme::ThemeManager& themes, const icons::IconSet& icons, QWidget* parent);
+    enum class Frame
+    {
+        Field,
+        /** Only the chips are seen, and what is typed. */
+        None,
+    };
+
+    ChipField(theme::ThemeManager& themes, const icons::IconSet& icons, Frame frame, QWidget* parent);
 
     /** Chips that stay as they are keep their widgets. */
     void setChips(const std::vector<Chip>& chips);
@@ -56,9 +66,15 @@ signals:
     void chipActivated(int index);
     void removeRequested(int index);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     theme::ThemeManager& m_themes;
     const icons::IconSet& m_icons;
+    Frame m_frame;
     FlowLayout* m_layout;
     QLineEdit* m_edit;
     std::vector<ChipButton*> m_chips;

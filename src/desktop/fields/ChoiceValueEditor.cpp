@@ -14,9 +14,9 @@ ChoiceValueEditor::ChoiceValueEditor(const QStringList& options, QWidget* parent
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_box);
-    layout->addStretch();
     setFocusProxy(m_box);
-    m_box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_box->installEventFilter(this);
     connect(m_box, &QComboBox::activated, this, [this](int index) {
         const QVariant chosen = m_box->itemData(index);

@@ -2,6 +2,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -70,8 +71,12 @@ void GrowingTextEdit::focusOutEvent(QFocusEvent* event)
 
 void GrowingTextEdit::resizeEvent(QResizeEvent* event)
 {
-    QTextEdit::resizeEvent(event);
-    fitHeight();
+    {
+        const QScopedValueRollback guard(m_isResizing, true);
+        QTextEdit::resizeEvent(event);
+    }
+    // Queued: a height asked for while the layout is at work would go unheard.
+    QMetaObject::invokeMethod(this, &GrowingTextEdit::fitHeight, Qt::QueuedConnection);
 }
 
 void GrowingTextEdit::wheelEvent(QWheelEvent* event)
@@ -82,6 +87,8 @@ void GrowingTextEdit::wheelEvent(QWheelEvent* event)
 
 void GrowingTextEdit::fitHeight()
 {
+    if (m_isResizing)
+        return;
     const int text = static_cast<int>(std::ceil(document()->size().height()));
     setFixedHeight(std::max(smallestHeight, text + 2 * frameWidth()));
 }

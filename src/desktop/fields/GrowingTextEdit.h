@@ -32,6 +32,8 @@ protected:
 
 private:
     void fitHeight();
+
+    bool m_isResizing = false;
 };
 
 } // namespace tw::desktop::fields

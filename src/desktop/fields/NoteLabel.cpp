@@ -2,6 +2,9 @@
 
 #include "desktop/theme/ThemeManager.h"
 
+#include <QPainter>
+#include <QStyle>
+
 namespace tw::desktop::fields {
 
 namespace {
@@ -28,22 +31,24 @@ NoteLabel::NoteLabel(theme::ThemeManager& themes, QWidget* parent)
     setWordWrap(true);
     setTextFormat(Qt::PlainText);
     hide();
-    connect(&themes, &theme::ThemeManager::themeChanged, this, &NoteLabel::applyColor);
+    connect(&themes, &theme::ThemeManager::themeChanged, this, [this] { update(); });
 }
 
 void NoteLabel::setNote(const QString& text, Tone tone)
 {
     m_tone = tone;
     setText(text);
-    applyColor();
+    update();
     setVisible(!text.isEmpty());
 }
 
-void NoteLabel::applyColor()
+void NoteLabel::paintEvent(QPaintEvent*)
 {
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, m_themes.theme().color(roleOf(m_tone)));
-    setPalette(colors);
+    // Painted here, for a palette of one's own does not survive the style sheet whenever a parent changes.
+    QPainter painter(this);
+    painter.setPen(m_themes.theme().color(roleOf(m_tone)));
+    const auto alignment = QStyle::visualAlignment(layoutDirection(), this->alignment());
+    painter.drawText(contentsRect(), static_cast<int>(alignment) | Qt::TextWordWrap, text());
 }
 
 } // namespace tw::desktop::fields

@@ -25,9 +25,10 @@ public:
 
     void setNote(const QString& text, Tone tone = Tone::Quiet);
 
-private:
-    void applyColor();
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
+private:
     theme::ThemeManager& m_themes;
     Tone m_tone = Tone::Quiet;
 };

@@ -28,7 +28,7 @@ ReferenceValueEditor::ReferenceValueEditor(
     : ValueEditor(parent)
     , m_desk(desk)
     , m_referenceCategory(referenceCategory)
-    , m_chips(new ChipField(desk.themes, desk.icons, this))
+    , m_chips(new ChipField(desk.themes, desk.icons, ChipField::Frame::Field, this))
     , m_note(new NoteLabel(desk.themes, this))
     , m_choices(new EntityChoiceModel(this))
     , m_completer(new QCompleter(m_choices, this))

@@ -43,6 +43,7 @@ void StoryDateEdit::setInstant(const std::optional<StoryInstant>& instant)
 {
     m_instant = instant;
     m_text->setText(shownText());
+    m_text->setToolTip(shownText());
     m_text->setCursorPosition(0);
     m_reading->setNote({});
 }

@@ -7,13 +7,10 @@
 #include "desktop/manuscript/MarkdownPage.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
-#include "desktop/theme/Fonts.h"
 
-#include <QAction>
 #include <QLabel>
 #include <QLocale>
 #include <QScopedValueRollback>
-#include <QSettings>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -29,10 +26,6 @@ namespace {
 /** A rest this long ends a burst of typing. */
 constexpr auto burstRest = 1200ms;
 constexpr auto recountRest = 250ms;
-constexpr qreal defaultPointSize = 13;
-constexpr qreal smallestZoom = 0.5;
-constexpr qreal largestZoom = 3.0;
-constexpr qreal zoomStep = 0.1;
 
 } // namespace
 
@@ -71,7 +64,6 @@ DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId
     connect(m_page, &MarkdownPage::zoomStepRequested, this, &DocumentPage::stepZoom);
     connect(&desk.session, &shell::ProjectSession::commitRequested, this, &DocumentPage::commit);
     connect(&desk.session, &shell::ProjectSession::changed, this, &DocumentPage::followChanges);
-    addZoomActions();
     applyStyle();
     showDocument();
     recount();
@@ -83,34 +75,15 @@ DocumentPage::~DocumentPage()
     disconnect(m_page, nullptr, this, nullptr);
 }
 
-void DocumentPage::addZoomActions()
-{
-    const auto add = [this](QKeySequence::StandardKey keys, int step) {
-        auto* const action = new QAction(this);
-        action->setShortcuts(keys);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, this, [this, step] { stepZoom(step); });
-        addAction(action);
-    };
-    add(QKeySequence::ZoomIn, 1);
-    add(QKeySequence::ZoomOut, -1);
-}
-
 void DocumentPage::applyStyle()
 {
-    PageStyle style;
-    style.fontFamily =
-        m_desk.settings.value("editor/fontFamily", theme::defaultPageFont().family()).toString();
-    style.fontPointSize = m_desk.settings.value("editor/fontSize", defaultPointSize).toReal();
-    style.zoom = m_desk.settings.value("editor/zoom", 1.0).toReal();
     const QScopedValueRollback guard(m_showing, true);
-    m_page->setPageStyle(style);
+    m_page->setPageStyle(pageStyleFrom(m_desk.settings));
 }
 
 void DocumentPage::stepZoom(int step)
 {
-    const qreal zoom = m_desk.settings.value("editor/zoom", 1.0).toReal() + step * zoomStep;
-    m_desk.settings.setValue("editor/zoom", std::clamp(zoom, smallestZoom, largestZoom));
+    stepPageZoom(m_desk.settings, step);
     applyStyle();
 }
 

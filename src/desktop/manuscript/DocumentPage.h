@@ -31,9 +31,10 @@ public:
 
     [[nodiscard]] MarkdownPage& page() { return *m_page; }
 
-private:
-    void addZoomActions();
+    /** Takes up the font and the zoom of the settings. */
     void applyStyle();
+
+private:
     void stepZoom(int step);
     void noteTyping();
     void commit();

@@ -1,11 +1,13 @@
 #include "desktop/manuscript/MarkdownPage.h"
 
 #include "desktop/manuscript/MarkdownHighlighter.h"
+#include "desktop/theme/Fonts.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QSettings>
 #include <QTextBlock>
 #include <QWheelEvent>
 
@@ -23,15 +25,39 @@ constexpr qreal lineHeight = 1.5;
 constexpr int sideMargin = 56;
 constexpr int narrowMargin = 16;
 constexpr int topMargin = 40;
+constexpr qreal smallestFont = 6;
+constexpr qreal largestFont = 72;
+constexpr qreal smallestZoom = 0.5;
+constexpr qreal largestZoom = 3.0;
+constexpr qreal zoomStep = 0.1;
 
 /** Of running text: an average over letters alone takes the rare wide ones for common. */
 qreal characterWidth(const QFont& font)
 {
-    const QString text = u"She said that the tide would be out by four, and nobody in the room believed her."_s;
+    const QString text =
+        u"She said that the tide would be out by four, and nobody in the room believed her."_s;
     return QFontMetricsF(font).horizontalAdvance(text) / static_cast<qreal>(text.size());
 }
 
 } // namespace
+
+PageStyle pageStyleFrom(const QSettings& settings)
+{
+    PageStyle style;
+    style.fontFamily = settings.value("editor/fontFamily", theme::defaultPageFont().family()).toString();
+    style.fontPointSize = std::clamp(
+        settings.value("editor/fontSize", style.fontPointSize).toReal(), smallestFont, largestFont);
+    style.zoom = std::clamp(settings.value("editor/zoom", style.zoom).toReal(), smallestZoom, largestZoom);
+    return style;
+}
+
+void stepPageZoom(QSettings& settings, int steps)
+{
+    if (steps == 0)
+        return;
+    const qreal zoom = pageStyleFrom(settings).zoom + steps * zoomStep;
+    settings.setValue("editor/zoom", std::clamp(zoom, smallestZoom, largestZoom));
+}
 
 MarkdownPage::MarkdownPage(theme::ThemeManager& themes, QWidget* parent)
     : QTextEdit(parent)
@@ -80,7 +106,8 @@ void MarkdownPage::formatLines()
     const QFontMetricsF metrics(document()->defaultFont());
     const qreal size = QFontInfo(document()->defaultFont()).pixelSize();
     QTextBlockFormat format;
-    format.setLineHeight(100 * lineHeight * size / metrics.lineSpacing(), QTextBlockFormat::ProportionalHeight);
+    format.setLineHeight(
+        100 * lineHeight * size / metrics.lineSpacing(), QTextBlockFormat::ProportionalHeight);
     QTextCursor all(document());
     all.select(QTextCursor::Document);
     all.mergeBlockFormat(format);
@@ -108,7 +135,8 @@ void MarkdownPage::paintEvent(QPaintEvent* event)
     // The sheet lies on the desk, from the top of the window to the bottom.
     QPainter painter(viewport());
     painter.fillRect(
-        viewport()->rect().adjusted(m_sheetMargin, 0, -m_sheetMargin, 0), m_themes.theme().color(theme::Role::Page));
+        viewport()->rect().adjusted(m_sheetMargin, 0, -m_sheetMargin, 0),
+        m_themes.theme().color(theme::Role::Page));
     painter.end();
     QTextEdit::paintEvent(event);
 }

@@ -2,6 +2,8 @@
 
 #include <QTextEdit>
 
+class QSettings;
+
 namespace tw::desktop::theme {
 class ThemeManager;
 }
@@ -18,6 +20,11 @@ struct PageStyle
 
     friend bool operator==(const PageStyle&, const PageStyle&) = default;
 };
+
+/** How the user wants pages set: "editor/fontFamily", "editor/fontSize", "editor/zoom". */
+[[nodiscard]] PageStyle pageStyleFrom(const QSettings& settings);
+/** Makes pages larger or smaller by so many steps, within sensible limits; none changes nothing. */
+void stepPageZoom(QSettings& settings, int steps);
 
 /**
  * A sheet of paper for Markdown text: a column some 66 characters wide in the middle, generous lines, the

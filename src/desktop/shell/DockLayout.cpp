@@ -1,5 +1,6 @@
 #include "desktop/shell/DockLayout.h"
 
+#include "desktop/icons/DockingIcons.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/theme/StyleSheets.h"
 #include "desktop/theme/ThemeManager.h"
@@ -43,8 +44,7 @@ void configureDocking()
 {
     ads::CDockManager::setConfigFlags(
         ads::CDockManager::OpaqueSplitterResize | ads::CDockManager::XmlCompressionEnabled |
-        ads::CDockManager::DragPreviewShowsContentPixmap |
-        ads::CDockManager::DockAreaHasTabsMenuButton |
+        ads::CDockManager::DragPreviewShowsContentPixmap | ads::CDockManager::DockAreaHasTabsMenuButton |
         ads::CDockManager::DockAreaDynamicTabsMenuButtonVisibility |
         ads::CDockManager::FloatingContainerHasWidgetTitle |
         ads::CDockManager::FloatingContainerHasWidgetIcon |
@@ -63,6 +63,7 @@ DockLayout::DockLayout(
     , m_window(window)
 {
     configureDocking();
+    icons::registerDockingIcons(icons);
     m_manager = new ads::CDockManager(&window);
     auto* const central = new ads::CDockWidget(u"center"_s);
     central->setObjectName(u"center"_s);

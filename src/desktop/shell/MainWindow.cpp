@@ -47,6 +47,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_status(new StatusStrip(desk, *statusBar()))
 {
     setObjectName(u"mainWindow"_s);
+    statusBar()->setSizeGripEnabled(false);
     m_center->addWidget(m_welcome);
     m_center->addWidget(m_workArea);
     m_center->addWidget(m_emptyHint);
@@ -78,7 +79,12 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     refreshTitle();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // The pages go one by one while the window dies, and may hand over their last typing; it must not follow.
+    disconnect(m_workArea, nullptr, this, nullptr);
+    disconnect(&m_desk.session, nullptr, this, nullptr);
+}
 
 void MainWindow::restoreWindow()
 {

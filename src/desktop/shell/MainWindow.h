@@ -57,7 +57,10 @@ private:
     void buildFileMenu();
     void buildEditMenu();
     void buildInsertMenu();
+    void buildFormatMenu();
     void buildViewMenu();
+    void choosePageFont();
+    void zoomPages(int steps);
     void buildCodexMenu();
     void buildHelpMenu();
     void restoreWindow();

@@ -2,7 +2,9 @@
 
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
+#include "desktop/manuscript/MarkdownPage.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/RecentProjects.h"
@@ -10,12 +12,18 @@
 #include "desktop/theme/Theme.h"
 #include "desktop/theme/ThemeManager.h"
 
+#include <QAbstractItemView>
 #include <QActionGroup>
 #include <QApplication>
 #include <QDir>
+#include <QFontDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QSettings>
+#include <QTextEdit>
 
 namespace tw::desktop::shell {
 
@@ -25,6 +33,49 @@ using icons::Icon;
 namespace {
 
 constexpr int shownRecent = 10;
+
+enum class ClipboardEdit
+{
+    Cut,
+    Copy,
+    Paste,
+    SelectAll,
+};
+
+template <class Editor>
+bool editIn(QWidget* focused, ClipboardEdit edit)
+{
+    auto* const editor = qobject_cast<Editor*>(focused);
+    if (!editor)
+        return false;
+    switch (edit) {
+    case ClipboardEdit::Cut:
+        editor->cut();
+        break;
+    case ClipboardEdit::Copy:
+        editor->copy();
+        break;
+    case ClipboardEdit::Paste:
+        editor->paste();
+        break;
+    case ClipboardEdit::SelectAll:
+        editor->selectAll();
+        break;
+    }
+    return true;
+}
+
+/** Does the edit in whatever has the keyboard; nothing where there is no text. */
+void editFocused(ClipboardEdit edit)
+{
+    QWidget* const focused = QApplication::focusWidget();
+    if (editIn<QTextEdit>(focused, edit) || editIn<QPlainTextEdit>(focused, edit) ||
+        editIn<QLineEdit>(focused, edit))
+        return;
+    if (auto* const view = qobject_cast<QAbstractItemView*>(focused);
+        view && edit == ClipboardEdit::SelectAll)
+        view->selectAll();
+}
 
 } // namespace
 
@@ -43,6 +94,7 @@ void MainWindow::buildMenus()
     buildFileMenu();
     buildEditMenu();
     buildInsertMenu();
+    buildFormatMenu();
     buildViewMenu();
     buildCodexMenu();
     QMenu* const windows = menuBar()->addMenu(tr("&Windows"));
@@ -82,6 +134,14 @@ void MainWindow::buildEditMenu()
     m_redoAction->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
     menu.addSeparator();
+    addAction(menu, Icon::Cut, tr("Cu&t"), QKeySequence::Cut, [] { editFocused(ClipboardEdit::Cut); });
+    addAction(menu, Icon::Copy, tr("&Copy"), QKeySequence::Copy, [] { editFocused(ClipboardEdit::Copy); });
+    addAction(
+        menu, Icon::Paste, tr("&Paste"), QKeySequence::Paste, [] { editFocused(ClipboardEdit::Paste); });
+    addAction(menu, Icon::Check, tr("Select &All"), QKeySequence::SelectAll, [] {
+        editFocused(ClipboardEdit::SelectAll);
+    });
+    menu.addSeparator();
     for (QAction* const action : m_manuscript->editActions())
         menu.addAction(action);
 }
@@ -102,6 +162,33 @@ void MainWindow::buildCodexMenu()
         menu.addAction(action);
 }
 
+void MainWindow::buildFormatMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("F&ormat"));
+    addAction(menu, Icon::Text, tr("Page &Font…"), {}, [this] { choosePageFont(); });
+}
+
+void MainWindow::choosePageFont()
+{
+    const manuscript::PageStyle style = manuscript::pageStyleFrom(m_desk.settings);
+    QFont font(style.fontFamily);
+    font.setPointSizeF(style.fontPointSize);
+    bool accepted = false;
+    font = QFontDialog::getFont(&accepted, font, this, tr("Page Font"));
+    if (!accepted)
+        return;
+    m_desk.settings.setValue("editor/fontFamily", font.family());
+    m_desk.settings.setValue("editor/fontSize", font.pointSizeF());
+    zoomPages(0);
+}
+
+void MainWindow::zoomPages(int steps)
+{
+    manuscript::stepPageZoom(m_desk.settings, steps);
+    for (manuscript::DocumentPage* const page : m_workArea->findChildren<manuscript::DocumentPage*>())
+        page->applyStyle();
+}
+
 void MainWindow::buildViewMenu()
 {
     QMenu& menu = *menuBar()->addMenu(tr("&View"));
@@ -118,6 +205,13 @@ void MainWindow::buildViewMenu()
         addTheme(theme.name, theme.title());
     themes->addSeparator();
     addTheme(theme::ThemeManager::systemChoice, tr("Follow the System"));
+    menu.addSeparator();
+    addAction(menu, Icon::Add, tr("Zoom &In"), QKeySequence::ZoomIn, [this] { zoomPages(1); });
+    addAction(menu, Icon::Minus, tr("Zoom &Out"), QKeySequence::ZoomOut, [this] { zoomPages(-1); });
+    addAction(menu, Icon::Search, tr("&Actual Size"), QKeySequence(Qt::CTRL | Qt::Key_0), [this] {
+        m_desk.settings.remove("editor/zoom");
+        zoomPages(0);
+    });
     menu.addSeparator();
     addAction(
         menu, Icon::Split, tr("&Split Side by Side"), QKeySequence(Qt::CTRL | Qt::Key_Backslash),

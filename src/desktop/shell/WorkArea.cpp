@@ -38,6 +38,12 @@ WorkArea::WorkArea(const DeskContext& desk, QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
 }
 
+WorkArea::~WorkArea()
+{
+    for (int index = 0; index < count(); ++index)
+        disconnect(widget(index), nullptr, this, nullptr);
+}
+
 void WorkArea::setFactory(core::content::ContentKind kind, PageFactory factory)
 {
     m_factories.insert_or_assign(kind, std::move(factory));

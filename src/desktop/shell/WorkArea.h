@@ -27,6 +27,7 @@ public:
     using PageFactory = std::function<WorkPage*(const core::ContentId& id, QWidget* parent)>;
 
     WorkArea(const DeskContext& desk, QWidget* parent);
+    ~WorkArea() override;
 
     void setFactory(core::content::ContentKind kind, PageFactory factory);
 

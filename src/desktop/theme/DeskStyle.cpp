@@ -1,6 +1,6 @@
 #include "desktop/theme/DeskStyle.h"
 
-#include <QAbstractItemView>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -103,8 +103,12 @@ QSize DeskStyle::sizeFromContents(
         result.setHeight(std::max(result.height(), controlHeight));
         break;
     case CT_ComboBox:
-    case CT_SpinBox:
         result.setHeight(std::max(result.height(), controlHeight));
+        break;
+    case CT_SpinBox:
+        // The field inside asks for a control's height of its own; the box is as high as its neighbours.
+        if (option != nullptr)
+            result.setHeight(std::max(option->fontMetrics.height() + 3 * step, controlHeight));
         break;
     case CT_LineEdit:
         // Editors inside rows and inside other fields have no frame and keep their size.

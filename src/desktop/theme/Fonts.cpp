@@ -1,6 +1,7 @@
 #include "desktop/theme/Fonts.h"
 
 #include <QFontDatabase>
+#include <QList>
 
 #include <algorithm>
 #include <array>

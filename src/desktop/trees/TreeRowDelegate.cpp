@@ -17,7 +17,8 @@ constexpr QLatin1StringView usualCount{"99,999"};
 
 int countWidth(const QStyleOptionViewItem& option, const QString& count)
 {
-    return std::max(option.fontMetrics.horizontalAdvance(usualCount), option.fontMetrics.horizontalAdvance(count));
+    return std::max(
+        option.fontMetrics.horizontalAdvance(usualCount), option.fontMetrics.horizontalAdvance(count));
 }
 
 } // namespace

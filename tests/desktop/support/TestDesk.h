@@ -10,14 +10,26 @@
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
 
+#include <QDir>
 #include <QSettings>
 #include <QTemporaryDir>
 
 namespace tw::test {
 
-struct TestDesk
+class TestDesk
 {
-    TestDesk() { session.startNew(QStringLiteral("Test")); }
+public:
+    /** With a new, unsaved project open. */
+    TestDesk()
+        : folder(m_ownFolder.path())
+    {
+        session.startNew(QStringLiteral("Test"));
+    }
+
+    /** With nothing open; settings and data lie in the folder, as those of an earlier start may. */
+    explicit TestDesk(const QString& folderPath)
+        : folder(folderPath)
+    {}
 
     /** Adds a document straight to the project, as a file would bring it. */
     core::ContentId addDocument(const QString& title, const core::ContentId& parent, qint32 index)
@@ -44,7 +56,11 @@ struct TestDesk
         return *session.projectForCommands().findAsForEdit<core::document::Document>(id);
     }
 
-    QTemporaryDir folder;
+private:
+    QTemporaryDir m_ownFolder;
+
+public:
+    QDir folder;
     QSettings settings{folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
     desktop::theme::ThemeManager themes{settings};
     desktop::icons::IconSet icons{themes};

@@ -1,0 +1,253 @@
+#include "desktop/shell/MainWindow.h"
+#include "core/entity/EntityCommands.h"
+#include "desktop/manuscript/DocumentPage.h"
+#include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/shell/CommandLine.h"
+#include "desktop/shell/ObjectTitles.h"
+#include "desktop/shell/RecentProjects.h"
+#include "desktop/shell/WorkArea.h"
+#include "desktop/support/TestDesk.h"
+#include "support/TestFiles.h"
+
+#include <QAction>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace tw::desktop::shell {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/** Presses a button of the next message box; says what the box told. */
+class NextMessage : public QObject
+{
+public:
+    explicit NextMessage(const QString& button)
+        : m_button(button)
+    {
+        connect(&m_timer, &QTimer::timeout, this, &NextMessage::look);
+        m_timer.start(0);
+    }
+
+    QString text;
+
+private:
+    void look()
+    {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        m_timer.stop();
+        text = box->text();
+        for (QAbstractButton* const candidate : box->buttons()) {
+            if (candidate->text().remove(u'&') == m_button)
+                candidate->click();
+        }
+    }
+
+    QString m_button;
+    QTimer m_timer;
+};
+
+class MainWindowTest : public testing::Test
+{
+protected:
+    MainWindowTest()
+        : project(folder.filePath(u"low-water"_s))
+    {
+        start();
+        auto sample = app::workspace::Workspace::openFolder(
+            desk->environment, test::repositoryPath(u"examples/low-water"));
+        EXPECT_TRUE(sample && sample.value()->saveAs(project));
+        EXPECT_TRUE(window->openProject(project));
+    }
+
+    /** As the program starts, with what the last run left behind. */
+    void start()
+    {
+        window.reset();
+        desk = std::make_unique<test::TestDesk>(folder.path());
+        window = std::make_unique<MainWindow>(desk->context, QString());
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    core::ContentId idOf(const QString& title) const { return findObject(desk->session.project(), title); }
+
+    manuscript::MarkdownPage& openText(const QString& title)
+    {
+        EXPECT_TRUE(window->select(title));
+        auto* const page = qobject_cast<manuscript::DocumentPage*>(
+            window->findChild<WorkArea*>(u"workArea"_s)->currentPage());
+        EXPECT_TRUE(page);
+        return page->page();
+    }
+
+    QAction* action(const QString& text) const
+    {
+        for (QAction* const candidate : window->findChildren<QAction*>()) {
+            if (candidate->text().remove(u'&') == text)
+                return candidate;
+        }
+        ADD_FAILURE() << "no action " << text.toStdString();
+        return nullptr;
+    }
+
+    QTemporaryDir folder;
+    QString project;
+    std::unique_ptr<test::TestDesk> desk;
+    std::unique_ptr<MainWindow> window;
+};
+
+} // namespace
+
+TEST_F(MainWindowTest, writesUndoesSavesClosesAndFindsEverythingAgain)
+{
+    manuscript::MarkdownPage& text = openText(u"The Spike"_s);
+    const QString before = text.toPlainText();
+    QTest::keyClicks(&text, u"First words. "_s);
+    auto* const ibbet =
+        desk->session.projectForCommands().findAsForEdit<core::entity::Entity>(idOf(u"Ibbet Lusk"_s));
+    desk->session.apply(
+        std::make_unique<core::entity::SetFieldValueCommand>(*ibbet, u"clerkNumber"_s, u"59"_s));
+    EXPECT_TRUE(window->isWindowModified());
+    EXPECT_TRUE(action(u"Undo Set field value"_s)->isEnabled());
+    action(u"Undo Set field value"_s)->trigger();
+    action(u"Undo Edit document body"_s)->trigger();
+    EXPECT_EQ(text.toPlainText(), before);
+    EXPECT_FALSE(window->isWindowModified());
+    action(u"Redo Edit document body"_s)->trigger();
+    action(u"Redo Set field value"_s)->trigger();
+    action(u"Save"_s)->trigger();
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_TRUE(window->close());
+
+    start();
+    EXPECT_TRUE(window->reopenLast());
+    auto* const page =
+        qobject_cast<manuscript::DocumentPage*>(window->findChild<WorkArea*>(u"workArea"_s)->currentPage());
+    ASSERT_TRUE(page) << "what was open is open again";
+    EXPECT_EQ(page->objectId(), idOf(u"The Spike"_s));
+    EXPECT_TRUE(page->page().toPlainText().startsWith(u"First words. "_s));
+    const auto* const again = desk->session.project().findAs<core::entity::Entity>(idOf(u"Ibbet Lusk"_s));
+    EXPECT_EQ(again->value(u"clerkNumber"_s), u"59"_s);
+}
+
+TEST_F(MainWindowTest, closingAsksOnlyWhenSomethingIsUnsaved)
+{
+    manuscript::MarkdownPage& text = openText(u"The Spike"_s);
+    QTest::keyClicks(&text, u"x"_s);
+    {
+        const NextMessage cancel(u"Cancel"_s);
+        EXPECT_FALSE(window->close());
+        EXPECT_EQ(cancel.text, u"“Low Water” has changes that are not saved."_s);
+    }
+    {
+        const NextMessage discard(u"Discard Changes"_s);
+        EXPECT_TRUE(window->close());
+    }
+    auto reread = app::workspace::Workspace::openFolder(desk->environment, project);
+    EXPECT_FALSE(reread.value()->project() == desk->session.project());
+}
+
+TEST_F(MainWindowTest, badFoldersAreToldAndTheProjectStays)
+{
+    const NextMessage close(u"Close"_s);
+    EXPECT_FALSE(window->openProject(folder.filePath(u"nowhere"_s)));
+    EXPECT_TRUE(close.text.startsWith(u"The project could not be found:"_s));
+    EXPECT_FALSE(idOf(u"The Spike"_s).isNull());
+    EXPECT_FALSE(window->select(u"No such thing"_s));
+}
+
+TEST_F(MainWindowTest, refusedSaveSaysWhyAndKeepsTheChanges)
+{
+    manuscript::MarkdownPage& text = openText(u"The Spike"_s);
+    QTest::keyClicks(&text, u"x"_s);
+    QFile other(project + u"/notes.txt"_s);
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    other.close();
+    const NextMessage close(u"Close"_s);
+    action(u"Save"_s)->trigger();
+    EXPECT_TRUE(close.text.startsWith(u"The project changed on disk"_s));
+    EXPECT_EQ(desk->session.saveState(), SaveState::Failed);
+    EXPECT_TRUE(window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, everyPanelStandsInTheWindowsMenuOnce)
+{
+    QMenu* windows = nullptr;
+    for (QAction* const menu : window->menuBar()->actions()) {
+        if (menu->text() == u"&Windows"_s)
+            windows = menu->menu();
+    }
+    ASSERT_TRUE(windows);
+    for (const QString& title : {u"Manuscript"_s, u"Codex"_s, u"Inspector"_s}) {
+        const auto count = std::ranges::count_if(
+            windows->actions(), [&title](const QAction* entry) { return entry->text() == title; });
+        EXPECT_EQ(count, 1) << title.toStdString();
+    }
+    for (const QString& name : {u"manuscript"_s, u"codex"_s, u"inspector"_s})
+        EXPECT_TRUE(window->select(name)) << name.toStdString();
+}
+
+TEST_F(MainWindowTest, splittingShowsOnePageTwice)
+{
+    openText(u"The Spike"_s);
+    auto* const area = window->findChild<WorkArea*>(u"workArea"_s);
+    area->splitCurrent();
+    EXPECT_EQ(area->count(), 2);
+    const QStringList ids = area->openIds();
+    area->closeAll();
+    EXPECT_FALSE(area->hasPages());
+    EXPECT_EQ(area->count(), 1);
+    area->restoreIds(ids);
+    EXPECT_EQ(area->openIds(), ids);
+}
+
+TEST(CommandLineTest, readsPathAndOptions)
+{
+    const struct
+    {
+        QStringList arguments;
+        QString path;
+        QString capture;
+        QString selection;
+    } cases[] = {
+        {{}, {}, {}, {}},
+        {{u"a"_s, u"b"_s}, u"a"_s, {}, {}},
+        {{u"--capture"_s, u"x.png"_s, u"a"_s}, u"a"_s, u"x.png"_s, {}},
+        {{u"a"_s, u"--capture"_s}, u"a"_s, {}, {}},
+        {{u"--capture-select"_s, u"The Spike"_s, u"--capture"_s, u"x"_s}, {}, u"x"_s, u"The Spike"_s},
+        {{u"--capture-select"_s, u"--capture"_s, u"x"_s}, {}, u"x"_s, {}},
+        {{u"--unknown"_s, u"a"_s}, u"a"_s, {}, {}},
+    };
+    for (const auto& sample : cases) {
+        const CommandLine line = parseArguments(sample.arguments);
+        const std::string shown = sample.arguments.join(u' ').toStdString();
+        EXPECT_EQ(line.projectPath, sample.path) << shown;
+        EXPECT_EQ(line.capturePath, sample.capture) << shown;
+        EXPECT_EQ(line.captureSelection, sample.selection) << shown;
+    }
+}
+
+TEST(RecentProjectsTest, newestFirstEachOnce)
+{
+    const QTemporaryDir folder;
+    QSettings settings(folder.filePath(u"s.ini"_s), QSettings::IniFormat);
+    RecentProjects recent(settings);
+    for (const QString& path : {u"/a"_s, u"/b"_s, u"/a"_s})
+        recent.add(path);
+    EXPECT_EQ(recent.paths(), (QStringList{u"/a"_s, u"/b"_s}));
+    recent.remove(u"/a"_s);
+    EXPECT_EQ(recent.paths(), QStringList{u"/b"_s});
+}
+
+} // namespace tw::desktop::shell
