@@ -90,9 +90,10 @@ bool DiskState::isSameContent(const QString& path, Record& record)
 
 DiskChanges DiskState::changesIn(const QString& folder)
 {
-    DiskChanges changes;
     qsizetype seen = 0;
     const FolderScan scan = scanFolder(folder, ScannedFiles::Text);
+    DiskChanges changes;
+    changes.leftovers = scan.leftovers;
     for (const ScannedFile& file : scan.files) {
         const auto record = m_records.find(file.relativePath);
         if (record == m_records.end()) {

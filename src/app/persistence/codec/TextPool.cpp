@@ -22,13 +22,13 @@ std::size_t slotOf(QByteArrayView bytes)
 
 QString TextPool::textOf(const JsonNode& node)
 {
-    const QByteArrayView encoded = node.encodedText();
-    if (encoded.isEmpty() || encoded.size() > longestShared)
+    const QByteArrayView utf8 = node.utf8();
+    if (utf8.isEmpty() || utf8.size() > longestShared)
         return node.text();
-    QString& text = m_texts[slotOf(encoded) % m_texts.size()];
-    if (!node.isText(QStringView(text)))
-        text = node.text();
-    return text;
+    Known& known = m_known[slotOf(utf8) % m_known.size()];
+    if (known.utf8 != utf8)
+        known = {utf8.toByteArray(), node.text()};
+    return known.text;
 }
 
 } // namespace tw::app::persistence

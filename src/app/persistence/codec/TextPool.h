@@ -2,6 +2,7 @@
 
 #include "app/persistence/json/JsonTree.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <array>
@@ -20,7 +21,13 @@ public:
     [[nodiscard]] QString textOf(const JsonNode& node);
 
 private:
-    std::array<QString, 4096> m_texts;
+    struct Known
+    {
+        QByteArray utf8;
+        QString text;
+    };
+
+    std::array<Known, 4096> m_known;
 };
 
 } // namespace tw::app::persistence

@@ -3,6 +3,7 @@
 #include "app/persistence/files/FileSystem.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -30,6 +31,9 @@ enum class ScannedFiles
 struct FolderScan
 {
     std::vector<ScannedFile> files; ///< In no particular order.
+    /** The temporary files of saves, none of `files`: those of a save under way, or of one that never ended.
+     */
+    QStringList leftovers;
     /** False when part of the tree could not be read: what is missing here need not be missing on disk. */
     bool isComplete = true;
 };

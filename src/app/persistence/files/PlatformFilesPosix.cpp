@@ -4,6 +4,7 @@
 
 #include "app/persistence/files/ParallelFor.h"
 
+#include <QByteArrayList>
 #include <QFile>
 #include <QRandomGenerator>
 
@@ -152,7 +153,7 @@ public:
         unsigned char type;
     };
 
-    /** False when the folder could not be read to its end. Hidden names are left out. */
+    /** False when the folder could not be read to its end. Of hidden names, only leftovers are kept. */
     bool read(DIR* folder)
     {
         for (;;) {
@@ -160,8 +161,11 @@ public:
             const dirent* entry = ::readdir(folder);
             if (!entry)
                 break;
-            if (entry->d_name[0] == '.')
+            if (entry->d_name[0] == '.') {
+                if (isLeftover(*entry))
+                    m_leftovers.append(entry->d_name);
                 continue;
+            }
             m_entries.push_back({entry->d_ino, m_names.size(), entry->d_type});
             m_names.append(entry->d_name, static_cast<qsizetype>(std::strlen(entry->d_name)) + 1);
         }
@@ -173,10 +177,19 @@ public:
 
     [[nodiscard]] const std::vector<Entry>& entries() const { return m_entries; }
     [[nodiscard]] const char* name(const Entry& entry) const { return m_names.constData() + entry.offset; }
+    /** The names of temporary files of saves. */
+    [[nodiscard]] const QByteArrayList& leftovers() const { return m_leftovers; }
 
 private:
+    static bool isLeftover(const dirent& entry)
+    {
+        return (entry.d_type == DT_REG || entry.d_type == DT_UNKNOWN) &&
+               QLatin1StringView(entry.d_name).startsWith(temporaryPrefix);
+    }
+
     std::vector<Entry> m_entries;
     QByteArray m_names;
+    QByteArrayList m_leftovers;
 };
 
 /** Walks one tree; the folders open at any time are those between the root and the present one. */
@@ -200,6 +213,8 @@ public:
         Listing listing;
         if (!listing.read(stream.get()))
             m_scan.isComplete = false;
+        for (const QByteArray& name : listing.leftovers())
+            m_scan.leftovers.append(joined(prefix, name));
         std::vector<Finding> findings = inspectAll(number, listing, prefix);
         for (std::size_t index = 0; index < findings.size(); ++index)
             take(number, listing.name(listing.entries()[index]), findings[index]);
