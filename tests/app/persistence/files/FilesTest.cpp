@@ -116,7 +116,7 @@ TEST(FolderScan, findsTheTextFilesOfATreeAndNothingElse)
                            u"notes.txt"_s, u"objects/1.json"_s,  u"project.json"_s, u"ä/ö.md"_s};
     const FolderScan scan = scanFolder(folder.path(), ScannedFiles::Text);
     EXPECT_EQ(pathsOf(scan), text);
-    EXPECT_TRUE(scan.isComplete);
+    EXPECT_TRUE(scan.isComplete());
     DiskFileSystem files;
     for (const ScannedFile& file : scan.files)
         EXPECT_EQ(file.stamp, files.stamp(folder.filePath(file.relativePath)))
@@ -126,8 +126,8 @@ TEST(FolderScan, findsTheTextFilesOfATreeAndNothingElse)
     all.sort();
     EXPECT_EQ(pathsOf(scanFolder(folder.path(), ScannedFiles::All)), all);
     const FolderScan missing = scanFolder(folder.filePath(u"missing"_s), ScannedFiles::All);
-    EXPECT_TRUE(missing.isComplete && missing.files.empty());
-    EXPECT_FALSE(scanFolder(folder.filePath(u"notes.txt"_s), ScannedFiles::All).isComplete);
+    EXPECT_TRUE(missing.isComplete() && missing.files.empty());
+    EXPECT_FALSE(scanFolder(folder.filePath(u"notes.txt"_s), ScannedFiles::All).isComplete());
 }
 
 TEST(FolderScan, namesTheTemporaryFilesOfSavesApart)
