@@ -40,6 +40,14 @@ void ValueEditor::finishText(const QString& text, const QString& shownText)
         finish(text.isEmpty() ? std::nullopt : std::optional(text));
 }
 
+bool ValueEditor::takeBack(const QString& text, const QString& shownText)
+{
+    if (text == shownText)
+        return false;
+    present();
+    return true;
+}
+
 ValueEditor* makeValueEditor(
     const shell::DeskContext& desk, const core::taxonomy::Field& field, QWidget* parent)
 {
