@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <limits>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,19 +21,22 @@ double secondsOf(const Work& work)
 
 } // namespace
 
-Comparison compare(int repetitions, const Work& reference, const Work& measured, const Work& prepare)
+Comparison compare(const Runs& runs, const Work& reference, const Work& measured, const Work& prepare)
 {
-    reference();
-    prepare();
-    measured();
-    constexpr double never = std::numeric_limits<double>::max();
-    Comparison best{never, never};
-    for (int repetition = 0; repetition < repetitions; ++repetition) {
-        best.reference = std::min(best.reference, secondsOf(reference));
+    std::vector<Comparison> pairs;
+    for (int repetition = 0; repetition <= runs.repetitions; ++repetition) {
+        const double referenceTime = secondsOf(reference);
         prepare();
-        best.measured = std::min(best.measured, secondsOf(measured));
+        pairs.push_back({secondsOf(measured), referenceTime});
     }
-    return best;
+    pairs.erase(pairs.begin());
+    if (runs.counted == Counted::MiddlePair) {
+        std::ranges::sort(pairs, {}, &Comparison::ratio);
+        return pairs[pairs.size() / 2];
+    }
+    return {
+        std::ranges::min(pairs, {}, &Comparison::measured).measured,
+        std::ranges::min(pairs, {}, &Comparison::reference).reference};
 }
 
 void ResultTable::addTitle(const QString& title)
@@ -43,7 +45,8 @@ void ResultTable::addTitle(const QString& title)
     std::fflush(stdout);
 }
 
-void ResultTable::addTimes(const QString& what, const QString& reference, const Comparison& times, double aim)
+void ResultTable::addTimes(
+    const QString& what, const QString& reference, const Comparison& times, std::optional<double> aim)
 {
     const QString amounts =
         u"%1 ms : %2 ms"_s.arg(times.measured * 1e3, 9, 'f', 2).arg(times.reference * 1e3, 9, 'f', 2);

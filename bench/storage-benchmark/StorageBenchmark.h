@@ -27,9 +27,16 @@ private:
     void measureSaveOfMany(ResultTable& table);
     void measureMemory(ResultTable& table);
     void save();
+    /** Waits until the stamps of all files are old enough to be trusted, and has the workspace look at them.
+     */
+    void rest();
     [[nodiscard]] QString objectFile(const core::ContentId& id) const;
 
+    [[nodiscard]] std::optional<double> aim(double ratio) const;
+    [[nodiscard]] Runs runs(Counted counted) const;
+
     int m_repetitions;
+    bool m_hasAims;
     QTemporaryDir m_root;
     QString m_folder;
     QString m_referenceFolder;
