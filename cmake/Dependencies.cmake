@@ -3,6 +3,7 @@
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Widgets Svg Test)
 find_package(Threads REQUIRED)
+find_package(simdjson REQUIRED)
 
 find_package(qtadvanceddocking 3.8 QUIET)
 if(NOT qtadvanceddocking_FOUND)

@@ -2,7 +2,7 @@
 # is not in its row does not configure, so that the layers stay what docs/ARCHITECTURE.md says they are.
 
 set(TW_LAYER_tw_core Qt6::Core)
-set(TW_LAYER_tw_project tw_core Qt6::Core)
+set(TW_LAYER_tw_project tw_core Qt6::Core simdjson::simdjson)
 set(TW_LAYER_tw_engines tw_core Qt6::Core)
 set(TW_LAYER_tw_exchange tw_core tw_engines tw_project Qt6::Core Qt6::Gui Qt6::Pdf)
 set(TW_LAYER_tw_ai tw_core Qt6::Core Qt6::Network Qt6::Concurrent)
@@ -49,14 +49,14 @@ function(tw_precompile target)
     endif()
 endfunction()
 
-# tw_add_library(NAME FOLDERS folder... LINKS library...)
+# tw_add_library(NAME FOLDERS folder... LINKS library... PRIVATE_LINKS library...)
 #
-# One static library of a subsystem from all sources and resources below its folders (relative to src/). Links that do not
-# exist yet are an error, unless they are targets of ours whose folders hold no sources: those are left out, as is the
-# library itself when its folders are empty.
+# One static library of a subsystem from all sources and resources below its folders (relative to src/). Private links are
+# those that no header includes. Links that do not exist yet are an error, unless they are targets of ours whose folders
+# hold no sources: those are left out, as is the library itself when its folders are empty.
 function(tw_add_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;LINKS")
-    tw_check_links(${name} ${arg_LINKS})
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;LINKS;PRIVATE_LINKS")
+    tw_check_links(${name} ${arg_LINKS} ${arg_PRIVATE_LINKS})
     tw_collect_sources(sources ${PROJECT_SOURCE_DIR}/src ${arg_FOLDERS})
     if(NOT sources)
         return()
@@ -65,7 +65,7 @@ function(tw_add_library name)
     add_library(${name} STATIC ${sources})
     set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-    target_link_libraries(${name} PUBLIC tw_options)
+    target_link_libraries(${name} PUBLIC tw_options PRIVATE ${arg_PRIVATE_LINKS})
     foreach(link IN LISTS arg_LINKS)
         if(DEFINED TW_LAYER_${link} AND NOT TARGET ${link})
             continue()

@@ -128,9 +128,10 @@ bool DiskState::isVouchedFor(const ScannedFile& file) const
 
 DiskChanges DiskState::changesIn(const QString& folder)
 {
-    DiskChanges changes;
     qsizetype seen = 0;
     FolderScan scan = scanFolder(folder, ScannedFiles::Text, m_lastScan);
+    DiskChanges changes;
+    changes.leftovers = scan.leftovers;
     std::vector<bool> isVouched(scan.files.size(), false);
     for (std::size_t index = 0; index < scan.files.size(); ++index) {
         const ScannedFile& file = scan.files[index];

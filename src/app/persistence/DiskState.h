@@ -23,6 +23,8 @@ struct DiskChanges
     QStringList added;
     QStringList removed;
     QStringList changed;
+    /** The temporary files of saves, anywhere in the folder; these are no changes. */
+    QStringList leftovers;
 
     [[nodiscard]] bool isEmpty() const { return added.isEmpty() && removed.isEmpty() && changed.isEmpty(); }
 };

@@ -56,6 +56,16 @@ Result<void> FolderSaver::save(const Project& project, SaveExtent extent)
     return m_writer.syncFolders();
 }
 
+void FolderSaver::removeLeftovers(const QStringList& relativePaths)
+{
+    for (const QString& relativePath : relativePaths) {
+        // Further down may lie another project, with a lock of its own.
+        if (!relativePath.contains(u'/') || isIn(objectsFolder, relativePath) ||
+            isIn(taxonomyFolder, relativePath))
+            m_fileSystem.remove(m_folder + u'/' + relativePath);
+    }
+}
+
 Result<void> FolderSaver::prepareFolder(QStringView name, const char* failureText)
 {
     const QString path = m_folder + u'/' + name.toString();

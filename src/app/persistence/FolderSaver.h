@@ -53,6 +53,13 @@ public:
 
     [[nodiscard]] core::Result<void> save(const core::project::Project& project, SaveExtent extent);
 
+    /**
+     * Removes what is left of saves that never ended, of the given temporary files those that lie where a
+     * save writes. Only for the holder of the project's lock, since nobody else's save is under way then. One
+     * that cannot be removed stays: it does no harm.
+     */
+    void removeLeftovers(const QStringList& relativePaths);
+
 private:
     struct PendingFile
     {

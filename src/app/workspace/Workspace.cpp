@@ -172,9 +172,11 @@ Result<void> Workspace::save(SaveExtent extent)
     auto lock = persistence::ProjectLock::acquire(displayPath(), m_environment.dataFolder);
     if (!lock)
         return Failure{lock.message()};
-    if (!externalChanges().isEmpty())
+    const persistence::DiskChanges changes = externalChanges();
+    if (!changes.isEmpty())
         return persistence::changedOnDiskFailure();
     persistence::FolderSaver saver(m_environment, m_folderPath, m_openedFolderFingerprint, m_saved);
+    saver.removeLeftovers(changes.leftovers);
     if (auto saved = saver.save(*m_project, extent); !saved)
         return saved;
     m_fullSaveDue = extent == SaveExtent::Changed;

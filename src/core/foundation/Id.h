@@ -60,9 +60,14 @@ public:
     [[nodiscard]] QString toString() const { return m_uuid.toString(QUuid::WithoutBraces); }
 
     friend bool operator==(const Id& left, const Id& right) { return left.m_uuid == right.m_uuid; }
-    /** The order of the text forms, in which the files of objects stand too. */
+    /** QUuid's order: by variant, then as the text forms, in which the files of objects stand too. */
     friend std::strong_ordering operator<=>(const Id& left, const Id& right)
     {
+        constexpr uchar variantBits = 0xe0;
+        if (((left.m_uuid.data4[0] ^ right.m_uuid.data4[0]) & variantBits) != 0) {
+            if (const auto order = left.m_uuid.variant() <=> right.m_uuid.variant(); order != 0)
+                return order;
+        }
         if (const auto order = left.firstHalf() <=> right.firstHalf(); order != 0)
             return order;
         return left.secondHalf() <=> right.secondHalf();

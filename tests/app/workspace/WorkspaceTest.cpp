@@ -144,6 +144,35 @@ TEST_F(WorkspaceTest, savesWhatChangedAndNothingElse)
     EXPECT_TRUE(workspace->isModified());
 }
 
+TEST_F(WorkspaceTest, saveRemovesWhatACrashedOneLeftBehind)
+{
+    auto workspace = makeSaved();
+    const auto leaveBehind = [&](const QString& target) {
+        QDir().mkpath(QFileInfo(folder() + u'/' + target).path());
+        return persistence::DiskFileSystem().writeTemporary(folder() + u'/' + target, "half").value();
+    };
+    const QStringList ours{
+        leaveBehind(u"project.json"_s), leaveBehind(u"objects/1.json"_s), leaveBehind(u"taxonomy/1.json"_s)};
+    const QStringList others{
+        leaveBehind(u"assets/project.json"_s), leaveBehind(u"objects/inner/objects/1.json"_s)};
+    EXPECT_TRUE(workspace->externalChanges().isEmpty());
+
+    write(u"notes.txt"_s, "somebody else's");
+    EXPECT_EQ(workspace->save().message(), changedMessage);
+    for (const QString& path : ours + others)
+        EXPECT_TRUE(QFile::exists(path)) << path.toStdString();
+    QFile::remove(folder() + u"/notes.txt"_s);
+
+    const int writes = files.writes();
+    ASSERT_TRUE(workspace->save());
+    EXPECT_EQ(files.writes(), writes);
+    for (const QString& path : ours)
+        EXPECT_FALSE(QFile::exists(path)) << path.toStdString();
+    for (const QString& path : others)
+        EXPECT_TRUE(QFile::exists(path)) << path.toStdString();
+    expectDiskHolds(workspace->project());
+}
+
 TEST_F(WorkspaceTest, removedObjectsLeaveAndOtherFilesStay)
 {
     auto workspace = makeSaved();

@@ -13,14 +13,14 @@ constexpr qsizetype longestShared = 24;
 
 QString TextPool::textOf(const JsonNode& node)
 {
-    const QByteArrayView encoded = node.encodedText();
-    if (encoded.isEmpty() || encoded.size() > longestShared)
+    const QByteArrayView utf8 = node.utf8();
+    if (utf8.isEmpty() || utf8.size() > longestShared)
         return node.text();
-    const std::size_t hash = qHash(encoded);
-    Slot& slot = m_slots[hash % m_slots.size()];
-    if (slot.hash != hash || !node.isText(QStringView(slot.text)))
-        slot = {hash, node.text()};
-    return slot.text;
+    const std::size_t hash = qHash(utf8);
+    Known& known = m_known[hash % m_known.size()];
+    if (known.hash != hash || known.utf8 != utf8)
+        known = {hash, utf8.toByteArray(), node.text()};
+    return known.text;
 }
 
 } // namespace tw::app::persistence

@@ -2,6 +2,7 @@
 
 #include "app/persistence/json/JsonTree.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <array>
@@ -20,13 +21,14 @@ public:
     [[nodiscard]] QString textOf(const JsonNode& node);
 
 private:
-    struct Slot
+    struct Known
     {
-        std::size_t hash = 0; ///< Of the text as it stood in its file: most clashes show here.
+        std::size_t hash = 0; ///< Of `utf8`: most clashes show here.
+        QByteArray utf8;
         QString text;
     };
 
-    std::array<Slot, 4096> m_slots;
+    std::array<Known, 4096> m_known;
 };
 
 } // namespace tw::app::persistence

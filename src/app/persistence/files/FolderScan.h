@@ -38,6 +38,9 @@ struct FolderScan
 {
     /** The files of one folder stand together. */
     std::vector<ScannedFile> files;
+    /** The temporary files of saves, none of `files`: those of a save under way, or of one that never ended.
+     */
+    QStringList leftovers;
 
     struct Range
     {

@@ -87,7 +87,12 @@ FolderScan walkFolder(const QString& root, const NameFilter& wants, Stamps, cons
         entries.next();
         const QFileInfo info = entries.fileInfo();
         const QString path = folder.relativeFilePath(info.filePath());
-        if (!wants(info.fileName()) || path.startsWith(u'.') || path.contains(u"/."_s))
+        const QString inside = path.chopped(info.fileName().size());
+        if (inside.startsWith(u'.') || inside.contains(u"/."_s))
+            continue;
+        if (info.fileName().startsWith(temporaryPrefix))
+            scan.leftovers.append(path);
+        if (info.fileName().startsWith(u'.') || !wants(info.fileName()))
             continue;
         const Linkage linkage = info.isSymLink() ? Linkage::SymbolicLink : Linkage::Direct;
         scan.files.push_back({path, stampFrom(info), 0, -1, linkage});

@@ -4,6 +4,7 @@
 
 #include "app/persistence/files/ParallelFor.h"
 
+#include <QByteArrayList>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QStringBuilder>
@@ -164,7 +165,7 @@ public:
         unsigned char type;
     };
 
-    /** False when the folder could not be read to its end. Hidden names are left out. */
+    /** False when the folder could not be read to its end. Of hidden names, only leftovers are kept. */
     bool read(DIR* folder)
     {
         for (;;) {
@@ -172,8 +173,11 @@ public:
             const dirent* entry = ::readdir(folder);
             if (!entry)
                 break;
-            if (entry->d_name[0] == '.')
+            if (entry->d_name[0] == '.') {
+                if (isLeftover(*entry))
+                    m_leftovers.append(entry->d_name);
                 continue;
+            }
             const auto length = static_cast<qsizetype>(std::strlen(entry->d_name));
             m_entries.push_back({entry->d_ino, m_names.size(), length, entry->d_type});
             m_names.append(entry->d_name, length + 1);
@@ -190,10 +194,19 @@ public:
     {
         return QByteArrayView(m_names.constData() + entry.offset, entry.length);
     }
+    /** The names of temporary files of saves. */
+    [[nodiscard]] const QByteArrayList& leftovers() const { return m_leftovers; }
 
 private:
+    static bool isLeftover(const dirent& entry)
+    {
+        return (entry.d_type == DT_REG || entry.d_type == DT_UNKNOWN) &&
+               QLatin1StringView(entry.d_name).startsWith(temporaryPrefix);
+    }
+
     std::vector<Entry> m_entries;
     QByteArray m_names;
+    QByteArrayList m_leftovers;
 };
 
 /** Walks one tree; the folders open at any time are those between the root and the present one. */
@@ -219,6 +232,8 @@ public:
         Listing listing;
         if (!listing.read(stream.get()))
             m_scan.unreadableFolders.append(prefix);
+        for (const QByteArray& name : listing.leftovers())
+            m_scan.leftovers.append(joined(prefix, name));
         for (const QByteArrayView name : addFiles({number, prefix, listing}))
             runInside(number, name, prefix);
     }

@@ -69,7 +69,7 @@ std::optional<bool> namedBool(const QByteArray& text)
 std::optional<qint64> readInteger(const JsonNode& value)
 {
     if (value.isNumber())
-        return integerOf(value.digits());
+        return value.integer().value_or(truncated(value.number()));
     if (value.isBool())
         return value.isTrue() ? 1 : 0;
     const QByteArray text = plainForm(value);
@@ -90,7 +90,7 @@ std::optional<qint32> readInteger32(const JsonNode& value)
 std::optional<double> readDouble(const JsonNode& value)
 {
     if (value.isNumber())
-        return finiteNumber(value.digits());
+        return value.number();
     if (value.isBool())
         return value.isTrue() ? 1.0 : 0.0;
     return finiteNumber(plainForm(value));
@@ -114,9 +114,9 @@ std::optional<QString> readText(const JsonNode& value)
         return value.isTrue() ? u"true"_s : u"false"_s;
     if (!value.isNumber())
         return std::nullopt;
-    if (const std::optional<qint64> integer = exactInteger(value.digits()))
+    if (const std::optional<qint64> integer = value.integer())
         return QString::number(*integer);
-    return QString::number(readDouble(value).value_or(0.0), 'g', QLocale::FloatingPointShortest);
+    return QString::number(value.number(), 'g', QLocale::FloatingPointShortest);
 }
 
 QStringList readTextList(const JsonNode& value)

@@ -34,7 +34,7 @@ namespace tw::app::persistence {
 template <class Id>
 [[nodiscard]] Id readId(const JsonNode& value)
 {
-    const Id id = Id::fromText(value.encodedText());
+    const Id id = Id::fromText(value.utf8());
     return id.isNull() ? Id::fromString(value.text()) : id;
 }
 

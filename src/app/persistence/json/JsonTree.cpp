@@ -1,297 +1,202 @@
 #include "app/persistence/json/JsonTree.h"
 
-#include "app/persistence/json/JsonRead.h"
-
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringDecoder>
 
-#include <limits>
+#include <simdjson.h>
 
 namespace tw::app::persistence {
 
 namespace {
 
-constexpr int deepestNesting = 1024;
-/** Integers of so few digits fit into 64 bits and need no closer look. */
-constexpr qsizetype surelyFittingDigits = 18;
-
-bool isDigit(char byte)
+/** The number if Qt would keep it as an integer: also when it is written as a fraction or with an exponent.
+ */
+std::optional<qint64> wholeNumber(double number)
 {
-    return byte >= '0' && byte <= '9';
-}
-
-/** The value of a hexadecimal digit, or -1. */
-int hexValue(char byte)
-{
-    if (isDigit(byte))
-        return byte - '0';
-    if (byte >= 'a' && byte <= 'f')
-        return byte - 'a' + 10;
-    if (byte >= 'A' && byte <= 'F')
-        return byte - 'A' + 10;
-    return -1;
-}
-
-/** What an escape of one letter stands for. As in Qt, a letter without a meaning stands for itself. */
-char16_t escapedCharacter(char letter)
-{
-    switch (letter) {
-    case 'b':
-        return u'\b';
-    case 'f':
-        return u'\f';
-    case 'n':
-        return u'\n';
-    case 'r':
-        return u'\r';
-    case 't':
-        return u'\t';
-    default:
-        return static_cast<unsigned char>(letter);
-    }
-}
-
-/** Decodes a text that the parser has found well-formed. */
-QString decoded(QByteArrayView bytes)
-{
-    // No character has more units in UTF-16 than bytes here. A mark at the start of a text is part of it.
-    QString text(bytes.size(), Qt::Uninitialized);
-    QChar* end = text.data();
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-    while (!bytes.isEmpty()) {
-        const qsizetype escape = bytes.indexOf('\\');
-        end = decoder.appendToBuffer(end, bytes.first(escape < 0 ? bytes.size() : escape));
-        if (escape < 0)
-            break;
-        const char letter = bytes.at(escape + 1);
-        bytes = bytes.sliced(escape + 2);
-        if (letter != 'u') {
-            *end++ = QChar(escapedCharacter(letter));
-            continue;
-        }
-        unsigned unit = 0;
-        for (const char digit : bytes.first(4))
-            unit = unit * 16 + static_cast<unsigned>(hexValue(digit));
-        *end++ = QChar(static_cast<char16_t>(unit));
-        bytes = bytes.sliced(4);
-    }
-    text.truncate(end - text.constData());
-    return text;
-}
-
-bool isAscii(QByteArrayView bytes)
-{
-    unsigned char all = 0;
-    for (const char byte : bytes)
-        all |= static_cast<unsigned char>(byte);
-    return all < 0x80;
+    // The upper limit of 64 bits is no double, so the comparison leaves out the one above.
+    constexpr double beyond = 9223372036854775808.0;
+    if (number < -beyond || number >= beyond)
+        return std::nullopt;
+    const auto integer = static_cast<qint64>(number);
+    return static_cast<double>(integer) == number ? std::optional(integer) : std::nullopt;
 }
 
 } // namespace
 
+/** Fills the nodes from one of the two parsers, whose results it keeps since the texts lie there. */
 class JsonTree::Parser
 {
 public:
-    Parser(QByteArrayView bytes, std::vector<Node>& nodes)
-        : m_begin(bytes.data())
-        , m_cursor(bytes.data())
-        , m_end(bytes.data() + bytes.size())
-        , m_nodes(nodes)
+    explicit Parser(std::vector<Node>& nodes)
+        : m_nodes(nodes)
     {}
 
-    bool run()
+    bool parseQuickly(QByteArrayView bytes)
     {
-        constexpr QByteArrayView byteOrderMark("\xef\xbb\xbf");
-        if (QByteArrayView(m_cursor, m_end).startsWith(byteOrderMark))
-            m_cursor += byteOrderMark.size();
-        skipBlanks();
-        if (m_cursor == m_end || *m_cursor != '{' || !parseValue(1))
+        simdjson::dom::element root;
+        return m_parser.parse(bytes.data(), static_cast<std::size_t>(bytes.size())).get(root) ==
+                   simdjson::SUCCESS &&
+               root.is_object() && append(root);
+    }
+
+    bool parseWithQt(QByteArrayView bytes)
+    {
+        const QJsonDocument document =
+            QJsonDocument::fromJson(QByteArray::fromRawData(bytes.data(), bytes.size()));
+        if (!document.isObject())
             return false;
-        skipBlanks();
-        return m_cursor == m_end;
+        append(document.object());
+        return true;
+    }
+
+    void clear()
+    {
+        m_nodes.clear();
+        m_texts.clear();
     }
 
 private:
-    void skipBlanks()
+    void add(Value value) { m_nodes.push_back({value, m_nodes.size() + 1}); }
+
+    /** Adds an array or object; `addAll` adds what it holds. */
+    template <class AddAll>
+    bool addContainer(Value kind, AddAll addAll)
     {
-        while (m_cursor != m_end &&
-               (*m_cursor == ' ' || *m_cursor == '\n' || *m_cursor == '\t' || *m_cursor == '\r'))
-            ++m_cursor;
+        const std::size_t index = m_nodes.size();
+        add(kind);
+        const bool isDone = addAll();
+        m_nodes[index].next = m_nodes.size();
+        return isDone;
     }
 
-    bool take(char byte)
+    static QByteArrayView view(std::string_view text)
     {
-        skipBlanks();
-        if (m_cursor == m_end || *m_cursor != byte)
-            return false;
-        ++m_cursor;
-        return true;
+        return {text.data(), static_cast<qsizetype>(text.size())};
     }
 
-    std::size_t addNode(Type type)
+    /** False when Qt might refuse the value. */
+    bool append(const simdjson::dom::element& element)
     {
-        m_nodes.push_back({static_cast<quint32>(m_cursor - m_begin), 0, 0, type, true});
-        return m_nodes.size() - 1;
-    }
-
-    void closeNode(std::size_t index)
-    {
-        m_nodes[index].length = static_cast<quint32>(m_cursor - m_begin) - m_nodes[index].start;
-        m_nodes[index].next = static_cast<quint32>(m_nodes.size());
-    }
-
-    bool parseValue(int depth)
-    {
-        skipBlanks();
-        if (m_cursor == m_end)
-            return false;
-        switch (*m_cursor) {
-        case '{':
-            return parseContainer(Type::Object, '}', depth);
-        case '[':
-            return parseContainer(Type::Array, ']', depth);
-        case '"':
-            return parseText();
-        case 'n':
-            return parseLiteral("null", Type::Null);
-        case 't':
-            return parseLiteral("true", Type::True);
-        case 'f':
-            return parseLiteral("false", Type::False);
-        default:
-            return parseNumber();
-        }
-    }
-
-    bool parseContainer(Type type, char closing, int depth)
-    {
-        if (depth > deepestNesting)
-            return false;
-        const std::size_t node = addNode(type);
-        ++m_cursor;
-        if (!take(closing)) {
-            do {
-                if (type == Type::Object && (!parseKey() || !take(':')))
-                    return false;
-                if (!parseValue(depth + 1))
-                    return false;
-            } while (take(','));
-            if (!take(closing))
-                return false;
-        }
-        closeNode(node);
-        return true;
-    }
-
-    bool parseKey()
-    {
-        skipBlanks();
-        return m_cursor != m_end && *m_cursor == '"' && parseText();
-    }
-
-    bool parseText()
-    {
-        ++m_cursor;
-        const std::size_t node = addNode(Type::Text);
-        const qsizetype quote = QByteArrayView(m_cursor, m_end).indexOf('"');
-        if (quote < 0)
-            return false;
-        const bool hasEscape = QByteArrayView(m_cursor, quote).contains('\\');
-        if (!hasEscape)
-            m_cursor += quote;
-        else if (!skipEscapedText())
-            return false;
-        closeNode(node);
-        const QByteArrayView text(m_begin + m_nodes[node].start, m_cursor);
-        const bool hasOnlyAscii = isAscii(text);
-        m_nodes[node].isPlain = hasOnlyAscii && !hasEscape;
-        ++m_cursor;
-        return hasOnlyAscii || text.isValidUtf8();
-    }
-
-    /** Moves to the quotation mark behind a text in which backslashes stand. */
-    bool skipEscapedText()
-    {
-        for (; m_cursor != m_end && *m_cursor != '"'; ++m_cursor) {
-            if (*m_cursor == '\\' && !skipEscape())
-                return false;
-        }
-        return m_cursor != m_end;
-    }
-
-    /** Leaves the cursor on the escape's last byte. */
-    bool skipEscape()
-    {
-        if (++m_cursor == m_end || static_cast<signed char>(*m_cursor) < 0)
-            return false;
-        if (*m_cursor != 'u')
+        switch (element.type()) {
+        case simdjson::dom::element_type::ARRAY:
+            return addContainer(Array(), [&] { return appendAll(element.get_array().value_unsafe()); });
+        case simdjson::dom::element_type::OBJECT:
+            return addContainer(Object(), [&] { return appendAll(element.get_object().value_unsafe()); });
+        case simdjson::dom::element_type::STRING:
+            add(view(element.get_string().value_unsafe()));
             return true;
-        for (int digit = 0; digit < 4; ++digit) {
-            if (++m_cursor == m_end || hexValue(*m_cursor) < 0)
+        case simdjson::dom::element_type::INT64:
+            add(qint64{element.get_int64().value_unsafe()});
+            return true;
+        case simdjson::dom::element_type::UINT64:
+            add(static_cast<double>(element.get_uint64().value_unsafe()));
+            return true;
+        case simdjson::dom::element_type::DOUBLE:
+            return appendDouble(element.get_double().value_unsafe());
+        case simdjson::dom::element_type::BOOL:
+            add(element.get_bool().value_unsafe());
+            return true;
+        case simdjson::dom::element_type::NULL_VALUE:
+            break;
+        }
+        add(Null());
+        return true;
+    }
+
+    bool appendAll(const simdjson::dom::array& array)
+    {
+        for (const simdjson::dom::element element : array) {
+            if (!append(element))
                 return false;
         }
         return true;
     }
 
-    bool parseLiteral(QByteArrayView literal, Type type)
+    bool appendAll(const simdjson::dom::object& object)
     {
-        if (!QByteArrayView(m_cursor, m_end).startsWith(literal))
-            return false;
-        const std::size_t node = addNode(type);
-        m_cursor += literal.size();
-        closeNode(node);
+        for (const simdjson::dom::key_value_pair member : object) {
+            add(view(member.key));
+            if (!append(member.value))
+                return false;
+        }
         return true;
     }
 
-    void skipDigits()
+    bool appendDouble(double number)
     {
-        while (m_cursor != m_end && isDigit(*m_cursor))
-            ++m_cursor;
-    }
-
-    bool parseNumber()
-    {
-        const std::size_t node = addNode(Type::Number);
-        const char* const start = m_cursor;
-        if (*m_cursor == '-')
-            ++m_cursor;
-        const char* const firstDigit = m_cursor;
-        if (m_cursor != m_end && *m_cursor == '0')
-            ++m_cursor;
+        if (const std::optional<qint64> integer = wholeNumber(number))
+            add(*integer);
         else
-            skipDigits();
-        const bool isShortInteger =
-            m_cursor != firstDigit && m_cursor - firstDigit <= surelyFittingDigits &&
-            (m_cursor == m_end || (*m_cursor != '.' && *m_cursor != 'e' && *m_cursor != 'E'));
-        if (!isShortInteger && m_cursor != m_end && *m_cursor == '.') {
-            ++m_cursor;
-            skipDigits();
-        }
-        if (!isShortInteger && m_cursor != m_end && (*m_cursor == 'e' || *m_cursor == 'E')) {
-            ++m_cursor;
-            if (m_cursor != m_end && (*m_cursor == '-' || *m_cursor == '+'))
-                ++m_cursor;
-            skipDigits();
-        }
-        closeNode(node);
-        bool isNumber = isShortInteger;
-        if (!isNumber)
-            static_cast<void>(QByteArrayView(start, m_cursor).toDouble(&isNumber));
-        return isNumber;
+            add(number);
+        // A number too small for a double has become 0; Qt refuses such a one.
+        return number != 0.0;
     }
 
-    const char* const m_begin;
-    const char* m_cursor;
-    const char* const m_end;
+    void append(const QString& text)
+    {
+        m_texts.append(text);
+        add(QStringView(m_texts.constLast()));
+    }
+
+    void append(const QJsonValue& value)
+    {
+        switch (value.type()) {
+        case QJsonValue::Array:
+            addContainer(Array(), [this, array = value.toArray()] {
+                for (const QJsonValue& element : array)
+                    append(element);
+                return true;
+            });
+            break;
+        case QJsonValue::Object:
+            addContainer(Object(), [this, object = value.toObject()] {
+                for (auto member = object.begin(); member != object.end(); ++member) {
+                    append(member.key());
+                    append(member.value());
+                }
+                return true;
+            });
+            break;
+        case QJsonValue::String:
+            append(value.toString());
+            break;
+        case QJsonValue::Double:
+            // Only the variant tells whether Qt holds an integer, which may lie beyond what a double can.
+            if (const QVariant number = value.toVariant(); number.typeId() == QMetaType::LongLong)
+                add(number.toLongLong());
+            else
+                add(number.toDouble());
+            break;
+        case QJsonValue::Bool:
+            add(value.toBool());
+            break;
+        case QJsonValue::Null:
+        case QJsonValue::Undefined:
+            add(Null());
+            break;
+        }
+    }
+
     std::vector<Node>& m_nodes;
+    simdjson::dom::parser m_parser;
+    QStringList m_texts; ///< Those that Qt read.
 };
+
+JsonTree::JsonTree()
+    : m_parser(std::make_unique<Parser>(m_nodes))
+{}
+
+JsonTree::~JsonTree() = default;
 
 bool JsonTree::parse(QByteArrayView bytes)
 {
-    m_bytes = bytes;
-    m_nodes.clear();
-    return bytes.size() <= std::numeric_limits<qint32>::max() && Parser(bytes, m_nodes).run();
+    m_parser->clear();
+    if (m_parser->parseQuickly(bytes))
+        return true;
+    m_parser->clear();
+    return m_parser->parseWithQt(bytes);
 }
 
 JsonNode JsonTree::root() const
@@ -299,37 +204,40 @@ JsonNode JsonTree::root() const
     return JsonNode(*this, 0);
 }
 
+std::optional<qint64> JsonNode::integer() const
+{
+    const qint64* const integer = get<qint64>();
+    return integer ? std::optional(*integer) : std::nullopt;
+}
+
+double JsonNode::number() const
+{
+    if (const qint64* const integer = get<qint64>())
+        return static_cast<double>(*integer);
+    const double* const number = get<double>();
+    return number ? *number : 0.0;
+}
+
 QString JsonNode::text() const
 {
-    if (!isText())
-        return {};
-    return node().isPlain ? QString::fromLatin1(slice()) : decoded(slice());
+    if (const QStringView* const text = get<QStringView>())
+        return text->toString();
+    // A mark at the start of a text is part of it.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder.decode(utf8());
 }
 
-QByteArrayView JsonNode::digits() const
+QByteArrayView JsonNode::utf8() const
 {
-    return isNumber() ? slice() : QByteArrayView();
-}
-
-QByteArrayView JsonNode::encodedText() const
-{
-    return isText() ? slice() : QByteArrayView();
-}
-
-bool JsonNode::isText(QStringView expected) const
-{
-    if (!isText())
-        return false;
-    return node().isPlain ? QLatin1StringView(slice()) == expected : text() == expected;
+    const QByteArrayView* const text = get<QByteArrayView>();
+    return text ? *text : QByteArrayView();
 }
 
 bool JsonNode::isText(QLatin1StringView expected) const
 {
-    if (!isText())
-        return false;
-    if (node().isPlain)
-        return slice() == QByteArrayView(expected.data(), expected.size());
-    return text() == expected;
+    if (const QStringView* const text = get<QStringView>())
+        return *text == expected;
+    return isText() && utf8() == QByteArrayView(expected.data(), expected.size());
 }
 
 JsonNode JsonNode::value(QLatin1StringView key) const
@@ -344,32 +252,25 @@ JsonNode JsonNode::value(QLatin1StringView key) const
 
 QJsonValue JsonNode::toJsonValue() const
 {
-    if (!exists() || isNull())
-        return QJsonValue::Null;
-    switch (node().type) {
-    case JsonTree::Type::Number: {
-        // An exact integer stays one, whatever its size.
-        bool isInteger = false;
-        const qint64 integer = digits().toByteArray().toLongLong(&isInteger);
-        return isInteger ? QJsonValue(integer) : QJsonValue(readDouble(*this).value_or(0.0));
-    }
-    case JsonTree::Type::Text:
+    if (isText())
         return text();
-    case JsonTree::Type::Array: {
+    if (isBool())
+        return isTrue();
+    if (isNumber())
+        return integer() ? QJsonValue(*integer()) : QJsonValue(number());
+    if (isArray()) {
         QJsonArray array;
         forEachElement([&](const JsonNode& element) { array.append(element.toJsonValue()); });
         return array;
     }
-    case JsonTree::Type::Object: {
+    if (isObject()) {
         QJsonObject object;
         forEachMember([&](const JsonNode& key, const JsonNode& value) {
             object.insert(key.text(), value.toJsonValue());
         });
         return object;
     }
-    default:
-        return isTrue();
-    }
+    return QJsonValue::Null;
 }
 
 } // namespace tw::app::persistence

@@ -130,6 +130,28 @@ TEST(FolderScan, findsTheTextFilesOfATreeAndNothingElse)
     EXPECT_FALSE(scanFolder(folder.filePath(u"notes.txt"_s), ScannedFiles::All).isComplete());
 }
 
+TEST(FolderScan, namesTheTemporaryFilesOfSavesApart)
+{
+    const QTemporaryDir folder;
+    DiskFileSystem files;
+    QStringList expected;
+    for (const QString& target : {u"project.json"_s, u"objects/1.json"_s, u"a/b/deep.md"_s}) {
+        store(folder.filePath(target), "text");
+        const std::optional<QString> temporary = files.writeTemporary(folder.filePath(target), "new");
+        ASSERT_TRUE(temporary);
+        expected.append(QDir(folder.path()).relativeFilePath(*temporary));
+    }
+    store(folder.filePath(u".vellory-save"_s), "another name");
+    store(folder.filePath(u".vellory-save-folder/1.json"_s), "in a folder");
+    expected.sort();
+    for (const ScannedFiles which : {ScannedFiles::Text, ScannedFiles::All}) {
+        FolderScan scan = scanFolder(folder.path(), which);
+        scan.leftovers.sort();
+        EXPECT_EQ(scan.leftovers, expected);
+        EXPECT_EQ(pathsOf(scan), (QStringList{u"a/b/deep.md"_s, u"objects/1.json"_s, u"project.json"_s}));
+    }
+}
+
 TEST(FolderScan, takesOverTheNamesOfAnEarlierScanAndNothingElse)
 {
     const QTemporaryDir folder;

@@ -7,21 +7,12 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 using namespace Qt::Literals::StringLiterals;
 using namespace tw::app::persistence;
 
 namespace {
-
-/** Qt takes a byte beyond ASCII behind a backslash for a character of its own, which no writer means. */
-bool escapesHalfACharacter(const QByteArray& json)
-{
-    for (qsizetype place = json.indexOf('\\'); place >= 0 && place + 1 < json.size();
-         place = json.indexOf('\\', place + 2)) {
-        if (static_cast<signed char>(json.at(place + 1)) < 0)
-            return true;
-    }
-    return false;
-}
 
 /** Both parsers accept the text as an object and find the same in it, or both refuse it. */
 void expectSameAsQt(const QByteArray& json)
@@ -29,7 +20,7 @@ void expectSameAsQt(const QByteArray& json)
     const QJsonDocument document = QJsonDocument::fromJson(json);
     JsonTree tree;
     const bool isAccepted = tree.parse(json);
-    EXPECT_EQ(isAccepted, document.isObject() && !escapesHalfACharacter(json)) << json.left(200).constData();
+    EXPECT_EQ(isAccepted, document.isObject()) << json.left(200).constData();
     if (!isAccepted)
         return;
     // Written and read once more, since Qt sorts keys beyond the basic plane differently when it parses.
@@ -70,7 +61,11 @@ TEST(JsonTree, acceptsAndRefusesWhatQtDoes)
         "1e400",
         "-1e400",
         "1e-400",
+        "-1e-400",
+        "2e-324",
+        "3e-324",
         "0.0",
+        "-0.0",
         "0e0",
         "00",
         "1.e3",
@@ -107,6 +102,7 @@ TEST(JsonTree, acceptsAndRefusesWhatQtDoes)
         "\"\\u12\"",
         "\"\\ud83d\\ude00\"",
         "\"\\ud83d\"",
+        "\"\\ud83d\\u0041\"",
         "\"\\ude00\\ud83d\"",
         "\"\\u0000\"",
         "\"\xc3\xa9\"",
@@ -183,24 +179,61 @@ TEST(JsonTree, judgesDamagedTextsAsQtDoes)
     }
 }
 
-TEST(JsonTree, keepsMarksAtTheStartOfATextAndBehindAnEscape)
+TEST(JsonTree, readsEveryValueAlikeWhicheverParserReadIt)
 {
-    const QByteArray json = "{\"v\": \"\xef\xbb\xbfx\\n\xef\xbb\xbfy\"}";
-    JsonTree tree;
-    ASSERT_TRUE(tree.parse(json));
-    EXPECT_EQ(tree.root().value("v"_L1).text(), u"\ufeffx\n\ufeffy"_s);
+    // Only Qt's parser takes a tab as it stands, or half of a surrogate pair.
+    for (const QByteArray neighbour : {"1", "\"\t\"", "\"\\ud83d\""}) {
+        const QByteArray json =
+            R"({"exact": -9007199254740993, "largest": 9223372036854775807, "whole": 2.50e1,
+            "beyond": 9223372036854775808, "fraction": -2.5, "text": "\ufeffä\n\ufeff", "\u0061b": "ab",
+            "list": [null, true, {}], "other": )" +
+            neighbour + '}';
+        JsonTree tree;
+        ASSERT_TRUE(tree.parse(json)) << json.constData();
+        const JsonNode root = tree.root();
+        EXPECT_EQ(root.value("exact"_L1).integer(), -9007199254740993);
+        EXPECT_EQ(root.value("largest"_L1).integer(), std::numeric_limits<qint64>::max());
+        EXPECT_EQ(root.value("whole"_L1).integer(), 25);
+        EXPECT_EQ(root.value("beyond"_L1).integer(), std::nullopt);
+        EXPECT_EQ(root.value("beyond"_L1).number(), 0x1p63);
+        EXPECT_EQ(root.value("fraction"_L1).integer(), std::nullopt);
+        EXPECT_EQ(root.value("fraction"_L1).number(), -2.5);
+        EXPECT_EQ(root.value("text"_L1).text(), u"\ufeffä\n\ufeff"_s);
+        EXPECT_TRUE(root.value("ab"_L1).isText("ab"_L1));
+        EXPECT_FALSE(root.value("ab"_L1).isText("a"_L1));
+        EXPECT_FALSE(root.value("b"_L1).exists());
+        EXPECT_FALSE(root.value("exact"_L1).value("a"_L1).exists());
+        QStringList elements;
+        root.value("list"_L1).forEachElement([&](const JsonNode& element) {
+            elements.append(
+                element.isNull()     ? u"null"_s
+                : element.isTrue()   ? u"true"_s
+                : element.isObject() ? u"object"_s
+                                     : u"other"_s);
+        });
+        EXPECT_EQ(elements, (QStringList{u"null"_s, u"true"_s, u"object"_s}));
+    }
 }
 
-TEST(JsonTree, takesTheLastOfEqualKeysAndDecodesKeys)
+TEST(JsonTree, takesTheLastOfEqualKeys)
 {
-    const QByteArray json = R"({"a": 1, "\u0061b": 2, "a": 3, "ä": 4})";
+    const QByteArray json = R"({"a": 1, "ä": 4, "a": 3, "b": 2})";
     JsonTree tree;
     ASSERT_TRUE(tree.parse(json));
-    EXPECT_EQ(tree.root().value("a"_L1).digits(), "3");
-    EXPECT_EQ(tree.root().value("ab"_L1).digits(), "2");
-    EXPECT_FALSE(tree.root().value("b"_L1).exists());
-    EXPECT_FALSE(tree.root().value("a"_L1).value("a"_L1).exists());
+    EXPECT_EQ(tree.root().value("a"_L1).integer(), 3);
     QStringList keys;
     tree.root().forEachMember([&](const JsonNode& key, const JsonNode&) { keys.append(key.text()); });
-    EXPECT_EQ(keys, (QStringList{u"a"_s, u"ab"_s, u"a"_s, u"ä"_s}));
+    EXPECT_EQ(keys, (QStringList{u"a"_s, u"ä"_s, u"a"_s, u"b"_s}));
+}
+
+TEST(JsonTree, isOfUseAgainAfterTextsOfEveryOutcome)
+{
+    JsonTree tree;
+    EXPECT_TRUE(tree.parse("{\"a\": [1, \"x\"]}"));
+    EXPECT_FALSE(tree.parse("{\"a\": [1, "));
+    EXPECT_TRUE(tree.parse("{\"a\": \"\t\"}"));
+    EXPECT_FALSE(tree.parse("[1]"));
+    EXPECT_FALSE(tree.parse(""));
+    ASSERT_TRUE(tree.parse("{\"a\": 2}"));
+    EXPECT_EQ(tree.root().toJsonValue(), (QJsonObject{{u"a"_s, 2}}));
 }
