@@ -34,10 +34,10 @@ core::Failure failure(const char* message, const QString& path)
 /** Where the files come from. Contents are asked for on several threads. */
 struct Source
 {
-    QStringList objectPaths;   ///< Sorted.
-    QStringList categoryPaths; ///< Sorted.
-    std::function<std::optional<FileContent>(const QString& relativePath)> content;
-    std::function<QString(const QString& relativePath)> shownPath; ///< For messages.
+    QStringList objectPaths;                                       ///< Sorted.
+    QStringList categoryPaths;                                     ///< Sorted.
+    std::function<QString(const QString& relativePath)> shownPath; ///< As messages name the file.
+    std::function<std::optional<FileContent>(const QString& shownPath)> content;
 };
 
 /** What every thread needs for itself; handed out so that as few as possible are made. */
@@ -123,9 +123,9 @@ private:
         return parsed;
     }
 
-    bool readBytes(LoadedFile& file) const
+    bool readBytes(LoadedFile& file, const QString& shownPath) const
     {
-        std::optional<FileContent> content = m_source.content(file.relativePath);
+        std::optional<FileContent> content = m_source.content(shownPath);
         if (!content)
             return false;
         file.bytes = std::move(content->bytes);
@@ -136,7 +136,7 @@ private:
     Parsed readObject(LoadedFile& file, WorkSpaces::WorkSpace& workSpace) const
     {
         const QString path = m_source.shownPath(file.relativePath);
-        if (!readBytes(file))
+        if (!readBytes(file, path))
             return cannotRead(path);
         auto object = parseObject(file.bytes, path, workSpace.parsing);
         if (!object)
@@ -152,7 +152,7 @@ private:
     Parsed readCategory(LoadedFile& file, WorkSpaces::WorkSpace& workSpace) const
     {
         const QString path = m_source.shownPath(file.relativePath);
-        if (!readBytes(file))
+        if (!readBytes(file, path))
             return cannotRead(path);
         auto category = parseCategory(file.bytes, path, workSpace.parsing);
         if (!category)
@@ -199,11 +199,8 @@ private:
         LoadedFile file;
         file.relativePath = projectFileName.toString();
         const QString path = m_source.shownPath(file.relativePath);
-        std::optional<FileContent> content = m_source.content(file.relativePath);
-        if (!content)
+        if (!readBytes(file, path))
             return cannotRead(path);
-        file.bytes = std::move(content->bytes);
-        file.stamp = content->stamp;
         if (auto read = readProjectDocument(file.bytes, path, *m_loaded.project); !read)
             return read;
         file.hasOwnName = true;
@@ -279,9 +276,7 @@ core::Result<LoadedProject> loadFolder(FileSystem& fileSystem, const QString& fo
     source.objectPaths = contents.objects;
     source.categoryPaths = contents.categories;
     source.shownPath = [&](const QString& relativePath) -> QString { return folder % u'/' % relativePath; };
-    source.content = [&](const QString& relativePath) {
-        return fileSystem.readFile(source.shownPath(relativePath));
-    };
+    source.content = [&](const QString& path) { return fileSystem.readFile(path); };
     core::Result<LoadedProject> loaded = Loading(source).run();
     if (loaded) {
         loaded.value().listing = std::move(listing);
@@ -300,8 +295,8 @@ core::Result<LoadedProject> parseProject(const ProjectFileMap& files)
             source.categoryPaths.append(entry.first);
     }
     source.shownPath = [](const QString& relativePath) { return relativePath; };
-    source.content = [&](const QString& relativePath) -> std::optional<FileContent> {
-        const auto entry = files.find(relativePath);
+    source.content = [&](const QString& path) -> std::optional<FileContent> {
+        const auto entry = files.find(path);
         if (entry == files.end())
             return std::nullopt;
         return FileContent{entry->second, {}};

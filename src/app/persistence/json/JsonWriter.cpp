@@ -6,7 +6,6 @@
 #include <QVariant>
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -22,32 +21,24 @@ constexpr qsizetype smallestGrowth = 1024;
 /** Text is escaped in pieces, so that a long one does not reserve room for its worst case. */
 constexpr qsizetype pieceLength = 4096;
 constexpr qsizetype longestEscape = 6;
-constexpr qsizetype blockLength = 16;
+constexpr qsizetype blockLength = 8;
 constexpr qsizetype longestInteger = 20;
 /** Whole numbers up to here are exact as a double, and are written with all their digits. */
 constexpr double largestExactInteger = 9007199254740992.0;
 
-constexpr std::array<bool, 128> plainCharacters = [] {
-    std::array<bool, 128> plain{};
-    for (std::size_t character = 0x20; character < plain.size(); ++character)
-        plain[character] = character != '"' && character != '\\';
-    return plain;
-}();
-
-bool isPlain(char16_t unit)
+/** Whether a character stands for itself. Without branches, so that the compiler takes many at once. */
+template <class Unit>
+constexpr bool isPlain(Unit unit)
 {
-    return unit < plainCharacters.size() && plainCharacters[unit];
+    return (unit >= 0x20) & (unit < 0x80) & (unit != '"') & (unit != '\\');
 }
 
-/** Whether a whole block is plain: without branches, so that the compiler takes all of it at once. */
-bool isPlainBlock(const char16_t* block)
+template <class Unit>
+bool areAllPlain(const Unit* units, qsizetype count)
 {
-    unsigned short unusual = 0;
-    for (qsizetype index = 0; index < blockLength; ++index) {
-        const char16_t unit = block[index];
-        unusual = static_cast<unsigned short>(
-            unusual | (unit < 0x20) | (unit >= 0x80) | (unit == u'"') | (unit == u'\\'));
-    }
+    unsigned char unusual = 0;
+    for (qsizetype index = 0; index < count; ++index)
+        unusual = static_cast<unsigned char>(unusual | !isPlain(units[index]));
     return unusual == 0;
 }
 
@@ -295,7 +286,7 @@ void JsonWriter::appendQuoted(QStringView text)
         char* cursor = m_cursor;
         // A surrogate pair may end one unit behind the piece; its four bytes fit into the room of one escape.
         while (source < pieceEnd) {
-            if (pieceEnd - source >= blockLength && isPlainBlock(source)) {
+            if (pieceEnd - source >= blockLength && areAllPlain(source, blockLength)) {
                 std::transform(source, source + blockLength, cursor, [](char16_t unit) {
                     return static_cast<char>(unit);
                 });
@@ -316,8 +307,7 @@ void JsonWriter::appendQuoted(QStringView text)
 
 void JsonWriter::appendQuoted(QLatin1StringView text)
 {
-    const auto isPlainLetter = [](char letter) { return isPlain(static_cast<unsigned char>(letter)); };
-    if (!std::all_of(text.begin(), text.end(), isPlainLetter)) {
+    if (!areAllPlain(reinterpret_cast<const uchar*>(text.data()), text.size())) {
         appendQuoted(QString(text));
         return;
     }
