@@ -1,10 +1,8 @@
 #include "app/persistence/DiskState.h"
 
-#include "app/persistence/files/FolderScan.h"
 #include "app/persistence/files/ProjectFiles.h"
 
 #include <QCryptographicHash>
-#include <QSet>
 
 #include <algorithm>
 #include <chrono>
@@ -44,9 +42,35 @@ bool DiskState::isSettled(const FileStamp& stamp) const
     return m_clock() - std::max(stamp.mtimeNs, stamp.ctimeNs) > settlingNs;
 }
 
+void DiskState::insert(const QString& relativePath, Record record)
+{
+    m_records.insert(relativePath, std::move(record));
+    if (!m_isVouchedFor.empty())
+        m_newRecords.insert(relativePath);
+}
+
+void DiskState::forget(const QString& relativePath)
+{
+    m_records.remove(relativePath);
+    m_newRecords.insert(relativePath);
+}
+
+void DiskState::clear()
+{
+    m_records.clear();
+    rememberNames({});
+}
+
+void DiskState::rememberNames(FolderScan listing)
+{
+    m_lastScan = std::move(listing);
+    m_isVouchedFor.clear();
+    m_newRecords.clear();
+}
+
 void DiskState::record(const QString& relativePath, QByteArray bytes, const FileStamp& stamp)
 {
-    m_records.insert(relativePath, {std::move(bytes), stamp, isSettled(stamp), false});
+    insert(relativePath, {std::move(bytes), stamp, isSettled(stamp), false});
 }
 
 void DiskState::recordWritten(const QString& folder, const QString& relativePath, QByteArray bytes)
@@ -54,22 +78,28 @@ void DiskState::recordWritten(const QString& folder, const QString& relativePath
     // A stamp just taken never counts as settled: whatever another program did meanwhile, the next check
     // reads the file.
     const FileStamp stamp = m_fileSystem->stamp(joined(folder, relativePath)).value_or(FileStamp());
-    m_records.insert(relativePath, {std::move(bytes), stamp, false, false});
+    insert(relativePath, {std::move(bytes), stamp, false, false});
+}
+
+void DiskState::recordFile(const QString& folder, const QString& relativePath)
+{
+    auto content = m_fileSystem->readFile(joined(folder, relativePath));
+    if (!content)
+        return;
+    const bool isOurs = isProjectFile(relativePath);
+    insert(
+        relativePath, {isOurs ? std::move(content->bytes) : hashOf(content->bytes), content->stamp,
+                       isSettled(content->stamp), !isOurs});
 }
 
 void DiskState::recordUnseen(const QString& folder)
 {
-    for (const ScannedFile& file : scanFolder(folder, ScannedFiles::Text).files) {
-        if (m_records.contains(file.relativePath))
-            continue;
-        auto content = m_fileSystem->readFile(joined(folder, file.relativePath));
-        if (!content)
-            continue;
-        const bool isOurs = isProjectFile(file.relativePath);
-        m_records.insert(
-            file.relativePath, {isOurs ? std::move(content->bytes) : hashOf(content->bytes), content->stamp,
-                                isSettled(content->stamp), !isOurs});
+    FolderScan listing = listFolder(folder, ScannedFiles::Text);
+    for (const ScannedFile& file : listing.files) {
+        if (!m_records.contains(file.relativePath))
+            recordFile(folder, file.relativePath);
     }
+    rememberNames(std::move(listing));
 }
 
 QByteArray DiskState::bytes(const QString& relativePath) const
@@ -88,23 +118,39 @@ bool DiskState::isSameContent(const QString& path, Record& record)
     return true;
 }
 
+bool DiskState::isVouchedFor(const ScannedFile& file) const
+{
+    const auto earlier = static_cast<std::size_t>(file.earlierIndex);
+    return file.earlierIndex >= 0 && earlier < m_isVouchedFor.size() && m_isVouchedFor[earlier] &&
+           m_lastScan.files[earlier].stamp == file.stamp &&
+           (m_newRecords.isEmpty() || !m_newRecords.contains(file.relativePath));
+}
+
 DiskChanges DiskState::changesIn(const QString& folder)
 {
     qsizetype seen = 0;
-    const FolderScan scan = scanFolder(folder, ScannedFiles::Text);
+    FolderScan scan = scanFolder(folder, ScannedFiles::Text, m_lastScan);
     DiskChanges changes;
     changes.leftovers = scan.leftovers;
-    for (const ScannedFile& file : scan.files) {
+    std::vector<bool> isVouched(scan.files.size(), false);
+    for (std::size_t index = 0; index < scan.files.size(); ++index) {
+        const ScannedFile& file = scan.files[index];
+        if (isVouchedFor(file)) {
+            isVouched[index] = true;
+            ++seen;
+            continue;
+        }
         const auto record = m_records.find(file.relativePath);
         if (record == m_records.end()) {
             changes.added.append(file.relativePath);
             continue;
         }
         ++seen;
-        if (record->isSettled && record->stamp == file.stamp)
-            continue;
-        if (!isSameContent(joined(folder, file.relativePath), *record))
+        const bool isUntouched = record->isSettled && record->stamp == file.stamp;
+        if (!isUntouched && !isSameContent(joined(folder, file.relativePath), *record))
             changes.changed.append(file.relativePath);
+        else
+            isVouched[index] = record->isSettled && record->stamp == file.stamp;
     }
     if (seen != m_records.size()) {
         QSet<QString> present;
@@ -115,6 +161,9 @@ DiskChanges DiskState::changesIn(const QString& folder)
                 changes.removed.append(record.key());
         }
     }
+    m_lastScan = std::move(scan);
+    m_isVouchedFor = std::move(isVouched);
+    m_newRecords.clear();
     changes.added.sort();
     changes.removed.sort();
     changes.changed.sort();

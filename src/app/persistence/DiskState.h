@@ -1,12 +1,15 @@
 #pragma once
 
 #include "app/persistence/files/FileSystem.h"
+#include "app/persistence/files/FolderScan.h"
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 namespace tw::app::persistence {
 
@@ -45,14 +48,20 @@ public:
     void record(const QString& relativePath, QByteArray bytes, const FileStamp& stamp);
     /** Records our own write of these bytes with the stamp the file has now. */
     void recordWritten(const QString& folder, const QString& relativePath, QByteArray bytes);
-    void forget(const QString& relativePath) { m_records.remove(relativePath); }
-    void clear() { m_records.clear(); }
+    void forget(const QString& relativePath);
+    void clear();
+    /** Makes room for that many records at once. */
+    void reserve(qsizetype count) { m_records.reserve(count); }
 
     /**
-     * Reads and records every text file of the folder that is not recorded yet. Of files that are not the
+     * Reads and records one file; one that cannot be read shows at the next check. Of files that are not the
      * project's only a hash is kept: they guard a save, but nobody merges them.
      */
+    void recordFile(const QString& folder, const QString& relativePath);
+    /** The same for every text file of the folder that is not recorded yet. */
     void recordUnseen(const QString& folder);
+    /** Takes a listing of the folder's text files, which makes the next check cheaper. */
+    void rememberNames(FolderScan listing);
 
     [[nodiscard]] qsizetype count() const { return m_records.size(); }
     [[nodiscard]] bool contains(const QString& relativePath) const
@@ -79,12 +88,22 @@ private:
     };
 
     [[nodiscard]] bool isSettled(const FileStamp& stamp) const;
+    void insert(const QString& relativePath, Record record);
+    /** Whether the record of a file in the last scan is known to hold without a look at it. */
+    [[nodiscard]] bool isVouchedFor(const ScannedFile& file) const;
     /** Reads the file and compares; an equal one gets its new stamp. */
     [[nodiscard]] bool isSameContent(const QString& path, Record& record);
 
     FileSystem* m_fileSystem; // never null; a pointer, so that a state can be replaced whole
     Clock m_clock;
     QHash<QString, Record> m_records;
+
+    /** The last look at the folder; most of its files are those of the next one. */
+    FolderScan m_lastScan;
+    /** For each file there: with the stamp it has there, the file holds the recorded bytes. */
+    std::vector<bool> m_isVouchedFor;
+    /** Records made or dropped since then: nothing of the above holds for them. */
+    QSet<QString> m_newRecords;
 };
 
 } // namespace tw::app::persistence

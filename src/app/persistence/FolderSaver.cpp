@@ -90,28 +90,30 @@ Result<void> FolderSaver::saveObjects(const Project& project, SaveExtent extent)
         !ready)
         return ready;
     std::vector<PendingFile> files;
-    qsizetype known = 0;
+    QStringList obsolete;
+    // Both are sorted by id: walked side by side, they show what came and what went.
+    auto saved = m_saved.revisions.cbegin();
+    const auto takeObsolete = [&](const auto& isObsolete) {
+        for (; saved != m_saved.revisions.cend() && isObsolete(saved->first); ++saved)
+            obsolete.append(objectPath(saved->first));
+    };
     for (const auto& [id, object] : project.objects()) {
-        const auto saved = m_saved.revisions.constFind(id);
-        const bool isKnown = saved != m_saved.revisions.constEnd();
-        known += isKnown ? 1 : 0;
-        if (extent == SaveExtent::Changed && isKnown && *saved == object->revision())
-            continue;
-        files.push_back({objectPath(id), serializeObject(*object), id, object->revision()});
+        takeObsolete([&id](const core::ContentId& savedId) { return savedId < id; });
+        const bool isKnown = saved != m_saved.revisions.cend() && saved->first == id;
+        const bool isUnchanged = isKnown && saved->second == object->revision();
+        if (isKnown)
+            ++saved;
+        if (extent == SaveExtent::Everything || !isUnchanged)
+            files.push_back({objectPath(id), serializeObject(*object), id, object->revision()});
     }
+    takeObsolete([](const core::ContentId&) { return true; });
+
     if (auto written = writeChanged(std::move(files)); !written)
         return written;
-
-    QStringList obsolete;
-    if (known != m_saved.revisions.size()) {
-        for (auto saved = m_saved.revisions.cbegin(); saved != m_saved.revisions.cend(); ++saved) {
-            if (!project.contains(saved.key()))
-                obsolete.append(objectPath(saved.key()));
-        }
-    }
     if (auto removed = removeFiles(obsolete); !removed)
         return removed;
-    m_saved.revisions.removeIf([&project](const auto& saved) { return !project.contains(saved.key()); });
+    if (!obsolete.isEmpty())
+        std::erase_if(m_saved.revisions, [&](const auto& entry) { return !project.contains(entry.first); });
     return removeStrays(objectsFolder);
 }
 
@@ -121,22 +123,21 @@ Result<void> FolderSaver::saveTaxonomy(const Project& project)
             taxonomyFolder, QT_TRANSLATE_NOOP("Persistence", "Cannot create taxonomy folder: %1"));
         !ready)
         return ready;
+    const auto& categories = project.taxonomy().categories();
     std::vector<PendingFile> files;
-    QSet<QString> kept;
-    for (const auto& [id, category] : project.taxonomy().categories()) {
-        files.push_back({categoryPath(id), serializeCategory(category), {}, 0});
-        kept.insert(files.back().relativePath);
-    }
+    for (const auto& [id, category] : categories)
+        files.push_back({categoryPath(id), serializeCategory(category), id, 0});
     if (auto written = writeChanged(std::move(files)); !written)
         return written;
 
     QStringList obsolete;
-    for (const QString& path : m_disk.paths()) {
-        if (isIn(taxonomyFolder, path) && isProjectFile(path) && !kept.contains(path.toLower()))
-            obsolete.append(path);
+    for (const core::CategoryId& id : m_saved.categories) {
+        if (!categories.contains(id))
+            obsolete.append(categoryPath(id));
     }
     if (auto removed = removeFiles(obsolete); !removed)
         return removed;
+    std::erase_if(m_saved.categories, [&](const core::CategoryId& id) { return !categories.contains(id); });
     return removeStrays(taxonomyFolder);
 }
 
@@ -151,8 +152,7 @@ Result<void> FolderSaver::writeChanged(std::vector<PendingFile> files)
     QList<FileWrite> writes;
     for (PendingFile& file : files) {
         if (m_disk.contains(file.relativePath) && m_disk.bytes(file.relativePath) == file.bytes) {
-            if (!file.objectId.isNull())
-                m_saved.revisions.insert(file.objectId, file.revision);
+            noteOnDisk(file);
             continue;
         }
         writes.append({m_folder + u'/' + file.relativePath, file.bytes});
@@ -164,16 +164,20 @@ Result<void> FolderSaver::writeChanged(std::vector<PendingFile> files)
             return changedOnDiskFailure();
         return {};
     });
-    for (qsizetype index = 0; index < outcome.committed; ++index)
-        noteSaved(changed[static_cast<std::size_t>(index)]);
+    for (qsizetype index = 0; index < outcome.committed; ++index) {
+        const PendingFile& file = changed[static_cast<std::size_t>(index)];
+        m_disk.recordWritten(m_folder, file.relativePath, file.bytes);
+        noteOnDisk(file);
+    }
     return outcome.result;
 }
 
-void FolderSaver::noteSaved(const PendingFile& file)
+void FolderSaver::noteOnDisk(const PendingFile& file)
 {
-    m_disk.recordWritten(m_folder, file.relativePath, file.bytes);
-    if (!file.objectId.isNull())
-        m_saved.revisions.insert(file.objectId, file.revision);
+    if (const auto* objectId = std::get_if<core::ContentId>(&file.id))
+        m_saved.revisions.insert_or_assign(*objectId, file.revision);
+    else if (const auto* categoryId = std::get_if<core::CategoryId>(&file.id))
+        m_saved.categories.insert(*categoryId);
 }
 
 Result<void> FolderSaver::removeFiles(const QStringList& relativePaths)

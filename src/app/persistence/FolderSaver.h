@@ -6,10 +6,13 @@
 #include "core/foundation/Result.h"
 #include "core/project/Project.h"
 
-#include <QHash>
 #include <QStringList>
 
 #include <limits>
+#include <map>
+#include <set>
+#include <variant>
+#include <vector>
 
 namespace tw::app::persistence {
 
@@ -29,7 +32,9 @@ inline constexpr quint64 neverSaved = std::numeric_limits<quint64>::max();
 struct SavedState
 {
     /** The revision each object had when its file was last read or written as we would write it. */
-    QHash<core::ContentId, quint64> revisions;
+    std::map<core::ContentId, quint64> revisions;
+    /** The categories that have a file. */
+    std::set<core::CategoryId> categories;
     /** Files that hold an object or a category under a name that is not its own; the next save removes them.
      */
     QStringList strayFiles;
@@ -60,9 +65,9 @@ private:
     {
         QString relativePath;
         QByteArray bytes;
-        /** The object in the file; null for other files. */
-        core::ContentId objectId;
-        quint64 revision = 0;
+        /** What is in the file: an object, a category or the project document. */
+        std::variant<std::monostate, core::ContentId, core::CategoryId> id;
+        quint64 revision = 0; ///< Of an object.
     };
 
     [[nodiscard]] core::Result<void> prepareFolder(QStringView name, const char* failureText);
@@ -72,7 +77,7 @@ private:
     [[nodiscard]] core::Result<void> writeChanged(std::vector<PendingFile> files);
     [[nodiscard]] core::Result<void> removeFiles(const QStringList& relativePaths);
     [[nodiscard]] core::Result<void> removeStrays(QStringView folder);
-    void noteSaved(const PendingFile& file);
+    void noteOnDisk(const PendingFile& file);
 
     QString m_folder;
     FileSystem& m_fileSystem;

@@ -141,19 +141,23 @@ Result<void> Workspace::load(const QString& folder)
     m_openedFolderFingerprint.clear();
     m_saved = {};
     m_fullSaveDue = false;
-    m_saved.revisions.reserve(static_cast<qsizetype>(project.files.size()));
+    m_openedFolderFingerprint.reserve(std::ssize(project.files));
     for (persistence::LoadedFile& file : project.files) {
-        const core::content::ContentObject* const object = m_project->find(file.objectId);
-        if (file.hasOwnName && object) {
-            // A file that we would write differently counts as not saved, so that the next save brings it up.
-            m_saved.revisions.insert(
-                file.objectId, file.isCanonical ? object->revision() : persistence::neverSaved);
-        } else if (!file.hasOwnName) {
+        if (!file.hasOwnName) {
             m_saved.strayFiles.append(file.relativePath);
+        } else if (!file.objectId.isNull()) {
+            // A file that we would write differently counts as not saved, so that the next save brings it up.
+            m_saved.revisions.emplace_hint(
+                m_saved.revisions.end(), file.objectId,
+                file.isCanonical ? file.revision : persistence::neverSaved);
+        } else if (!file.categoryId.isNull()) {
+            m_saved.categories.insert(file.categoryId);
         }
         m_openedFolderFingerprint.record(file.relativePath, std::move(file.bytes), file.stamp);
     }
-    m_openedFolderFingerprint.recordUnseen(folder);
+    for (const QString& relativePath : project.otherFiles)
+        m_openedFolderFingerprint.recordFile(folder, relativePath);
+    m_openedFolderFingerprint.rememberNames(std::move(project.listing));
     static_cast<void>(m_project->takeChanges());
     m_undoStack.setClean();
     reloadLibraries();

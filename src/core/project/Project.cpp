@@ -66,7 +66,7 @@ void Project::insert(std::unique_ptr<ContentObject> object)
     sameKind.insert(place, inserted);
 
     m_changes.removed.erase(inserted->id());
-    m_changes.added.insert(inserted->id());
+    m_changes.added.insert(m_changes.added.end(), inserted->id());
 }
 
 std::unique_ptr<ContentObject> Project::take(const ContentId& id)

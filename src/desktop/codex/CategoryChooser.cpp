@@ -2,6 +2,7 @@
 
 #include "desktop/codex/CategoryPaths.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>

@@ -5,6 +5,7 @@
 #include <QCollator>
 
 #include <algorithm>
+#include <set>
 
 namespace tw::desktop::codex {
 

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <set>
 
 namespace tw::desktop::codex {
 

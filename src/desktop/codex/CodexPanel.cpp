@@ -239,6 +239,9 @@ void CodexPanel::showCurrent(const ContentId& id)
 {
     if (const QModelIndex index = m_model->indexOf(CodexItem::entity(id)); !id.isNull() && index.isValid())
         m_tree->selectSource(index);
+    else if (!id.isNull())
+        m_tree->clearCurrent();
+    refreshActions();
 }
 
 void CodexPanel::refreshActions()

@@ -2,6 +2,8 @@
 
 #include "core/entity/Entity.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <tuple>
 

@@ -81,7 +81,11 @@ void EntityHeading::makeAliases()
     QLineEdit& edit = m_aliases->lineEdit();
     edit.setPlaceholderText(tr("Add another name"));
     edit.setAccessibleName(tr("Other names"));
-    new fields::EditorKeys(edit, [this] { m_aliases->lineEdit().clear(); });
+    new fields::EditorKeys(edit, [this] {
+        const bool isTyped = !m_aliases->lineEdit().text().isEmpty();
+        m_aliases->lineEdit().clear();
+        return isTyped;
+    });
     connect(&edit, &QLineEdit::textEdited, this, &EntityHeading::typed);
     connect(&edit, &QLineEdit::editingFinished, this, &EntityHeading::commitAlias);
     connect(m_aliases, &fields::ChipField::removeRequested, this, [this](int index) {
@@ -103,7 +107,11 @@ void EntityHeading::makeName()
     m_name->setTextMargins(-2, 0, 0, 0);
     m_name->setPlaceholderText(tr("Name"));
     m_name->setAccessibleName(tr("Name"));
-    new fields::EditorKeys(*m_name, [this] { m_name->setText(m_shownName); });
+    new fields::EditorKeys(*m_name, [this] {
+        const bool isTyped = m_name->text() != m_shownName;
+        m_name->setText(m_shownName);
+        return isTyped;
+    });
     connect(m_name, &QLineEdit::textEdited, this, &EntityHeading::typed);
     connect(m_name, &QLineEdit::editingFinished, this, &EntityHeading::commitName);
 }

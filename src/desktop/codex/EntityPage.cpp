@@ -68,6 +68,13 @@ EntityPage::EntityPage(const shell::DeskContext& desk, const core::ContentId& id
     showEntity();
 }
 
+EntityPage::~EntityPage()
+{
+    // The parts go after this; a control that is left on the way may still store what was typed.
+    m_desk.session.disconnect(this);
+    qApp->disconnect(this);
+}
+
 void EntityPage::makeSheet()
 {
     auto* const column = new QVBoxLayout(m_sheet);
@@ -75,7 +82,7 @@ void EntityPage::makeSheet()
     column->setSpacing(8);
     for (EntitySection* const section : m_sections)
         column->addWidget(section);
-    column->addStretch();
+    column->addStretch(1);
     m_sheet->setBackgroundRole(QPalette::Base);
     m_sheet->setAutoFillBackground(true);
     m_sheet->setMaximumWidth(fontMetrics().averageCharWidth() * sheetCharacters + 2 * sideMargin);

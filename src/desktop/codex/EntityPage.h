@@ -28,6 +28,7 @@ class EntityPage final : public shell::WorkPage
 
 public:
     EntityPage(const shell::DeskContext& desk, const core::ContentId& id, QWidget* parent);
+    ~EntityPage() override;
 
     [[nodiscard]] QString title() const override;
     [[nodiscard]] QIcon icon() const override;

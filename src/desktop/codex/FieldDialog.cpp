@@ -235,7 +235,8 @@ void FieldDialog::accept()
 
 std::optional<Field> askForField(const shell::DeskContext& desk, FieldDialogSetup setup, QWidget* parent)
 {
-    FieldDialog dialog(desk, std::move(setup), parent);
+    // A child of the window, which stays whatever becomes of the page that asks.
+    FieldDialog dialog(desk, std::move(setup), parent ? parent->window() : nullptr);
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.field()) : std::nullopt;
 }
 

@@ -1,17 +1,17 @@
 #include "desktop/codex/FieldsSection.h"
 
 #include "core/entity/EntityCommands.h"
+#include "desktop/codex/FieldRow.h"
 #include "desktop/codex/OwnFieldEdits.h"
 #include "desktop/codex/SectionHeading.h"
-#include "desktop/fields/NoteLabel.h"
 #include "desktop/fields/ValueEditor.h"
-#include "desktop/fields/ValueText.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -21,7 +21,6 @@ namespace tw::desktop::codex {
 
 using core::entity::Entity;
 using core::entity::ResolvedField;
-using fields::NoteLabel;
 using fields::ValueEditor;
 using icons::Icon;
 
@@ -30,8 +29,6 @@ namespace {
 constexpr int labelCharacters = 20;
 constexpr int rowSpacing = 8;
 constexpr int columnSpacing = 16;
-/** Brings a label down to the line of the text in the control beside it. */
-constexpr int labelTop = 6;
 
 Icon iconOf(FieldGroup::Source source)
 {
@@ -50,39 +47,7 @@ Icon iconOf(FieldGroup::Source source)
     return Icon::Category;
 }
 
-bool isFilled(const Entity& entity, const QString& key)
-{
-    return !entity.value(key).value_or(QString()).trimmed().isEmpty();
-}
-
 } // namespace
-
-/** The widgets of one field. Children of the section; a row that is dropped takes them along. */
-struct FieldRow
-{
-    ResolvedField resolved;
-    QLabel* label = nullptr;
-    QWidget* body = nullptr;
-    /** None for a fixed field. */
-    ValueEditor* editor = nullptr;
-    NoteLabel* required = nullptr;
-    /** Only for an own field. */
-    QWidget* menu = nullptr;
-
-    FieldRow() = default;
-    FieldRow(const FieldRow&) = delete;
-    FieldRow& operator=(const FieldRow&) = delete;
-    ~FieldRow()
-    {
-        // Perhaps on the way out of a signal of the very editor.
-        for (QWidget* const widget : {static_cast<QWidget*>(label), body}) {
-            if (widget) {
-                widget->hide();
-                widget->deleteLater();
-            }
-        }
-    }
-};
 
 FieldsSection::FieldsSection(const shell::DeskContext& desk, const core::ContentId& entityId, QWidget* parent)
     : EntitySection(desk, entityId, parent)
@@ -117,7 +82,8 @@ void FieldsSection::showEntity(const Entity& entity)
         m_titles = titles;
         arrange();
     }
-    showValues(entity);
+    for (const auto& [key, row] : m_rows)
+        row->showValue(entity);
 }
 
 void FieldsSection::clearLayout()
@@ -148,12 +114,13 @@ void FieldsSection::arrange()
         for (const ResolvedField& resolved : group.fields) {
             // A control whose field is the same stays, with the cursor in it.
             auto known = present.extract(resolved.field.key);
-            const bool isSame = !known.empty() && known.mapped()->resolved == resolved;
+            const bool isSame = !known.empty() && known.mapped()->resolved() == resolved;
             auto row = isSame ? std::move(known.mapped()) : makeRow(resolved);
-            placeRow(*row, gridRow++);
+            m_grid->addWidget(row->label(), gridRow, 0, Qt::AlignTop);
+            m_grid->addWidget(row->body(), gridRow++, 1);
             if (before)
-                setTabOrder(before, row->body);
-            before = row->body;
+                setTabOrder(before, row->body());
+            before = row->body();
             m_rows.emplace(resolved.field.key, std::move(row));
         }
     }
@@ -161,78 +128,20 @@ void FieldsSection::arrange()
         setTabOrder(before, m_add);
 }
 
-void FieldsSection::placeRow(FieldRow& row, int gridRow)
-{
-    m_grid->addWidget(row.label, gridRow, 0, Qt::AlignTop);
-    m_grid->addWidget(row.body, gridRow, 1);
-}
-
 std::unique_ptr<FieldRow> FieldsSection::makeRow(const ResolvedField& resolved)
 {
-    auto row = std::make_unique<FieldRow>();
-    const QString name = resolved.field.displayName();
+    auto row = std::make_unique<FieldRow>(desk(), resolved, this);
     const QString key = resolved.field.key;
-    row->resolved = resolved;
-    row->label = new QLabel(name, this);
-    row->label->setTextFormat(Qt::PlainText);
-    row->label->setWordWrap(true);
-    row->label->setMargin(0);
-    row->label->setContentsMargins(0, labelTop, 0, 0);
-    row->label->setForegroundRole(QPalette::PlaceholderText);
-    row->label->setToolTip(resolved.field.description);
-    if (resolved.isFixed()) {
-        row->body = makeFixedValue(resolved);
-    } else {
-        row->body = new QWidget(this);
-        auto* const layout = new QVBoxLayout(row->body);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->setSpacing(4);
-        row->editor = fields::makeValueEditor(desk(), resolved.field, row->body);
-        row->required = new NoteLabel(desk().themes, row->body);
-        auto* const line = new QHBoxLayout;
-        line->setSpacing(4);
-        line->addWidget(row->editor, 1);
-        if (resolved.origin == core::entity::FieldOrigin::Entity) {
-            row->menu = makeOwnMenu(key, row->body);
-            line->addWidget(row->menu, 0, Qt::AlignTop);
-        }
-        layout->addLayout(line);
-        layout->addWidget(row->required);
-        row->body->setFocusProxy(row->editor);
-        row->editor->setReadOnly(m_isReadOnly);
-        row->editor->setToolTip(resolved.field.description);
-        QWidget* control = row->editor;
-        while (control->focusProxy())
-            control = control->focusProxy();
-        control->setAccessibleName(name);
-        control->setAccessibleDescription(resolved.field.description);
-        connect(row->editor, &ValueEditor::typed, this, &FieldsSection::typed);
-        connect(
-            row->editor, &ValueEditor::valueEdited, this,
-            [this, key](const std::optional<QString>& value) { storeValue(key, value); });
+    if (ValueEditor* const editor = row->editor()) {
+        connect(editor, &ValueEditor::typed, this, &FieldsSection::typed);
+        connect(editor, &ValueEditor::valueEdited, this, [this, key](const std::optional<QString>& value) {
+            storeValue(key, value);
+        });
     }
-    row->label->show();
-    row->body->show();
+    if (resolved.origin == core::entity::FieldOrigin::Entity)
+        row->addButton(makeOwnMenu(key, row->body()));
+    row->setReadOnly(m_isReadOnly);
     return row;
-}
-
-QWidget* FieldsSection::makeFixedValue(const ResolvedField& resolved)
-{
-    const auto& project = desk().session.project();
-    const auto* const source = project.taxonomy().category(resolved.definedBy);
-    auto* const body = new QWidget(this);
-    body->setToolTip(
-        source ? tr("Fixed by the category “%1”").arg(source->name) : tr("Fixed by its category"));
-    auto* const layout = new QHBoxLayout(body);
-    layout->setContentsMargins(0, labelTop, 0, 0);
-    layout->addWidget(new IconMark(desk().icons.icon(Icon::Fixed), body), 0, Qt::AlignTop);
-    auto* const text =
-        new QLabel(fields::valueText(project, resolved.field, resolved.field.fixedValue), body);
-    text->setTextFormat(Qt::PlainText);
-    text->setWordWrap(true);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    layout->addWidget(text, 1);
-    return body;
 }
 
 QWidget* FieldsSection::makeOwnMenu(const QString& key, QWidget* parent)
@@ -253,27 +162,14 @@ QWidget* FieldsSection::makeOwnMenu(const QString& key, QWidget* parent)
     connect(button, &QToolButton::clicked, menu, [button, menu] {
         menu->popup(button->mapToGlobal(button->rect().bottomLeft()));
     });
-    button->setHidden(m_isReadOnly);
     return button;
-}
-
-void FieldsSection::showValues(const Entity& entity)
-{
-    for (const auto& [key, row] : m_rows) {
-        if (!row->editor)
-            continue;
-        if (const auto stored = entity.value(key); stored != row->editor->value())
-            row->editor->setValue(stored);
-        const bool isMissing = row->resolved.field.isRequired && !isFilled(entity, key);
-        row->required->setNote(isMissing ? tr("Still to be filled in") : QString(), NoteLabel::Tone::Warning);
-    }
 }
 
 void FieldsSection::follow(const core::project::ProjectChanges& changes)
 {
     for (const auto& [key, row] : m_rows) {
-        if (row->editor)
-            row->editor->follow(changes);
+        if (row->editor())
+            row->editor()->follow(changes);
     }
 }
 
@@ -282,7 +178,7 @@ void FieldsSection::commit()
     // What is committed may rearrange the rows.
     std::vector<QPointer<ValueEditor>> editors;
     for (const auto& [key, row] : m_rows)
-        editors.emplace_back(row->editor);
+        editors.emplace_back(row->editor());
     for (const auto& editor : editors) {
         if (editor)
             editor->commit();
@@ -293,30 +189,26 @@ void FieldsSection::setReadOnly(bool readOnly)
 {
     m_isReadOnly = readOnly;
     m_add->setHidden(readOnly);
-    for (const auto& [key, row] : m_rows) {
-        if (row->editor)
-            row->editor->setReadOnly(readOnly);
-        if (row->menu)
-            row->menu->setHidden(readOnly);
-    }
+    for (const auto& [key, row] : m_rows)
+        row->setReadOnly(readOnly);
 }
 
 ValueEditor* FieldsSection::editor(const QString& key) const
 {
     const auto row = m_rows.find(key);
-    return row == m_rows.end() ? nullptr : row->second->editor;
+    return row == m_rows.end() ? nullptr : row->second->editor();
 }
 
 int FieldsSection::fieldCount() const
 {
     return static_cast<int>(
-        std::ranges::count_if(m_rows, [](const auto& entry) { return entry.second->editor != nullptr; }));
+        std::ranges::count_if(m_rows, [](const auto& entry) { return entry.second->editor() != nullptr; }));
 }
 
 int FieldsSection::filledCount() const
 {
     return static_cast<int>(std::ranges::count_if(m_rows, [](const auto& entry) {
-        const ValueEditor* const editor = entry.second->editor;
+        const ValueEditor* const editor = entry.second->editor();
         return editor && !editor->value().value_or(QString()).trimmed().isEmpty();
     }));
 }

@@ -6,7 +6,6 @@
 #include <map>
 
 class QGridLayout;
-class QLabel;
 class QPushButton;
 
 namespace tw::desktop::fields {
@@ -15,7 +14,7 @@ class ValueEditor;
 
 namespace tw::desktop::codex {
 
-struct FieldRow;
+class FieldRow;
 
 /** The values of an entity, grouped by where their fields come from, each in the control of its type. */
 class FieldsSection final : public EntitySection
@@ -42,11 +41,8 @@ private:
 
     void arrange();
     void clearLayout();
-    void placeRow(FieldRow& row, int gridRow);
     [[nodiscard]] std::unique_ptr<FieldRow> makeRow(const core::entity::ResolvedField& resolved);
-    [[nodiscard]] QWidget* makeFixedValue(const core::entity::ResolvedField& resolved);
     [[nodiscard]] QWidget* makeOwnMenu(const QString& key, QWidget* parent);
-    void showValues(const core::entity::Entity& entity);
     void storeValue(const QString& key, const std::optional<QString>& value);
 
     QGridLayout* m_grid;

@@ -136,12 +136,20 @@ GallerySection::GallerySection(
 
 void GallerySection::showEntity(const core::entity::Entity& entity)
 {
+    // The disk is asked only when there is something else to ask for.
+    if (entity.gallery() != m_mediaIds || desk().session.workspace().folderPath() != m_folder)
+        showPictures(entity);
+}
+
+void GallerySection::showPictures(const core::entity::Entity& entity)
+{
     const auto& session = desk().session;
+    m_mediaIds = entity.gallery();
+    m_folder = session.workspace().folderPath();
     std::vector<Picture> pictures;
     for (const core::ContentId& id : entity.gallery()) {
         const auto* const media = session.project().findAs<Media>(id);
-        const QString file =
-            media ? assetFile(session.workspace().folderPath(), media->assetPath()) : QString();
+        const QString file = media ? assetFile(m_folder, media->assetPath()) : QString();
         if (!file.isEmpty() && !QImageReader::imageFormat(file).isEmpty())
             pictures.push_back({id, file, media->caption()});
     }
@@ -169,7 +177,7 @@ void GallerySection::follow(const core::project::ProjectChanges& changes)
 {
     const auto& gallery = entity()->gallery();
     if (std::ranges::any_of(gallery, [&changes](const core::ContentId& id) { return changes.concerns(id); }))
-        showEntity(*entity());
+        showPictures(*entity());
 }
 
 } // namespace tw::desktop::codex

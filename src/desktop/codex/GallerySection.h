@@ -50,6 +50,8 @@ public:
     void follow(const core::project::ProjectChanges& changes) override;
 
 private:
+    void showPictures(const core::entity::Entity& entity);
+
     struct Picture
     {
         core::ContentId id;
@@ -60,6 +62,9 @@ private:
     };
 
     fields::FlowLayout* m_layout;
+    /** What the pictures were looked up for. */
+    std::vector<core::ContentId> m_mediaIds;
+    QString m_folder;
     std::vector<Picture> m_pictures;
     std::vector<GalleryPicture*> m_widgets;
 };

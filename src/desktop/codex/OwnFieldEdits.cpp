@@ -30,12 +30,26 @@ FieldList withoutKey(FieldList fields, const QString& key)
     return fields;
 }
 
-FieldVerdict judge(
-    const core::project::Project& project, const Entity& entity, const Field& field, const FieldList& others)
+/** Looked up whenever it is needed: while a dialog is open, the project may become another one. */
+FieldList ownFieldsOf(const shell::DeskContext& desk, const core::ContentId& entityId)
 {
+    const auto* const entity = desk.session.project().findAs<Entity>(entityId);
+    return entity ? entity->ownFields() : FieldList();
+}
+
+FieldVerdict judge(
+    const shell::DeskContext& desk, const core::ContentId& entityId, const Field& field,
+    const FieldList& others)
+{
+    const auto& project = desk.session.project();
+    const auto* const entity = project.findAs<Entity>(entityId);
+    if (!entity)
+        return {
+            translated(QT_TRANSLATE_NOOP("OwnFieldEdits", "The entity is gone. Leave this without saving.")),
+            {}};
     FieldVerdict verdict{
-        core::entity::checkOwnField(project, entity, field).message(),
-        core::entity::ownFieldNotice(project, entity, field)};
+        core::entity::checkOwnField(project, *entity, field).message(),
+        core::entity::ownFieldNotice(project, *entity, field)};
     if (verdict.refusal.isEmpty())
         verdict.refusal = checkFieldBeside(field, others).message();
     return verdict;
@@ -43,7 +57,8 @@ FieldVerdict judge(
 
 void setOwnFields(const shell::DeskContext& desk, const core::ContentId& entityId, FieldList fields)
 {
-    if (auto* const entity = desk.session.projectForCommands().findAsForEdit<Entity>(entityId)) {
+    auto* const entity = desk.session.projectForCommands().findAsForEdit<Entity>(entityId);
+    if (entity && entity->ownFields() != fields) {
         desk.session.apply(
             std::make_unique<core::entity::SetEntityOwnFieldsCommand>(*entity, std::move(fields)));
     }
@@ -51,40 +66,34 @@ void setOwnFields(const shell::DeskContext& desk, const core::ContentId& entityI
 
 } // namespace
 
-void addOwnField(const shell::DeskContext& desk, const core::ContentId& entityId, QWidget* parent)
+void addOwnField(shell::DeskContext desk, core::ContentId entityId, QWidget* parent)
 {
     const auto& project = desk.session.project();
     const auto* const entity = project.findAs<Entity>(entityId);
     if (!entity)
         return;
-    const auto inherited = core::entity::schemaOfCategory(project, entity->categoryId());
     FieldDialogSetup setup;
     setup.title = translated(QT_TRANSLATE_NOOP("OwnFieldEdits", "New Property of “%1”")).arg(entity->name());
     setup.verb = translated(QT_TRANSLATE_NOOP("OwnFieldEdits", "Add Property"));
     setup.owner = FieldDialogSetup::Owner::Entity;
-    setup.keyForLabel = [entity, &inherited](const QString& label) {
-        return keyForNewField(label, entity->ownFields(), inherited);
-    };
-    setup.check = [&project, entity](const Field& field) {
-        return judge(project, *entity, field, entity->ownFields());
+    setup.keyForLabel =
+        [desk, entityId, inherited = core::entity::schemaOfCategory(project, entity->categoryId())](
+            const QString& label) { return keyForNewField(label, ownFieldsOf(desk, entityId), inherited); };
+    setup.check = [desk, entityId](const Field& field) {
+        return judge(desk, entityId, field, ownFieldsOf(desk, entityId));
     };
     if (const auto field = askForField(desk, std::move(setup), parent)) {
-        FieldList fields = entity->ownFields();
+        FieldList fields = ownFieldsOf(desk, entityId);
         fields.push_back(*field);
         setOwnFields(desk, entityId, std::move(fields));
     }
 }
 
-void editOwnField(
-    const shell::DeskContext& desk, const core::ContentId& entityId, const QString& key, QWidget* parent)
+void editOwnField(shell::DeskContext desk, core::ContentId entityId, QString key, QWidget* parent)
 {
-    const auto& project = desk.session.project();
-    const auto* const entity = project.findAs<Entity>(entityId);
-    if (!entity)
-        return;
-    FieldList fields = entity->ownFields();
-    const auto edited = std::ranges::find(fields, key, &Field::key);
-    if (edited == fields.end())
+    const FieldList present = ownFieldsOf(desk, entityId);
+    const auto edited = std::ranges::find(present, key, &Field::key);
+    if (edited == present.end())
         return;
     FieldDialogSetup setup;
     setup.title = translated(QT_TRANSLATE_NOOP("OwnFieldEdits", "Property “%1”")).arg(edited->displayName());
@@ -92,22 +101,20 @@ void editOwnField(
     setup.owner = FieldDialogSetup::Owner::Entity;
     setup.field = *edited;
     setup.keyForLabel = [](const QString& label) { return keyFromLabel(label); };
-    setup.check = [&project, entity, &key](const Field& field) {
-        return judge(project, *entity, field, withoutKey(entity->ownFields(), key));
+    setup.check = [desk, entityId, key](const Field& field) {
+        return judge(desk, entityId, field, withoutKey(ownFieldsOf(desk, entityId), key));
     };
-    const auto field = askForField(desk, std::move(setup), parent);
-    if (field && *field != *edited) {
-        *edited = *field;
+    if (const auto field = askForField(desk, std::move(setup), parent)) {
+        FieldList fields = ownFieldsOf(desk, entityId);
+        std::ranges::replace_if(
+            fields, [&key](const Field& other) { return other.key == key; }, *field);
         setOwnFields(desk, entityId, std::move(fields));
     }
 }
 
-void removeOwnField(const shell::DeskContext& desk, const core::ContentId& entityId, const QString& key)
+void removeOwnField(shell::DeskContext desk, core::ContentId entityId, QString key)
 {
-    const auto* const entity = desk.session.project().findAs<Entity>(entityId);
-    if (!entity)
-        return;
-    setOwnFields(desk, entityId, withoutKey(entity->ownFields(), key));
+    setOwnFields(desk, entityId, withoutKey(ownFieldsOf(desk, entityId), key));
     desk.navigator.say(translated(QT_TRANSLATE_NOOP(
         "OwnFieldEdits",
         "Values already entered are kept — but nothing will show them. Undo puts the property back with its "

@@ -7,14 +7,15 @@ class QWidget;
 
 namespace tw::desktop::codex {
 
+// Everything comes by value: while a dialog is open, the page that asked may go.
+
 /** Asks for a new field of an entity's own and adds it as one step. */
-void addOwnField(const shell::DeskContext& desk, const core::ContentId& entityId, QWidget* parent);
+void addOwnField(shell::DeskContext desk, core::ContentId entityId, QWidget* parent);
 
 /** Asks how an own field is to be from now on; its value stays. */
-void editOwnField(
-    const shell::DeskContext& desk, const core::ContentId& entityId, const QString& key, QWidget* parent);
+void editOwnField(shell::DeskContext desk, core::ContentId entityId, QString key, QWidget* parent);
 
 /** Its value stays and is listed as hidden. */
-void removeOwnField(const shell::DeskContext& desk, const core::ContentId& entityId, const QString& key);
+void removeOwnField(shell::DeskContext desk, core::ContentId entityId, QString key);
 
 } // namespace tw::desktop::codex

@@ -7,6 +7,7 @@
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/ProjectSession.h"
 
+#include <QPointer>
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -79,6 +80,7 @@ TimedValuesSection::TimedValuesSection(
     m_table->setColumnCount(3);
     m_table->setHeaderHidden(true);
     m_table->setRootIsDecorated(false);
+    m_table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_table->setUniformRowHeights(true);
     m_table->setAllColumnsShowFocus(true);
     m_table->setAccessibleName(tr("State over time"));
@@ -154,9 +156,11 @@ void TimedValuesSection::ask(const std::optional<TimedEntry>& present)
     const Entity* const shown = entity();
     if (!shown)
         return;
+    // A child of the window: while it is open, this page may go.
+    const QPointer<TimedValuesSection> self(this);
     TimedValueDialog dialog(
-        desk(), core::entity::schemaOfEntity(desk().session.project(), *shown), present, this);
-    if (dialog.exec() == QDialog::Accepted)
+        desk(), core::entity::schemaOfEntity(desk().session.project(), *shown), present, window());
+    if (dialog.exec() == QDialog::Accepted && self)
         store(present, dialog.entry());
 }
 

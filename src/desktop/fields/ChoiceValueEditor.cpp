@@ -23,7 +23,6 @@ ChoiceValueEditor::ChoiceValueEditor(const QStringList& options, QWidget* parent
         finish(chosen.isValid() ? std::optional(chosen.toString()) : std::nullopt);
         present();
     });
-    present();
 }
 
 void ChoiceValueEditor::setReadOnly(bool readOnly)

@@ -43,7 +43,6 @@ DateValueEditor::DateValueEditor(const shell::DeskContext& desk, QWidget* parent
         finish(std::nullopt);
         present();
     });
-    present();
 }
 
 void DateValueEditor::setReadOnly(bool readOnly)

@@ -5,7 +5,7 @@
 
 namespace tw::desktop::fields {
 
-EditorKeys::EditorKeys(QWidget& editor, std::function<void()> takeBack)
+EditorKeys::EditorKeys(QWidget& editor, std::function<bool()> takeBack)
     : QObject(&editor)
     , m_takeBack(std::move(takeBack))
 {
@@ -22,10 +22,9 @@ bool EditorKeys::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
     }
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        m_takeBack();
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
+        m_takeBack())
         return true;
-    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -17,13 +17,15 @@ class EditorKeys final : public QObject
     Q_OBJECT
 
 public:
-    EditorKeys(QWidget& editor, std::function<void()> takeBack);
+    /** `takeBack` gives false when there was nothing to take back: then Escape goes on, to a dialog perhaps.
+     */
+    EditorKeys(QWidget& editor, std::function<bool()> takeBack);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    std::function<void()> m_takeBack;
+    std::function<bool()> m_takeBack;
 };
 
 } // namespace tw::desktop::fields

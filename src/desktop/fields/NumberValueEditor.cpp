@@ -28,7 +28,7 @@ NumberValueEditor::NumberValueEditor(theme::ThemeManager& themes, QWidget* paren
     layout->addWidget(m_edit);
     layout->addWidget(m_note);
     setFocusProxy(m_edit);
-    new EditorKeys(*m_edit, [this] { present(); });
+    new EditorKeys(*m_edit, [this] { return takeBack(m_edit->text(), value().value_or(QString())); });
     connect(m_edit, &QLineEdit::textEdited, this, [this] {
         m_note->setNote({});
         emit typed();

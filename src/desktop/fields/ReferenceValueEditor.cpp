@@ -46,8 +46,10 @@ ReferenceValueEditor::ReferenceValueEditor(
     edit.setCompleter(m_completer);
     edit.installEventFilter(this);
     new EditorKeys(edit, [this] {
+        const bool isTyped = !m_chips->lineEdit().text().isEmpty();
         m_chips->lineEdit().clear();
         m_note->setNote({});
+        return isTyped;
     });
     connect(&edit, &QLineEdit::textEdited, this, [this] { m_note->setNote({}); });
     connect(&edit, &QLineEdit::editingFinished, this, &ReferenceValueEditor::takeName);
@@ -70,7 +72,13 @@ void ReferenceValueEditor::setReadOnly(bool readOnly)
 
 void ReferenceValueEditor::commit()
 {
-    takeName();
+    // Half a name is no reference yet, and nothing to complain about while the writer is at it.
+    const QString name = m_chips->lineEdit().text().trimmed();
+    if (name.isEmpty())
+        return;
+    loadChoices();
+    if (const ContentId id = findEntityNamed(m_choices->choices(), name); !id.isNull())
+        addReference(id);
 }
 
 void ReferenceValueEditor::follow(const core::project::ProjectChanges& changes)

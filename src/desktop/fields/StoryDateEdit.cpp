@@ -23,7 +23,11 @@ StoryDateEdit::StoryDateEdit(theme::ThemeManager& themes, QWidget* parent)
     layout->addWidget(m_reading);
     m_text->setPlaceholderText(tr("No date"));
     setFocusProxy(m_text);
-    new EditorKeys(*m_text, [this] { setInstant(m_instant); });
+    new EditorKeys(*m_text, [this] {
+        const bool isTyped = m_text->text() != shownText();
+        setInstant(m_instant);
+        return isTyped;
+    });
     connect(m_text, &QLineEdit::textEdited, this, [this] {
         showReading();
         emit typed();

@@ -16,7 +16,7 @@ TextValueEditor::TextValueEditor(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_edit);
     setFocusProxy(m_edit);
-    new EditorKeys(*m_edit, [this] { present(); });
+    new EditorKeys(*m_edit, [this] { return takeBack(m_edit->text(), m_shownText); });
     connect(m_edit, &GrowingTextEdit::left, this, &TextValueEditor::commit);
     connect(m_edit, &QTextEdit::textChanged, this, [this] {
         if (!m_presenting && m_edit->text() != m_shownText)

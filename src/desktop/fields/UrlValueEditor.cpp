@@ -37,7 +37,7 @@ UrlValueEditor::UrlValueEditor(const icons::IconSet& icons, QWidget* parent)
     m_open->setAutoRaise(true);
     m_open->setToolTip(tr("Open in the browser"));
     m_open->setAccessibleName(m_open->toolTip());
-    new EditorKeys(*m_edit, [this] { present(); });
+    new EditorKeys(*m_edit, [this] { return takeBack(m_edit->text(), value().value_or(QString())); });
     connect(m_edit, &QLineEdit::textEdited, this, &UrlValueEditor::typed);
     connect(m_edit, &QLineEdit::textChanged, this, &UrlValueEditor::refreshButton);
     connect(m_edit, &QLineEdit::editingFinished, this, &UrlValueEditor::commit);

@@ -10,7 +10,33 @@
 
 namespace tw::desktop::fields {
 
+using core::taxonomy::Field;
 using core::taxonomy::FieldType;
+
+namespace {
+
+ValueEditor* makeBareEditor(const shell::DeskContext& desk, const Field& field, QWidget* parent)
+{
+    switch (field.type) {
+    case FieldType::Number:
+        return new NumberValueEditor(desk.themes, parent);
+    case FieldType::Boolean:
+        return new BooleanValueEditor(desk.themes, parent);
+    case FieldType::Date:
+        return new DateValueEditor(desk, parent);
+    case FieldType::Reference:
+        return new ReferenceValueEditor(desk, field.referenceCategory, parent);
+    case FieldType::Choice:
+        return new ChoiceValueEditor(field.options, parent);
+    case FieldType::Url:
+        return new UrlValueEditor(desk.icons, parent);
+    case FieldType::Text:
+        break;
+    }
+    return new TextValueEditor(parent);
+}
+
+} // namespace
 
 ValueEditor::ValueEditor(QWidget* parent)
     : QWidget(parent)
@@ -40,26 +66,20 @@ void ValueEditor::finishText(const QString& text, const QString& shownText)
         finish(text.isEmpty() ? std::nullopt : std::optional(text));
 }
 
-ValueEditor* makeValueEditor(
-    const shell::DeskContext& desk, const core::taxonomy::Field& field, QWidget* parent)
+bool ValueEditor::takeBack(const QString& text, const QString& shownText)
 {
-    switch (field.type) {
-    case FieldType::Number:
-        return new NumberValueEditor(desk.themes, parent);
-    case FieldType::Boolean:
-        return new BooleanValueEditor(desk.themes, parent);
-    case FieldType::Date:
-        return new DateValueEditor(desk, parent);
-    case FieldType::Reference:
-        return new ReferenceValueEditor(desk, field.referenceCategory, parent);
-    case FieldType::Choice:
-        return new ChoiceValueEditor(field.options, parent);
-    case FieldType::Url:
-        return new UrlValueEditor(desk.icons, parent);
-    case FieldType::Text:
-        break;
-    }
-    return new TextValueEditor(parent);
+    if (text == shownText)
+        return false;
+    present();
+    return true;
+}
+
+ValueEditor* makeValueEditor(const shell::DeskContext& desk, const Field& field, QWidget* parent)
+{
+    ValueEditor* const editor = makeBareEditor(desk, field, parent);
+    // Unset is something to show as well.
+    editor->setValue(std::nullopt);
+    return editor;
 }
 
 } // namespace tw::desktop::fields

@@ -45,6 +45,8 @@ protected:
     void finish(const std::optional<QString>& value);
     /** The same for text, where empty is unset and the text that was shown is no edit. */
     void finishText(const QString& text, const QString& shownText);
+    /** Shows the value again when the control holds other text; false when it does not. */
+    bool takeBack(const QString& text, const QString& shownText);
 
 private:
     std::optional<QString> m_value;

@@ -160,6 +160,9 @@ void ManuscriptPanel::showCurrent(const ContentId& id)
 {
     if (const QModelIndex index = m_model->indexOf(id); !id.isNull() && index.isValid())
         m_tree->selectSource(index);
+    else
+        m_tree->clearCurrent();
+    refreshActions();
 }
 
 void ManuscriptPanel::refreshActions()

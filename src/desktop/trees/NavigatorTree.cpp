@@ -119,6 +119,12 @@ void NavigatorTree::selectSource(const QModelIndex& source)
     scrollTo(index);
 }
 
+void NavigatorTree::clearCurrent()
+{
+    const QScopedValueRollback guard(m_restoring, true);
+    selectionModel()->clear();
+}
+
 void NavigatorTree::renameSource(const QModelIndex& source)
 {
     selectSource(source);

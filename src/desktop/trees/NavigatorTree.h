@@ -36,6 +36,8 @@ public:
     [[nodiscard]] QModelIndexList selectedSources() const;
     /** Selects and shows a row of the model. */
     void selectSource(const QModelIndex& source);
+    /** What is shown elsewhere is none of these rows. Emits nothing. */
+    void clearCurrent();
     void renameSource(const QModelIndex& source);
 
     /** Rows are open at first; the ids of those the user closed. */

@@ -26,6 +26,29 @@ TEST(IdTest, readsTheTwoTextFormsAndNothingElse)
         EXPECT_TRUE(ContentId::fromString(bad).isNull()) << bad.toStdString();
 }
 
+TEST(IdTest, bytesAndTextsOfAnIdAgreeAndSortAlike)
+{
+    ContentId previous;
+    for (int count = 0; count < 200; ++count) {
+        const ContentId id = ContentId::create();
+        const QByteArray text = id.toString().toLatin1();
+        const foundation::IdText plain = id.text();
+        EXPECT_EQ(QByteArray(plain.data(), std::ssize(plain)), text);
+        EXPECT_EQ(ContentId::fromText(text), id);
+        EXPECT_EQ(ContentId::fromText(text.toUpper()), id);
+        EXPECT_EQ(id < previous, id.toString() < previous.toString());
+        previous = id;
+
+        QByteArray damaged = text;
+        const qsizetype position = count % text.size();
+        damaged[position] = text.at(position) == '-' ? '0' : 'g';
+        EXPECT_TRUE(ContentId::fromText(damaged).isNull()) << damaged.toStdString();
+    }
+    for (const QByteArrayView bad :
+         {"", "{f81d4fae-7dec-11d0-a765-00a0c91e6bf6}", "f81d4fae-7dec-11d0-a765-00a0c91e6bf"})
+        EXPECT_TRUE(ContentId::fromText(bad).isNull());
+}
+
 TEST(ContentKindTest, namesAreExact)
 {
     for (const ContentKind kind : content::allContentKinds)

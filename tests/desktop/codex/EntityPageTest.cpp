@@ -229,6 +229,25 @@ TEST_F(EntityPageTest, lockedEntityIsReadOnly)
     EXPECT_FALSE(story().isReadOnly());
 }
 
+TEST_F(EntityPageTest, goesAndStaysAsTheProjectDoes)
+{
+    story().setFocus();
+    QTest::keyClicks(&story(), u"Typed. "_s);
+    desk.session.startNew(u"Another"_s);
+    EXPECT_TRUE(page->title().isEmpty()) << "nothing of the old project is touched any more";
+    desk.announce();
+    page.reset();
+
+    const auto other = addEntity(u"Other"_s, {});
+    desk.announce();
+    page = std::make_unique<EntityPage>(desk.context, other, nullptr);
+    page->show();
+    page->heading().nameEdit().setFocus();
+    QTest::keyClicks(&page->heading().nameEdit(), u"wise"_s);
+    page.reset();
+    EXPECT_TRUE(desk.session.project().contains(other)) << "going with a half-typed name harms nothing";
+}
+
 TEST_F(EntityPageTest, linksToWhereItHappensAndIsNamed)
 {
     core::timeline::EventDetails details;

@@ -145,7 +145,9 @@ TEST_F(ValueEditorTest, textGrowsAndKeepsEveryCharacter)
 
 TEST_F(ValueEditorTest, checkBoxGoesRoundThreeStates)
 {
-    make(FieldType::Boolean).setValue(u"perhaps"_s);
+    make(FieldType::Boolean);
+    EXPECT_EQ(editor->findChild<QCheckBox*>()->text(), u"Not set"_s);
+    editor->setValue(u"perhaps"_s);
     auto& box = *editor->findChild<QCheckBox*>();
     EXPECT_EQ(box.text(), u"perhaps"_s) << "other text is shown and kept";
     for (int click = 0; click < 4; ++click)

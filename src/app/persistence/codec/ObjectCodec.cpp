@@ -70,9 +70,9 @@ void appendObject(QByteArray& output, const ContentObject& object)
     JsonWriter writer(output);
     writer.beginObject();
     writer.key("id"_L1);
-    writer.writeText(object.id().toString());
+    ValueCodec<core::ContentId>::write(writer, object.id());
     writer.key("type"_L1);
-    writer.writeText(QString(core::content::contentKindName(object.kind())));
+    writer.writeText(core::content::contentKindName(object.kind()));
     codecOf(object.kind()).write(writer, object);
     writeEntries(writer, object);
     writer.endObject();

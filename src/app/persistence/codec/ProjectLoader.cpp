@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QMutex>
+#include <QStringBuilder>
 
 #include <algorithm>
 #include <functional>
@@ -70,12 +71,8 @@ private:
     std::vector<std::unique_ptr<WorkSpace>> m_idle;
 };
 
-/** One file of an object or a category, read and parsed, waiting for its turn to be added. */
-struct Item
-{
-    LoadedFile file;
-    std::variant<core::Failure, std::unique_ptr<ContentObject>, Category> parsed;
-};
+/** What one file of an object or a category holds, waiting for its turn to be added. */
+using Parsed = std::variant<core::Failure, std::unique_ptr<ContentObject>, std::unique_ptr<Category>>;
 
 class Loading
 {
@@ -88,14 +85,13 @@ public:
 
     core::Result<LoadedProject> run()
     {
-        std::vector<Item> items = readAll();
-        m_loaded.files.reserve(items.size() + 1);
-        for (Item& item : items) {
-            if (const core::Result<void> added = std::visit(
-                    [&](auto& parsed) { return add(parsed, item.file.relativePath); }, item.parsed);
+        std::vector<Parsed> parsed = readAll();
+        for (std::size_t index = 0; index < parsed.size(); ++index) {
+            LoadedFile& file = m_loaded.files[index];
+            if (const core::Result<void> added =
+                    std::visit([&](auto& content) { return add(content, file); }, parsed[index]);
                 !added)
                 return core::Failure{added.message()};
-            m_loaded.files.push_back(std::move(item.file));
         }
         if (const core::Result<void> read = readSettings(); !read)
             return core::Failure{read.message()};
@@ -105,82 +101,96 @@ public:
     }
 
 private:
-    std::vector<Item> readAll() const
+    /** Gives what the files hold, in the order of the files, whose own places are filled meanwhile. */
+    std::vector<Parsed> readAll()
     {
         const qsizetype objectCount = m_source.objectPaths.size();
-        std::vector<Item> items(static_cast<std::size_t>(objectCount + m_source.categoryPaths.size()));
+        std::vector<Parsed> parsed(static_cast<std::size_t>(objectCount + m_source.categoryPaths.size()));
+        m_loaded.files.resize(parsed.size());
         WorkSpaces workSpaces;
-        parallelFor(std::ssize(items), filesTogether, [&](qsizetype begin, qsizetype end) {
+        parallelFor(std::ssize(parsed), filesTogether, [&](qsizetype begin, qsizetype end) {
             std::unique_ptr<WorkSpaces::WorkSpace> workSpace = workSpaces.take();
             for (qsizetype index = begin; index < end; ++index) {
-                Item& item = items[static_cast<std::size_t>(index)];
                 const bool isObject = index < objectCount;
-                item.file.relativePath = isObject ? m_source.objectPaths.at(index)
-                                                  : m_source.categoryPaths.at(index - objectCount);
-                readItem(item, isObject, *workSpace);
+                LoadedFile& file = m_loaded.files[static_cast<std::size_t>(index)];
+                file.relativePath = isObject ? m_source.objectPaths.at(index)
+                                             : m_source.categoryPaths.at(index - objectCount);
+                parsed[static_cast<std::size_t>(index)] =
+                    isObject ? readObject(file, *workSpace) : readCategory(file, *workSpace);
             }
             workSpaces.giveBack(std::move(workSpace));
         });
-        return items;
+        return parsed;
     }
 
-    void readItem(Item& item, bool isObject, WorkSpaces::WorkSpace& workSpace) const
+    bool readBytes(LoadedFile& file) const
     {
-        const QString path = m_source.shownPath(item.file.relativePath);
-        std::optional<FileContent> content = m_source.content(item.file.relativePath);
-        if (!content) {
-            item.parsed = cannotRead(path);
-            return;
-        }
-        item.file.bytes = std::move(content->bytes);
-        item.file.stamp = content->stamp;
+        std::optional<FileContent> content = m_source.content(file.relativePath);
+        if (!content)
+            return false;
+        file.bytes = std::move(content->bytes);
+        file.stamp = content->stamp;
+        return true;
+    }
+
+    Parsed readObject(LoadedFile& file, WorkSpaces::WorkSpace& workSpace) const
+    {
+        const QString path = m_source.shownPath(file.relativePath);
+        if (!readBytes(file))
+            return cannotRead(path);
+        auto object = parseObject(file.bytes, path, workSpace.parsing);
+        if (!object)
+            return core::Failure{object.message()};
         workSpace.written.resize(0);
-        QString ownPath;
-        if (isObject) {
-            auto object = parseObject(item.file.bytes, path, workSpace.parsing);
-            if (!object) {
-                item.parsed = core::Failure{object.message()};
-                return;
-            }
-            appendObject(workSpace.written, *object.value());
-            item.file.objectId = object.value()->id();
-            ownPath = objectPath(item.file.objectId);
-            item.parsed = std::move(object).value();
-        } else {
-            auto category = parseCategory(item.file.bytes, path, workSpace.parsing);
-            if (!category) {
-                item.parsed = core::Failure{category.message()};
-                return;
-            }
-            appendCategory(workSpace.written, category.value());
-            ownPath = categoryPath(category.value().id);
-            item.parsed = std::move(category).value();
-        }
-        item.file.hasOwnName = ownPath == item.file.relativePath;
-        item.file.isCanonical = workSpace.written == item.file.bytes;
+        appendObject(workSpace.written, *object.value());
+        file.objectId = object.value()->id();
+        file.hasOwnName = objectPath(file.objectId) == file.relativePath;
+        file.isCanonical = workSpace.written == file.bytes;
+        return std::move(object).value();
     }
 
-    core::Result<void> add(const core::Failure& failed, const QString&) { return failed; }
-
-    core::Result<void> add(std::unique_ptr<ContentObject>& object, const QString& relativePath)
+    Parsed readCategory(LoadedFile& file, WorkSpaces::WorkSpace& workSpace) const
     {
-        if (m_loaded.project->contains(object->id())) {
+        const QString path = m_source.shownPath(file.relativePath);
+        if (!readBytes(file))
+            return cannotRead(path);
+        auto category = parseCategory(file.bytes, path, workSpace.parsing);
+        if (!category)
+            return core::Failure{category.message()};
+        workSpace.written.resize(0);
+        appendCategory(workSpace.written, category.value());
+        file.categoryId = category.value().id;
+        file.hasOwnName = categoryPath(file.categoryId) == file.relativePath;
+        file.isCanonical = workSpace.written == file.bytes;
+        return std::make_unique<Category>(std::move(category).value());
+    }
+
+    core::Result<void> add(const core::Failure& failed, const LoadedFile&) { return failed; }
+
+    core::Result<void> add(std::unique_ptr<ContentObject>& object, LoadedFile& file)
+    {
+        // In files of our own names the ids ascend like the names: nothing need be searched for.
+        const Project::ObjectMap& objects = m_loaded.project->objects();
+        const bool isBehindAll = objects.empty() || objects.rbegin()->first < file.objectId;
+        if (!isBehindAll && m_loaded.project->contains(file.objectId)) {
             return core::Failure{QCoreApplication::translate("Persistence", "Duplicate object id %1 in %2")
-                                     .arg(object->id().toString(), m_source.shownPath(relativePath))};
+                                     .arg(file.objectId.toString(), m_source.shownPath(file.relativePath))};
         }
+        const ContentObject& added = *object;
         m_loaded.project->insert(std::move(object));
+        file.revision = added.revision();
         return {};
     }
 
     /** Two categories of one id, as a sync client leaves them behind, must not silently become one. */
-    core::Result<void> add(Category& category, const QString& relativePath)
+    core::Result<void> add(std::unique_ptr<Category>& category, const LoadedFile& file)
     {
-        if (m_loaded.project->taxonomy().category(category.id)) {
+        if (m_loaded.project->taxonomy().category(category->id)) {
             return failure(
                 QT_TRANSLATE_NOOP("Persistence", "Malformed category file: %1"),
-                m_source.shownPath(relativePath));
+                m_source.shownPath(file.relativePath));
         }
-        m_loaded.project->taxonomyForEdit().insert(std::move(category));
+        m_loaded.project->taxonomyForEdit().insert(std::move(*category));
         return {};
     }
 
@@ -206,42 +216,78 @@ private:
     LoadedProject m_loaded;
 };
 
-/** The names of the JSON files of one folder, sorted; none of a folder that is not there. */
-core::Result<QStringList> jsonFilesIn(const QString& root, QStringView folder)
+/** Sorts paths of one folder; most of them differ at the beginning of their names, which is compared first.
+ */
+void sortPaths(QStringList& paths)
 {
-    const QString path = root + u'/' + folder.toString();
-    const FolderScan scan = scanFolder(path, ScannedFiles::Text);
-    if (!scan.isComplete)
-        return cannotRead(path);
-    QStringList paths;
-    for (const ScannedFile& file : scan.files) {
-        QString relativePath = folder.toString() + u'/' + file.relativePath;
-        if (isJsonFileIn(folder, relativePath))
-            paths.append(std::move(relativePath));
+    struct Entry
+    {
+        quint64 beginning = 0;
+        QString path;
+    };
+    std::vector<Entry> entries;
+    entries.reserve(static_cast<std::size_t>(paths.size()));
+    for (QString& path : paths) {
+        quint64 beginning = 0;
+        const qsizetype name = path.lastIndexOf(u'/') + 1;
+        for (qsizetype index = name; index < name + 4; ++index)
+            beginning = beginning << 16 | (index < path.size() ? path.at(index).unicode() : 0u);
+        entries.push_back({beginning, std::move(path)});
     }
-    paths.sort();
-    return paths;
+    std::ranges::sort(entries, [](const Entry& left, const Entry& right) {
+        return left.beginning != right.beginning ? left.beginning < right.beginning : left.path < right.path;
+    });
+    for (std::size_t index = 0; index < entries.size(); ++index)
+        paths[static_cast<qsizetype>(index)] = std::move(entries[index].path);
 }
+
+/** Divides what a folder holds; objects and categories are sorted. */
+struct Contents
+{
+    explicit Contents(const FolderScan& listing)
+    {
+        for (const ScannedFile& file : listing.files) {
+            if (isJsonFileIn(objectsFolder, file.relativePath))
+                objects.append(file.relativePath);
+            else if (isJsonFileIn(taxonomyFolder, file.relativePath))
+                categories.append(file.relativePath);
+            else if (file.relativePath != projectFileName)
+                others.append(file.relativePath);
+        }
+        sortPaths(objects);
+        sortPaths(categories);
+    }
+
+    QStringList objects;
+    QStringList categories;
+    QStringList others;
+};
 
 } // namespace
 
 core::Result<LoadedProject> loadFolder(FileSystem& fileSystem, const QString& folder)
 {
-    const core::Result<QStringList> objects = jsonFilesIn(folder, objectsFolder);
-    if (!objects)
-        return core::Failure{objects.message()};
-    const core::Result<QStringList> categories = jsonFilesIn(folder, taxonomyFolder);
-    if (!categories)
-        return core::Failure{categories.message()};
+    FolderScan listing = listFolder(folder, ScannedFiles::Text);
+    for (const QStringView part : {QStringView(), objectsFolder, taxonomyFolder}) {
+        const QString prefix = part.isEmpty() ? QString() : part.toString() + u'/';
+        if (listing.unreadableFolders.contains(prefix))
+            return cannotRead(folder + u'/' + part.toString());
+    }
+    const Contents contents(listing);
 
     Source source;
-    source.objectPaths = objects.value();
-    source.categoryPaths = categories.value();
-    source.shownPath = [&](const QString& relativePath) { return folder + u'/' + relativePath; };
+    source.objectPaths = contents.objects;
+    source.categoryPaths = contents.categories;
+    source.shownPath = [&](const QString& relativePath) -> QString { return folder % u'/' % relativePath; };
     source.content = [&](const QString& relativePath) {
         return fileSystem.readFile(source.shownPath(relativePath));
     };
-    return Loading(source).run();
+    core::Result<LoadedProject> loaded = Loading(source).run();
+    if (loaded) {
+        loaded.value().listing = std::move(listing);
+        loaded.value().otherFiles = contents.others;
+    }
+    return loaded;
 }
 
 core::Result<LoadedProject> parseProject(const ProjectFileMap& files)

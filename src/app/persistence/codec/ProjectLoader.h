@@ -2,6 +2,7 @@
 
 #include "app/persistence/codec/ProjectWriter.h"
 #include "app/persistence/files/FileSystem.h"
+#include "app/persistence/files/FolderScan.h"
 #include "core/foundation/Result.h"
 #include "core/project/Project.h"
 
@@ -18,6 +19,9 @@ struct LoadedFile
     FileStamp stamp; ///< From before the bytes were read; empty for a file from memory.
     /** The object in the file; null for other files. */
     core::ContentId objectId;
+    quint64 revision = 0; ///< That the object has in the project.
+    /** The category in the file; null for other files. */
+    core::CategoryId categoryId;
     /** The path is the one that belongs to the id inside. */
     bool hasOwnName = false;
     /** The bytes are those that a save would write. */
@@ -29,6 +33,10 @@ struct LoadedProject
     std::unique_ptr<core::project::Project> project;
     /** Every file read: objects by name, categories by name, project.json. */
     std::vector<LoadedFile> files;
+    /** The text files of the folder as they were listed before the first was read, these and others. */
+    FolderScan listing;
+    /** Those of them that are no part of the project. */
+    QStringList otherFiles;
 };
 
 /**

@@ -6,8 +6,8 @@ namespace tw::app::persistence {
 
 namespace {
 
-/** Longer texts, such as bodies and descriptions, seldom occur twice; ids have 36. */
-constexpr qsizetype longestShared = 40;
+/** Longer texts, such as names, sentences and ids, seldom occur twice within reach of the table. */
+constexpr qsizetype longestShared = 24;
 
 } // namespace
 
@@ -16,9 +16,10 @@ QString TextPool::textOf(const JsonNode& node)
     const QByteArrayView utf8 = node.utf8();
     if (utf8.isEmpty() || utf8.size() > longestShared)
         return node.text();
-    Known& known = m_known[qHash(utf8) % m_known.size()];
-    if (known.utf8 != utf8)
-        known = {utf8.toByteArray(), node.text()};
+    const std::size_t hash = qHash(utf8);
+    Known& known = m_known[hash % m_known.size()];
+    if (known.hash != hash || known.utf8 != utf8)
+        known = {hash, utf8.toByteArray(), node.text()};
     return known.text;
 }
 

@@ -23,6 +23,7 @@ public:
 private:
     struct Known
     {
+        std::size_t hash = 0; ///< Of `utf8`: most clashes show here.
         QByteArray utf8;
         QString text;
     };

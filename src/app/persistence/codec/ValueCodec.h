@@ -111,7 +111,8 @@ struct ValueCodec<core::foundation::Id<Tag>>
     /** The null id is the empty text. */
     static void write(JsonWriter& writer, const Id& value)
     {
-        writer.writeText(value.isNull() ? QString() : value.toString());
+        const auto text = value.text();
+        writer.writeText(QLatin1StringView(text.data(), value.isNull() ? 0 : std::ssize(text)));
     }
     static bool isSet(const Id& value) { return !value.isNull(); }
     static bool read(const JsonNode& json, Id& value, TextPool&)
@@ -126,7 +127,7 @@ struct ValueCodec<Enumeration>
 {
     static void write(JsonWriter& writer, Enumeration value)
     {
-        writer.writeText(QString(NamesOf<Enumeration>::name(value)));
+        writer.writeText(NamesOf<Enumeration>::name(value));
     }
     static bool isSet(Enumeration value) { return value != Enumeration(); }
     static bool read(const JsonNode& json, Enumeration& value, TextPool&)

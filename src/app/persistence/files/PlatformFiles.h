@@ -24,10 +24,17 @@ inline constexpr QLatin1StringView temporaryPrefix(".vellory-save-");
 
 using NameFilter = std::function<bool(QStringView name)>;
 
+enum class Stamps
+{
+    Taken,
+    OfLinks, ///< What else the system tells only together with its stamp may have one too.
+};
+
 /**
  * The regular files below a folder whose names the filter wants, as scanFolder tells them. The filter is
- * called from several threads.
+ * called from several threads; the earlier scan must have been made with the same one.
  */
-[[nodiscard]] FolderScan walkFolder(const QString& root, const NameFilter& wants);
+[[nodiscard]] FolderScan walkFolder(
+    const QString& root, const NameFilter& wants, Stamps stamps, const FolderScan& earlier);
 
 } // namespace tw::app::persistence::platform

@@ -78,7 +78,7 @@ bool syncFolder(const QString& path)
     return QFileInfo(path).isDir();
 }
 
-FolderScan walkFolder(const QString& root, const NameFilter& wants)
+FolderScan walkFolder(const QString& root, const NameFilter& wants, Stamps, const FolderScan&)
 {
     FolderScan scan;
     const QDir folder(root);
@@ -95,9 +95,10 @@ FolderScan walkFolder(const QString& root, const NameFilter& wants)
         if (info.fileName().startsWith(u'.') || !wants(info.fileName()))
             continue;
         const Linkage linkage = info.isSymLink() ? Linkage::SymbolicLink : Linkage::Direct;
-        scan.files.push_back({path, stampFrom(info), linkage});
+        scan.files.push_back({path, stampFrom(info), 0, -1, linkage});
     }
-    scan.isComplete = folder.exists();
+    if (!folder.exists())
+        scan.unreadableFolders.append(QString());
     return scan;
 }
 

@@ -7,6 +7,7 @@
 #include <QByteArrayList>
 #include <QFile>
 #include <QRandomGenerator>
+#include <QStringBuilder>
 
 #include <algorithm>
 #include <cerrno>
@@ -130,16 +131,26 @@ Descriptor createBeside(const QString& target, QString& path)
     return Descriptor(-1);
 }
 
+bool isAscii(QByteArrayView bytes)
+{
+    unsigned char allBits = 0;
+    for (const char byte : bytes)
+        allBits |= static_cast<unsigned char>(byte);
+    return allBits < 0x80;
+}
+
 /** The path of an entry: most names are plain ASCII, for which the long way around is not needed. */
 QString joined(const QString& prefix, QByteArrayView name)
 {
-    const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
-    if (!std::all_of(name.begin(), name.end(), isAscii))
+    if (!isAscii(name))
         return prefix + QFile::decodeName(name.toByteArray());
-    QString path(prefix.size() + name.size(), Qt::Uninitialized);
-    QChar* end = std::copy(prefix.cbegin(), prefix.cend(), path.data());
-    std::transform(name.begin(), name.end(), end, [](char byte) { return QLatin1Char(byte); });
-    return path;
+    return prefix % QLatin1StringView(name.data(), name.size());
+}
+
+/** False also for equal names that are not plain ASCII. */
+bool isSameName(QStringView name, QByteArrayView encoded)
+{
+    return isAscii(encoded) && name == QLatin1StringView(encoded.data(), encoded.size());
 }
 
 /** The names in one folder, in one piece of memory. */
@@ -150,6 +161,7 @@ public:
     {
         ino_t inode;
         qsizetype offset;
+        qsizetype length;
         unsigned char type;
     };
 
@@ -166,8 +178,9 @@ public:
                     m_leftovers.append(entry->d_name);
                 continue;
             }
-            m_entries.push_back({entry->d_ino, m_names.size(), entry->d_type});
-            m_names.append(entry->d_name, static_cast<qsizetype>(std::strlen(entry->d_name)) + 1);
+            const auto length = static_cast<qsizetype>(std::strlen(entry->d_name));
+            m_entries.push_back({entry->d_ino, m_names.size(), length, entry->d_type});
+            m_names.append(entry->d_name, length + 1);
         }
         const bool isComplete = errno == 0;
         // The records of neighbouring numbers lie together, on the medium as in memory.
@@ -176,7 +189,11 @@ public:
     }
 
     [[nodiscard]] const std::vector<Entry>& entries() const { return m_entries; }
-    [[nodiscard]] const char* name(const Entry& entry) const { return m_names.constData() + entry.offset; }
+    /** Ends with a zero byte behind its last one. */
+    [[nodiscard]] QByteArrayView name(const Entry& entry) const
+    {
+        return QByteArrayView(m_names.constData() + entry.offset, entry.length);
+    }
     /** The names of temporary files of saves. */
     [[nodiscard]] const QByteArrayList& leftovers() const { return m_leftovers; }
 
@@ -196,8 +213,10 @@ private:
 class Walk
 {
 public:
-    explicit Walk(const NameFilter& wants)
+    Walk(const NameFilter& wants, Stamps stamps, const FolderScan& earlier)
         : m_wants(wants)
+        , m_stamps(stamps)
+        , m_earlier(earlier)
     {}
 
     void run(Descriptor folder, const QString& prefix)
@@ -206,18 +225,17 @@ public:
         if (folder.isOpen())
             stream.reset(::fdopendir(folder.number()));
         if (!stream) {
-            m_scan.isComplete = false;
+            m_scan.unreadableFolders.append(prefix);
             return;
         }
         const int number = folder.release();
         Listing listing;
         if (!listing.read(stream.get()))
-            m_scan.isComplete = false;
+            m_scan.unreadableFolders.append(prefix);
         for (const QByteArray& name : listing.leftovers())
             m_scan.leftovers.append(joined(prefix, name));
-        std::vector<Finding> findings = inspectAll(number, listing, prefix);
-        for (std::size_t index = 0; index < findings.size(); ++index)
-            take(number, listing.name(listing.entries()[index]), findings[index]);
+        for (const QByteArrayView name : addFiles({number, prefix, listing}))
+            runInside(number, name, prefix);
     }
 
     [[nodiscard]] FolderScan& result() { return m_scan; }
@@ -231,71 +249,111 @@ private:
         Unreadable,
     };
 
-    struct Finding
+    struct Folder
     {
-        ScannedFile file;
-        Kind kind = Kind::Nothing;
+        int number;
+        const QString& prefix;
+        const Listing& listing;
     };
 
-    /** Nearly all the time of a walk goes into asking for the records, so a large folder is shared out. */
-    std::vector<Finding> inspectAll(int folder, const Listing& listing, const QString& prefix) const
+    /** Adds the files of one folder to the result; gives the names of the folders in it. */
+    std::vector<QByteArrayView> addFiles(const Folder& folder)
     {
-        std::vector<Finding> findings(listing.entries().size());
-        parallelFor(std::ssize(findings), inspectedTogether, [&](qsizetype begin, qsizetype end) {
-            for (auto index = static_cast<std::size_t>(begin); index < static_cast<std::size_t>(end);
-                 ++index) {
-                const Listing::Entry& entry = listing.entries()[index];
-                ScannedFile& file = findings[index].file;
-                file.relativePath = joined(prefix, listing.name(entry));
-                const bool isWanted = m_wants(QStringView(file.relativePath).sliced(prefix.size()));
-                findings[index].kind = inspect(folder, listing.name(entry), entry.type, isWanted, file);
-            }
+        std::vector<ScannedFile>& files = m_scan.files;
+        const std::size_t first = files.size();
+        const std::size_t count = folder.listing.entries().size();
+        files.resize(first + count);
+        std::vector<Kind> kinds(count);
+        // Nearly all the time of a walk goes into asking for the records, so a large folder is shared out.
+        parallelFor(std::ssize(kinds), inspectedTogether, [&](qsizetype begin, qsizetype end) {
+            takeOverNames(folder, begin, end, first);
+            for (auto index = static_cast<std::size_t>(begin); index < static_cast<std::size_t>(end); ++index)
+                kinds[index] = inspect(folder, folder.listing.entries()[index], files[first + index]);
         });
-        return findings;
+
+        std::vector<QByteArrayView> folders;
+        std::size_t used = first;
+        for (std::size_t index = 0; index < count; ++index) {
+            if (kinds[index] == Kind::Folder)
+                folders.push_back(folder.listing.name(folder.listing.entries()[index]));
+            else if (kinds[index] == Kind::Unreadable)
+                m_scan.unreadableFolders.append(folder.prefix);
+            if (kinds[index] != Kind::File)
+                continue;
+            if (used != first + index)
+                files[used] = std::move(files[first + index]);
+            ++used;
+        }
+        files.resize(used);
+        m_scan.folders.insert(folder.prefix, {first, used});
+        return folders;
     }
 
-    static Kind inspect(int folder, const char* name, unsigned char type, bool isWanted, ScannedFile& file)
+    /** Both the entries and the files of the earlier scan stand in the order of their inodes. */
+    void takeOverNames(const Folder& folder, qsizetype begin, qsizetype end, std::size_t first)
     {
-        if (type == DT_DIR)
+        const FolderScan::Range range = m_earlier.folders.value(folder.prefix);
+        const auto earlierEnd = m_earlier.files.begin() + static_cast<std::ptrdiff_t>(range.end);
+        auto earlier = std::ranges::lower_bound(
+            m_earlier.files.begin() + static_cast<std::ptrdiff_t>(range.begin), earlierEnd,
+            quint64{folder.listing.entries()[static_cast<std::size_t>(begin)].inode}, {},
+            &ScannedFile::entryInode);
+        for (auto index = static_cast<std::size_t>(begin); index < static_cast<std::size_t>(end); ++index) {
+            const Listing::Entry& entry = folder.listing.entries()[index];
+            while (earlier != earlierEnd && earlier->entryInode < entry.inode)
+                ++earlier;
+            if (earlier == earlierEnd)
+                return;
+            if (earlier->entryInode != entry.inode ||
+                !isSameName(
+                    QStringView(earlier->relativePath).sliced(folder.prefix.size()),
+                    folder.listing.name(entry)))
+                continue;
+            m_scan.files[first + index].relativePath = earlier->relativePath;
+            m_scan.files[first + index].earlierIndex = earlier - m_earlier.files.begin();
+        }
+    }
+
+    Kind inspect(const Folder& folder, const Listing::Entry& entry, ScannedFile& file) const
+    {
+        const QByteArrayView name = folder.listing.name(entry);
+        if (entry.type == DT_DIR)
             return Kind::Folder;
-        if (!isWanted && type != DT_UNKNOWN)
+        bool isWanted = file.earlierIndex >= 0;
+        if (!isWanted) {
+            file.relativePath = joined(folder.prefix, name);
+            isWanted = m_wants(QStringView(file.relativePath).sliced(folder.prefix.size()));
+        }
+        file.entryInode = entry.inode;
+        if (!isWanted && entry.type != DT_UNKNOWN)
             return Kind::Nothing;
+        if (m_stamps == Stamps::OfLinks && entry.type == DT_REG)
+            return Kind::File;
         struct stat status = {};
-        if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+        if (::fstatat(folder.number, name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0)
             return errno == ENOENT ? Kind::Nothing : Kind::Unreadable;
         if (S_ISDIR(status.st_mode))
             return Kind::Folder;
         if (S_ISLNK(status.st_mode)) {
             file.linkage = Linkage::SymbolicLink;
-            if (::fstatat(folder, name, &status, 0) != 0)
+            if (::fstatat(folder.number, name.data(), &status, 0) != 0)
                 return Kind::Nothing;
         }
         file.stamp = stampFrom(status);
         return isWanted && S_ISREG(status.st_mode) ? Kind::File : Kind::Nothing;
     }
 
-    void take(int folder, const char* name, Finding& finding)
+    void runInside(int folder, QByteArrayView name, const QString& prefix)
     {
-        switch (finding.kind) {
-        case Kind::Nothing:
-            break;
-        case Kind::File:
-            m_scan.files.push_back(std::move(finding.file));
-            break;
-        case Kind::Folder: {
-            constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-            Descriptor inner(repeatedWhileInterrupted([&] { return ::openat(folder, name, flags); }));
-            if (inner.isOpen() || errno != ENOENT)
-                run(std::move(inner), finding.file.relativePath + u'/');
-            break;
-        }
-        case Kind::Unreadable:
-            m_scan.isComplete = false;
-            break;
-        }
+        constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+        Descriptor inner(repeatedWhileInterrupted([&] { return ::openat(folder, name.data(), flags); }));
+        if (inner.isOpen() || errno != ENOENT)
+            run(std::move(inner), joined(prefix, name) + u'/');
     }
 
     const NameFilter& m_wants;
+    const Stamps m_stamps;
+    const FolderScan& m_earlier;
     FolderScan m_scan;
 };
 
@@ -310,8 +368,8 @@ std::optional<FileContent> readFile(const QString& path)
 
     FileContent content{{}, stampFrom(status)};
     QByteArray& bytes = content.bytes;
-    // One byte more than the file has, so that its end is seen without growing.
-    bytes.resize(status.st_size > 0 ? static_cast<qsizetype>(status.st_size) + 1 : firstReadRoom);
+    // Some files of the system tell no size.
+    bytes.resize(status.st_size > 0 ? static_cast<qsizetype>(status.st_size) : firstReadRoom);
     qsizetype used = 0;
     for (;;) {
         const auto room = static_cast<std::size_t>(bytes.size() - used);
@@ -322,6 +380,9 @@ std::optional<FileContent> readFile(const QString& path)
         if (count == 0)
             break;
         used += count;
+        // A file that grew meanwhile has another stamp and shows at the next check.
+        if (used == status.st_size)
+            break;
         if (used == bytes.size())
             bytes.resize(bytes.size() * 2);
     }
@@ -373,9 +434,9 @@ bool syncFolder(const QString& path)
            errno == ENOTSUP;
 }
 
-FolderScan walkFolder(const QString& root, const NameFilter& wants)
+FolderScan walkFolder(const QString& root, const NameFilter& wants, Stamps stamps, const FolderScan& earlier)
 {
-    Walk walk(wants);
+    Walk walk(wants, stamps, earlier);
     walk.run(openPath(QFile::encodeName(root), O_RDONLY | O_DIRECTORY), QString());
     return std::move(walk.result());
 }

@@ -4,6 +4,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStringBuilder>
+
+#include <iterator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -14,6 +17,11 @@ namespace {
 core::Failure failure(const char* message, const QString& detail)
 {
     return {QCoreApplication::translate("Persistence", message).arg(detail)};
+}
+
+QString pathOf(QStringView folder, const core::foundation::IdText& id)
+{
+    return folder % u'/' % QLatin1StringView(id.data(), std::ssize(id)) % u".json"_s;
 }
 
 /** A link that leads nowhere takes up its name as well. */
@@ -45,12 +53,12 @@ bool isProjectFile(QStringView relativePath)
 
 QString objectPath(const core::ContentId& id)
 {
-    return objectsFolder.toString() + u'/' + id.toString() + u".json"_s;
+    return pathOf(objectsFolder, id.text());
 }
 
 QString categoryPath(const core::CategoryId& id)
 {
-    return taxonomyFolder.toString() + u'/' + id.toString() + u".json"_s;
+    return pathOf(taxonomyFolder, id.text());
 }
 
 bool isJsonFileIn(QStringView folder, QStringView relativePath)

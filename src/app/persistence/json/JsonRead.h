@@ -34,7 +34,8 @@ namespace tw::app::persistence {
 template <class Id>
 [[nodiscard]] Id readId(const JsonNode& value)
 {
-    return Id::fromString(value.text());
+    const Id id = Id::fromText(value.utf8());
+    return id.isNull() ? Id::fromString(value.text()) : id;
 }
 
 } // namespace tw::app::persistence

@@ -22,6 +22,7 @@ constexpr qsizetype smallestGrowth = 1024;
 /** Text is escaped in pieces, so that a long one does not reserve room for its worst case. */
 constexpr qsizetype pieceLength = 4096;
 constexpr qsizetype longestEscape = 6;
+constexpr qsizetype blockLength = 16;
 constexpr qsizetype longestInteger = 20;
 /** Whole numbers up to here are exact as a double, and are written with all their digits. */
 constexpr double largestExactInteger = 9007199254740992.0;
@@ -36,6 +37,18 @@ constexpr std::array<bool, 128> plainCharacters = [] {
 bool isPlain(char16_t unit)
 {
     return unit < plainCharacters.size() && plainCharacters[unit];
+}
+
+/** Whether a whole block is plain: without branches, so that the compiler takes all of it at once. */
+bool isPlainBlock(const char16_t* block)
+{
+    unsigned short unusual = 0;
+    for (qsizetype index = 0; index < blockLength; ++index) {
+        const char16_t unit = block[index];
+        unusual = static_cast<unsigned short>(
+            unusual | (unit < 0x20) | (unit >= 0x80) | (unit == u'"') | (unit == u'\\'));
+    }
+    return unusual == 0;
 }
 
 char byteOf(unsigned bits)
@@ -107,17 +120,8 @@ char* appendUnusual(char* cursor, const char16_t*& source, const char16_t* sourc
 
 void JsonWriter::key(QLatin1StringView name)
 {
-    const auto isPlainLetter = [](char letter) { return isPlain(static_cast<unsigned char>(letter)); };
-    if (!std::all_of(name.begin(), name.end(), isPlainLetter)) {
-        key(QString(name));
-        return;
-    }
     startKey();
-    reserve(name.size() + 2);
-    *m_cursor++ = '"';
-    std::memcpy(m_cursor, name.data(), static_cast<std::size_t>(name.size()));
-    m_cursor += name.size();
-    *m_cursor++ = '"';
+    appendQuoted(name);
     finishKey();
 }
 
@@ -129,6 +133,12 @@ void JsonWriter::key(QStringView name)
 }
 
 void JsonWriter::writeText(QStringView text)
+{
+    startElement();
+    appendQuoted(text);
+}
+
+void JsonWriter::writeText(QLatin1StringView text)
 {
     startElement();
     appendQuoted(text);
@@ -285,6 +295,14 @@ void JsonWriter::appendQuoted(QStringView text)
         char* cursor = m_cursor;
         // A surrogate pair may end one unit behind the piece; its four bytes fit into the room of one escape.
         while (source < pieceEnd) {
+            if (pieceEnd - source >= blockLength && isPlainBlock(source)) {
+                std::transform(source, source + blockLength, cursor, [](char16_t unit) {
+                    return static_cast<char>(unit);
+                });
+                source += blockLength;
+                cursor += blockLength;
+                continue;
+            }
             if (isPlain(*source))
                 *cursor++ = static_cast<char>(*source++);
             else
@@ -293,6 +311,20 @@ void JsonWriter::appendQuoted(QStringView text)
         m_cursor = cursor;
     }
     reserve(1);
+    *m_cursor++ = '"';
+}
+
+void JsonWriter::appendQuoted(QLatin1StringView text)
+{
+    const auto isPlainLetter = [](char letter) { return isPlain(static_cast<unsigned char>(letter)); };
+    if (!std::all_of(text.begin(), text.end(), isPlainLetter)) {
+        appendQuoted(QString(text));
+        return;
+    }
+    reserve(text.size() + 2);
+    *m_cursor++ = '"';
+    std::memcpy(m_cursor, text.data(), static_cast<std::size_t>(text.size()));
+    m_cursor += text.size();
     *m_cursor++ = '"';
 }
 

@@ -29,6 +29,7 @@ public:
     void key(QStringView name);
 
     void writeText(QStringView text);
+    void writeText(QLatin1StringView text);
     void writeInteger(qint64 number);
     /** What JSON cannot hold, infinities and not-a-number, is written as 0. */
     void writeDouble(double number);
@@ -45,6 +46,7 @@ private:
     void appendLiteral(const char* literal, qsizetype length);
     void appendIndent();
     void appendQuoted(QStringView text);
+    void appendQuoted(QLatin1StringView text);
     void reserve(qsizetype length);
 
     QByteArray& m_output;

@@ -116,7 +116,7 @@ TEST(FolderScan, findsTheTextFilesOfATreeAndNothingElse)
                            u"notes.txt"_s, u"objects/1.json"_s,  u"project.json"_s, u"ä/ö.md"_s};
     const FolderScan scan = scanFolder(folder.path(), ScannedFiles::Text);
     EXPECT_EQ(pathsOf(scan), text);
-    EXPECT_TRUE(scan.isComplete);
+    EXPECT_TRUE(scan.isComplete());
     DiskFileSystem files;
     for (const ScannedFile& file : scan.files)
         EXPECT_EQ(file.stamp, files.stamp(folder.filePath(file.relativePath)))
@@ -126,8 +126,8 @@ TEST(FolderScan, findsTheTextFilesOfATreeAndNothingElse)
     all.sort();
     EXPECT_EQ(pathsOf(scanFolder(folder.path(), ScannedFiles::All)), all);
     const FolderScan missing = scanFolder(folder.filePath(u"missing"_s), ScannedFiles::All);
-    EXPECT_TRUE(missing.isComplete && missing.files.empty());
-    EXPECT_FALSE(scanFolder(folder.filePath(u"notes.txt"_s), ScannedFiles::All).isComplete);
+    EXPECT_TRUE(missing.isComplete() && missing.files.empty());
+    EXPECT_FALSE(scanFolder(folder.filePath(u"notes.txt"_s), ScannedFiles::All).isComplete());
 }
 
 TEST(FolderScan, namesTheTemporaryFilesOfSavesApart)
@@ -149,6 +149,49 @@ TEST(FolderScan, namesTheTemporaryFilesOfSavesApart)
         scan.leftovers.sort();
         EXPECT_EQ(scan.leftovers, expected);
         EXPECT_EQ(pathsOf(scan), (QStringList{u"a/b/deep.md"_s, u"objects/1.json"_s, u"project.json"_s}));
+    }
+}
+
+TEST(FolderScan, takesOverTheNamesOfAnEarlierScanAndNothingElse)
+{
+    const QTemporaryDir folder;
+    // More than are shared out to one thread.
+    for (int index = 0; index < 1500; ++index)
+        store(folder.filePath(u"objects/%1.json"_s.arg(index)), "old");
+    store(folder.filePath(u"objects/ä.json"_s), "old");
+    store(folder.filePath(u"a.md"_s), "old");
+    ASSERT_TRUE(QFile::link(folder.filePath(u"a.md"_s), folder.filePath(u"link.md"_s)));
+    FolderScan earlier = listFolder(folder.path(), ScannedFiles::Text);
+    EXPECT_EQ(pathsOf(earlier), pathsOf(scanFolder(folder.path(), ScannedFiles::Text)));
+
+    DiskFileSystem files;
+    for (int round = 0; round < 5; ++round) {
+        for (int index = round; index < 1500; index += 97) {
+            const QString path = folder.filePath(u"objects/%1.json"_s.arg(index));
+            const QString other = folder.filePath(u"objects/%1-%2.json"_s.arg(index).arg(round));
+            if (index % 3 == 0) {
+                QFile::remove(path);
+            } else if (index % 3 == 1) {
+                QFile::rename(path, other);
+            } else {
+                const auto temporary = files.writeTemporary(path, "new");
+                ASSERT_TRUE(temporary && files.replace(*temporary, path));
+            }
+        }
+        const FolderScan fresh = scanFolder(folder.path(), ScannedFiles::Text);
+        FolderScan scan = scanFolder(folder.path(), ScannedFiles::Text, earlier);
+        ASSERT_EQ(pathsOf(scan), pathsOf(fresh));
+        qsizetype takenOver = 0;
+        for (const ScannedFile& file : scan.files) {
+            EXPECT_EQ(file.stamp, files.stamp(folder.filePath(file.relativePath)));
+            if (file.earlierIndex < 0)
+                continue;
+            ++takenOver;
+            EXPECT_EQ(
+                earlier.files[static_cast<std::size_t>(file.earlierIndex)].relativePath, file.relativePath);
+        }
+        EXPECT_GT(takenOver, 1400);
+        earlier = std::move(scan);
     }
 }
 
