@@ -49,7 +49,7 @@ public:
         {
             const QMutexLocker lock(&m_mutex);
             m_isStopped = true;
-            m_changed.wakeAll();
+            m_roomMade.wakeAll();
         }
         m_pool.waitForDone();
         for (const std::optional<core::Result<QString>>& temporary : m_prepared) {
@@ -64,10 +64,10 @@ public:
     {
         const QMutexLocker lock(&m_mutex);
         m_taken = index + 1;
-        m_changed.wakeAll();
+        m_roomMade.wakeOne();
         std::optional<core::Result<QString>>& slot = m_prepared[static_cast<std::size_t>(index)];
         while (!slot)
-            m_changed.wait(&m_mutex);
+            m_awaitedCame.wait(&m_mutex);
         core::Result<QString> temporary = std::move(*slot);
         slot.reset();
         return temporary;
@@ -79,7 +79,7 @@ private:
         QMutexLocker lock(&m_mutex);
         while (!m_isStopped && m_next < m_files.size()) {
             if (m_next >= m_taken + preparedAhead) {
-                m_changed.wait(&m_mutex);
+                m_roomMade.wait(&m_mutex);
                 continue;
             }
             const qsizetype index = m_next++;
@@ -87,14 +87,17 @@ private:
             core::Result<QString> temporary = m_writer.prepare(m_files.at(index));
             lock.relock();
             m_prepared[static_cast<std::size_t>(index)].emplace(std::move(temporary));
-            m_changed.wakeAll();
+            // Waking threads for nothing would cost more than a fast medium takes for the file.
+            if (index == m_taken - 1)
+                m_awaitedCame.wakeOne();
         }
     }
 
     const SafeWriter& m_writer;
     const QList<FileWrite>& m_files;
-    QMutex m_mutex; ///< Guards all that follows, but for the pool.
-    QWaitCondition m_changed;
+    QMutex m_mutex;               ///< Guards all that follows, but for the pool.
+    QWaitCondition m_roomMade;    ///< For the threads that prepare.
+    QWaitCondition m_awaitedCame; ///< For the calling thread, which waits for the file last asked for.
     std::vector<std::optional<core::Result<QString>>> m_prepared;
     qsizetype m_next = 0;  ///< The first file that no thread has begun.
     qsizetype m_taken = 0; ///< How many the calling thread has asked for.
