@@ -63,12 +63,12 @@ Result<QList<BundleFile>> listFiles(const QString& folder, const QString& leftOu
     const FolderScan scan = scanFolder(folder, ScannedFiles::All);
     if (!scan.isComplete)
         return unreadableFile(folder);
-    const auto isLeftOut =
-        [outer = QDir::cleanPath(QDir(folder).absolutePath()),
-         inner = leftOut.isEmpty() ? QString()
-                                   : QDir::cleanPath(QDir(leftOut).absolutePath())](const QString& path) {
-            return !inner.isEmpty() && QString(outer + u'/' + path).startsWith(inner + u'/');
-        };
+    // A folder that does not exist has no path here, and nothing in it.
+    const QString outer = QFileInfo(folder).canonicalFilePath();
+    const QString inner = leftOut.isEmpty() ? QString() : QFileInfo(leftOut).canonicalFilePath();
+    const auto isLeftOut = [&](const QString& path) {
+        return !inner.isEmpty() && QString(outer + u'/' + path).startsWith(inner + u'/');
+    };
     QList<BundleFile> files;
     for (const ScannedFile& file : scan.files) {
         if (isLeftOut(file.relativePath))

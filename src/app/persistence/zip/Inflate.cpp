@@ -46,9 +46,14 @@ public:
         , m_end(input.data() + input.size())
     {}
 
-    /** Has at least 56 bits at hand, or all that are left. */
+    /** What a length and a distance take with their extra bits, the most that is read in one go. */
+    static constexpr int mostBits = 48;
+
+    /** Has at least that many bits at hand, or all that are left. */
     void refill()
     {
+        if (m_count >= mostBits)
+            return;
         if (m_end - m_next >= 8) {
             m_bits |= qFromLittleEndian<quint64>(m_next) << m_count;
             m_next += (63 - m_count) / 8;
@@ -236,7 +241,7 @@ private:
     [[nodiscard]] bool unpack()
     {
         while (true) {
-            m_input.refill(); // Enough for a length and a distance with their extra bits: 48.
+            m_input.refill();
             const HuffmanTable::Decoded code = m_literals.decode(m_input.bits());
             if (code.length == 0 || !m_input.skip(code.length))
                 return false;

@@ -91,6 +91,20 @@ TEST_F(ProjectBundle, givesTheProjectBack)
     }
 }
 
+#ifdef Q_OS_UNIX
+TEST_F(ProjectBundle, holdsLinkedFilesButNoLinkedFolders)
+{
+    store(u"elsewhere/picture.png"_s, "picture");
+    ASSERT_TRUE(QFile::link(path(u"elsewhere/picture.png"_s), path(u"project/assets/linked.png"_s)));
+    ASSERT_TRUE(QFile::link(path(u"elsewhere"_s), path(u"project/assets/elsewhere"_s)));
+    ASSERT_TRUE(writeProjectBundle(m_environment, project(), bundle()).isOk());
+    ASSERT_TRUE(extractBundle(m_environment, bundle(), path(u"copy"_s)).isOk());
+    EXPECT_EQ(content(path(u"copy/assets/linked.png"_s)), "picture");
+    EXPECT_FALSE(QFileInfo(path(u"copy/assets/linked.png"_s)).isSymLink());
+    EXPECT_FALSE(QFileInfo::exists(path(u"copy/assets/elsewhere"_s)));
+}
+#endif
+
 TEST_F(ProjectBundle, isNotBuiltFromWhatIsNoProject)
 {
     const QString missing = path(u"missing"_s);
