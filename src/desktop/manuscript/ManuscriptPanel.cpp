@@ -54,6 +54,13 @@ ManuscriptPanel::ManuscriptPanel(const shell::DeskContext& desk, QWidget* parent
     refreshActions();
 }
 
+ManuscriptPanel::~ManuscriptPanel()
+{
+    // The tree goes after this; a name that is still being edited in it is committed on its way out.
+    m_tree->disconnect(this);
+    m_desk.session.disconnect(this);
+}
+
 QAction* ManuscriptPanel::makeAction(Icon icon, const QString& text, const QKeySequence& keys)
 {
     auto* const action = new QAction(m_desk.icons.icon(icon), text, this);

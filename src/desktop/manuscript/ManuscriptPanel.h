@@ -27,6 +27,7 @@ class ManuscriptPanel final : public QWidget
 
 public:
     ManuscriptPanel(const shell::DeskContext& desk, QWidget* parent);
+    ~ManuscriptPanel() override;
 
     /** For the Insert menu: ways to add a document. */
     [[nodiscard]] const QList<QAction*>& insertActions() const { return m_insertActions; }

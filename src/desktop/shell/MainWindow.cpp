@@ -1,7 +1,9 @@
 #include "desktop/shell/MainWindow.h"
 
 #include "core/document/DocumentTree.h"
+#include "desktop/codex/CodexPanel.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
@@ -10,6 +12,7 @@
 #include "desktop/shell/StatusStrip.h"
 #include "desktop/shell/WelcomePage.h"
 #include "desktop/shell/WorkArea.h"
+#include "desktop/trees/NavigatorTree.h"
 
 #include <QCloseEvent>
 #include <QCryptographicHash>
@@ -256,7 +259,10 @@ void MainWindow::noteOpened()
     const auto& workspace = m_desk.session.workspace();
     if (workspace.hasPath()) {
         RecentProjects(m_desk.settings).add(workspace.displayPath());
-        m_workArea->restoreIds(m_desk.settings.value(pagesKey()).toStringList());
+        m_manuscript->tree().setCollapsedIds(
+            m_desk.settings.value(projectKey(u"closedDocuments")).toStringList());
+        m_codex->tree().setCollapsedIds(m_desk.settings.value(projectKey(u"closedEntries")).toStringList());
+        m_workArea->restoreIds(m_desk.settings.value(projectKey(u"pages")).toStringList());
     }
     if (!m_workArea->hasPages())
         openFirstDocument();
@@ -283,18 +289,21 @@ void MainWindow::openFirstDocument()
     }
 }
 
-QString MainWindow::pagesKey() const
+QString MainWindow::projectKey(QStringView what) const
 {
     // Settings keys take slashes for groups; the hash of a path has none.
     const QByteArray path = m_desk.session.workspace().displayPath().toUtf8();
     const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha1).toHex();
-    return u"window/pages/"_s + QString::fromLatin1(hash.first(16));
+    return u"window/%1/%2"_s.arg(what, QString::fromLatin1(hash.first(16)));
 }
 
 void MainWindow::rememberPages()
 {
-    if (m_desk.session.workspace().hasPath())
-        m_desk.settings.setValue(pagesKey(), m_workArea->openIds());
+    if (!m_desk.session.workspace().hasPath())
+        return;
+    m_desk.settings.setValue(projectKey(u"pages"), m_workArea->openIds());
+    m_desk.settings.setValue(projectKey(u"closedDocuments"), m_manuscript->tree().collapsedIds());
+    m_desk.settings.setValue(projectKey(u"closedEntries"), m_codex->tree().collapsedIds());
 }
 
 bool MainWindow::select(const QString& what)

@@ -76,7 +76,8 @@ private:
     [[nodiscard]] bool saveOrTell(app::persistence::SaveExtent extent);
     void noteOpened();
     void rememberPages();
-    [[nodiscard]] QString pagesKey() const;
+    /** The settings key under which something of the open project is remembered. */
+    [[nodiscard]] QString projectKey(QStringView what) const;
     void fillRecentMenu();
     void refreshHistory();
     void refreshTitle();

@@ -10,6 +10,8 @@
 
 namespace tw::desktop::shell {
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int margin = 8;
@@ -50,6 +52,7 @@ QMenu& PanelHeader::menu()
         m_menuButton->setToolTip(tr("More actions"));
         m_menuButton->setAccessibleName(tr("More actions"));
         m_menuButton->setAutoRaise(true);
+        m_menuButton->setObjectName(u"panelMenuButton"_s);
         m_menuButton->setPopupMode(QToolButton::InstantPopup);
         m_menuButton->setMenu(new QMenu(m_menuButton));
         m_layout->addWidget(m_menuButton);

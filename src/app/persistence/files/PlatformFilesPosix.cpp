@@ -31,7 +31,7 @@ namespace {
 constexpr mode_t newFileMode = 0666;
 constexpr mode_t permissionBits = 07777;
 constexpr int nameAttempts = 16;
-constexpr qsizetype firstReadRoom = 64 * 1024;
+constexpr qsizetype firstReadRoom = 65'536;
 constexpr qsizetype inspectedTogether = 1024;
 
 /** An open file that closes itself. */

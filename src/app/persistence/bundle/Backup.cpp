@@ -1,0 +1,99 @@
+#include "app/persistence/bundle/Backup.h"
+
+#include "app/persistence/bundle/ProjectBundle.h"
+#include "app/persistence/files/SafeWriter.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace tw::app::persistence {
+
+using core::Failure;
+using core::Result;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QStringView backupSuffix = u".twbackup";
+
+QString fileName(const QString& name, const QDateTime& timestamp)
+{
+    return u"%1-%2%3"_s.arg(name, timestamp.toString(u"yyyyMMdd-HHmmsszzz"), backupSuffix);
+}
+
+bool isTimestamp(QStringView text)
+{
+    constexpr qsizetype dateSize = 8;
+    const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
+    if (text.size() != dateSize + 10 || text.at(dateSize) != u'-')
+        return false;
+    const QStringView date = text.first(dateSize);
+    const QStringView time = text.sliced(dateSize + 1);
+    // Apart from each other, since together they may lie in the hour that daylight saving leaves out.
+    return std::ranges::all_of(date, isDigit) && std::ranges::all_of(time, isDigit) &&
+           QDate::fromString(date, u"yyyyMMdd").isValid() && QTime::fromString(time, u"HHmmsszzz").isValid();
+}
+
+/** The names of this project's backups in the folder, the oldest first. */
+QStringList backupsOf(const QString& name, const QString& folder)
+{
+    const QString prefix = name + u'-';
+    QStringList backups = QDir(folder).entryList(QDir::Files | QDir::Hidden);
+    backups.removeIf([&](const QString& backup) {
+        if (backup.size() < prefix.size() + backupSuffix.size() || !backup.startsWith(prefix) ||
+            !backup.endsWith(backupSuffix))
+            return true;
+        return !isTimestamp(QStringView(backup).sliced(prefix.size()).chopped(backupSuffix.size()));
+    });
+    std::ranges::sort(backups);
+    return backups;
+}
+
+int prune(FileSystem& fileSystem, const BackupRequest& request, const QString& newest)
+{
+    QStringList older = backupsOf(request.name, request.backupsFolder);
+    // A clock that was set back must not cost the backup just made.
+    older.removeOne(newest);
+    const qsizetype surplus = older.size() - std::max<qsizetype>(0, request.keep - 1);
+    int pruned = 0;
+    for (qsizetype index = 0; index < surplus; ++index) {
+        if (fileSystem.remove(request.backupsFolder + u'/' + older.at(index)))
+            ++pruned;
+    }
+    return pruned;
+}
+
+} // namespace
+
+Result<Backup> backupProject(const StorageEnvironment& environment, const BackupRequest& request)
+{
+    if (request.folder.isEmpty())
+        return Failure{
+            QCoreApplication::translate("Persistence", "Save the project to a folder before backing it up.")};
+    const Failure failed{
+        QCoreApplication::translate("Persistence", "Could not create a backup of the project.")};
+
+    FileSystem& fileSystem = environment.fileSystem;
+    const Result<QList<BundleFile>> files =
+        collectBundleFiles(fileSystem, request.folder, request.backupsFolder);
+    if (!files)
+        return failed;
+    const Result<QByteArray> archive = packBundle(files.value());
+    if (!archive || !fileSystem.makeFolders(request.backupsFolder))
+        return failed;
+
+    QDateTime timestamp = request.timestamp;
+    while (QFileInfo::exists(request.backupsFolder + u'/' + fileName(request.name, timestamp)))
+        timestamp = timestamp.addMSecs(1);
+    const QString name = fileName(request.name, timestamp);
+    const QString path = request.backupsFolder + u'/' + name;
+    SafeWriter writer(fileSystem, environment.retryPolicy, environment.sleeper);
+    if (!writer.write({path, archive.value()}) || !writer.syncFolders())
+        return failed;
+    return Backup{path, prune(fileSystem, request, name)};
+}
+
+} // namespace tw::app::persistence
