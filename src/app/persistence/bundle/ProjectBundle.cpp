@@ -61,7 +61,7 @@ bool holdsProject(const QList<BundleFile>& files)
 Result<QList<BundleFile>> listFiles(const QString& folder, const QString& leftOut)
 {
     const FolderScan scan = scanFolder(folder, ScannedFiles::All);
-    if (!scan.isComplete)
+    if (!scan.isComplete())
         return unreadableFile(folder);
     // A folder that does not exist has no path here, and nothing in it.
     const QString outer = QFileInfo(folder).canonicalFilePath();
