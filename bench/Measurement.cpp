@@ -11,22 +11,22 @@ namespace tw::bench {
 
 namespace {
 
-double secondsOf(const Work& work)
+double secondsOf(const Timed& timed)
 {
+    timed.prepare();
     QElapsedTimer timer;
     timer.start();
-    work();
+    timed.work();
     return static_cast<double>(timer.nsecsElapsed()) / 1e9;
 }
 
 } // namespace
 
-Comparison compare(const Runs& runs, const Work& reference, const Work& measured, const Work& prepare)
+Comparison compare(const Runs& runs, const Timed& reference, const Timed& measured)
 {
     std::vector<Comparison> pairs;
     for (int repetition = 0; repetition <= runs.repetitions; ++repetition) {
         const double referenceTime = secondsOf(reference);
-        prepare();
         pairs.push_back({secondsOf(measured), referenceTime});
     }
     pairs.erase(pairs.begin());

@@ -35,13 +35,18 @@ struct Runs
     Counted counted = Counted::Best;
 };
 
+/** What is timed, and what comes before every run of it and takes no time. */
+struct Timed
+{
+    Work work;
+    Work prepare = [] {};
+};
+
 /**
  * Runs the reference and what is measured against it in turn, so that a load on the machine meets both, after
- * one run of each that does not count. `prepare` comes before every run of what is measured and takes no
- * time.
+ * one run of each that does not count.
  */
-[[nodiscard]] Comparison compare(
-    const Runs& runs, const Work& reference, const Work& measured, const Work& prepare = [] {});
+[[nodiscard]] Comparison compare(const Runs& runs, const Timed& reference, const Timed& measured);
 
 /** Prints one line a figure to standard output as they come, and knows whether all reached their aims. */
 class ResultTable

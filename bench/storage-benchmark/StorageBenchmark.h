@@ -10,7 +10,7 @@
 
 namespace tw::bench {
 
-/** Measures opening, checking and saving one generated project folder; writes only there and beside it. */
+/** Measures opening, checking and saving one generated project folder; writes nowhere else. */
 class StorageBenchmark
 {
 public:
@@ -30,6 +30,7 @@ private:
     /** Waits until the stamps of all files are old enough to be trusted, and has the workspace look at them.
      */
     void rest();
+    void expectNoChanges();
     [[nodiscard]] QString objectFile(const core::ContentId& id) const;
 
     [[nodiscard]] std::optional<double> aim(double ratio) const;
@@ -39,7 +40,6 @@ private:
     bool m_hasAims;
     QTemporaryDir m_root;
     QString m_folder;
-    QString m_referenceFolder;
     app::persistence::DiskFileSystem m_fileSystem;
     app::persistence::StorageEnvironment m_environment;
     std::unique_ptr<app::workspace::Workspace> m_workspace;
