@@ -114,7 +114,7 @@ void ProjectSession::startNew(const QString& name)
 
 Result<void> ProjectSession::open(const QString& folder)
 {
-    auto opened = Workspace::openFolder(m_environment, folder);
+    auto opened = Workspace::open(m_environment, folder);
     if (!opened)
         return core::Failure{opened.message()};
     replaceWorkspace(std::move(opened).value());

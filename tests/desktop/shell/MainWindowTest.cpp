@@ -66,8 +66,8 @@ protected:
         : project(folder.filePath(u"low-water"_s))
     {
         start();
-        auto sample = app::workspace::Workspace::openFolder(
-            desk->environment, test::repositoryPath(u"examples/low-water"));
+        auto sample =
+            app::workspace::Workspace::open(desk->environment, test::repositoryPath(u"examples/low-water"));
         EXPECT_TRUE(sample && sample.value()->saveAs(project));
         EXPECT_TRUE(window->life().open(project));
     }
@@ -156,7 +156,7 @@ TEST_F(MainWindowTest, closingAsksOnlyWhenSomethingIsUnsaved)
         const NextMessage discard(u"Discard Changes"_s);
         EXPECT_TRUE(window->close());
     }
-    auto reread = app::workspace::Workspace::openFolder(desk->environment, project);
+    auto reread = app::workspace::Workspace::open(desk->environment, project);
     EXPECT_FALSE(reread.value()->project() == desk->session.project());
 }
 
