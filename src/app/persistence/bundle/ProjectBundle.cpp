@@ -1,5 +1,6 @@
 #include "app/persistence/bundle/ProjectBundle.h"
 
+#include "app/persistence/bundle/Sha256.h"
 #include "app/persistence/files/FolderScan.h"
 #include "app/persistence/files/ParallelFor.h"
 #include "app/persistence/files/ProjectFiles.h"
@@ -11,7 +12,6 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
@@ -226,7 +226,7 @@ Result<FileContent> readArchive(FileSystem& fileSystem, const QString& bundlePat
 
 QByteArray bundleHash(const QByteArray& archive)
 {
-    return QCryptographicHash::hash(archive, QCryptographicHash::Sha256).toHex();
+    return sha256(archive).toHex();
 }
 
 Result<BundleContents> readBundle(QByteArrayView archive, const QString& bundlePath)
