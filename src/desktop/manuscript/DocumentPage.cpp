@@ -63,6 +63,12 @@ DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId
     connect(m_page, &MarkdownPage::focusLeft, this, &DocumentPage::commit);
     connect(m_page, &MarkdownPage::zoomStepRequested, this, &DocumentPage::stepZoom);
     connect(&desk.session, &shell::ProjectSession::commitRequested, this, &DocumentPage::commit);
+    connect(
+        &desk.session, &shell::ProjectSession::heldBackTextsRequested, this,
+        [this](shell::HeldBackTexts& texts) {
+            if (m_hasTyping)
+                texts.insert(objectId(), m_page->toPlainText());
+        });
     connect(&desk.session, &shell::ProjectSession::changed, this, &DocumentPage::followChanges);
     applyStyle();
     showDocument();

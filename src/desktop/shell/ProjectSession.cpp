@@ -20,7 +20,9 @@ ProjectSession::ProjectSession(const app::persistence::StorageEnvironment& envir
     : QObject(parent)
     , m_environment(environment)
     , m_workspace(std::make_unique<Workspace>(environment))
-{}
+{
+    startAutosave();
+}
 
 ProjectSession::~ProjectSession() = default;
 
@@ -67,6 +69,15 @@ void ProjectSession::setTypingPending(bool pending)
 {
     m_typingPending = pending;
     updateSaveState();
+    if (pending)
+        emit typingBegan();
+}
+
+HeldBackTexts ProjectSession::heldBackTexts()
+{
+    HeldBackTexts texts;
+    emit heldBackTextsRequested(texts);
+    return texts;
 }
 
 void ProjectSession::announce()
@@ -101,7 +112,36 @@ void ProjectSession::replaceWorkspace(std::unique_ptr<Workspace> workspace)
     m_isProjectOpen = true;
     m_typingPending = false;
     m_saveFailure.clear();
+    startAutosave();
     announceEverything();
+}
+
+void ProjectSession::startAutosave()
+{
+    using app::persistence::AutosaveController;
+    m_autosave = std::make_unique<AutosaveController>(*m_workspace);
+    connect(m_autosave.get(), &AutosaveController::aboutToSave, this, &ProjectSession::prepareSave);
+    connect(m_autosave.get(), &AutosaveController::saved, this, [this] { static_cast<void>(noteSave({})); });
+    connect(m_autosave.get(), &AutosaveController::saveFailed, this, [this](const QString& message) {
+        static_cast<void>(noteSave(core::Failure{message}));
+        emit autosaveFailed(message);
+    });
+    applyAutosaveSettings();
+}
+
+void ProjectSession::applyAutosaveSettings()
+{
+    m_autosave->setInterval(m_autosaveSettings.interval);
+    if (m_autosaveSettings.isOn)
+        m_autosave->start();
+    else
+        m_autosave->stop();
+}
+
+void ProjectSession::setAutosave(const AutosaveSettings& settings)
+{
+    m_autosaveSettings = settings;
+    applyAutosaveSettings();
 }
 
 void ProjectSession::startNew(const QString& name)
@@ -123,20 +163,29 @@ Result<void> ProjectSession::open(const QString& folder)
 
 Result<void> ProjectSession::save(SaveExtent extent)
 {
-    commitPendingEdits();
+    prepareSave();
     return noteSave(m_workspace->save(extent));
 }
 
 Result<void> ProjectSession::saveAs(const QString& folder)
 {
-    commitPendingEdits();
+    prepareSave();
     return noteSave(m_workspace->saveAs(folder));
+}
+
+void ProjectSession::prepareSave()
+{
+    commitPendingEdits();
+    if (m_workspace->isModified())
+        emit aboutToSave();
 }
 
 Result<void> ProjectSession::noteSave(Result<void> result)
 {
     m_saveFailure = result.message();
     updateSaveState();
+    if (result)
+        emit saved();
     return result;
 }
 
@@ -149,6 +198,14 @@ Result<void> ProjectSession::reload()
         announceEverything();
     }
     return reloaded;
+}
+
+Result<void> ProjectSession::restoreUnsaved(const std::map<QString, app::persistence::FileVersion>& files)
+{
+    auto restored = m_workspace->restoreUnsaved(files);
+    if (restored)
+        announceEverything();
+    return restored;
 }
 
 Result<QString> ProjectSession::importAsset(const QString& sourceFile)

@@ -1,14 +1,30 @@
 #pragma once
 
+#include "app/persistence/AutosaveController.h"
 #include "app/workspace/Workspace.h"
 #include "core/project/ProjectChanges.h"
 #include "desktop/shell/ProjectWords.h"
 
+#include <QHash>
 #include <QObject>
 
+#include <chrono>
+#include <map>
 #include <memory>
 
 namespace tw::desktop::shell {
+
+/** Texts of documents as their editors have them, where the project does not yet. */
+using HeldBackTexts = QHash<core::ContentId, QString>;
+
+/** Whether and how often the project is saved by itself. */
+struct AutosaveSettings
+{
+    bool isOn = true;
+    std::chrono::seconds interval{30};
+
+    bool operator==(const AutosaveSettings&) const = default;
+};
 
 enum class SaveState
 {
@@ -80,6 +96,9 @@ public:
     void commitPendingEdits();
     /** An editor holds typing that is not in the project yet, or no longer does. */
     void setTypingPending(bool pending);
+    [[nodiscard]] bool isTypingPending() const { return m_typingPending; }
+    /** What editors of documents hold back, without making an edit of it. */
+    [[nodiscard]] HeldBackTexts heldBackTexts();
 
     // Project life
 
@@ -93,6 +112,12 @@ public:
     [[nodiscard]] core::Result<void> reload();
     [[nodiscard]] core::Result<QString> importAsset(const QString& sourceFile);
 
+    /** Holds for this and every later project, at once. */
+    void setAutosave(const AutosaveSettings& settings);
+    /** Brings back what a crash left, as edits that are not saved; the history is lost. */
+    [[nodiscard]] core::Result<void> restoreUnsaved(
+        const std::map<QString, app::persistence::FileVersion>& files);
+
     [[nodiscard]] bool isModified() const { return m_typingPending || m_workspace->isModified(); }
     [[nodiscard]] SaveState saveState() const;
     /** Why the last save failed; empty when it did not. */
@@ -105,6 +130,14 @@ signals:
     void historyChanged();
     void saveStateChanged(tw::desktop::shell::SaveState state);
     void commitRequested();
+    /** An editor began to hold typing back. */
+    void typingBegan();
+    /** Whoever holds back the text of a document puts it in. */
+    void heldBackTextsRequested(tw::desktop::shell::HeldBackTexts& texts);
+    void aboutToSave();
+    /** All edits up to now are on disk. */
+    void saved();
+    void autosaveFailed(const QString& message);
 
 private:
     void announce();
@@ -112,10 +145,15 @@ private:
     void replaceWorkspace(std::unique_ptr<app::workspace::Workspace> workspace);
     void announceEverything();
     void updateSaveState();
+    void startAutosave();
+    void applyAutosaveSettings();
+    void prepareSave();
     [[nodiscard]] core::Result<void> noteSave(core::Result<void> result);
 
     const app::persistence::StorageEnvironment& m_environment;
     std::unique_ptr<app::workspace::Workspace> m_workspace;
+    AutosaveSettings m_autosaveSettings;
+    std::unique_ptr<app::persistence::AutosaveController> m_autosave;
     ProjectWords m_words;
     bool m_isProjectOpen = false;
     bool m_typingPending = false;

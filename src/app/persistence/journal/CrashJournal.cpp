@@ -102,6 +102,11 @@ void CrashJournal::append(QList<JournalEdit> edits)
 Result<void> CrashJournal::flush()
 {
     m_writer.waitForDone();
+    return lastOutcome();
+}
+
+Result<void> CrashJournal::lastOutcome()
+{
     const QMutexLocker lock(&m_mutex);
     return m_lastWrite;
 }

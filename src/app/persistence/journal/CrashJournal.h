@@ -47,6 +47,8 @@ public:
     void append(QList<JournalEdit> edits);
     /** Waits until all appended edits are on the medium; fails when the last ones could not be written. */
     [[nodiscard]] core::Result<void> flush();
+    /** How the last write that ended went; waits for nothing. */
+    [[nodiscard]] core::Result<void> lastOutcome();
     /** Removes the file: everything was saved, or let go. */
     void discard();
 

@@ -1,0 +1,188 @@
+#include "desktop/shell/CrashKeeper.h"
+
+#include "app/persistence/codec/ObjectCodec.h"
+#include "app/persistence/codec/ProjectCodec.h"
+#include "app/persistence/files/ProjectFiles.h"
+
+#include <chrono>
+
+namespace tw::desktop::shell {
+
+using namespace std::chrono_literals;
+using app::persistence::CrashJournal;
+using app::persistence::FileVersion;
+using app::persistence::JournalEdit;
+using core::project::ProjectChanges;
+
+namespace {
+
+/** With the time that writing takes, well below the two seconds that a crash may cost. */
+constexpr auto noteAfter = 1000ms;
+
+/** The files in which many things stand together, as the project has them now. */
+std::map<QString, FileVersion> sharedFiles(const core::project::Project& project)
+{
+    std::map<QString, FileVersion> files;
+    for (const auto& [id, category] : project.taxonomy().categories())
+        files.emplace(app::persistence::categoryPath(id), app::persistence::serializeCategory(category));
+    files.emplace(
+        app::persistence::projectFileName.toString(), app::persistence::serializeProjectDocument(project));
+    return files;
+}
+
+} // namespace
+
+CrashKeeper::CrashKeeper(
+    ProjectSession& session, const app::persistence::StorageEnvironment& environment, QObject* parent)
+    : QObject(parent)
+    , m_session(session)
+    , m_environment(environment)
+{
+    m_due.setSingleShot(true);
+    m_due.setInterval(noteAfter);
+    connect(&m_due, &QTimer::timeout, this, &CrashKeeper::note);
+    connect(&session, &ProjectSession::changed, this, &CrashKeeper::collect);
+    connect(&session, &ProjectSession::typingBegan, this, [this] { startWaiting(); });
+    connect(&session, &ProjectSession::aboutToSave, this, &CrashKeeper::flush);
+    connect(&session, &ProjectSession::saved, this, [this] {
+        // Saved in another place, the project has another journal.
+        if (m_journal && m_journal->projectPath() == m_session.workspace().displayPath())
+            discard();
+        else
+            follow();
+    });
+    follow();
+}
+
+CrashKeeper::~CrashKeeper() = default;
+
+void CrashKeeper::follow()
+{
+    discard();
+    m_journal.reset();
+    if (!m_session.workspace().hasPath())
+        return;
+    m_journal = std::make_unique<CrashJournal>(m_environment, m_session.workspace().displayPath());
+    m_shared = sharedFiles(m_session.project());
+}
+
+void CrashKeeper::discard()
+{
+    m_due.stop();
+    m_moved.clear();
+    m_areSharedMoved = false;
+    m_notedTyping.clear();
+    if (m_journal)
+        m_journal->discard();
+}
+
+void CrashKeeper::collect(const ProjectChanges& changes)
+{
+    if (changes.isEverything) {
+        follow();
+        return;
+    }
+    m_moved.insert(changes.added.begin(), changes.added.end());
+    m_moved.insert(changes.removed.begin(), changes.removed.end());
+    m_moved.insert(changes.changed.begin(), changes.changed.end());
+    m_areSharedMoved = m_areSharedMoved || changes.isTaxonomyChanged || changes.areSettingsChanged;
+    startWaiting();
+}
+
+void CrashKeeper::startWaiting()
+{
+    // Not anew with every key: then it would never come to an end while the writer goes on.
+    if (m_journal && !m_due.isActive())
+        m_due.start();
+}
+
+void CrashKeeper::note()
+{
+    if (!m_journal)
+        return;
+    QList<JournalEdit> edits;
+    if (m_session.isTypingPending())
+        noteHeldBackTyping(edits);
+    for (const core::ContentId& id : std::exchange(m_moved, {})) {
+        const auto* const object = m_session.project().find(id);
+        edits.append(editOf(
+            app::persistence::objectPath(id),
+            object ? FileVersion(app::persistence::serializeObject(*object)) : FileVersion()));
+    }
+    if (std::exchange(m_areSharedMoved, false))
+        noteSharedFiles(edits);
+    m_journal->append(std::move(edits));
+    report(m_journal->lastOutcome());
+    if (m_session.isTypingPending())
+        m_due.start();
+}
+
+void CrashKeeper::noteHeldBackTyping(QList<JournalEdit>& edits)
+{
+    const HeldBackTexts texts = m_session.heldBackTexts();
+    if (texts.isEmpty()) {
+        // A field of an entity: short enough to become a step of its own.
+        m_session.commitPendingEdits();
+        return;
+    }
+    for (const auto& [id, text] : texts.asKeyValueRange()) {
+        const auto* const object = m_session.project().find(id);
+        if (!object || m_notedTyping.value(id) == text)
+            continue;
+        JournalEdit edit =
+            editOf(app::persistence::objectPath(id), app::persistence::serializeObject(*object));
+        edit.body = text;
+        edits.append(std::move(edit));
+        m_moved.erase(id);
+    }
+    m_notedTyping = texts;
+}
+
+void CrashKeeper::noteSharedFiles(QList<JournalEdit>& edits)
+{
+    std::map<QString, FileVersion> files = sharedFiles(m_session.project());
+    // What is gone is noted as gone.
+    for (const auto& [path, bytes] : m_shared)
+        files.emplace(path, FileVersion());
+    for (const auto& [path, bytes] : files) {
+        const auto noted = m_shared.find(path);
+        if (noted == m_shared.end() || noted->second != bytes)
+            edits.append(editOf(path, bytes));
+    }
+    m_shared = std::move(files);
+}
+
+JournalEdit CrashKeeper::editOf(const QString& path, FileVersion bytes) const
+{
+    const auto& disk = m_session.workspace().diskState();
+    return {path, disk.contains(path) ? FileVersion(disk.bytes(path)) : FileVersion(), std::move(bytes), {}};
+}
+
+void CrashKeeper::flush()
+{
+    if (!m_journal)
+        return;
+    m_due.stop();
+    note();
+    report(m_journal->flush());
+}
+
+void CrashKeeper::noteRestored(const std::map<QString, FileVersion>& files)
+{
+    if (!m_journal)
+        return;
+    QList<JournalEdit> edits;
+    for (const auto& [path, bytes] : files)
+        edits.append(editOf(path, bytes));
+    m_journal->append(std::move(edits));
+    report(m_journal->flush());
+}
+
+void CrashKeeper::report(const core::Result<void>& written)
+{
+    if (!written && !m_isFailing)
+        emit failed(written.message());
+    m_isFailing = !written;
+}
+
+} // namespace tw::desktop::shell
