@@ -158,6 +158,7 @@ Result<void> Workspace::load(const QString& folder)
     for (const QString& relativePath : project.otherFiles)
         m_openedFolderFingerprint.recordFile(folder, relativePath);
     m_openedFolderFingerprint.rememberNames(std::move(project.listing));
+    m_assets.record(folder);
     static_cast<void>(m_project->takeChanges());
     m_undoStack.setClean();
     reloadLibraries();
@@ -180,6 +181,7 @@ Result<void> Workspace::save(SaveExtent extent)
     if (auto saved = saver.save(*m_project, extent); !saved)
         return saved;
     m_fullSaveDue = extent == SaveExtent::Changed;
+    m_assets.record(m_folderPath);
     m_undoStack.setClean();
     return {};
 }
@@ -212,11 +214,12 @@ Result<void> Workspace::saveAs(const QString& folder)
     m_openedFolderFingerprint = std::move(disk);
     m_saved = std::move(saved);
     m_fullSaveDue = false;
+    m_assets.record(m_folderPath);
     m_undoStack.setClean();
     return {};
 }
 
-Result<void> Workspace::reload()
+Result<void> Workspace::checkReload() const
 {
     if (!hasPath())
         return Failure{
@@ -226,7 +229,40 @@ Result<void> Workspace::reload()
             "Workspace",
             "The project cannot be read anew while a change is under way. Try again in a moment."))};
     }
-    return load(m_folderPath);
+    return {};
+}
+
+Result<void> Workspace::reload()
+{
+    auto possible = checkReload();
+    return possible ? load(m_folderPath) : possible;
+}
+
+void Workspace::acceptDisk(persistence::DiskState seen)
+{
+    m_openedFolderFingerprint = std::move(seen);
+}
+
+void Workspace::keepOverDisk(persistence::DiskState seen, const QStringList& relativePaths)
+{
+    acceptDisk(std::move(seen));
+    for (const QString& path : relativePaths) {
+        const bool isObject = persistence::isJsonFileIn(persistence::objectsFolder, path);
+        const bool isCategory = persistence::isJsonFileIn(persistence::taxonomyFolder, path);
+        if (!isObject && !isCategory)
+            continue;
+        const QString name = QFileInfo(path).completeBaseName();
+        const auto objectId = core::ContentId::fromString(name);
+        const auto categoryId = core::CategoryId::fromString(name);
+        // Files that are known and hold nothing of the project are removed by the next save.
+        if (isObject && persistence::objectPath(objectId) == path)
+            m_saved.revisions.insert_or_assign(objectId, persistence::neverSaved);
+        else if (isCategory && persistence::categoryPath(categoryId) == path)
+            m_saved.categories.insert(categoryId);
+        else if (!m_saved.strayFiles.contains(path))
+            m_saved.strayFiles.append(path);
+    }
+    markModified();
 }
 
 persistence::DiskChanges Workspace::externalChanges()
@@ -237,6 +273,8 @@ persistence::DiskChanges Workspace::externalChanges()
 Result<QString> Workspace::importAsset(const QString& sourceFile)
 {
     auto imported = persistence::importAsset(m_folderPath, sourceFile);
+    if (imported)
+        m_assets.recordFile(m_folderPath, imported.value());
     if (imported && persistence::isTextFile(imported.value())) {
         // Our own write never counts as somebody else's.
         const QString path = m_folderPath + u'/' + imported.value();

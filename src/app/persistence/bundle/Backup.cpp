@@ -1,6 +1,7 @@
 #include "app/persistence/bundle/Backup.h"
 
 #include "app/persistence/bundle/ProjectBundle.h"
+#include "app/persistence/files/ProjectFiles.h"
 #include "app/persistence/files/SafeWriter.h"
 
 #include <QCoreApplication>
@@ -52,6 +53,14 @@ QStringList backupsOf(const QString& name, const QString& folder)
     return backups;
 }
 
+void replaceProjectFiles(QList<BundleFile>& files, const ProjectFileMap& projectFiles)
+{
+    files.removeIf([](const BundleFile& file) { return isProjectFile(file.path); });
+    for (const auto& [path, bytes] : projectFiles)
+        files.append({path, bytes});
+    std::ranges::sort(files, {}, &BundleFile::path);
+}
+
 int prune(FileSystem& fileSystem, const BackupRequest& request, const QString& newest)
 {
     QStringList older = backupsOf(request.name, request.backupsFolder);
@@ -77,10 +86,11 @@ Result<Backup> backupProject(const StorageEnvironment& environment, const Backup
         QCoreApplication::translate("Persistence", "Could not create a backup of the project.")};
 
     FileSystem& fileSystem = environment.fileSystem;
-    const Result<QList<BundleFile>> files =
-        collectBundleFiles(fileSystem, request.folder, request.backupsFolder);
+    Result<QList<BundleFile>> files = collectBundleFiles(fileSystem, request.folder, request.backupsFolder);
     if (!files)
         return failed;
+    if (request.projectFiles)
+        replaceProjectFiles(files.value(), *request.projectFiles);
     const Result<QByteArray> archive = packBundle(files.value());
     if (!archive || !fileSystem.makeFolders(request.backupsFolder))
         return failed;

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "app/persistence/StorageEnvironment.h"
+#include "app/persistence/codec/ProjectWriter.h"
 #include "core/foundation/Result.h"
 
 #include <QDateTime>
 #include <QString>
+
+#include <optional>
 
 namespace tw::app::persistence {
 
@@ -18,6 +21,8 @@ struct BackupRequest
     QString name;                 ///< The project's, fit for a file name.
     QDateTime timestamp;          ///< Local time.
     qsizetype keep = backupsKept; ///< How many to keep, the new one included.
+    /** When set, what the backup holds as the project's files in place of those in the folder. */
+    std::optional<ProjectFileMap> projectFiles = {};
 };
 
 struct Backup
