@@ -21,6 +21,8 @@ public:
     QHash<QString, int> failingWrites;
     QHash<QString, int> failingReplacements;
     QHash<QString, int> failingSyncs;
+    /** How many more times a path can be replaced before it fails for ever. */
+    QHash<QString, int> replacementsLeft;
     /** The medium is full after so many bytes. */
     qint64 bytesLeft = std::numeric_limits<qint64>::max();
 
@@ -48,6 +50,9 @@ public:
     bool replace(const QString& temporary, const QString& target) override
     {
         const QMutexLocker lock(&m_mutex);
+        const auto left = replacementsLeft.find(target);
+        if (left != replacementsLeft.end() && --left.value() < 0)
+            return false;
         if (fails(failingReplacements, target) || !m_disk.replace(temporary, target))
             return false;
         --m_temporaries;
