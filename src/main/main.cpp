@@ -3,6 +3,7 @@
 #include "desktop/shell/CommandLine.h"
 #include "desktop/shell/MainWindow.h"
 #include "desktop/shell/Navigator.h"
+#include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
 
@@ -74,9 +75,9 @@ int main(int argc, char* argv[])
     window.show();
 
     if (!commandLine.projectPath.isEmpty())
-        window.openProject(QFileInfo(commandLine.projectPath).absoluteFilePath());
+        window.life().open(QFileInfo(commandLine.projectPath).absoluteFilePath());
     else if (!commandLine.isCapture())
-        window.reopenLast();
+        window.life().reopenLast();
 
     if (commandLine.isCapture()) {
         const QString& selection = commandLine.captureSelection;

@@ -1,9 +1,11 @@
 #include "desktop/shell/MainWindow.h"
+
 #include "core/entity/EntityCommands.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/MarkdownPage.h"
 #include "desktop/shell/CommandLine.h"
 #include "desktop/shell/ObjectTitles.h"
+#include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
 #include "desktop/support/TestDesk.h"
@@ -67,7 +69,7 @@ protected:
         auto sample = app::workspace::Workspace::openFolder(
             desk->environment, test::repositoryPath(u"examples/low-water"));
         EXPECT_TRUE(sample && sample.value()->saveAs(project));
-        EXPECT_TRUE(window->openProject(project));
+        EXPECT_TRUE(window->life().open(project));
     }
 
     /** As the program starts, with what the last run left behind. */
@@ -131,7 +133,7 @@ TEST_F(MainWindowTest, writesUndoesSavesClosesAndFindsEverythingAgain)
     EXPECT_TRUE(window->close());
 
     start();
-    EXPECT_TRUE(window->reopenLast());
+    EXPECT_TRUE(window->life().reopenLast());
     auto* const page =
         qobject_cast<manuscript::DocumentPage*>(window->findChild<WorkArea*>(u"workArea"_s)->currentPage());
     ASSERT_TRUE(page) << "what was open is open again";
@@ -161,7 +163,7 @@ TEST_F(MainWindowTest, closingAsksOnlyWhenSomethingIsUnsaved)
 TEST_F(MainWindowTest, badFoldersAreToldAndTheProjectStays)
 {
     const NextMessage close(u"Close"_s);
-    EXPECT_FALSE(window->openProject(folder.filePath(u"nowhere"_s)));
+    EXPECT_FALSE(window->life().open(folder.filePath(u"nowhere"_s)));
     EXPECT_TRUE(close.text.startsWith(u"The project could not be found:"_s));
     EXPECT_FALSE(idOf(u"The Spike"_s).isNull());
     EXPECT_FALSE(window->select(u"No such thing"_s));
