@@ -42,7 +42,7 @@ void printResidentGrowth(Kept kept, const QString& folder)
     const app::persistence::StorageEnvironment environment{fileSystem, dataFolder.path()};
     const qint64 before = residentBytes();
     if (kept == Kept::Workspace) {
-        const auto workspace = app::workspace::Workspace::openFolder(environment, folder);
+        const auto workspace = app::workspace::Workspace::open(environment, folder);
         if (!workspace)
             giveUp(workspace.message());
         std::printf("%lld\n", static_cast<long long>(residentBytes() - before));

@@ -88,7 +88,7 @@ void StorageBenchmark::run(ResultTable& table)
 
 void StorageBenchmark::openAgain()
 {
-    auto opened = Workspace::openFolder(m_environment, m_folder);
+    auto opened = Workspace::open(m_environment, m_folder);
     if (!opened)
         giveUp(opened.message());
     m_workspace = std::move(opened).value();

@@ -33,10 +33,10 @@ void readEntries(QByteArrayView archive)
 /** Every path that would be written stays inside the folder. */
 void readProject(QByteArrayView archive)
 {
-    const auto files = readBundle(archive, QStringLiteral("fuzzed.vellory"));
-    if (!files)
+    const auto contents = readBundle(archive, QStringLiteral("fuzzed.vellory"));
+    if (!contents)
         return;
-    for (const BundleFile& file : files.value())
+    for (const BundleFile& file : contents.value().files)
         require(isSafeEntryName(file.path) && !file.path.contains(u'\\'));
 }
 

@@ -11,7 +11,6 @@ namespace tw::app::persistence {
 
 namespace {
 
-/** A stamp younger than this may still belong to two contents: some file systems count whole seconds. */
 constexpr qint64 settlingNs = 2'000'000'000;
 
 QString joined(const QString& folder, const QString& relativePath)
@@ -32,6 +31,11 @@ qint64 systemClock()
     return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
 }
 
+bool isSettled(const FileStamp& stamp, qint64 now)
+{
+    return now - std::max(stamp.mtimeNs, stamp.ctimeNs) > settlingNs;
+}
+
 DiskState::DiskState(FileSystem& fileSystem, Clock clock)
     : m_fileSystem(&fileSystem)
     , m_clock(std::move(clock))
@@ -39,7 +43,7 @@ DiskState::DiskState(FileSystem& fileSystem, Clock clock)
 
 bool DiskState::isSettled(const FileStamp& stamp) const
 {
-    return m_clock() - std::max(stamp.mtimeNs, stamp.ctimeNs) > settlingNs;
+    return persistence::isSettled(stamp, m_clock());
 }
 
 void DiskState::insert(const QString& relativePath, Record record)

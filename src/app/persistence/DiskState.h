@@ -17,6 +17,12 @@ namespace tw::app::persistence {
 using Clock = std::function<qint64()>;
 [[nodiscard]] qint64 systemClock();
 
+/**
+ * Whether a stamp taken at this time tells one content from the next: a younger one may still belong to two,
+ * since some file systems count whole seconds.
+ */
+[[nodiscard]] bool isSettled(const FileStamp& stamp, qint64 now);
+
 /** How the text files of a folder differ from what was recorded. Paths are relative, sorted. */
 struct DiskChanges
 {

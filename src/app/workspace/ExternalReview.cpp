@@ -2,25 +2,19 @@
 
 #include "app/persistence/ProjectLock.h"
 #include "app/persistence/bundle/Backup.h"
-#include "app/persistence/codec/ProjectWriter.h"
-#include "app/persistence/files/JsonFile.h"
-#include "app/persistence/files/ProjectFiles.h"
+#include "app/persistence/merge/MergeArchive.h"
 #include "app/persistence/merge/MergeWriter.h"
 #include "app/workspace/Workspace.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
 
 #include <algorithm>
 
 namespace tw::app::workspace {
 
-using namespace Qt::Literals::StringLiterals;
 using core::Failure;
 using core::Result;
-using persistence::DiskChanges;
-using persistence::DiskState;
 using persistence::FileMerge;
 using persistence::FileStanding;
 using persistence::MergeWritten;
@@ -29,128 +23,81 @@ using persistence::ProjectVersions;
 
 namespace {
 
-QString translated(const char* text)
+Failure failure(const char* text)
 {
-    return QCoreApplication::translate("ExternalReview", text);
-}
-
-/** The files on disk are in no state to be reviewed; the detail says which and why. */
-Failure unreadable(const QString& detail)
-{
-    return {
-        translated(QT_TRANSLATE_NOOP(
-                       "ExternalReview",
-                       "The files on disk cannot be read as a project right now: %1. Nothing was changed. "
-                       "If a sync client is still at work, wait until it is done, then check again."))
-            .arg(detail)};
+    return {QCoreApplication::translate("ExternalReview", text)};
 }
 
 Failure notWritten()
 {
-    return {translated(QT_TRANSLATE_NOOP(
+    return failure(QT_TRANSLATE_NOOP(
         "ExternalReview",
-        "The resolved files could not be written; nothing was changed. Your project was backed up first."))};
+        "The resolved files could not be written; nothing was changed. Your project was backed up first."));
 }
 
 Failure partlyWritten()
 {
-    return {translated(QT_TRANSLATE_NOOP(
+    return failure(QT_TRANSLATE_NOOP(
         "ExternalReview", "Some merged changes could not be applied to the files on disk. Your project was "
-                          "backed up first; reloading what is on disk now."))};
+                          "backed up first; reloading what is on disk now."));
 }
 
-ProjectFileMap projectFilesOf(const DiskState& state)
+Failure notWrittenBack()
 {
-    ProjectFileMap files;
-    for (const QString& path : state.paths()) {
-        if (persistence::isProjectFile(path))
-            files.emplace(path, state.bytes(path));
-    }
-    return files;
-}
-
-/**
- * Brings `state` and the project files `files`, which held the same, up to what the folder holds now. Files
- * that are none of the project's only guard a save, so that it is enough to take note of them.
- */
-Result<void> readChanges(
-    persistence::FileSystem& fileSystem, const QString& folder, DiskState& state, ProjectFileMap& files)
-{
-    const DiskChanges changes = state.changesIn(folder);
-    if (!changes.unreadableFolders.isEmpty()) {
-        return unreadable(QDir::toNativeSeparators(folder + u'/' + changes.unreadableFolders.first()));
-    }
-    for (const QString& path : changes.added + changes.changed) {
-        if (!persistence::isProjectFile(path)) {
-            state.recordFile(folder, path);
-            continue;
-        }
-        const auto content = fileSystem.readFile(folder + u'/' + path);
-        if (!content)
-            return unreadable(path);
-        files.insert_or_assign(path, content->bytes);
-        state.record(path, content->bytes, content->stamp);
-    }
-    for (const QString& path : changes.removed) {
-        files.erase(path);
-        state.forget(path);
-    }
-    // Without it there is no project: a folder that is not there, or not all of it yet.
-    if (!files.contains(persistence::projectFileName.toString()))
-        return unreadable(persistence::projectFileName.toString());
-    return {};
-}
-
-/** The project's name with what file systems do not take left out. */
-QString fileNameOf(const QString& name)
-{
-    QString safe;
-    for (const QChar character : name)
-        safe += character.isLetterOrNumber() || u" -_"_s.contains(character) ? character : QChar(u'_');
-    safe = safe.trimmed().left(64);
-    return safe.isEmpty() ? u"project"_s : safe;
+    return failure(QT_TRANSLATE_NOOP(
+        "ExternalReview",
+        "The merged result could not be written back to the project file, so the file's own "
+        "version will be loaded instead. Your project was backed up first."));
 }
 
 } // namespace
 
-ExternalReview::ExternalReview(Workspace& workspace, DiskState seen, ProjectVersions versions)
+ExternalReview::ExternalReview(Workspace& workspace, TheirVersion theirs, ProjectVersions versions)
     : m_workspace(&workspace)
-    , m_seen(std::move(seen))
+    , m_theirs(std::move(theirs))
     , m_merge(std::move(versions))
 {}
 
 Result<ExternalReview> ExternalReview::begin(Workspace& workspace)
 {
     if (!workspace.hasPath()) {
-        return Failure{translated(QT_TRANSLATE_NOOP(
+        return failure(QT_TRANSLATE_NOOP(
             "ExternalReview",
             "Save the project first, then Vellory can check whether anything on disk changed outside the "
-            "app."))};
+            "app."));
     }
-    DiskState seen = workspace.diskState();
+    auto theirs = readTheirVersion(workspace);
+    if (!theirs)
+        return Failure{theirs.message()};
     ProjectVersions versions;
-    versions.base = projectFilesOf(seen);
-    versions.theirs = versions.base;
-    if (auto read =
-            readChanges(workspace.environment().fileSystem, workspace.folderPath(), seen, versions.theirs);
-        !read)
-        return Failure{read.message()};
-    const bool isModified = workspace.isModified();
-    versions.mine = isModified ? persistence::serializeProject(workspace.project()) : versions.base;
-
-    ExternalReview review(workspace, std::move(seen), std::move(versions));
-    review.m_changedMedia = workspace.assetStamps().changesIn(workspace.folderPath());
+    versions.base = projectFilesOf(workspace.diskState());
+    versions.mine =
+        workspace.isModified() ? persistence::serializeProject(workspace.project()) : versions.base;
+    versions.theirs = theirs.value().files;
+    ExternalReview review(workspace, std::move(theirs).value(), std::move(versions));
     if (!review.m_merge.unreadable().isEmpty())
-        return unreadable(review.m_merge.unreadable().join(u", "));
-    if (review.m_merge.changes().empty())
-        workspace.acceptDisk(review.m_seen);
-    else if (!isModified)
-        review.m_verdict = ReviewVerdict::OnlyTheirs;
-    else if (review.m_merge.hasOpenConflicts())
-        review.m_verdict = ReviewVerdict::Conflicts;
-    else
-        review.m_verdict = review.m_merge.applied() ? ReviewVerdict::Mergeable : ReviewVerdict::NoWayTogether;
+        return unreadableOnDisk(review.m_merge.unreadable().join(u", "));
+    review.m_verdict = review.findVerdict();
+    if (review.m_verdict == ReviewVerdict::Unchanged)
+        review.acceptDisk();
     return review;
+}
+
+ReviewVerdict ExternalReview::findVerdict() const
+{
+    if (changedFileCount() == 0)
+        return ReviewVerdict::Unchanged;
+    if (!m_workspace->isModified())
+        return ReviewVerdict::OnlyTheirs;
+    if (m_merge.hasOpenConflicts())
+        return ReviewVerdict::Conflicts;
+    return m_merge.applied() ? ReviewVerdict::Mergeable : ReviewVerdict::NoWayTogether;
+}
+
+qsizetype ExternalReview::changedFileCount() const
+{
+    // A save would put all of an archive back to what is here, its media included.
+    return std::ssize(m_merge.changes()) + (m_theirs.archive ? m_theirs.changedMedia : 0);
 }
 
 qsizetype ExternalReview::contestedFileCount() const
@@ -160,23 +107,34 @@ qsizetype ExternalReview::contestedFileCount() const
     });
 }
 
+void ExternalReview::acceptDisk()
+{
+    m_workspace->acceptDisk(m_theirs.seen);
+    if (m_theirs.archive)
+        m_workspace->acceptArchive(m_theirs.archive->state);
+}
+
 Result<void> ExternalReview::backUp() const
 {
     const persistence::StorageEnvironment& environment = m_workspace->environment();
-    persistence::BackupRequest request;
-    request.folder = m_workspace->folderPath();
-    request.name = fileNameOf(m_workspace->displayName());
-    request.backupsFolder = environment.dataFolder + u"/backups/"_s + request.name;
-    request.timestamp = QDateTime::fromMSecsSinceEpoch(environment.clock() / 1'000'000);
-    if (const auto backup = persistence::backupProject(environment, request); !backup)
-        return Failure{backup.message()};
+    const QString& folder = m_workspace->folderPath();
+    const auto request = persistence::backupRequest(
+        environment, m_workspace->displayPath(), folder,
+        QDateTime::fromMSecsSinceEpoch(environment.clock() / 1'000'000));
+    const auto theirs = m_theirs.archive
+                            ? persistence::backupFiles(environment, request, m_theirs.archive->files)
+                            : m_workspace->backup(request.timestamp);
+    if (!theirs)
+        return Failure{theirs.message()};
     if (!m_workspace->isModified())
         return {};
-    // The folder holds nothing of what is unsaved here, which is just what may be given up.
-    request.projectFiles = m_merge.mine();
-    if (const auto backup = persistence::backupProject(environment, request); !backup)
-        return Failure{backup.message()};
-    return {};
+    // Nothing on disk holds what is unsaved here, which is just what may be given up.
+    auto files = persistence::readAllFiles(environment.fileSystem, folder);
+    if (!files)
+        return Failure{files.message()};
+    const auto mine = persistence::backupFiles(
+        environment, request, persistence::withProjectFiles(std::move(files).value(), m_merge.mine()));
+    return mine ? Result<void>() : Failure{mine.message()};
 }
 
 Result<void> ExternalReview::takeTheirs()
@@ -192,10 +150,11 @@ Result<void> ExternalReview::keepMine()
 {
     if (auto backup = backUp(); !backup)
         return backup;
+    acceptDisk();
     QStringList paths;
     for (const FileMerge& change : m_merge.changes())
         paths.append(change.path);
-    m_workspace->keepOverDisk(m_seen, paths);
+    m_workspace->overwriteAtNextSave(paths);
     return {};
 }
 
@@ -204,28 +163,52 @@ Result<void> ExternalReview::applyMerge()
     // Asked first: once the files are written, the project has to be read anew.
     if (auto possible = m_workspace->checkReload(); !possible)
         return possible;
-    auto merged = m_merge.applied();
+    const auto merged = m_merge.applied();
     if (!merged)
         return Failure{merged.message()};
     if (auto backup = backUp(); !backup)
         return backup;
+    const Result<Written> written = write(merged.value());
+    if (!written)
+        return Failure{written.message()};
+    // Also after a failure that came so far: what is unsaved lies in the backup, and what is on disk now must
+    // not be taken for the old baseline.
+    if (auto reloaded = m_workspace->reload(); !reloaded)
+        return reloaded;
+    switch (written.value()) {
+    case Written::Partly:
+        return partlyWritten();
+    case Written::NotIntoArchive:
+        return notWrittenBack();
+    case Written::Completely:
+        break;
+    }
+    return {};
+}
+
+Result<ExternalReview::Written> ExternalReview::write(const ProjectFileMap& merged)
+{
     const persistence::StorageEnvironment& environment = m_workspace->environment();
-    const auto lock = persistence::ProjectLock::acquire(m_workspace->displayPath(), environment.dataFolder);
+    const QString& place = m_workspace->displayPath();
+    const auto lock = persistence::ProjectLock::acquire(place, environment.dataFolder);
     if (!lock)
         return Failure{lock.message()};
+    if (m_theirs.archive) {
+        const auto files = persistence::withProjectFiles(m_theirs.archive->files, merged);
+        const bool isWritten =
+            persistence::writeMergedArchive(environment, place, m_theirs.archive->state, files).isOk();
+        return isWritten ? Written::Completely : Written::NotIntoArchive;
+    }
     switch (persistence::writeMergedProject(
-        environment, m_workspace->folderPath(), m_merge.theirs(), merged.value(), m_seen)) {
-    case MergeWritten::Completely:
-        return m_workspace->reload();
+        environment, m_workspace->folderPath(), m_merge.theirs(), merged, m_theirs.seen)) {
     case MergeWritten::NotAtAll:
         return notWritten();
     case MergeWritten::Partly:
+        return Written::Partly;
+    case MergeWritten::Completely:
         break;
     }
-    // What is unsaved lies in the backup, and a mixture on disk must not be taken for the old baseline.
-    if (const auto reloaded = m_workspace->reload(); !reloaded)
-        return Failure{reloaded.message()};
-    return partlyWritten();
+    return Written::Completely;
 }
 
 } // namespace tw::app::workspace

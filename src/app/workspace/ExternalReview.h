@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/persistence/DiskState.h"
 #include "app/persistence/merge/ProjectMerge.h"
+#include "app/workspace/TheirVersion.h"
 #include "core/foundation/Result.h"
 
 #include <QString>
@@ -21,8 +21,9 @@ enum class ReviewVerdict
 };
 
 /**
- * One look at what others changed in the folder of an open project, and the ways to deal with it. What is
- * decided holds for the files as they were read: one that changes again afterwards is never overwritten.
+ * One look at what others changed in the folder of an open project, or in its archive if it is a single
+ * file, and the ways to deal with it. What is decided holds for the files as they were read: one that changes
+ * again afterwards is never overwritten.
  *
  * The workspace must outlive the review, and must not change while it is open. Main thread. A failure leaves
  * the workspace with all its unsaved edits, unless it says that the project was reloaded.
@@ -39,9 +40,9 @@ public:
 
     [[nodiscard]] ReviewVerdict verdict() const { return m_verdict; }
     /** Project files that others changed. */
-    [[nodiscard]] qsizetype changedFileCount() const { return std::ssize(m_merge.changes()); }
+    [[nodiscard]] qsizetype changedFileCount() const;
     /** Files under assets/ that were added, replaced or removed. */
-    [[nodiscard]] qsizetype changedMediaCount() const { return m_changedMedia; }
+    [[nodiscard]] qsizetype changedMediaCount() const { return m_theirs.changedMedia; }
     /** For `NoWayTogether`: the files that both sides changed. */
     [[nodiscard]] qsizetype contestedFileCount() const;
     [[nodiscard]] const persistence::ProjectMerge& merge() const { return m_merge; }
@@ -59,15 +60,25 @@ public:
     [[nodiscard]] core::Result<void> applyMerge();
 
 private:
-    ExternalReview(Workspace& workspace, persistence::DiskState seen, persistence::ProjectVersions versions);
+    /** How far the merged project got. */
+    enum class Written
+    {
+        Completely,
+        Partly,
+        NotIntoArchive,
+    };
 
+    ExternalReview(Workspace& workspace, TheirVersion theirs, persistence::ProjectVersions versions);
+
+    [[nodiscard]] ReviewVerdict findVerdict() const;
+    void acceptDisk();
     [[nodiscard]] core::Result<void> backUp() const;
+    /** Under the project's lock, which reading it anew may take again. A failure has changed nothing. */
+    [[nodiscard]] core::Result<Written> write(const persistence::ProjectFileMap& merged);
 
     Workspace* m_workspace;
-    /** What the folder looked like when it was read. */
-    persistence::DiskState m_seen;
+    TheirVersion m_theirs;
     persistence::ProjectMerge m_merge;
-    qsizetype m_changedMedia = 0;
     ReviewVerdict m_verdict = ReviewVerdict::Unchanged;
 };
 

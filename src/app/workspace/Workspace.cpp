@@ -2,8 +2,8 @@
 
 #include "app/persistence/ProjectLock.h"
 #include "app/persistence/codec/ProjectLoader.h"
-#include "app/persistence/files/FolderScan.h"
 #include "app/persistence/files/ProjectFiles.h"
+#include "app/workspace/ProjectPlace.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,6 +14,7 @@ namespace tw::app::workspace {
 using core::Failure;
 using core::Result;
 using core::project::Project;
+using persistence::BundlePurpose;
 using persistence::SaveExtent;
 
 namespace {
@@ -23,75 +24,37 @@ QString translated(const char* text)
     return QCoreApplication::translate("Workspace", text);
 }
 
-/** A folder that holds a project, or parts of one. */
-bool holdsProject(const QString& folder)
+QString cleanPath(const QString& path)
 {
-    const QDir directory(folder);
-    return directory.exists(persistence::projectFileName.toString()) ||
-           directory.exists(persistence::objectsFolder.toString()) ||
-           directory.exists(persistence::taxonomyFolder.toString());
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
-Failure failure(const char* text, const QString& path)
+/** Whether a project at the path is one file, now or when it is written there. */
+bool isSingleFile(const QString& path)
 {
-    return {translated(text).arg(QDir::toNativeSeparators(path))};
+    return persistence::isBundlePath(path) && !QFileInfo(path).isDir();
 }
 
-/**
- * Whether there is something to load. A folder whose project document is missing is refused, although the
- * rest would load: a sync client may still be at work, and saving would write the project's settings anew.
- */
-Result<void> checkIsProject(const QString& folder)
+QString nameOfPlace(const QString& path)
 {
-    const QFileInfo info(folder);
-    if (!info.exists())
-        return failure(QT_TRANSLATE_NOOP("Workspace", "The project could not be found: %1"), folder);
-    if (!info.isDir()) {
-        return failure(
-            QT_TRANSLATE_NOOP(
-                "Workspace",
-                "This is no project: %1. Choose a project folder, the one that holds project.json."),
-            folder);
-    }
-    if (QFileInfo::exists(folder + u'/' + persistence::projectFileName.toString()))
-        return {};
-    if (holdsProject(folder)) {
-        return failure(
-            QT_TRANSLATE_NOOP(
-                "Workspace", "The file project.json is missing in %1. If a sync client is still at work "
-                             "there, wait until it is "
-                             "done; otherwise bring the file back from a backup, or put an empty one with {} "
-                             "in its place."),
-            folder);
-    }
-    return failure(
-        QT_TRANSLATE_NOOP(
-            "Workspace", "The folder %1 holds no project. Choose the folder that holds project.json, or make "
-                         "a new project."),
-        folder);
+    return isSingleFile(path) ? QFileInfo(path).completeBaseName() : QDir(path).dirName();
 }
 
-/** Everything of a project folder that is not written from memory: assets and whatever lies beside them. */
-Result<void> copyOtherFiles(const QString& from, const QString& to)
+/** Without a working copy, since nobody writes to a library. */
+Result<persistence::LoadedProject> loadLibrary(persistence::FileSystem& fileSystem, const QString& path)
 {
-    for (const persistence::ScannedFile& file :
-         persistence::scanFolder(from, persistence::ScannedFiles::All).files) {
-        if (persistence::isProjectFile(file.relativePath))
-            continue;
-        const QString target = to + u'/' + file.relativePath;
-        if (QFileInfo::exists(target))
-            continue;
-        if (!QDir().mkpath(QFileInfo(target).path()) ||
-            !QFile::copy(from + u'/' + file.relativePath, target)) {
-            return failure(
-                QT_TRANSLATE_NOOP(
-                    "Workspace", "Could not copy '%1' to the new place. Free some space or choose another "
-                                 "folder, then save "
-                                 "again."),
-                from + u'/' + file.relativePath);
-        }
-    }
-    return {};
+    if (!isSingleFile(path))
+        return persistence::loadFolder(fileSystem, path);
+    const auto archive = persistence::readArchive(fileSystem, path);
+    if (!archive)
+        return Failure{archive.message()};
+    const auto contents = persistence::readBundle(archive.value().bytes, path);
+    if (!contents)
+        return Failure{contents.message()};
+    persistence::ProjectFileMap files;
+    for (const persistence::BundleFile& file : contents.value().files)
+        files.emplace_hint(files.end(), file.path, file.bytes);
+    return persistence::parseProject(files);
 }
 
 } // namespace
@@ -104,37 +67,60 @@ Workspace::Workspace(const persistence::StorageEnvironment& environment)
 
 Workspace::~Workspace() = default;
 
-Result<std::unique_ptr<Workspace>> Workspace::openFolder(
-    const persistence::StorageEnvironment& environment, const QString& folder)
+Result<std::unique_ptr<Workspace>> Workspace::open(
+    const persistence::StorageEnvironment& environment, const QString& path)
 {
     auto workspace = std::make_unique<Workspace>(environment);
-    if (auto loaded = workspace->load(QDir(folder).absolutePath()); !loaded)
+    if (auto loaded = workspace->load(cleanPath(path), BundlePurpose::Open); !loaded)
         return Failure{loaded.message()};
     return workspace;
 }
 
 const QString& Workspace::displayPath() const
 {
-    return hasSingleFile() ? m_singleFilePath : m_folderPath;
+    return m_singleFile ? m_singleFile->path() : m_folderPath;
 }
 
 QString Workspace::displayName() const
 {
     if (!m_project->name().isEmpty())
         return m_project->name();
-    return hasSingleFile() ? QFileInfo(m_singleFilePath).completeBaseName() : QDir(m_folderPath).dirName();
+    return nameOfPlace(displayPath());
 }
 
-Result<void> Workspace::load(const QString& folder)
+Result<void> Workspace::load(const QString& path, BundlePurpose purpose)
 {
-    if (auto checked = checkIsProject(folder); !checked)
+    if (isSingleFile(path))
+        return loadSingleFile(path, purpose);
+    if (auto checked = checkIsProject(path); !checked)
         return checked;
-    auto loaded = persistence::loadFolder(m_environment.fileSystem, folder);
+    auto loaded = persistence::loadFolder(m_environment.fileSystem, path);
     if (!loaded)
         return Failure{loaded.message()};
-    persistence::LoadedProject project = std::move(loaded).value();
+    m_singleFile.reset();
+    m_openingNotice = {};
+    adopt(std::move(loaded).value(), path);
+    return {};
+}
 
-    // From here on nothing fails: the old project goes in one piece, with the history that refers to it.
+Result<void> Workspace::loadSingleFile(const QString& path, BundlePurpose purpose)
+{
+    const auto lock = persistence::ProjectLock::acquire(path, m_environment.dataFolder);
+    if (!lock)
+        return Failure{lock.message()};
+    auto loaded = persistence::openBundle(m_environment, path, purpose);
+    if (!loaded)
+        return Failure{loaded.message()};
+    persistence::OpenedBundle opened = std::move(loaded).value();
+    m_openingNotice = workspace::openingNotice(opened.opening, path, opened.backupPath);
+    m_singleFile = std::move(opened.file);
+    adopt(std::move(opened.project), m_singleFile->workingCopy().folder);
+    return {};
+}
+
+void Workspace::adopt(persistence::LoadedProject project, const QString& folder)
+{
+    // The old project goes in one piece, with the history that refers to it.
     m_undoStack.clear();
     m_project = std::move(project.project);
     m_folderPath = folder;
@@ -162,7 +148,6 @@ Result<void> Workspace::load(const QString& folder)
     static_cast<void>(m_project->takeChanges());
     m_undoStack.setClean();
     reloadLibraries();
-    return {};
 }
 
 Result<void> Workspace::save(SaveExtent extent)
@@ -174,49 +159,109 @@ Result<void> Workspace::save(SaveExtent extent)
     if (!lock)
         return Failure{lock.message()};
     const persistence::DiskChanges changes = externalChanges();
-    if (!changes.isEmpty())
+    if (isBundleChangedOnDisk() || !changes.isEmpty())
         return persistence::changedOnDiskFailure();
     persistence::FolderSaver saver(m_environment, m_folderPath, m_openedFolderFingerprint, m_saved);
     saver.removeLeftovers(changes.leftovers);
     if (auto saved = saver.save(*m_project, extent); !saved)
         return saved;
+    // Also when nothing was written just now: an earlier save may have ended before the archive.
+    if (m_singleFile) {
+        if (auto written = m_singleFile->writeArchiveOf(m_folderPath); !written)
+            return written;
+        if (auto recorded = m_singleFile->updateRecord(); !recorded)
+            return recorded;
+    }
     m_fullSaveDue = extent == SaveExtent::Changed;
     m_assets.record(m_folderPath);
     m_undoStack.setClean();
     return {};
 }
 
-Result<void> Workspace::saveAs(const QString& folder)
+Result<void> Workspace::saveAs(const QString& path)
 {
-    const QString target = QDir(folder).absolutePath();
-    if (target == m_folderPath)
+    const QString target = cleanPath(path);
+    if (target == displayPath())
         return save(SaveExtent::Everything);
-    if (holdsProject(target)) {
-        return failure(
+    const auto lock = persistence::ProjectLock::acquire(target, m_environment.dataFolder);
+    if (!lock)
+        return Failure{lock.message()};
+    return isSingleFile(target) ? saveAsSingleFile(target) : saveAsFolder(target);
+}
+
+Result<void> Workspace::saveAsFolder(const QString& folder)
+{
+    if (holdsProject(folder)) {
+        return placeFailure(
             QT_TRANSLATE_NOOP(
                 "Workspace", "The folder %1 already holds a project. Choose an empty folder or a new name."),
-            target);
+            folder);
     }
-    if (!QDir().mkpath(target))
-        return failure(QT_TRANSLATE_NOOP("Workspace", "Cannot create project folder: %1"), target);
-    if (hasPath()) {
-        if (auto copied = copyOtherFiles(m_folderPath, target); !copied)
-            return copied;
-    }
-    persistence::DiskState disk(m_environment.fileSystem, m_environment.clock);
-    disk.recordUnseen(target);
-    persistence::SavedState saved;
-    persistence::FolderSaver saver(m_environment, target, disk, saved);
-    if (auto written = saver.save(*m_project, SaveExtent::Everything); !written)
-        return written;
-    m_folderPath = target;
-    m_singleFilePath.clear();
-    m_openedFolderFingerprint = std::move(disk);
-    m_saved = std::move(saved);
-    m_fullSaveDue = false;
-    m_assets.record(m_folderPath);
-    m_undoStack.setClean();
+    auto copy = writeCopy(folder);
+    if (!copy)
+        return Failure{copy.message()};
+    m_singleFile.reset();
+    moveTo(folder, std::move(copy).value());
     return {};
+}
+
+Result<void> Workspace::saveAsSingleFile(const QString& bundlePath)
+{
+    persistence::SingleFile file(
+        m_environment, persistence::workingCopyOf(bundlePath, m_environment.dataFolder));
+    const persistence::WorkingCopy& place = file.workingCopy();
+    const auto written = [&]() -> Result<SavedCopy> {
+        persistence::discardFreshCopy(place);
+        auto copy = writeCopy(place.freshFolder());
+        if (!copy)
+            return copy;
+        // The archive first: until it is whole, nothing but the fresh copy exists of the new project.
+        if (auto archived = file.writeArchiveOf(place.freshFolder()); !archived)
+            return Failure{archived.message()};
+        if (auto retired = persistence::retireCopy(m_environment, place); !retired)
+            return Failure{retired.message()};
+        if (auto installed = persistence::installFreshCopy(m_environment, place); !installed)
+            return Failure{installed.message()};
+        if (auto recorded = file.updateRecord(); !recorded)
+            return Failure{recorded.message()};
+        return copy;
+    };
+    auto copy = written();
+    if (!copy) {
+        persistence::discardFreshCopy(place);
+        return Failure{copy.message()};
+    }
+    const QString folder = place.folder;
+    m_singleFile = std::move(file);
+    moveTo(folder, std::move(copy).value());
+    return {};
+}
+
+Result<Workspace::SavedCopy> Workspace::writeCopy(const QString& folder)
+{
+    if (!QDir().mkpath(folder))
+        return placeFailure(QT_TRANSLATE_NOOP("Workspace", "Cannot create project folder: %1"), folder);
+    if (hasPath()) {
+        if (auto copied = copyOtherFiles(m_folderPath, folder); !copied)
+            return Failure{copied.message()};
+    }
+    SavedCopy copy{persistence::DiskState(m_environment.fileSystem, m_environment.clock), {}};
+    copy.disk.recordUnseen(folder);
+    persistence::FolderSaver saver(m_environment, folder, copy.disk, copy.saved);
+    if (auto written = saver.save(*m_project, SaveExtent::Everything); !written)
+        return Failure{written.message()};
+    return copy;
+}
+
+void Workspace::moveTo(const QString& folder, SavedCopy copy)
+{
+    m_folderPath = folder;
+    m_openedFolderFingerprint = std::move(copy.disk);
+    m_saved = std::move(copy.saved);
+    m_fullSaveDue = false;
+    m_assets.record(folder);
+    m_openingNotice = {};
+    m_undoStack.setClean();
 }
 
 Result<void> Workspace::checkReload() const
@@ -234,8 +279,10 @@ Result<void> Workspace::checkReload() const
 
 Result<void> Workspace::reload()
 {
-    auto possible = checkReload();
-    return possible ? load(m_folderPath) : possible;
+    if (auto possible = checkReload(); !possible)
+        return possible;
+    const QString path = displayPath();
+    return load(path, BundlePurpose::Reload);
 }
 
 void Workspace::acceptDisk(persistence::DiskState seen)
@@ -243,9 +290,13 @@ void Workspace::acceptDisk(persistence::DiskState seen)
     m_openedFolderFingerprint = std::move(seen);
 }
 
-void Workspace::keepOverDisk(persistence::DiskState seen, const QStringList& relativePaths)
+void Workspace::acceptArchive(persistence::ArchiveState seen)
 {
-    acceptDisk(std::move(seen));
+    m_singleFile = persistence::SingleFile(m_environment, m_singleFile->workingCopy(), std::move(seen));
+}
+
+void Workspace::overwriteAtNextSave(const QStringList& relativePaths)
+{
     for (const QString& path : relativePaths) {
         const bool isObject = persistence::isJsonFileIn(persistence::objectsFolder, path);
         const bool isCategory = persistence::isJsonFileIn(persistence::taxonomyFolder, path);
@@ -270,6 +321,21 @@ persistence::DiskChanges Workspace::externalChanges()
     return hasPath() ? m_openedFolderFingerprint.changesIn(m_folderPath) : persistence::DiskChanges();
 }
 
+bool Workspace::isBundleChangedOnDisk()
+{
+    return m_singleFile && m_singleFile->isChangedOnDisk();
+}
+
+Result<persistence::Backup> Workspace::backup(const QDateTime& timestamp) const
+{
+    const auto request = persistence::backupRequest(m_environment, displayPath(), m_folderPath, timestamp);
+    if (!hasPath())
+        return persistence::backupProject(m_environment, request);
+    // Not while another program is half-way through a save.
+    const auto lock = persistence::ProjectLock::acquire(displayPath(), m_environment.dataFolder);
+    return lock ? persistence::backupProject(m_environment, request) : Failure{lock.message()};
+}
+
 Result<QString> Workspace::importAsset(const QString& sourceFile)
 {
     auto imported = persistence::importAsset(m_folderPath, sourceFile);
@@ -288,9 +354,11 @@ void Workspace::reloadLibraries()
 {
     m_libraries.clear();
     m_libraryNotices.clear();
+    // Nobody knows where the working copy of a single file lies.
+    const QDir base = hasSingleFile() ? QFileInfo(displayPath()).dir() : QDir(m_folderPath);
     for (const core::project::LibraryMount& mount : m_project->libraryMounts()) {
-        const QString path = QDir::cleanPath(QDir(m_folderPath).absoluteFilePath(mount.path));
-        auto loaded = persistence::loadFolder(m_environment.fileSystem, path);
+        const QString path = QDir::cleanPath(base.absoluteFilePath(mount.path));
+        auto loaded = loadLibrary(m_environment.fileSystem, path);
         if (!loaded) {
             m_libraryNotices.append(
                 translated(QT_TRANSLATE_NOOP("Workspace", "The library %1 could not be read: %2"))
@@ -298,7 +366,7 @@ void Workspace::reloadLibraries()
             continue;
         }
         std::unique_ptr<Project> project = std::move(loaded.value().project);
-        const QString name = project->name().isEmpty() ? QDir(path).dirName() : project->name();
+        const QString name = project->name().isEmpty() ? nameOfPlace(path) : project->name();
         m_libraries.push_back({name, path, std::move(project)});
     }
 }

@@ -4,7 +4,11 @@
 #include "app/persistence/DiskState.h"
 #include "app/persistence/FolderSaver.h"
 #include "app/persistence/StorageEnvironment.h"
+#include "app/persistence/bundle/Backup.h"
+#include "app/persistence/bundle/OpenBundle.h"
+#include "app/persistence/bundle/SingleFile.h"
 #include "app/workspace/MountedLibrary.h"
+#include "app/workspace/OpeningNotice.h"
 #include "core/foundation/Result.h"
 #include "core/project/Project.h"
 #include "core/undo/UndoStack.h"
@@ -13,6 +17,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tw::app::workspace {
@@ -33,9 +38,12 @@ public:
     Workspace(const Workspace&) = delete;
     Workspace& operator=(const Workspace&) = delete;
 
-    /** Opens a project folder. Nothing is kept of one that fails to load. */
-    [[nodiscard]] static core::Result<std::unique_ptr<Workspace>> openFolder(
-        const persistence::StorageEnvironment& environment, const QString& folder);
+    /**
+     * Opens a project folder, or a single file through its working copy. Nothing is kept of one that fails to
+     * load.
+     */
+    [[nodiscard]] static core::Result<std::unique_ptr<Workspace>> open(
+        const persistence::StorageEnvironment& environment, const QString& path);
 
     [[nodiscard]] const core::project::Project& project() const { return *m_project; }
     /** For building commands and for running them; nothing else changes the project. */
@@ -43,12 +51,12 @@ public:
     [[nodiscard]] core::undo::UndoStack& undoStack() { return m_undoStack; }
     [[nodiscard]] const core::undo::UndoStack& history() const { return m_undoStack; }
 
-    /** The project folder; empty when the project was never saved. */
+    /** The project folder, of a single file its working copy; empty when the project was never saved. */
     [[nodiscard]] const QString& folderPath() const { return m_folderPath; }
     [[nodiscard]] bool hasPath() const { return !m_folderPath.isEmpty(); }
     /** The path of a project that is one file; empty for a folder. */
-    [[nodiscard]] const QString& singleFilePath() const { return m_singleFilePath; }
-    [[nodiscard]] bool hasSingleFile() const { return !m_singleFilePath.isEmpty(); }
+    [[nodiscard]] QString singleFilePath() const { return m_singleFile ? m_singleFile->path() : QString(); }
+    [[nodiscard]] bool hasSingleFile() const { return m_singleFile.has_value(); }
     /** The path to show and to remember. */
     [[nodiscard]] const QString& displayPath() const;
     /** The project's name, or that of its folder or file; empty for a new one. */
@@ -57,8 +65,12 @@ public:
     [[nodiscard]] bool isModified() const { return m_undoStack.isModified(); }
     void markModified() { m_undoStack.markModified(); }
 
+    /** What to tell the user about how the project was opened or reloaded. */
+    [[nodiscard]] const OpeningNotice& openingNotice() const { return m_openingNotice; }
+
     /**
-     * Writes what moved since the last save. Refused, with nothing written, when the folder changed under us.
+     * Writes what moved since the last save, of a single file also the archive if its content is another.
+     * Refused, with nothing written, when the folder or the archive changed under us.
      * `SaveExtent::Everything` writes every object anew and compares: for closing and copies.
      */
     [[nodiscard]] core::Result<void> save(persistence::SaveExtent extent = persistence::SaveExtent::Changed);
@@ -68,16 +80,22 @@ public:
     [[nodiscard]] bool isFullSaveDue() const { return m_fullSaveDue; }
 
     /**
-     * Gives the project a new folder, with a copy of its assets and other files, and saves it there. Refused
-     * when the folder holds another project.
+     * Gives the project a new place, with a copy of its assets and other files, and saves it there: a single
+     * file when the path ends as those do, otherwise a folder. The old place stays as it is. A single file at
+     * the path is replaced, a folder that holds another project is refused.
      */
-    [[nodiscard]] core::Result<void> saveAs(const QString& folder);
+    [[nodiscard]] core::Result<void> saveAs(const QString& path);
 
     /** Reads the project anew; the history is lost. Refused while a macro is open. */
     [[nodiscard]] core::Result<void> reload();
 
     /** How the folder differs from what was last read or written here. */
     [[nodiscard]] persistence::DiskChanges externalChanges();
+    /** Whether the single file is another than the one last read or written here; false for a folder. */
+    [[nodiscard]] bool isBundleChangedOnDisk();
+
+    /** Backs up what the last save wrote. The timestamp is local time. */
+    [[nodiscard]] core::Result<persistence::Backup> backup(const QDateTime& timestamp) const;
 
     /** Copies a file into the project's assets; gives the path to store in the object. */
     [[nodiscard]] core::Result<QString> importAsset(const QString& sourceFile);
@@ -99,20 +117,33 @@ public:
     [[nodiscard]] core::Result<void> checkReload() const;
     /** From here on the folder is known the way it was seen. */
     void acceptDisk(persistence::DiskState seen);
-    /** The same; and the next save writes the open project over these files, which others changed. */
-    void keepOverDisk(persistence::DiskState seen, const QStringList& relativePaths);
+    /** The same for the archive of a single file. */
+    void acceptArchive(persistence::ArchiveState seen);
+    /** Has the next save write the open project over these files, which others changed. */
+    void overwriteAtNextSave(const QStringList& relativePaths);
 
 private:
-    [[nodiscard]] core::Result<void> load(const QString& folder);
+    /** A copy of the project in a folder: what is known of its files. */
+    struct SavedCopy
+    {
+        persistence::DiskState disk;
+        persistence::SavedState saved;
+    };
+
+    [[nodiscard]] core::Result<void> load(const QString& path, persistence::BundlePurpose purpose);
+    [[nodiscard]] core::Result<void> loadSingleFile(const QString& path, persistence::BundlePurpose purpose);
+    void adopt(persistence::LoadedProject project, const QString& folder);
+    [[nodiscard]] core::Result<void> saveAsFolder(const QString& folder);
+    [[nodiscard]] core::Result<void> saveAsSingleFile(const QString& bundlePath);
+    [[nodiscard]] core::Result<SavedCopy> writeCopy(const QString& folder);
+    void moveTo(const QString& folder, SavedCopy copy);
 
     const persistence::StorageEnvironment& m_environment;
     std::unique_ptr<core::project::Project> m_project;
     core::undo::UndoStack m_undoStack;
     QString m_folderPath;
-    QString m_singleFilePath;
-    /** Size and time of the single file when it was opened or last saved. */
-    qint64 m_openedFileSize = 0;
-    QDateTime m_openedFileTime;
+    std::optional<persistence::SingleFile> m_singleFile;
+    OpeningNotice m_openingNotice;
     persistence::DiskState m_openedFolderFingerprint;
     persistence::SavedState m_saved;
     persistence::AssetStamps m_assets;

@@ -114,7 +114,7 @@ void ProjectSession::startNew(const QString& name)
 
 Result<void> ProjectSession::open(const QString& folder)
 {
-    auto opened = Workspace::openFolder(m_environment, folder);
+    auto opened = Workspace::open(m_environment, folder);
     if (!opened)
         return core::Failure{opened.message()};
     replaceWorkspace(std::move(opened).value());
@@ -143,12 +143,44 @@ Result<void> ProjectSession::noteSave(Result<void> result)
 Result<void> ProjectSession::reload()
 {
     auto reloaded = m_workspace->reload();
-    if (reloaded) {
-        m_typingPending = false;
-        m_saveFailure.clear();
-        announceEverything();
-    }
+    if (reloaded)
+        announceReload();
     return reloaded;
+}
+
+void ProjectSession::announceReload()
+{
+    m_typingPending = false;
+    m_saveFailure.clear();
+    announceEverything();
+}
+
+Result<app::workspace::ExternalReview> ProjectSession::beginReview()
+{
+    commitPendingEdits();
+    return app::workspace::ExternalReview::begin(*m_workspace);
+}
+
+Result<void> ProjectSession::settle(app::workspace::ExternalReview& review, Settlement settlement)
+{
+    const auto* const before = &project();
+    const auto result = [&]() -> Result<void> {
+        switch (settlement) {
+        case Settlement::TakeTheirs:
+            return review.takeTheirs();
+        case Settlement::KeepMine:
+            return review.keepMine();
+        case Settlement::ApplyMerge:
+            return review.applyMerge();
+        }
+        Q_UNREACHABLE();
+    }();
+    // Some failures end with a reload as well.
+    if (&project() != before)
+        announceReload();
+    else
+        updateSaveState();
+    return result;
 }
 
 Result<QString> ProjectSession::importAsset(const QString& sourceFile)

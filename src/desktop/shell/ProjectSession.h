@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/workspace/ExternalReview.h"
 #include "app/workspace/Workspace.h"
 #include "core/project/ProjectChanges.h"
 #include "desktop/shell/ProjectWords.h"
@@ -17,6 +18,14 @@ enum class SaveState
     Modified,
     /** The last save failed; the project is modified all the same. */
     Failed,
+};
+
+/** The ways out of a review of others' changes; see ExternalReview. */
+enum class Settlement
+{
+    TakeTheirs,
+    KeepMine,
+    ApplyMerge,
 };
 
 /**
@@ -80,6 +89,7 @@ public:
     void commitPendingEdits();
     /** An editor holds typing that is not in the project yet, or no longer does. */
     void setTypingPending(bool pending);
+    [[nodiscard]] bool isTypingPending() const { return m_typingPending; }
 
     // Project life
 
@@ -91,6 +101,12 @@ public:
         app::persistence::SaveExtent extent = app::persistence::SaveExtent::Changed);
     [[nodiscard]] core::Result<void> saveAs(const QString& folder);
     [[nodiscard]] core::Result<void> reload();
+    /** One look at what others changed on disk. Nothing may be applied while the review is open. */
+    [[nodiscard]] core::Result<app::workspace::ExternalReview> beginReview();
+    /** Ends a review; the project may be another one afterwards. */
+    [[nodiscard]] core::Result<void> settle(app::workspace::ExternalReview& review, Settlement settlement);
+    /** Whether a single-file project's archive was changed by others. */
+    [[nodiscard]] bool isArchiveChangedOnDisk() { return m_workspace->isBundleChangedOnDisk(); }
     [[nodiscard]] core::Result<QString> importAsset(const QString& sourceFile);
 
     [[nodiscard]] bool isModified() const { return m_typingPending || m_workspace->isModified(); }
@@ -111,6 +127,7 @@ private:
     void announceChanges(const core::project::ProjectChanges& changes);
     void replaceWorkspace(std::unique_ptr<app::workspace::Workspace> workspace);
     void announceEverything();
+    void announceReload();
     void updateSaveState();
     [[nodiscard]] core::Result<void> noteSave(core::Result<void> result);
 

@@ -90,13 +90,13 @@ protected:
     QList<QByteArray> backedUp(const ContentId& id) const
     {
         QList<QByteArray> versions;
-        const QDir backups(root.filePath(u"data/backups/Low_ Water"_s));
+        const QDir backups(root.filePath(u"data/backups/project"_s));
         for (const QString& name : backups.entryList(QDir::Files, QDir::Name)) {
             QFile file(backups.filePath(name));
             EXPECT_TRUE(file.open(QIODevice::ReadOnly));
             const auto content = persistence::readBundle(file.readAll(), name);
             EXPECT_TRUE(content);
-            for (const persistence::BundleFile& entry : content.value()) {
+            for (const persistence::BundleFile& entry : content.value().files) {
                 if (entry.path == fileOf(id))
                     versions.append(entry.bytes);
             }
@@ -236,7 +236,7 @@ TEST_F(ExternalReviewTest, keptVersionOverwritesAllTheOthersDid)
     EXPECT_TRUE(workspace.isModified());
     EXPECT_EQ(backedUp(firstId).value(0), theirs);
     ASSERT_TRUE(workspace.save());
-    const auto reopened = Workspace::openFolder(environment, folder());
+    const auto reopened = Workspace::open(environment, folder());
     ASSERT_TRUE(reopened);
     EXPECT_EQ(
         persistence::serializeProject(reopened.value()->project()),
@@ -370,6 +370,87 @@ TEST_F(ExternalReviewTest, countsMediaThatOthersChanged)
     EXPECT_EQ(review.verdict(), ReviewVerdict::Unchanged);
     ASSERT_TRUE(workspace.reload());
     EXPECT_EQ(begin().changedMediaCount(), 0);
+}
+
+namespace {
+
+/** The same project as a single file, whose archive others replace. */
+class ArchiveReviewTest : public ExternalReviewTest
+{
+protected:
+    ArchiveReviewTest() { EXPECT_TRUE(workspace.saveAs(archive())); }
+
+    QString archive() const { return root.filePath(u"low-water.vellory"_s); }
+
+    /** As a co-author's program would, with a picture that they added. */
+    void replaceArchive(const ContentId& id, const QString& title, const QString& body) const
+    {
+        QFile file(archive());
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        auto content = persistence::readBundle(file.readAll(), archive());
+        ASSERT_TRUE(content);
+        QList<persistence::BundleFile> entries = content.value().files;
+        for (persistence::BundleFile& entry : entries) {
+            if (entry.path == fileOf(id))
+                entry.bytes = persistence::serializeObject(*chapter(id, title, body));
+        }
+        entries.prepend({u"assets/picture.png"_s, "picture"});
+        const auto packed = persistence::packBundle(entries);
+        ASSERT_TRUE(packed);
+        file.resize(0);
+        file.seek(0);
+        file.write(packed.value());
+    }
+
+    std::unique_ptr<Workspace> reopened() const
+    {
+        auto opened = Workspace::open(environment, archive());
+        EXPECT_TRUE(opened) << opened.message().toStdString();
+        return opened ? std::move(opened).value() : nullptr;
+    }
+};
+
+} // namespace
+
+TEST_F(ArchiveReviewTest, mergesIntoTheArchive)
+{
+    rename(firstId, u"mine"_s);
+    replaceArchive(firstId, u"Ebb"_s, u"one\nTWO"_s);
+    EXPECT_FALSE(workspace.save());
+    ExternalReview review = begin();
+    ASSERT_EQ(review.verdict(), ReviewVerdict::Mergeable);
+    ASSERT_TRUE(review.applyMerge());
+    EXPECT_EQ(titleOf(firstId), u"mine"_s);
+    EXPECT_TRUE(workspace.save());
+    const auto others = reopened();
+    EXPECT_EQ(others->project().findAs<Document>(firstId)->body().text, u"one\nTWO"_s);
+    EXPECT_EQ(others->project().findAs<Document>(firstId)->title(), u"mine"_s);
+    EXPECT_TRUE(QFile::exists(others->folderPath() + u"/assets/picture.png"_s));
+}
+
+TEST_F(ArchiveReviewTest, loadsTheFilesOwnVersionWhenItCannotBeWritten)
+{
+    rename(firstId, u"mine"_s);
+    replaceArchive(firstId, u"Ebb"_s, u"one\nTWO"_s);
+    ExternalReview review = begin();
+    files.failingReplacements[archive()] = FaultyFileSystem::always;
+    EXPECT_EQ(
+        review.applyMerge().message(),
+        u"The merged result could not be written back to the project file, so the file's own version will be "
+        u"loaded instead. Your project was backed up first."_s);
+    EXPECT_EQ(titleOf(firstId), u"Ebb"_s);
+    EXPECT_EQ(workspace.project().findAs<Document>(firstId)->body().text, u"one\nTWO"_s);
+}
+
+TEST_F(ArchiveReviewTest, keptVersionOverwritesTheArchive)
+{
+    rename(firstId, u"mine"_s);
+    replaceArchive(firstId, u"theirs"_s, u"one\ntwo"_s);
+    ExternalReview review = begin();
+    EXPECT_EQ(review.verdict(), ReviewVerdict::Conflicts);
+    ASSERT_TRUE(review.keepMine());
+    ASSERT_TRUE(workspace.save());
+    EXPECT_EQ(reopened()->project().findAs<Document>(firstId)->title(), u"mine"_s);
 }
 
 } // namespace tw::app::workspace

@@ -64,7 +64,7 @@ protected:
 
     std::unique_ptr<Workspace> open() const
     {
-        auto opened = Workspace::openFolder(environment, folder());
+        auto opened = Workspace::open(environment, folder());
         EXPECT_TRUE(opened) << opened.message().toStdString();
         return opened ? std::move(opened).value() : nullptr;
     }
@@ -333,7 +333,7 @@ TEST_F(WorkspaceTest, filesWrittenByHandAreBroughtUpByTheNextSave)
 TEST_F(WorkspaceTest, refusesWhatIsNoProjectInClearWords)
 {
     const auto messageOf = [this](const QString& path) {
-        return Workspace::openFolder(environment, path).message();
+        return Workspace::open(environment, path).message();
     };
     const QString missing = root.filePath(u"nowhere"_s);
     EXPECT_EQ(messageOf(missing), u"The project could not be found: %1"_s.arg(missing));

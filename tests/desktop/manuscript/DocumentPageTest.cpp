@@ -81,7 +81,7 @@ TEST_F(DocumentPageTest, savingTakesTheLastWordsAlong)
     type(u"Last words. "_s);
     ASSERT_TRUE(desk.session.save());
     EXPECT_FALSE(desk.session.isModified());
-    auto reopened = app::workspace::Workspace::openFolder(desk.environment, desk.folder.filePath(u"p"_s));
+    auto reopened = app::workspace::Workspace::open(desk.environment, desk.folder.filePath(u"p"_s));
     ASSERT_TRUE(reopened);
     const auto* const document = reopened.value()->project().findAs<core::document::Document>(id);
     EXPECT_TRUE(document->body().text.startsWith(u"Last words. First"_s));

@@ -1,7 +1,6 @@
 #include "app/persistence/bundle/Backup.h"
 
-#include "app/persistence/bundle/ProjectBundle.h"
-#include "app/persistence/files/ProjectFiles.h"
+#include "app/persistence/bundle/WorkingCopy.h"
 #include "app/persistence/files/SafeWriter.h"
 
 #include <QCoreApplication>
@@ -53,12 +52,9 @@ QStringList backupsOf(const QString& name, const QString& folder)
     return backups;
 }
 
-void replaceProjectFiles(QList<BundleFile>& files, const ProjectFileMap& projectFiles)
+Failure failedBackup()
 {
-    files.removeIf([](const BundleFile& file) { return isProjectFile(file.path); });
-    for (const auto& [path, bytes] : projectFiles)
-        files.append({path, bytes});
-    std::ranges::sort(files, {}, &BundleFile::path);
+    return {QCoreApplication::translate("Persistence", "Could not create a backup of the project.")};
 }
 
 int prune(FileSystem& fileSystem, const BackupRequest& request, const QString& newest)
@@ -77,23 +73,32 @@ int prune(FileSystem& fileSystem, const BackupRequest& request, const QString& n
 
 } // namespace
 
+BackupRequest backupRequest(
+    const StorageEnvironment& environment, const QString& projectPath, const QString& folder,
+    const QDateTime& timestamp)
+{
+    const QString name = safeFileName(
+        isBundlePath(projectPath) ? QFileInfo(projectPath).completeBaseName() : QDir(projectPath).dirName());
+    return {folder, environment.dataFolder + u"/backups/"_s + name, name, timestamp};
+}
+
 Result<Backup> backupProject(const StorageEnvironment& environment, const BackupRequest& request)
 {
     if (request.folder.isEmpty())
         return Failure{
             QCoreApplication::translate("Persistence", "Save the project to a folder before backing it up.")};
-    const Failure failed{
-        QCoreApplication::translate("Persistence", "Could not create a backup of the project.")};
+    const Result<QList<BundleFile>> files =
+        collectBundleFiles(environment.fileSystem, request.folder, request.backupsFolder);
+    return files ? backupFiles(environment, request, files.value()) : failedBackup();
+}
 
+Result<Backup> backupFiles(
+    const StorageEnvironment& environment, const BackupRequest& request, const QList<BundleFile>& files)
+{
     FileSystem& fileSystem = environment.fileSystem;
-    Result<QList<BundleFile>> files = collectBundleFiles(fileSystem, request.folder, request.backupsFolder);
-    if (!files)
-        return failed;
-    if (request.projectFiles)
-        replaceProjectFiles(files.value(), *request.projectFiles);
-    const Result<QByteArray> archive = packBundle(files.value());
+    const Result<QByteArray> archive = packBundle(files);
     if (!archive || !fileSystem.makeFolders(request.backupsFolder))
-        return failed;
+        return failedBackup();
 
     QDateTime timestamp = request.timestamp;
     while (QFileInfo::exists(request.backupsFolder + u'/' + fileName(request.name, timestamp)))
@@ -102,7 +107,7 @@ Result<Backup> backupProject(const StorageEnvironment& environment, const Backup
     const QString path = request.backupsFolder + u'/' + name;
     SafeWriter writer(fileSystem, environment.retryPolicy, environment.sleeper);
     if (!writer.write({path, archive.value()}) || !writer.syncFolders())
-        return failed;
+        return failedBackup();
     return Backup{path, prune(fileSystem, request, name)};
 }
 

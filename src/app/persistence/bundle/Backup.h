@@ -1,13 +1,11 @@
 #pragma once
 
 #include "app/persistence/StorageEnvironment.h"
-#include "app/persistence/codec/ProjectWriter.h"
+#include "app/persistence/bundle/ProjectBundle.h"
 #include "core/foundation/Result.h"
 
 #include <QDateTime>
 #include <QString>
-
-#include <optional>
 
 namespace tw::app::persistence {
 
@@ -21,8 +19,6 @@ struct BackupRequest
     QString name;                 ///< The project's, fit for a file name.
     QDateTime timestamp;          ///< Local time.
     qsizetype keep = backupsKept; ///< How many to keep, the new one included.
-    /** When set, what the backup holds as the project's files in place of those in the folder. */
-    std::optional<ProjectFileMap> projectFiles = {};
 };
 
 struct Backup
@@ -31,6 +27,11 @@ struct Backup
     int pruned = 0; ///< Older backups that were removed.
 };
 
+/** The request for a backup of the folder into the place where those of the project at `projectPath` go. */
+[[nodiscard]] BackupRequest backupRequest(
+    const StorageEnvironment& environment, const QString& projectPath, const QString& folder,
+    const QDateTime& timestamp);
+
 /**
  * Writes one backup, an archive like a single-file project, and removes the oldest of the same name beyond
  * those to keep. No earlier backup is ever overwritten, and none is removed unless the new one is safe.
@@ -38,5 +39,9 @@ struct Backup
  */
 [[nodiscard]] core::Result<Backup> backupProject(
     const StorageEnvironment& environment, const BackupRequest& request);
+
+/** The same with these files, whatever the folder holds. */
+[[nodiscard]] core::Result<Backup> backupFiles(
+    const StorageEnvironment& environment, const BackupRequest& request, const QList<BundleFile>& files);
 
 } // namespace tw::app::persistence

@@ -66,7 +66,7 @@ TEST_F(ProjectBundle, dependsOnNothingButVisibleFiles)
     const auto files = readBundle(first, bundle());
     ASSERT_TRUE(files.isOk()) << files.message().toStdString();
     QStringList paths;
-    for (const BundleFile& file : files.value())
+    for (const BundleFile& file : files.value().files)
         paths.append(file.path);
     EXPECT_EQ(
         paths.join(u' '), u"assets/h\u00E4fen/map.png notes.md objects/B.json objects/b.json project.json"_s);
