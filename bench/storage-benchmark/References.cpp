@@ -1,5 +1,9 @@
 #include "bench/storage-benchmark/References.h"
 
+#include "app/persistence/zip/ZipWriter.h"
+
+#include <QBuffer>
+#include <QCryptographicHash>
 #include <QDirIterator>
 #include <QFile>
 #include <QSaveFile>
@@ -68,6 +72,24 @@ void writeWithSaveFile(const QString& path, const QByteArray& bytes)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
         giveUp(u"Cannot write "_s + path);
+}
+
+void packEvery(const QString& folder, const QString& path)
+{
+    QByteArray archive;
+    QBuffer buffer(&archive);
+    buffer.open(QIODevice::WriteOnly);
+    app::persistence::ZipWriter writer(buffer);
+    for (const QString& file : filesBelow(folder)) {
+        const QString name = file.sliced(folder.size() + 1);
+        if (!writer.add(name, readWhole(file), app::persistence::ZipMethod::Stored))
+            giveUp(u"Cannot pack "_s + file);
+    }
+    if (!writer.finish())
+        giveUp(u"Cannot pack "_s + folder);
+    writeWithSaveFile(path, archive);
+    const QByteArray hash = QCryptographicHash::hash(archive, QCryptographicHash::Sha256);
+    writeWithSaveFile(path + u".sha256"_s, hash.toHex());
 }
 
 } // namespace tw::bench

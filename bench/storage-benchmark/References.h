@@ -26,6 +26,9 @@ void parseEvery(const QStringList& paths);
 /** One QSaveFile, which has the bytes reach the medium before it takes the file's place. */
 void writeWithSaveFile(const QString& path, const QByteArray& bytes);
 
+/** Packs all files below a folder into an archive at the path, one after another, and takes its hash. */
+void packEvery(const QString& folder, const QString& path);
+
 [[nodiscard]] QByteArray readWhole(const QString& path);
 
 /** Prints why the benchmark cannot go on, and ends it. */

@@ -1,4 +1,5 @@
 #include "bench/ProjectGenerator.h"
+#include "bench/storage-benchmark/BundleBenchmark.h"
 #include "bench/storage-benchmark/References.h"
 #include "bench/storage-benchmark/ResidentMemory.h"
 #include "bench/storage-benchmark/StorageBenchmark.h"
@@ -27,7 +28,7 @@ bool measuresResidentGrowth(const QStringList& arguments)
 
 } // namespace
 
-/** Prints how the program's handling of project folders compares; 1 when an aim is missed. */
+/** Prints how the program's handling of projects on disk compares; 1 when an aim is missed. */
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
@@ -35,7 +36,7 @@ int main(int argc, char** argv)
         return 0;
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Measures opening, checking and saving generated project folders."_s);
+    parser.setApplicationDescription(u"Measures opening, checking and saving generated projects."_s);
     parser.addHelpOption();
     const QCommandLineOption objects(
         u"objects"_s, u"Number of objects; may be given several times."_s, u"count"_s);
@@ -54,6 +55,8 @@ int main(int argc, char** argv)
         if (size.toInt() < tw::bench::fewestObjects || parser.value(repetitions).toInt() < 1)
             parser.showHelp(2);
         tw::bench::StorageBenchmark(parser.value(folder), size.toInt(), parser.value(repetitions).toInt())
+            .run(table);
+        tw::bench::BundleBenchmark(parser.value(folder), size.toInt(), parser.value(repetitions).toInt())
             .run(table);
     }
     return table.areAimsReached() ? 0 : 1;

@@ -37,7 +37,7 @@ public:
         matchWithIndex(std::move(listed).value());
         const bool isVouchedFor = std::ranges::all_of(m_files, &File::isVouchedFor);
         if (isVouchedFor && m_files.size() == m_index.size())
-            return BundleUpdate{{}, newIndex()};
+            return BundleUpdate{{}, newIndex(), {}};
 
         m_present = presentArchive();
         if (auto read = readFiles([](const File& file) { return !file.isVouchedFor; }); !read)
@@ -45,7 +45,7 @@ public:
         const bool isSame = m_files.size() == m_index.size() &&
                             std::ranges::all_of(m_files, [this](const File& file) { return isKept(file); });
         if (isSame)
-            return BundleUpdate{{}, newIndex()};
+            return BundleUpdate{{}, newIndex(), {}};
         return pack();
     }
 
@@ -150,7 +150,12 @@ private:
             return Failure{packed.message()};
         for (std::size_t index = 0; index < m_files.size(); ++index)
             m_files[index].place.offset = packed.value().offsets[index];
-        return BundleUpdate{std::move(packed.value().archive), newIndex()};
+        QStringList fresh;
+        for (const File& file : m_files) {
+            if (!isKept(file))
+                fresh.append(file.listed.path);
+        }
+        return BundleUpdate{std::move(packed.value().archive), newIndex(), std::move(fresh)};
     }
 
     /** What is read has the stamp from before the reading, the rest the one that vouched for it. */

@@ -4,6 +4,8 @@
 #include "app/persistence/bundle/ProjectBundle.h"
 #include "core/foundation/Result.h"
 
+#include <QStringList>
+
 #include <functional>
 #include <vector>
 
@@ -27,6 +29,8 @@ struct BundleUpdate
     /** The archive of the folder as it is now, or null when the present one holds the same files. */
     QByteArray archive;
     BundleIndex index;
+    /** The files that are not in the present archive as they are now. */
+    QStringList freshFiles;
 };
 
 /**

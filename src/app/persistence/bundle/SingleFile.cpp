@@ -1,6 +1,7 @@
 #include "app/persistence/bundle/SingleFile.h"
 
 #include "app/persistence/FolderSaver.h"
+#include "app/persistence/files/ProjectFiles.h"
 
 #include <future>
 
@@ -8,6 +9,24 @@ namespace tw::app::persistence {
 
 using core::Failure;
 using core::Result;
+
+namespace {
+
+/**
+ * Assets are copied without waiting for the medium. Before the archive counts as saved from the working copy,
+ * they have to be there: after a loss of power, a copy with half an asset would look like unsaved work.
+ * What cannot be synced, as a file that is read-only, is in the archive all the same.
+ */
+void syncOtherFiles(FileSystem& fileSystem, const QString& folder, QStringList paths)
+{
+    paths.removeIf([](const QString& path) { return isProjectFile(path); });
+    if (paths.isEmpty() || fileSystem.syncFileSystem(folder))
+        return;
+    for (const QString& path : std::as_const(paths))
+        static_cast<void>(fileSystem.syncFile(folder + u'/' + path));
+}
+
+} // namespace
 
 SingleFile::SingleFile(const StorageEnvironment& environment, WorkingCopy copy)
     : m_environment(&environment)
@@ -53,6 +72,7 @@ Result<void> SingleFile::writeArchiveOf(const QString& folder)
         m_known->index = std::move(update.value().index);
         return {};
     }
+    syncOtherFiles(m_environment->fileSystem, folder, update.value().freshFiles);
     // Computing the hash of a large archive takes as long as the medium takes for its bytes.
     std::future<QByteArray> hash = std::async(std::launch::async, [archive] { return bundleHash(archive); });
     const Result<void> written = writeArchive(*m_environment, {path(), archive}, [this](qsizetype) {

@@ -117,6 +117,14 @@ bool syncContent(int file)
 #endif
 }
 
+/** Has the bytes begin their way to the medium, where the system can do that without waiting for them. */
+void startWriting([[maybe_unused]] int file)
+{
+#ifdef Q_OS_LINUX
+    static_cast<void>(::sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE));
+#endif
+}
+
 /** Opens a new file in the target's folder and puts its path into `path`. */
 Descriptor createBeside(const QString& target, QString& path)
 {
@@ -411,9 +419,12 @@ std::optional<QString> writeTemporary(const QString& target, const QByteArray& b
     Descriptor file = createBeside(target, path);
     if (!file.isOpen())
         return std::nullopt;
-    const bool isDone = (!replaces || ::fchmod(file.number(), existing.st_mode & permissionBits) == 0) &&
-                        writeAll(file.number(), bytes) &&
-                        (durability == Durability::Cached || syncContent(file.number()));
+    bool isDone = (!replaces || ::fchmod(file.number(), existing.st_mode & permissionBits) == 0) &&
+                  writeAll(file.number(), bytes);
+    if (isDone && durability == Durability::Cached)
+        startWriting(file.number());
+    else if (isDone)
+        isDone = syncContent(file.number());
     if (file.close() && isDone)
         return path;
     ::unlink(QFile::encodeName(path).constData());

@@ -17,11 +17,9 @@ namespace {
 
 /** Temporary files that may lie beside their targets at any time. */
 constexpr qsizetype filesInAChunk = 1024;
-/** From so many files on, one wait for everything on the medium is shorter than one for each of them. */
-constexpr qsizetype filesSyncedTogether = 16;
 constexpr qsizetype filesOfAThread = 16;
 /** More than there are processors: they wait for the medium. */
-constexpr int syncingThreads = 8;
+constexpr int syncingThreads = 4;
 
 } // namespace
 
@@ -48,9 +46,7 @@ public:
             for (auto index = static_cast<std::size_t>(begin); index < static_cast<std::size_t>(end); ++index)
                 m_temporaries[index] = m_writer.prepare(m_files[index], Durability::Cached);
         });
-        const bool isTogether = std::ssize(files) >= filesSyncedTogether;
-        if (!isTogether || !m_writer.m_fileSystem.syncFileSystem(QFileInfo(files.front().path).path()))
-            syncEach();
+        syncEach();
     }
 
     ~Chunk()
@@ -71,6 +67,7 @@ public:
     }
 
 private:
+    /** By now most of the bytes are on their way, and the first sync takes the names of all files along. */
     void syncEach()
     {
         QThreadPool pool;

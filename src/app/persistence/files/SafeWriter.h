@@ -30,7 +30,8 @@ struct BatchOutcome
  * again by the policy.
  *
  * Belongs to the thread that made it. A batch goes chunk by chunk: the temporary files are written on several
- * threads, reach the medium together, and are put in place one after another on the calling thread.
+ * threads, then waited for until they are on the medium, then put in place one after another on the calling
+ * thread. Waiting for a file that others were written after costs little: the system took those along.
  */
 class SafeWriter
 {

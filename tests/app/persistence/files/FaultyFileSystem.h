@@ -31,6 +31,8 @@ public:
     bool syncsTogether = true;
     /** The medium is full after so many bytes. */
     qint64 bytesLeft = std::numeric_limits<qint64>::max();
+    /** It takes so many more files. */
+    int writesLeft = always;
 
     [[nodiscard]] int writes() const { return m_writes; }
     [[nodiscard]] int mostTemporaries() const { return m_mostTemporaries; }
@@ -49,8 +51,10 @@ public:
         {
             const QMutexLocker lock(&m_mutex);
             ++m_writes;
-            if (fails(failingWrites, target) || bytesLeft < bytes.size())
+            if (fails(failingWrites, target) || bytesLeft < bytes.size() || writesLeft == 0)
                 return std::nullopt;
+            if (writesLeft != always)
+                --writesLeft;
             bytesLeft -= bytes.size();
             m_mostTemporaries = std::max(m_mostTemporaries, ++m_temporaries);
         }

@@ -151,7 +151,6 @@ TEST_F(SafeWriterTest, stopsAtTheFirstFailureWhereverItHappens)
          }},
         {"sync",
          [&](FaultyFileSystem& files) {
-             files.syncsTogether = false;
              files.failingSyncs = {{brokenPath, files.always}};
          }},
         {"replace",
@@ -196,7 +195,6 @@ TEST_F(SafeWriterTest, outlastsBriefLocksAndKeepsFilesWholeOnAFullMedium)
     m_files.failingWrites = {{locked.at(4).path, 3}, {locked.at(9).path, 4}};
     m_files.failingReplacements = {{locked.at(4).path, 4}};
     m_files.failingSyncs = {{locked.at(7).path, 4}};
-    m_files.syncsTogether = false;
     EXPECT_TRUE(writer().writeAll(locked).result);
     expectCommitted(locked, locked.size());
 
