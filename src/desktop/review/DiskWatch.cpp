@@ -104,17 +104,20 @@ void DiskWatch::look()
 void DiskWatch::finish(const Look& look)
 {
     m_isLooking = false;
-    const app::workspace::Workspace& workspace = m_session.workspace();
-    if (workspace.folderPath() != look.folder)
+    if (m_session.workspace().folderPath() != look.folder)
         return;
+    const qsizetype archives = m_session.isArchiveChangedOnDisk() ? 1 : 0;
+    emit looked({stillChanged(look) + archives, look.media});
+}
+
+qsizetype DiskWatch::stillChanged(const Look& look) const
+{
+    if (look.files.isEmpty() || look.files.size() > looksTwice)
+        return look.files.size();
     // What was saved or read anew meanwhile was found by mistake.
-    app::persistence::DiskState known = workspace.diskState();
-    const auto isStillChanged = [&](const QString& path) { return !known.isUnchanged(look.folder, path); };
-    const qsizetype files = look.files.size() > looksTwice
-                                ? look.files.size()
-                                : std::ranges::count_if(look.files, isStillChanged);
-    const qsizetype archive = m_session.isArchiveChangedOnDisk() ? 1 : 0;
-    emit looked({files + archive, look.media});
+    app::persistence::DiskState known = m_session.workspace().diskState();
+    return std::ranges::count_if(
+        look.files, [&](const QString& path) { return !known.isUnchanged(look.folder, path); });
 }
 
 } // namespace tw::desktop::review

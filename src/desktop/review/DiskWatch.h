@@ -46,6 +46,7 @@ private:
     void follow(const QString& folder);
     void look();
     void finish(const Look& look);
+    [[nodiscard]] qsizetype stillChanged(const Look& look) const;
 
     shell::ProjectSession& m_session;
     QFileSystemWatcher m_watcher;

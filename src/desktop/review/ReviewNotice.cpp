@@ -10,6 +10,12 @@ namespace tw::desktop::review {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr int leastCharacters = 16;
+
+} // namespace
+
 ReviewNotice::ReviewNotice(const icons::IconSet& icons, QWidget* parent)
     : QWidget(parent)
     , m_text(new QLabel(this))
@@ -27,6 +33,8 @@ ReviewNotice::ReviewNotice(const icons::IconSet& icons, QWidget* parent)
     layout->addWidget(m_text);
     layout->addWidget(button);
     connect(button, &QToolButton::clicked, this, &ReviewNotice::reviewRequested);
+    // A narrow window cuts the text, not the button.
+    m_text->setMinimumWidth(fontMetrics().averageCharWidth() * leastCharacters);
     hide();
 }
 

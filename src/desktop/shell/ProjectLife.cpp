@@ -110,7 +110,7 @@ void ProjectLife::save()
 bool ProjectLife::saveOrTell(SaveExtent extent)
 {
     auto saved = m_desk.session.save(extent);
-    if (saved.message() == app::persistence::changedOnDiskFailure().message) {
+    if (!saved && m_desk.session.isChangedOnDisk()) {
         if (!m_externalChanges->settleForSave())
             return false;
         saved = m_desk.session.save(extent);

@@ -161,6 +161,11 @@ Result<app::workspace::ExternalReview> ProjectSession::beginReview()
     return app::workspace::ExternalReview::begin(*m_workspace);
 }
 
+bool ProjectSession::isChangedOnDisk()
+{
+    return isArchiveChangedOnDisk() || !m_workspace->externalChanges().isEmpty();
+}
+
 Result<void> ProjectSession::settle(app::workspace::ExternalReview& review, Settlement settlement)
 {
     const auto* const before = &project();

@@ -105,6 +105,8 @@ public:
     [[nodiscard]] core::Result<app::workspace::ExternalReview> beginReview();
     /** Ends a review; the project may be another one afterwards. */
     [[nodiscard]] core::Result<void> settle(app::workspace::ExternalReview& review, Settlement settlement);
+    /** Whether others changed the project, so that a save would be refused. */
+    [[nodiscard]] bool isChangedOnDisk();
     /** Whether a single-file project's archive was changed by others. */
     [[nodiscard]] bool isArchiveChangedOnDisk() { return m_workspace->isBundleChangedOnDisk(); }
     [[nodiscard]] core::Result<QString> importAsset(const QString& sourceFile);
