@@ -40,6 +40,24 @@ QString nameOfPlace(const QString& path)
     return isSingleFile(path) ? QFileInfo(path).completeBaseName() : QDir(path).dirName();
 }
 
+persistence::SavedState savedStateOf(const std::vector<persistence::LoadedFile>& files)
+{
+    persistence::SavedState saved;
+    for (const persistence::LoadedFile& file : files) {
+        if (!file.hasOwnName) {
+            saved.strayFiles.append(file.relativePath);
+        } else if (!file.objectId.isNull()) {
+            // A file that we would write differently counts as not saved, so that the next save brings it up.
+            saved.revisions.emplace_hint(
+                saved.revisions.end(), file.objectId,
+                file.isCanonical ? file.revision : persistence::neverSaved);
+        } else if (!file.categoryId.isNull()) {
+            saved.categories.insert(file.categoryId);
+        }
+    }
+    return saved;
+}
+
 /** Without a working copy, since nobody writes to a library. */
 Result<persistence::LoadedProject> loadLibrary(persistence::FileSystem& fileSystem, const QString& path)
 {
@@ -125,22 +143,11 @@ void Workspace::adopt(persistence::LoadedProject project, const QString& folder)
     m_project = std::move(project.project);
     m_folderPath = folder;
     m_openedFolderFingerprint.clear();
-    m_saved = {};
+    m_saved = savedStateOf(project.files);
     m_fullSaveDue = false;
     m_openedFolderFingerprint.reserve(std::ssize(project.files));
-    for (persistence::LoadedFile& file : project.files) {
-        if (!file.hasOwnName) {
-            m_saved.strayFiles.append(file.relativePath);
-        } else if (!file.objectId.isNull()) {
-            // A file that we would write differently counts as not saved, so that the next save brings it up.
-            m_saved.revisions.emplace_hint(
-                m_saved.revisions.end(), file.objectId,
-                file.isCanonical ? file.revision : persistence::neverSaved);
-        } else if (!file.categoryId.isNull()) {
-            m_saved.categories.insert(file.categoryId);
-        }
+    for (persistence::LoadedFile& file : project.files)
         m_openedFolderFingerprint.record(file.relativePath, std::move(file.bytes), file.stamp);
-    }
     for (const QString& relativePath : project.otherFiles)
         m_openedFolderFingerprint.recordFile(folder, relativePath);
     m_openedFolderFingerprint.rememberNames(std::move(project.listing));
@@ -148,6 +155,41 @@ void Workspace::adopt(persistence::LoadedProject project, const QString& folder)
     static_cast<void>(m_project->takeChanges());
     m_undoStack.setClean();
     reloadLibraries();
+}
+
+Result<void> Workspace::restoreUnsaved(const std::map<QString, persistence::FileVersion>& files)
+{
+    persistence::ProjectFileMap all;
+    for (const QString& path : m_openedFolderFingerprint.paths()) {
+        if (persistence::isProjectFile(path))
+            all.emplace(path, m_openedFolderFingerprint.bytes(path));
+    }
+    for (const auto& [path, bytes] : files) {
+        if (bytes)
+            all.insert_or_assign(path, *bytes);
+        else
+            all.erase(path);
+    }
+    auto parsed = persistence::parseProject(all);
+    if (!parsed)
+        return Failure{parsed.message()};
+    persistence::LoadedProject project = std::move(parsed).value();
+    persistence::SavedState saved = savedStateOf(project.files);
+    for (const persistence::LoadedFile& file : project.files) {
+        if (!file.objectId.isNull() && files.contains(file.relativePath))
+            saved.revisions.insert_or_assign(file.objectId, persistence::neverSaved);
+    }
+    // What is on disk and not in the project is what the next save removes.
+    saved.revisions.merge(m_saved.revisions);
+    saved.categories.merge(m_saved.categories);
+
+    m_undoStack.clear();
+    m_project = std::move(project.project);
+    m_saved = std::move(saved);
+    static_cast<void>(m_project->takeChanges());
+    m_undoStack.markModified();
+    reloadLibraries();
+    return {};
 }
 
 Result<void> Workspace::save(SaveExtent extent)

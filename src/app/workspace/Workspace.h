@@ -7,6 +7,7 @@
 #include "app/persistence/bundle/Backup.h"
 #include "app/persistence/bundle/OpenBundle.h"
 #include "app/persistence/bundle/SingleFile.h"
+#include "app/persistence/journal/JournalFile.h"
 #include "app/workspace/MountedLibrary.h"
 #include "app/workspace/OpeningNotice.h"
 #include "core/foundation/Result.h"
@@ -16,6 +17,7 @@
 #include <QDateTime>
 #include <QString>
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -96,6 +98,12 @@ public:
 
     /** Backs up what the last save wrote. The timestamp is local time. */
     [[nodiscard]] core::Result<persistence::Backup> backup(const QDateTime& timestamp) const;
+
+    /**
+     * Gives project files another content in memory, as edits that are not saved yet: what a crash left. The
+     * history is lost. Fails, with nothing changed, when the project cannot be read with them.
+     */
+    [[nodiscard]] core::Result<void> restoreUnsaved(const std::map<QString, persistence::FileVersion>& files);
 
     /** Copies a file into the project's assets; gives the path to store in the object. */
     [[nodiscard]] core::Result<QString> importAsset(const QString& sourceFile);

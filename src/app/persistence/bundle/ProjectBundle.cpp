@@ -1,5 +1,7 @@
 #include "app/persistence/bundle/ProjectBundle.h"
 
+#include "app/persistence/bundle/FreshFiles.h"
+#include "app/persistence/bundle/Sha256.h"
 #include "app/persistence/files/FolderScan.h"
 #include "app/persistence/files/ParallelFor.h"
 #include "app/persistence/files/ProjectFiles.h"
@@ -11,7 +13,6 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
@@ -226,7 +227,7 @@ Result<FileContent> readArchive(FileSystem& fileSystem, const QString& bundlePat
 
 QByteArray bundleHash(const QByteArray& archive)
 {
-    return QCryptographicHash::hash(archive, QCryptographicHash::Sha256).toHex();
+    return sha256(archive).toHex();
 }
 
 Result<BundleContents> readBundle(QByteArrayView archive, const QString& bundlePath)
@@ -300,14 +301,11 @@ Result<void> unpackBundle(
         writes.append({path, file.bytes});
     }
 
-    SafeWriter writer(environment.fileSystem, environment.retryPolicy, environment.sleeper);
-    const BatchOutcome outcome = writer.writeAll(writes);
-    constexpr const char* unwritable = QT_TRANSLATE_NOOP("Persistence", "Could not write a project file: %1");
-    if (!outcome.result)
-        return failure(unwritable, writes.at(outcome.committed).path);
-    if (!writer.syncFolders())
-        return failure(unwritable, folder);
-    return {};
+    const BatchOutcome outcome = writeFreshFiles(environment, folder, writes);
+    if (outcome.result)
+        return {};
+    const QString unwritten = writes.isEmpty() ? folder : writes.at(outcome.committed).path;
+    return failure(QT_TRANSLATE_NOOP("Persistence", "Could not write a project file: %1"), unwritten);
 }
 
 Result<void> extractBundle(

@@ -63,12 +63,13 @@ Result<void> SingleFile::writeArchiveOf(const QString& folder)
         std::optional<FileContent> archive = m_environment->fileSystem.readFile(path());
         return archive && archive->stamp == m_known->stamp ? std::move(archive->bytes) : QByteArray();
     };
+    const BundleIndex none;
     Result<BundleUpdate> update =
-        updateBundle(*m_environment, folder, m_known ? m_known->index : BundleIndex(), presentArchive);
+        updateBundle(*m_environment, folder, m_known ? m_known->index : none, presentArchive);
     if (!update)
         return Failure{update.message()};
     const QByteArray& archive = update.value().archive;
-    if (archive.isNull()) {
+    if (m_known && archive.isNull()) {
         m_known->index = std::move(update.value().index);
         return {};
     }
