@@ -136,6 +136,7 @@ DiskChanges DiskState::changesIn(const QString& folder)
     FolderScan scan = scanFolder(folder, ScannedFiles::Text, m_lastScan);
     DiskChanges changes;
     changes.leftovers = scan.leftovers;
+    changes.unreadableFolders = scan.unreadableFolders;
     std::vector<bool> isVouched(scan.files.size(), false);
     for (std::size_t index = 0; index < scan.files.size(); ++index) {
         const ScannedFile& file = scan.files[index];

@@ -31,6 +31,8 @@ struct DiskChanges
     QStringList changed;
     /** The temporary files of saves, anywhere in the folder; these are no changes. */
     QStringList leftovers;
+    /** Folders that could not be read; what is missing there need not have been removed. */
+    QStringList unreadableFolders;
 
     [[nodiscard]] bool isEmpty() const { return added.isEmpty() && removed.isEmpty() && changed.isEmpty(); }
 };
@@ -43,7 +45,8 @@ struct DiskChanges
  * it was taken: a file changed twice within the clock's resolution keeps its stamp. Any other file is read
  * and compared, so a touched time or an identical rewrite is no change.
  *
- * Belongs to the main thread. The file system must outlive it.
+ * Belongs to one thread; a copy is independent and cheap, and may check the folder on another one. The file
+ * system must outlive it.
  */
 class DiskState
 {

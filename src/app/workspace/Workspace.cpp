@@ -151,6 +151,7 @@ void Workspace::adopt(persistence::LoadedProject project, const QString& folder)
     for (const QString& relativePath : project.otherFiles)
         m_openedFolderFingerprint.recordFile(folder, relativePath);
     m_openedFolderFingerprint.rememberNames(std::move(project.listing));
+    m_assets.record(folder);
     static_cast<void>(m_project->takeChanges());
     m_undoStack.setClean();
     reloadLibraries();
@@ -214,6 +215,7 @@ Result<void> Workspace::save(SaveExtent extent)
             return recorded;
     }
     m_fullSaveDue = extent == SaveExtent::Changed;
+    m_assets.record(m_folderPath);
     m_undoStack.setClean();
     return {};
 }
@@ -299,11 +301,12 @@ void Workspace::moveTo(const QString& folder, SavedCopy copy)
     m_openedFolderFingerprint = std::move(copy.disk);
     m_saved = std::move(copy.saved);
     m_fullSaveDue = false;
+    m_assets.record(folder);
     m_openingNotice = {};
     m_undoStack.setClean();
 }
 
-Result<void> Workspace::reload()
+Result<void> Workspace::checkReload() const
 {
     if (!hasPath())
         return Failure{
@@ -313,8 +316,46 @@ Result<void> Workspace::reload()
             "Workspace",
             "The project cannot be read anew while a change is under way. Try again in a moment."))};
     }
+    return {};
+}
+
+Result<void> Workspace::reload()
+{
+    if (auto possible = checkReload(); !possible)
+        return possible;
     const QString path = displayPath();
     return load(path, BundlePurpose::Reload);
+}
+
+void Workspace::acceptDisk(persistence::DiskState seen)
+{
+    m_openedFolderFingerprint = std::move(seen);
+}
+
+void Workspace::acceptArchive(persistence::ArchiveState seen)
+{
+    m_singleFile = persistence::SingleFile(m_environment, m_singleFile->workingCopy(), std::move(seen));
+}
+
+void Workspace::overwriteAtNextSave(const QStringList& relativePaths)
+{
+    for (const QString& path : relativePaths) {
+        const bool isObject = persistence::isJsonFileIn(persistence::objectsFolder, path);
+        const bool isCategory = persistence::isJsonFileIn(persistence::taxonomyFolder, path);
+        if (!isObject && !isCategory)
+            continue;
+        const QString name = QFileInfo(path).completeBaseName();
+        const auto objectId = core::ContentId::fromString(name);
+        const auto categoryId = core::CategoryId::fromString(name);
+        // Files that are known and hold nothing of the project are removed by the next save.
+        if (isObject && persistence::objectPath(objectId) == path)
+            m_saved.revisions.insert_or_assign(objectId, persistence::neverSaved);
+        else if (isCategory && persistence::categoryPath(categoryId) == path)
+            m_saved.categories.insert(categoryId);
+        else if (!m_saved.strayFiles.contains(path))
+            m_saved.strayFiles.append(path);
+    }
+    markModified();
 }
 
 persistence::DiskChanges Workspace::externalChanges()
@@ -340,6 +381,8 @@ Result<persistence::Backup> Workspace::backup(const QDateTime& timestamp) const
 Result<QString> Workspace::importAsset(const QString& sourceFile)
 {
     auto imported = persistence::importAsset(m_folderPath, sourceFile);
+    if (imported)
+        m_assets.recordFile(m_folderPath, imported.value());
     if (imported && persistence::isTextFile(imported.value())) {
         // Our own write never counts as somebody else's.
         const QString path = m_folderPath + u'/' + imported.value();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/persistence/AssetStamps.h"
 #include "app/persistence/DiskState.h"
 #include "app/persistence/FolderSaver.h"
 #include "app/persistence/StorageEnvironment.h"
@@ -114,6 +115,21 @@ public:
     /** Reads the mounted libraries anew, after the list of mounts changed. */
     void reloadLibraries();
 
+    // For a review of what others changed
+
+    [[nodiscard]] const persistence::StorageEnvironment& environment() const { return m_environment; }
+    /** What the project's text files looked like when they were last read or written here. */
+    [[nodiscard]] const persistence::DiskState& diskState() const { return m_openedFolderFingerprint; }
+    [[nodiscard]] const persistence::AssetStamps& assetStamps() const { return m_assets; }
+    /** Whether reload() would be refused before it reads anything. */
+    [[nodiscard]] core::Result<void> checkReload() const;
+    /** From here on the folder is known the way it was seen. */
+    void acceptDisk(persistence::DiskState seen);
+    /** The same for the archive of a single file. */
+    void acceptArchive(persistence::ArchiveState seen);
+    /** Has the next save write the open project over these files, which others changed. */
+    void overwriteAtNextSave(const QStringList& relativePaths);
+
 private:
     /** A copy of the project in a folder: what is known of its files. */
     struct SavedCopy
@@ -138,6 +154,7 @@ private:
     OpeningNotice m_openingNotice;
     persistence::DiskState m_openedFolderFingerprint;
     persistence::SavedState m_saved;
+    persistence::AssetStamps m_assets;
     bool m_fullSaveDue = false;
     std::vector<MountedLibrary> m_libraries;
     QStringList m_libraryNotices;

@@ -4,6 +4,8 @@
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
+#include "desktop/review/ExternalChanges.h"
+#include "desktop/review/ReviewNotice.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
@@ -78,6 +80,7 @@ void MainWindow::followLife()
     connect(m_life, &ProjectLife::openFailed, this, &MainWindow::showCenter);
     connect(m_life, &ProjectLife::placeChanged, this, &MainWindow::refreshTitle);
     connect(m_life, &ProjectLife::said, this, &MainWindow::say);
+    statusBar()->insertPermanentWidget(0, m_life->externalChanges().notice());
     connect(m_welcome, &WelcomePage::newRequested, m_life, &ProjectLife::startNew);
     connect(m_welcome, &WelcomePage::openRequested, m_life, &ProjectLife::chooseAndOpen);
     connect(m_welcome, &WelcomePage::sampleRequested, m_life, &ProjectLife::openSample);

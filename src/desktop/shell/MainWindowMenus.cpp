@@ -5,6 +5,7 @@
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/review/ExternalChanges.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/ProjectSession.h"
@@ -121,6 +122,9 @@ void MainWindow::buildFileMenu()
             menu, Icon::Export, tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
             [this] { m_life->saveAs(); }),
         addAction(menu, Icon::Refresh, tr("Read Anew from &Disk"), {}, [this] { m_life->reload(); }),
+        addAction(
+            menu, Icon::Search, tr("&Check for External Changes…"), {},
+            [this] { m_life->externalChanges().check(); }),
     };
     menu.addSeparator();
     addAction(menu, Icon::Close, tr("&Quit"), QKeySequence::Quit, [this] { close(); });

@@ -1,5 +1,6 @@
 #include "desktop/shell/ProjectLife.h"
 
+#include "desktop/review/ExternalChanges.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/Questions.h"
 #include "desktop/shell/RecentProjects.h"
@@ -29,7 +30,10 @@ ProjectLife::ProjectLife(const DeskContext& desk, QString samplePath, QWidget* w
     , m_desk(desk)
     , m_samplePath(std::move(samplePath))
     , m_window(window)
-{}
+    , m_externalChanges(new review::ExternalChanges(desk, window))
+{
+    connect(m_externalChanges, &review::ExternalChanges::said, this, &ProjectLife::said);
+}
 
 bool ProjectLife::open(const QString& path)
 {
@@ -105,7 +109,12 @@ void ProjectLife::save()
 
 bool ProjectLife::saveOrTell(SaveExtent extent)
 {
-    const auto saved = m_desk.session.save(extent);
+    auto saved = m_desk.session.save(extent);
+    if (!saved && m_desk.session.isChangedOnDisk()) {
+        if (!m_externalChanges->settleForSave())
+            return false;
+        saved = m_desk.session.save(extent);
+    }
     if (saved)
         emit said(tr("Saved."));
     else

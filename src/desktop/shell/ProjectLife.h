@@ -8,6 +8,10 @@
 
 class QWidget;
 
+namespace tw::desktop::review {
+class ExternalChanges;
+}
+
 namespace tw::desktop::shell {
 
 /**
@@ -22,6 +26,9 @@ public:
     /** `samplePath` is empty when no sample is installed. Boxes appear above the window, which is the parent.
      */
     ProjectLife(const DeskContext& desk, QString samplePath, QWidget* window);
+
+    /** What is done about changes that others make to the open project. */
+    [[nodiscard]] review::ExternalChanges& externalChanges() { return *m_externalChanges; }
 
     /** Asks first when something is unsaved; a failure is told, and the open project stays. */
     bool open(const QString& path);
@@ -56,6 +63,7 @@ private:
     DeskContext m_desk;
     QString m_samplePath;
     QWidget* m_window;
+    review::ExternalChanges* m_externalChanges;
 };
 
 } // namespace tw::desktop::shell

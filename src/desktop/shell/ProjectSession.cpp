@@ -192,11 +192,8 @@ Result<void> ProjectSession::noteSave(Result<void> result)
 Result<void> ProjectSession::reload()
 {
     auto reloaded = m_workspace->reload();
-    if (reloaded) {
-        m_typingPending = false;
-        m_saveFailure.clear();
-        announceEverything();
-    }
+    if (reloaded)
+        announceReload();
     return reloaded;
 }
 
@@ -206,6 +203,46 @@ Result<void> ProjectSession::restoreUnsaved(const std::map<QString, app::persist
     if (restored)
         announceEverything();
     return restored;
+}
+
+void ProjectSession::announceReload()
+{
+    m_typingPending = false;
+    m_saveFailure.clear();
+    announceEverything();
+}
+
+Result<app::workspace::ExternalReview> ProjectSession::beginReview()
+{
+    commitPendingEdits();
+    return app::workspace::ExternalReview::begin(*m_workspace);
+}
+
+bool ProjectSession::isChangedOnDisk()
+{
+    return isArchiveChangedOnDisk() || !m_workspace->externalChanges().isEmpty();
+}
+
+Result<void> ProjectSession::settle(app::workspace::ExternalReview& review, Settlement settlement)
+{
+    const auto* const before = &project();
+    const auto result = [&]() -> Result<void> {
+        switch (settlement) {
+        case Settlement::TakeTheirs:
+            return review.takeTheirs();
+        case Settlement::KeepMine:
+            return review.keepMine();
+        case Settlement::ApplyMerge:
+            return review.applyMerge();
+        }
+        Q_UNREACHABLE();
+    }();
+    // Some failures end with a reload as well.
+    if (&project() != before)
+        announceReload();
+    else
+        updateSaveState();
+    return result;
 }
 
 Result<QString> ProjectSession::importAsset(const QString& sourceFile)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/persistence/AutosaveController.h"
+#include "app/workspace/ExternalReview.h"
 #include "app/workspace/Workspace.h"
 #include "core/project/ProjectChanges.h"
 #include "desktop/shell/ProjectWords.h"
@@ -33,6 +34,14 @@ enum class SaveState
     Modified,
     /** The last save failed; the project is modified all the same. */
     Failed,
+};
+
+/** The ways out of a review of others' changes; see ExternalReview. */
+enum class Settlement
+{
+    TakeTheirs,
+    KeepMine,
+    ApplyMerge,
 };
 
 /**
@@ -110,6 +119,14 @@ public:
         app::persistence::SaveExtent extent = app::persistence::SaveExtent::Changed);
     [[nodiscard]] core::Result<void> saveAs(const QString& folder);
     [[nodiscard]] core::Result<void> reload();
+    /** One look at what others changed on disk. Nothing may be applied while the review is open. */
+    [[nodiscard]] core::Result<app::workspace::ExternalReview> beginReview();
+    /** Ends a review; the project may be another one afterwards. */
+    [[nodiscard]] core::Result<void> settle(app::workspace::ExternalReview& review, Settlement settlement);
+    /** Whether others changed the project, so that a save would be refused. */
+    [[nodiscard]] bool isChangedOnDisk();
+    /** Whether a single-file project's archive was changed by others. */
+    [[nodiscard]] bool isArchiveChangedOnDisk() { return m_workspace->isBundleChangedOnDisk(); }
     [[nodiscard]] core::Result<QString> importAsset(const QString& sourceFile);
 
     /** Holds for this and every later project, at once. */
@@ -144,6 +161,7 @@ private:
     void announceChanges(const core::project::ProjectChanges& changes);
     void replaceWorkspace(std::unique_ptr<app::workspace::Workspace> workspace);
     void announceEverything();
+    void announceReload();
     void updateSaveState();
     void startAutosave();
     void applyAutosaveSettings();

@@ -6,6 +6,18 @@
 
 namespace tw::desktop::shell {
 
+namespace {
+
+void show(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& text)
+{
+    QMessageBox box(icon, title, text, QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.addButton(QCoreApplication::translate("Questions", "Close"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+} // namespace
+
 std::optional<qsizetype> ask(QWidget* parent, const Question& question)
 {
     QMessageBox box(question.icon, question.title, question.text, QMessageBox::NoButton, parent);
@@ -22,10 +34,12 @@ std::optional<qsizetype> ask(QWidget* parent, const Question& question)
 
 void tell(QWidget* parent, const QString& title, const QString& text)
 {
-    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::NoButton, parent);
-    box.setTextFormat(Qt::PlainText);
-    box.addButton(QCoreApplication::translate("Questions", "Close"), QMessageBox::AcceptRole);
-    box.exec();
+    show(parent, QMessageBox::Warning, title, text);
+}
+
+void inform(QWidget* parent, const QString& title, const QString& text)
+{
+    show(parent, QMessageBox::Information, title, text);
 }
 
 } // namespace tw::desktop::shell

@@ -29,5 +29,7 @@ struct Question
 
 /** Says what went wrong, and waits until it was read. */
 void tell(QWidget* parent, const QString& title, const QString& text);
+/** Says what is worth knowing and too long for the status bar, and waits until it was read. */
+void inform(QWidget* parent, const QString& title, const QString& text);
 
 } // namespace tw::desktop::shell

@@ -8,17 +8,15 @@
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
+#include "desktop/support/NextMessage.h"
 #include "desktop/support/TestDesk.h"
 #include "support/TestFiles.h"
 
 #include <QAction>
 #include <QDockWidget>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -26,38 +24,9 @@ namespace tw::desktop::shell {
 
 using namespace Qt::Literals::StringLiterals;
 
+using test::NextMessage;
+
 namespace {
-
-/** Presses a button of the next message box; says what the box told. */
-class NextMessage : public QObject
-{
-public:
-    explicit NextMessage(const QString& button)
-        : m_button(button)
-    {
-        connect(&m_timer, &QTimer::timeout, this, &NextMessage::look);
-        m_timer.start(0);
-    }
-
-    QString text;
-
-private:
-    void look()
-    {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box)
-            return;
-        m_timer.stop();
-        text = box->text();
-        for (QAbstractButton* const candidate : box->buttons()) {
-            if (candidate->text().remove(u'&') == m_button)
-                candidate->click();
-        }
-    }
-
-    QString m_button;
-    QTimer m_timer;
-};
 
 class MainWindowTest : public testing::Test
 {
@@ -173,12 +142,14 @@ TEST_F(MainWindowTest, refusedSaveSaysWhyAndKeepsTheChanges)
 {
     manuscript::MarkdownPage& text = openText(u"The Spike"_s);
     QTest::keyClicks(&text, u"x"_s);
-    QFile other(project + u"/notes.txt"_s);
-    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+    // As a sync client leaves a file half-way through.
+    QFile other(project + u"/objects/%1.json"_s.arg(idOf(u"Ibbet Lusk"_s).toString()));
+    ASSERT_TRUE(other.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(other.resize(40));
     other.close();
     const NextMessage close(u"Close"_s);
     action(u"Save"_s)->trigger();
-    EXPECT_TRUE(close.text.startsWith(u"The project changed on disk"_s));
+    EXPECT_TRUE(close.text.startsWith(u"The files on disk cannot be read as a project right now"_s));
     EXPECT_EQ(desk->session.saveState(), SaveState::Failed);
     EXPECT_TRUE(window->isWindowModified());
 }

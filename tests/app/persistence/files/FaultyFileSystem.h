@@ -24,6 +24,8 @@ public:
     QHash<QString, int> failingWrites;
     QHash<QString, int> failingReplacements;
     QHash<QString, int> failingSyncs;
+    /** How many more times a path can be replaced before it fails for ever. */
+    QHash<QString, int> replacementsLeft;
     QSet<QString> unreadable;
     /** Whether all of a file system can be synced at once. */
     bool syncsTogether = true;
@@ -84,6 +86,9 @@ public:
     bool replace(const QString& temporary, const QString& target) override
     {
         const QMutexLocker lock(&m_mutex);
+        const auto left = replacementsLeft.find(target);
+        if (left != replacementsLeft.end() && --left.value() < 0)
+            return false;
         EXPECT_FALSE(m_unsynced.contains(temporary)) << "put in place before it is on the medium";
         if (fails(failingReplacements, target) || !m_disk.replace(temporary, target))
             return false;
