@@ -73,6 +73,9 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     connect(&desk.navigator, &Navigator::said, this, [this](const QString& text) {
         statusBar()->showMessage(text, messageTime);
     });
+    // The page may be there already, behind the ways to begin.
+    connect(&desk.navigator, &Navigator::openRequested, this, &MainWindow::showCenter);
+    connect(m_welcome, &WelcomePage::backRequested, this, &MainWindow::showCenter);
     connect(m_welcome, &WelcomePage::newRequested, this, &MainWindow::newProject);
     connect(m_welcome, &WelcomePage::openRequested, this, &MainWindow::chooseAndOpen);
     connect(m_welcome, &WelcomePage::sampleRequested, this, &MainWindow::openSample);
@@ -317,12 +320,19 @@ bool MainWindow::select(const QString& what)
     return true;
 }
 
+void MainWindow::showWelcome()
+{
+    const ProjectSession& session = m_desk.session;
+    m_welcome->setRecent(RecentProjects(m_desk.settings).paths());
+    m_welcome->setOpenProject(session.isProjectOpen() ? session.workspace().displayName() : QString());
+    m_center->setCurrentWidget(m_welcome);
+}
+
 void MainWindow::showCenter()
 {
     const bool isOpen = m_desk.session.isProjectOpen();
-    m_welcome->setRecent(RecentProjects(m_desk.settings).paths());
     if (!isOpen)
-        m_center->setCurrentWidget(m_welcome);
+        showWelcome();
     else if (m_workArea->hasPages())
         m_center->setCurrentWidget(m_workArea);
     else

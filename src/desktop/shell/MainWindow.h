@@ -40,6 +40,8 @@ public:
     bool openProject(const QString& path);
     /** Opens the project of the last session when that is wanted and possible. */
     bool reopenLast();
+    /** Shows the ways to begin, also while a project is open. */
+    void showWelcome();
     /** Shows an object, or a panel by its object name or an object by its exact title; false when there is
      * none. */
     bool select(const QString& what);

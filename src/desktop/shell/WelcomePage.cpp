@@ -54,7 +54,10 @@ WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* p
         button->setIcon(m_icons.icon(icon));
         connect(button, &QCommandLinkButton::clicked, this, signal);
         layout->addWidget(button);
+        return button;
     };
+    m_back = addLink(icons::Icon::ChevronRight, {}, {}, &WelcomePage::backRequested);
+    m_back->hide();
     if (hasSample) {
         addLink(
             icons::Icon::Manuscript, tr("Look around in the sample"),
@@ -90,6 +93,13 @@ void WelcomePage::setRecent(const QStringList& paths)
         connect(button, &QCommandLinkButton::clicked, this, [this, path] { emit recentRequested(path); });
         m_recentLayout->addWidget(button);
     }
+}
+
+void WelcomePage::setOpenProject(const QString& name)
+{
+    m_back->setVisible(!name.isEmpty());
+    m_back->setText(tr("Go on with “%1”").arg(name));
+    m_back->setDescription(tr("The project is open already."));
 }
 
 } // namespace tw::desktop::shell
