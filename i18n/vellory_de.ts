@@ -167,7 +167,7 @@
     <name>ObjectTitles</name>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Titel</translation>
     </message>
 </context>
 <context>
@@ -419,19 +419,19 @@
     <name>Theme</name>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkel</translation>
     </message>
     <message>
         <source>Sepia</source>
-        <translation type="unfinished"></translation>
+        <translation>Sepia</translation>
     </message>
     <message>
         <source>High contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoher Kontrast</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell</translation>
     </message>
 </context>
 <context>
@@ -880,7 +880,7 @@
     <name>Workspace</name>
     <message>
         <source>The project could not be found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt wurde nicht gefunden: %1</translation>
     </message>
     <message>
         <source>This is no project: %1. Choose a project folder, the one that holds project.json.</source>
@@ -978,7 +978,7 @@
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfe&amp;rnen</translation>
     </message>
     <message>
         <source>Properties taken from “%1”</source>
@@ -1025,7 +1025,7 @@
     <name>tw::desktop::codex::CodexModel</name>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Titel</translation>
     </message>
     <message>
         <source>Uncategorised</source>
@@ -1044,11 +1044,11 @@
     <name>tw::desktop::codex::CodexPanel</name>
     <message>
         <source>Filter the codex</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodex filtern</translation>
     </message>
     <message>
         <source>Codex</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodex</translation>
     </message>
     <message>
         <source>Nothing of the world is here. Press + to add its first person, place or thing.</source>
@@ -1056,39 +1056,39 @@
     </message>
     <message>
         <source>New &amp;Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer &amp;Eintrag</translation>
     </message>
     <message>
         <source>New &amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue &amp;Kategorie</translation>
     </message>
     <message>
         <source>New Category &amp;Beneath</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue &amp;Unterkategorie</translation>
     </message>
     <message>
         <source>Re&amp;name</source>
-        <translation type="unfinished"></translation>
+        <translation>Um&amp;benennen</translation>
     </message>
     <message>
         <source>&amp;Duplicate Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag &amp;duplizieren</translation>
     </message>
     <message>
         <source>Edit &amp;Properties…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ei&amp;genschaften bearbeiten…</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfe&amp;rnen</translation>
     </message>
     <message>
         <source>New entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Eintrag</translation>
     </message>
     <message>
         <source>New category</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Kategorie</translation>
     </message>
     <message>
         <source>Locked entities stay. Unlock them in the inspector to remove them.</source>
@@ -1100,9 +1100,9 @@
     </message>
     <message numerus="yes">
         <source>Removed %n things from the codex. Undo brings them back.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Eintrag aus dem Kodex entfernt. „Rückgängig“ holt ihn zurück.</numerusform>
+            <numerusform>%n Einträge aus dem Kodex entfernt. „Rückgängig“ holt sie zurück.</numerusform>
         </translation>
     </message>
     <message>
@@ -1322,9 +1322,9 @@
     </message>
     <message numerus="yes">
         <source>%n times</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>einmal</numerusform>
+            <numerusform>%n-mal</numerusform>
         </translation>
     </message>
     <message>
@@ -1626,63 +1626,63 @@
     <name>tw::desktop::manuscript::ManuscriptPanel</name>
     <message>
         <source>Filter the manuscript</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuskript filtern</translation>
     </message>
     <message>
         <source>Manuscript</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuskript</translation>
     </message>
     <message>
         <source>New &amp;Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues &amp;Dokument</translation>
     </message>
     <message>
         <source>New document</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Dokument</translation>
     </message>
     <message>
         <source>New Document &amp;Inside</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Dokument &amp;innerhalb</translation>
     </message>
     <message>
         <source>New &amp;Screenplay</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Dreh&amp;buch</translation>
     </message>
     <message>
         <source>New screenplay</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Drehbuch</translation>
     </message>
     <message>
         <source>New N&amp;ote</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue &amp;Notiz</translation>
     </message>
     <message>
         <source>New note</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Notiz</translation>
     </message>
     <message>
         <source>Re&amp;name Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument um&amp;benennen</translation>
     </message>
     <message>
         <source>Move Document &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument nach &amp;oben</translation>
     </message>
     <message>
         <source>Move Document D&amp;own</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument nach un&amp;ten</translation>
     </message>
     <message>
         <source>Move Document &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument e&amp;inrücken</translation>
     </message>
     <message>
         <source>Move Document O&amp;ut</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument a&amp;usrücken</translation>
     </message>
     <message>
         <source>&amp;Remove Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument entfe&amp;rnen</translation>
     </message>
     <message>
         <source>“%1” is locked. Unlock it in the inspector to remove it.</source>
@@ -1694,9 +1694,9 @@
     </message>
     <message numerus="yes">
         <source>Removed %n documents with all that was in them. Undo brings them back.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Dokument mit allem darin entfernt. „Rückgängig“ holt es zurück.</numerusform>
+            <numerusform>%n Dokumente mit allem darin entfernt. „Rückgängig“ holt sie zurück.</numerusform>
         </translation>
     </message>
     <message>
@@ -1705,7 +1705,7 @@
     </message>
     <message>
         <source>Open a project, or begin one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen oder beginnen Sie ein Projekt.</translation>
     </message>
 </context>
 <context>
@@ -1719,393 +1719,401 @@
     <name>tw::desktop::shell::DockLayout</name>
     <message>
         <source>Reset Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Anordnung zurücksetzen</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::shell::MainWindow</name>
     <message>
         <source>Choose a document in the manuscript or an entry in the codex.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie ein Dokument im Manuskript oder einen Eintrag im Kodex.</translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt öffnen</translation>
     </message>
     <message>
         <source>Open the Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel öffnen</translation>
     </message>
     <message>
         <source>New Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Projekt</translation>
     </message>
     <message>
         <source>What is the project called?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie heißt das Projekt?</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Titel</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert.</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt speichern</translation>
     </message>
     <message>
         <source>Save Project As a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt als Ordner speichern</translation>
     </message>
     <message>
         <source>Read the Project Anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt neu lesen</translation>
     </message>
     <message>
         <source>“%1” has changes that are not saved. Reading it anew from disk drops them.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat Änderungen, die nicht gespeichert sind. Wenn es neu von der Festplatte gelesen wird, gehen sie verloren.</translation>
     </message>
     <message>
         <source>Drop Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen verwerfen</translation>
     </message>
     <message>
         <source>Unsaved Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungespeicherte Änderungen</translation>
     </message>
     <message>
         <source>“%1” has changes that are not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat Änderungen, die nicht gespeichert sind.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Discard Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen verwerfen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Vellory</source>
-        <translation type="unfinished"></translation>
+        <translation>Vellory</translation>
     </message>
     <message>
         <source>%1[*] – Vellory</source>
-        <translation type="unfinished"></translation>
+        <translation>%1[*] – Vellory</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>&amp;Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fenster</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;New Project…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neues Projekt…</translation>
     </message>
     <message>
         <source>&amp;Open Project…</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt ö&amp;ffnen…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>Open the Sa&amp;mple</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beispiel öffnen</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;unter…</translation>
     </message>
     <message>
         <source>Read Anew from &amp;Disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu von der Festplatte &amp;lesen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;eenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Au&amp;sschneiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles auswählen</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>&amp;Codex</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kodex</translation>
     </message>
     <message>
         <source>F&amp;ormat</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ormat</translation>
     </message>
     <message>
         <source>Page &amp;Font…</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten&amp;schrift…</translation>
     </message>
     <message>
         <source>Page Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenschrift</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farbschema</translation>
     </message>
     <message>
         <source>Follow the System</source>
-        <translation type="unfinished"></translation>
+        <translation>Dem System folgen</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;größern</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>&amp;Actual Size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Originalgröße</translation>
     </message>
     <message>
         <source>&amp;Split Side by Side</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nebeneinander teilen</translation>
     </message>
     <message>
         <source>&amp;Next Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster &amp;Tab</translation>
     </message>
     <message>
         <source>&amp;Previous Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorheriger Tab</translation>
     </message>
     <message>
         <source>&amp;Close Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab &amp;schließen</translation>
     </message>
     <message>
         <source>&amp;Full Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Voll&amp;bild</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;About Vellory</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;ber Vellory</translation>
     </message>
     <message>
         <source>About Vellory</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Vellory</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Vellory %1&lt;/h3&gt;&lt;p&gt;A writing and worldbuilding workspace for novelists, screenwriters and game masters.&lt;/p&gt;&lt;p&gt;Free software under the GNU General Public License, version 3 or later.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Vellory %1&lt;/h3&gt;&lt;p&gt;Ein Arbeitsplatz zum Schreiben und Weltenbauen für Roman- und Drehbuchautoren und Spielleiter.&lt;/p&gt;&lt;p&gt;Freie Software unter der GNU General Public License, Version 3 oder neuer.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Nothing opened yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nichts geöffnet</translation>
     </message>
     <message>
         <source>Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig: %1</translation>
     </message>
     <message>
         <source>Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: %1</translation>
     </message>
     <message>
         <source>Manuscript</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuskript</translation>
     </message>
     <message>
         <source>Codex</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodex</translation>
     </message>
     <message>
         <source>Inspector</source>
-        <translation type="unfinished"></translation>
+        <translation>Inspektor</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::shell::OpenRequests</name>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt öffnen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>The project could not be found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt wurde nicht gefunden: %1</translation>
     </message>
     <message>
         <source>Vellory is already open. Where should “%1” open?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vellory ist schon geöffnet. Wo soll „%1“ geöffnet werden?</translation>
     </message>
     <message>
         <source>This Window</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Fenster</translation>
     </message>
     <message>
         <source>New Window</source>
-        <translation type="unfinished"></translation>
+        <translation>In einem neuen Fenster</translation>
     </message>
     <message>
         <source>Another window could not be started for %1. Open the project in this window instead, or start Vellory once more yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für %1 ließ sich kein weiteres Fenster starten. Öffnen Sie das Projekt in diesem Fenster, oder starten Sie Vellory selbst noch einmal.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::shell::PanelHeader</name>
     <message>
         <source>More actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Aktionen</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::shell::StatusStrip</name>
     <message>
         <source>Words of the day&apos;s target</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter des Tagesziels</translation>
     </message>
     <message>
         <source>When the scene happens in the story</source>
-        <translation type="unfinished"></translation>
+        <translation>Wann die Szene in der Geschichte spielt</translation>
     </message>
     <message>
         <source>Manuscript: %1 words</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuskript: %1 Wörter</translation>
     </message>
     <message>
         <source>Session: +%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung: +%1</translation>
     </message>
     <message>
         <source>Session: −%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzung: −%1</translation>
     </message>
     <message>
         <source>Words since the project was opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Wörter, seit das Projekt geöffnet wurde</translation>
     </message>
     <message>
         <source>%1 of %2 words of the daily target</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Wörtern des Tagesziels</translation>
     </message>
     <message>
         <source>Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert</translation>
     </message>
     <message>
         <source>Unsaved changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungespeicherte Änderungen</translation>
     </message>
     <message>
         <source>Never saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nie gespeichert</translation>
     </message>
     <message>
         <source>Not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gespeichert</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::shell::WelcomePage</name>
     <message>
         <source>Welcome to Vellory</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen bei Vellory</translation>
     </message>
     <message>
         <source>A quiet desk for long stories and the worlds they live in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein ruhiger Schreibtisch für lange Geschichten und die Welten, in denen sie leben.</translation>
     </message>
     <message>
         <source>Look around in the sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Beispiel umsehen</translation>
     </message>
     <message>
         <source>A copy of “Low Water”, an opening of a novel with its world.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kopie von „Low Water“, einem Romananfang mit seiner Welt.</translation>
     </message>
     <message>
         <source>New project</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Projekt</translation>
     </message>
     <message>
         <source>An empty manuscript and an empty world.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein leeres Manuskript und eine leere Welt.</translation>
     </message>
     <message>
         <source>Open a project</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Projekt öffnen</translation>
     </message>
     <message>
         <source>A folder that holds project.json.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ordner, der project.json enthält.</translation>
     </message>
     <message>
         <source>Recent projects</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Go on with “%1”</source>
+        <translation>Mit „%1“ weitermachen</translation>
+    </message>
+    <message>
+        <source>The project is open already.</source>
+        <translation>Das Projekt ist schon geöffnet.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::shell::WorkArea</name>
     <message>
         <source>Open pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Offene Seiten</translation>
     </message>
 </context>
 </TS>

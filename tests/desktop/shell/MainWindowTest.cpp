@@ -2,60 +2,27 @@
 #include "core/entity/EntityCommands.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/MarkdownPage.h"
-#include "desktop/shell/CommandLine.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
+#include "desktop/support/NextMessage.h"
 #include "desktop/support/TestDesk.h"
 #include "support/TestFiles.h"
 
 #include <QAction>
 #include <QDockWidget>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
 namespace tw::desktop::shell {
 
 using namespace Qt::Literals::StringLiterals;
+using test::NextMessage;
 
 namespace {
-
-/** Presses a button of the next message box; says what the box told. */
-class NextMessage : public QObject
-{
-public:
-    explicit NextMessage(const QString& button)
-        : m_button(button)
-    {
-        connect(&m_timer, &QTimer::timeout, this, &NextMessage::look);
-        m_timer.start(0);
-    }
-
-    QString text;
-
-private:
-    void look()
-    {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box)
-            return;
-        m_timer.stop();
-        text = box->text();
-        for (QAbstractButton* const candidate : box->buttons()) {
-            if (candidate->text().remove(u'&') == m_button)
-                candidate->click();
-        }
-    }
-
-    QString m_button;
-    QTimer m_timer;
-};
 
 class MainWindowTest : public testing::Test
 {
@@ -210,32 +177,6 @@ TEST_F(MainWindowTest, splittingShowsOnePageTwice)
     EXPECT_EQ(area->count(), 1);
     area->restoreIds(ids);
     EXPECT_EQ(area->openIds(), ids);
-}
-
-TEST(CommandLineTest, readsPathAndOptions)
-{
-    const struct
-    {
-        QStringList arguments;
-        QString path;
-        QString capture;
-        QString selection;
-    } cases[] = {
-        {{}, {}, {}, {}},
-        {{u"a"_s, u"b"_s}, u"a"_s, {}, {}},
-        {{u"--capture"_s, u"x.png"_s, u"a"_s}, u"a"_s, u"x.png"_s, {}},
-        {{u"a"_s, u"--capture"_s}, u"a"_s, {}, {}},
-        {{u"--capture-select"_s, u"The Spike"_s, u"--capture"_s, u"x"_s}, {}, u"x"_s, u"The Spike"_s},
-        {{u"--capture-select"_s, u"--capture"_s, u"x"_s}, {}, u"x"_s, {}},
-        {{u"--unknown"_s, u"a"_s}, u"a"_s, {}, {}},
-    };
-    for (const auto& sample : cases) {
-        const CommandLine line = parseArguments(sample.arguments);
-        const std::string shown = sample.arguments.join(u' ').toStdString();
-        EXPECT_EQ(line.projectPath, sample.path) << shown;
-        EXPECT_EQ(line.capturePath, sample.capture) << shown;
-        EXPECT_EQ(line.captureSelection, sample.selection) << shown;
-    }
 }
 
 TEST(RecentProjectsTest, newestFirstEachOnce)
