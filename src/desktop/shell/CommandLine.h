@@ -9,13 +9,13 @@ namespace tw::desktop::shell {
 struct CommandLine
 {
     /** The first argument that is no option, as it was given; empty for none. */
-    QString projectPath;
+    QString projectPath = {};
     /** Where to save a picture of the window; empty outside capture mode. */
-    QString capturePath;
+    QString capturePath = {};
     /** What to show before the picture is taken; empty for what is there anyway. */
-    QString captureSelection;
+    QString captureSelection = {};
     /** The name of the locale for this run; empty for the one of the settings. */
-    QString language;
+    QString language = {};
     bool isSelfTest = false;
     /** The project is to get a window of its own, whatever runs already. */
     bool isNewInstance = false;
