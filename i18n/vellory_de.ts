@@ -377,6 +377,17 @@
     </message>
 </context>
 <context>
+    <name>Questions</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+</context>
+<context>
     <name>Taxonomy</name>
     <message>
         <source>“%1” is a fixed property of the category “%2”, which supplies its value for everything beneath it. An entity cannot hold its own — change it on the category, or give this one a differently-named property.</source>
@@ -1729,70 +1740,6 @@
         <translation>Wählen Sie ein Dokument im Manuskript oder einen Eintrag im Kodex.</translation>
     </message>
     <message>
-        <source>Open Project</source>
-        <translation>Projekt öffnen</translation>
-    </message>
-    <message>
-        <source>Open the Sample</source>
-        <translation>Beispiel öffnen</translation>
-    </message>
-    <message>
-        <source>New Project</source>
-        <translation>Neues Projekt</translation>
-    </message>
-    <message>
-        <source>What is the project called?</source>
-        <translation>Wie heißt das Projekt?</translation>
-    </message>
-    <message>
-        <source>Untitled</source>
-        <translation>Ohne Titel</translation>
-    </message>
-    <message>
-        <source>Saved.</source>
-        <translation>Gespeichert.</translation>
-    </message>
-    <message>
-        <source>Save Project</source>
-        <translation>Projekt speichern</translation>
-    </message>
-    <message>
-        <source>Save Project As a Folder</source>
-        <translation>Projekt als Ordner speichern</translation>
-    </message>
-    <message>
-        <source>Read the Project Anew</source>
-        <translation>Projekt neu lesen</translation>
-    </message>
-    <message>
-        <source>“%1” has changes that are not saved. Reading it anew from disk drops them.</source>
-        <translation>„%1“ hat Änderungen, die nicht gespeichert sind. Wenn es neu von der Festplatte gelesen wird, gehen sie verloren.</translation>
-    </message>
-    <message>
-        <source>Drop Changes</source>
-        <translation>Änderungen verwerfen</translation>
-    </message>
-    <message>
-        <source>Unsaved Changes</source>
-        <translation>Ungespeicherte Änderungen</translation>
-    </message>
-    <message>
-        <source>“%1” has changes that are not saved.</source>
-        <translation>„%1“ hat Änderungen, die nicht gespeichert sind.</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Speichern</translation>
-    </message>
-    <message>
-        <source>Discard Changes</source>
-        <translation>Änderungen verwerfen</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>Vellory</source>
         <translation>Vellory</translation>
     </message>
@@ -1984,10 +1931,6 @@
         <translation>Projekt öffnen</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
         <source>The project could not be found: %1</source>
         <translation>Das Projekt wurde nicht gefunden: %1</translation>
     </message>
@@ -2013,6 +1956,69 @@
     <message>
         <source>More actions</source>
         <translation>Weitere Aktionen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::shell::ProjectLife</name>
+    <message>
+        <source>Open Project</source>
+        <translation type="unfinished">Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Open the Sample</source>
+        <translation type="unfinished">Beispiel öffnen</translation>
+    </message>
+    <message>
+        <source>New Project</source>
+        <translation type="unfinished">Neues Projekt</translation>
+    </message>
+    <message>
+        <source>What is the project called?</source>
+        <translation type="unfinished">Wie heißt das Projekt?</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Ohne Titel</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation type="unfinished">Gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation type="unfinished">Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Save Project As a Folder</source>
+        <translation type="unfinished">Projekt als Ordner speichern</translation>
+    </message>
+    <message>
+        <source>Read the Project Anew</source>
+        <translation type="unfinished">Projekt neu lesen</translation>
+    </message>
+    <message>
+        <source>“%1” has changes that are not saved. Reading it anew from disk drops them.</source>
+        <translation type="unfinished">„%1“ hat Änderungen, die nicht gespeichert sind. Wenn es neu von der Festplatte gelesen wird, gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>Drop Changes</source>
+        <translation type="unfinished">Änderungen verwerfen</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation type="unfinished">Ungespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>“%1” has changes that are not saved.</source>
+        <translation type="unfinished">„%1“ hat Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished">Speichern</translation>
+    </message>
+    <message>
+        <source>Discard Changes</source>
+        <translation type="unfinished">Änderungen verwerfen</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "desktop/shell/MainWindow.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/OpenRequest.h"
+#include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/SettingsMigration.h"
 #include "desktop/shell/SingleInstance.h"
@@ -78,7 +79,7 @@ int printSelfTest(const SelfTestReport& report)
 OpenRequestActions openRequestActions(MainWindow& window)
 {
     return {
-        [&window](const QString& path) { window.openProject(path); },
+        [&window](const QString& path) { window.life().open(path); },
         [](const QStringList& arguments) {
             return QProcess::startDetached(QApplication::applicationFilePath(), arguments);
         }};
@@ -89,10 +90,10 @@ void begin(MainWindow& window, const QString& projectPath, QSettings& settings)
 {
     constexpr QLatin1StringView welcomedKey = "onboarding/welcomed"_L1;
     if (!projectPath.isEmpty()) {
-        window.openProject(projectPath);
+        window.life().open(projectPath);
         return;
     }
-    window.reopenLast();
+    window.life().reopenLast();
     if (!settings.contains(welcomedKey)) {
         window.showWelcome();
         settings.setValue(welcomedKey, u"true"_s);

@@ -7,6 +7,7 @@
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
+#include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/StatusStrip.h"
@@ -16,21 +17,14 @@
 
 #include <QCloseEvent>
 #include <QCryptographicHash>
-#include <QDir>
-#include <QFileDialog>
-#include <QInputDialog>
 #include <QLabel>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QSettings>
 #include <QStackedWidget>
-#include <QStandardPaths>
 #include <QStatusBar>
 
 namespace tw::desktop::shell {
 
 using namespace Qt::Literals::StringLiterals;
-using app::persistence::SaveExtent;
 
 namespace {
 
@@ -41,10 +35,10 @@ constexpr int messageTime = 6000;
 
 MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     : m_desk(desk)
-    , m_samplePath(std::move(samplePath))
+    , m_life(new ProjectLife(desk, std::move(samplePath), this))
     , m_center(new QStackedWidget)
     , m_workArea(new WorkArea(desk, m_center))
-    , m_welcome(new WelcomePage(desk.icons, !m_samplePath.isEmpty(), m_center))
+    , m_welcome(new WelcomePage(desk.icons, m_life->hasSample(), m_center))
     , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entry in the codex."), m_center))
     , m_docks(nullptr)
     , m_status(new StatusStrip(desk, *statusBar()))
@@ -70,19 +64,27 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
             if (changes.isEverything || changes.areSettingsChanged)
                 refreshTitle();
         });
-    connect(&desk.navigator, &Navigator::said, this, [this](const QString& text) {
-        statusBar()->showMessage(text, messageTime);
-    });
+    connect(&desk.navigator, &Navigator::said, this, &MainWindow::say);
     // The page may be there already, behind the ways to begin.
     connect(&desk.navigator, &Navigator::openRequested, this, &MainWindow::showCenter);
-    connect(m_welcome, &WelcomePage::backRequested, this, &MainWindow::showCenter);
-    connect(m_welcome, &WelcomePage::newRequested, this, &MainWindow::newProject);
-    connect(m_welcome, &WelcomePage::openRequested, this, &MainWindow::chooseAndOpen);
-    connect(m_welcome, &WelcomePage::sampleRequested, this, &MainWindow::openSample);
-    connect(m_welcome, &WelcomePage::recentRequested, this, &MainWindow::openProject);
+    followLife();
     showCenter();
     refreshHistory();
     refreshTitle();
+}
+
+void MainWindow::followLife()
+{
+    connect(m_life, &ProjectLife::aboutToLeave, this, &MainWindow::rememberPages);
+    connect(m_life, &ProjectLife::opened, this, &MainWindow::noteOpened);
+    connect(m_life, &ProjectLife::openFailed, this, &MainWindow::showCenter);
+    connect(m_life, &ProjectLife::placeChanged, this, &MainWindow::refreshTitle);
+    connect(m_life, &ProjectLife::said, this, &MainWindow::say);
+    connect(m_welcome, &WelcomePage::backRequested, this, &MainWindow::showCenter);
+    connect(m_welcome, &WelcomePage::newRequested, m_life, &ProjectLife::startNew);
+    connect(m_welcome, &WelcomePage::openRequested, m_life, &ProjectLife::chooseAndOpen);
+    connect(m_welcome, &WelcomePage::sampleRequested, m_life, &ProjectLife::openSample);
+    connect(m_welcome, &WelcomePage::recentRequested, m_life, &ProjectLife::open);
 }
 
 MainWindow::~MainWindow()
@@ -103,7 +105,7 @@ void MainWindow::restoreWindow()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!settleUnsavedChanges()) {
+    if (!m_life->settleUnsavedChanges()) {
         event->ignore();
         return;
     }
@@ -111,150 +113,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
     m_desk.settings.setValue("window/geometry", saveGeometry());
     m_docks->save(m_desk.settings);
     event->accept();
-}
-
-bool MainWindow::openProject(const QString& path)
-{
-    if (!settleUnsavedChanges())
-        return false;
-    rememberPages();
-    if (const auto opened = m_desk.session.open(path); !opened) {
-        tell(tr("Open Project"), opened.message());
-        RecentProjects(m_desk.settings).remove(path);
-        showCenter();
-        return false;
-    }
-    noteOpened();
-    return true;
-}
-
-bool MainWindow::reopenLast()
-{
-    if (m_desk.settings.value("general/reopenLast", u"true"_s).toString() != u"true")
-        return false;
-    const QStringList recent = RecentProjects(m_desk.settings).paths();
-    return !recent.isEmpty() && QFileInfo::exists(recent.first()) && openProject(recent.first());
-}
-
-void MainWindow::openSample()
-{
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString copy = documents + u"/Vellory/"_s + QFileInfo(m_samplePath).fileName();
-    if (QFileInfo::exists(copy)) {
-        openProject(copy);
-        return;
-    }
-    // The sample itself stays as it came: the writer gets a copy to play with.
-    if (!settleUnsavedChanges())
-        return;
-    rememberPages();
-    auto opened = m_desk.session.open(m_samplePath);
-    if (opened)
-        opened = m_desk.session.saveAs(copy);
-    if (!opened)
-        tell(tr("Open the Sample"), opened.message());
-    noteOpened();
-}
-
-void MainWindow::newProject()
-{
-    if (!settleUnsavedChanges())
-        return;
-    bool accepted = false;
-    const QString name = QInputDialog::getText(
-        this, tr("New Project"), tr("What is the project called?"), QLineEdit::Normal, tr("Untitled"),
-        &accepted);
-    if (!accepted)
-        return;
-    rememberPages();
-    m_desk.session.startNew(name.trimmed().isEmpty() ? tr("Untitled") : name.trimmed());
-    noteOpened();
-}
-
-void MainWindow::chooseAndOpen()
-{
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("Open Project"), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    if (!folder.isEmpty())
-        openProject(folder);
-}
-
-void MainWindow::saveProject()
-{
-    if (m_desk.session.workspace().hasPath())
-        static_cast<void>(saveOrTell(SaveExtent::Changed));
-    else
-        saveProjectAs();
-}
-
-bool MainWindow::saveOrTell(SaveExtent extent)
-{
-    const auto saved = m_desk.session.save(extent);
-    if (saved)
-        statusBar()->showMessage(tr("Saved."), messageTime);
-    else
-        tell(tr("Save Project"), saved.message());
-    return saved.isOk();
-}
-
-bool MainWindow::saveProjectAs()
-{
-    const QString suggestion = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' +
-                               m_desk.session.workspace().displayName();
-    const QString folder = QFileDialog::getSaveFileName(
-        this, tr("Save Project As a Folder"), suggestion, QString(), nullptr,
-        QFileDialog::DontConfirmOverwrite);
-    if (folder.isEmpty())
-        return false;
-    if (const auto saved = m_desk.session.saveAs(folder); !saved) {
-        tell(tr("Save Project"), saved.message());
-        return false;
-    }
-    RecentProjects(m_desk.settings).add(m_desk.session.workspace().displayPath());
-    refreshTitle();
-    return true;
-}
-
-void MainWindow::reloadProject()
-{
-    if (m_desk.session.isModified()) {
-        QMessageBox question(
-            QMessageBox::Question, tr("Read the Project Anew"),
-            tr("“%1” has changes that are not saved. Reading it anew from disk drops them.")
-                .arg(m_desk.session.workspace().displayName()),
-            QMessageBox::Cancel, this);
-        const QPushButton* const drop = question.addButton(tr("Drop Changes"), QMessageBox::DestructiveRole);
-        question.exec();
-        if (question.clickedButton() != drop)
-            return;
-    }
-    if (const auto reloaded = m_desk.session.reload(); !reloaded)
-        tell(tr("Read the Project Anew"), reloaded.message());
-}
-
-bool MainWindow::settleUnsavedChanges()
-{
-    m_desk.session.commitPendingEdits();
-    if (!m_desk.session.isModified()) {
-        // Nothing is unsaved, so a refusal because of others' changes loses nothing.
-        if (m_desk.session.workspace().isFullSaveDue())
-            static_cast<void>(m_desk.session.save(SaveExtent::Everything));
-        return true;
-    }
-    QMessageBox question(
-        QMessageBox::Question, tr("Unsaved Changes"),
-        tr("“%1” has changes that are not saved.").arg(m_desk.session.workspace().displayName()),
-        QMessageBox::NoButton, this);
-    const QPushButton* const save = question.addButton(tr("Save"), QMessageBox::AcceptRole);
-    const QPushButton* const discard =
-        question.addButton(tr("Discard Changes"), QMessageBox::DestructiveRole);
-    question.addButton(tr("Cancel"), QMessageBox::RejectRole);
-    question.exec();
-    if (question.clickedButton() == discard)
-        return true;
-    if (question.clickedButton() != save)
-        return false;
-    return m_desk.session.workspace().hasPath() ? saveOrTell(SaveExtent::Everything) : saveProjectAs();
 }
 
 void MainWindow::noteOpened()
@@ -272,7 +130,7 @@ void MainWindow::noteOpened()
     showCenter();
     refreshTitle();
     if (!workspace.libraryNotices().isEmpty())
-        statusBar()->showMessage(workspace.libraryNotices().join(u' '), messageTime);
+        say(workspace.libraryNotices().join(u' '));
 }
 
 void MainWindow::openFirstDocument()
@@ -341,6 +199,11 @@ void MainWindow::showCenter()
         action->setEnabled(isOpen);
 }
 
+void MainWindow::say(const QString& text)
+{
+    statusBar()->showMessage(text, messageTime);
+}
+
 void MainWindow::refreshTitle()
 {
     const auto& session = m_desk.session;
@@ -351,13 +214,6 @@ void MainWindow::refreshTitle()
     }
     setWindowTitle(tr("%1[*] – Vellory").arg(session.workspace().displayName()));
     setWindowModified(session.isModified());
-}
-
-void MainWindow::tell(const QString& title, const QString& text)
-{
-    QMessageBox message(QMessageBox::Warning, title, text, QMessageBox::NoButton, this);
-    message.addButton(tr("Close"), QMessageBox::AcceptRole);
-    message.exec();
 }
 
 } // namespace tw::desktop::shell

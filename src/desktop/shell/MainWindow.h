@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/persistence/FolderSaver.h"
 #include "desktop/icons/Icon.h"
 #include "desktop/shell/DeskContext.h"
 
@@ -19,6 +18,7 @@ class ManuscriptPanel;
 namespace tw::desktop::shell {
 
 class DockLayout;
+class ProjectLife;
 class StatusStrip;
 class WelcomePage;
 class WorkArea;
@@ -36,10 +36,8 @@ public:
     MainWindow(const DeskContext& desk, QString samplePath);
     ~MainWindow() override;
 
-    /** Opens a project folder; a failure is told in a message. Asks first when something is unsaved. */
-    bool openProject(const QString& path);
-    /** Opens the project of the last session when that is wanted and possible. */
-    bool reopenLast();
+    /** What opens and closes projects here. */
+    [[nodiscard]] ProjectLife& life() { return *m_life; }
     /** Shows the ways to begin, also while a project is open. */
     void showWelcome();
     /** Shows an object, or a panel by its object name or an object by its exact title; false when there is
@@ -67,15 +65,7 @@ private:
     void buildHelpMenu();
     void restoreWindow();
 
-    void newProject();
-    void chooseAndOpen();
-    void saveProject();
-    bool saveProjectAs();
-    void openSample();
-    void reloadProject();
-    /** True when nothing is unsaved, or the user saved or let go of it. */
-    [[nodiscard]] bool settleUnsavedChanges();
-    [[nodiscard]] bool saveOrTell(app::persistence::SaveExtent extent);
+    void followLife();
     void noteOpened();
     void rememberPages();
     /** The settings key under which something of the open project is remembered. */
@@ -85,10 +75,11 @@ private:
     void refreshTitle();
     void openFirstDocument();
     void showCenter();
-    void tell(const QString& title, const QString& text);
+    /** In the status bar, for a while. */
+    void say(const QString& text);
 
     DeskContext m_desk;
-    QString m_samplePath;
+    ProjectLife* m_life;
     QStackedWidget* m_center;
     WorkArea* m_workArea;
     WelcomePage* m_welcome;

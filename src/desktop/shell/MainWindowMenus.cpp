@@ -6,6 +6,7 @@
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/manuscript/MarkdownPage.h"
 #include "desktop/shell/DockLayout.h"
+#include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
@@ -106,20 +107,21 @@ void MainWindow::buildMenus()
 void MainWindow::buildFileMenu()
 {
     QMenu& menu = *menuBar()->addMenu(tr("&File"));
-    addAction(menu, Icon::New, tr("&New Project…"), QKeySequence::New, [this] { newProject(); });
-    addAction(menu, Icon::Open, tr("&Open Project…"), QKeySequence::Open, [this] { chooseAndOpen(); });
+    addAction(menu, Icon::New, tr("&New Project…"), QKeySequence::New, [this] { m_life->startNew(); });
+    addAction(
+        menu, Icon::Open, tr("&Open Project…"), QKeySequence::Open, [this] { m_life->chooseAndOpen(); });
     m_recentMenu = menu.addMenu(m_desk.icons.icon(Icon::History), tr("Open &Recent"));
     connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
-    if (!m_samplePath.isEmpty())
-        addAction(menu, Icon::Manuscript, tr("Open the Sa&mple"), {}, [this] { openSample(); });
+    if (m_life->hasSample())
+        addAction(menu, Icon::Manuscript, tr("Open the Sa&mple"), {}, [this] { m_life->openSample(); });
     menu.addSeparator();
-    m_saveAction = addAction(menu, Icon::Save, tr("&Save"), QKeySequence::Save, [this] { saveProject(); });
+    m_saveAction = addAction(menu, Icon::Save, tr("&Save"), QKeySequence::Save, [this] { m_life->save(); });
     m_projectActions = {
         m_saveAction,
         addAction(
             menu, Icon::Export, tr("Save &As…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
-            [this] { saveProjectAs(); }),
-        addAction(menu, Icon::Refresh, tr("Read Anew from &Disk"), {}, [this] { reloadProject(); }),
+            [this] { m_life->saveAs(); }),
+        addAction(menu, Icon::Refresh, tr("Read Anew from &Disk"), {}, [this] { m_life->reload(); }),
     };
     menu.addSeparator();
     addAction(menu, Icon::Close, tr("&Quit"), QKeySequence::Quit, [this] { close(); });
@@ -257,7 +259,7 @@ void MainWindow::fillRecentMenu()
     for (const QString& path : recent.first(std::min<qsizetype>(recent.size(), shownRecent))) {
         QAction* const action = m_recentMenu->addAction(QDir(path).dirName());
         action->setToolTip(QDir::toNativeSeparators(path));
-        connect(action, &QAction::triggered, this, [this, path] { openProject(path); });
+        connect(action, &QAction::triggered, this, [this, path] { m_life->open(path); });
     }
     if (recent.isEmpty())
         m_recentMenu->addAction(tr("Nothing opened yet"))->setEnabled(false);

@@ -1,11 +1,11 @@
 #include "desktop/shell/OpenRequest.h"
 
+#include "desktop/shell/Questions.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QWidget>
 #include <QWindow>
@@ -17,21 +17,15 @@ namespace {
 /** Nobody asks for more than this by hand; a program gone wild shall not fill the memory. */
 constexpr qsizetype mostWaiting = 16;
 
+/** The answers, in the order in which they are offered. */
+constexpr qsizetype thisWindow = 0;
+constexpr qsizetype newWindow = 1;
+
 /** What people call the project: a folder's whole name, a file's without its extension. */
 QString projectTitle(const QString& path)
 {
     const QFileInfo info(QDir::cleanPath(path));
     return info.isDir() ? info.fileName() : info.completeBaseName();
-}
-
-void warn(QWidget& window, const QString& text)
-{
-    QMessageBox message(
-        QMessageBox::Warning, OpenRequests::tr("Open Project"), text, QMessageBox::NoButton, &window);
-    // A path may look like markup.
-    message.setTextFormat(Qt::PlainText);
-    message.addButton(OpenRequests::tr("Close"), QMessageBox::AcceptRole);
-    message.exec();
 }
 
 } // namespace
@@ -81,21 +75,18 @@ void OpenRequests::answerNext()
 void OpenRequests::answer(const QString& path)
 {
     if (!QFileInfo::exists(path)) {
-        warn(m_window, tr("The project could not be found: %1").arg(QDir::toNativeSeparators(path)));
+        tell(
+            &m_window, tr("Open Project"),
+            tr("The project could not be found: %1").arg(QDir::toNativeSeparators(path)));
         return;
     }
-    QMessageBox question(
-        QMessageBox::Question, tr("Open Project"),
-        tr("Vellory is already open. Where should “%1” open?").arg(projectTitle(path)), QMessageBox::Cancel,
-        &m_window);
-    question.setTextFormat(Qt::PlainText);
-    QPushButton* const here = question.addButton(tr("This Window"), QMessageBox::AcceptRole);
-    const QPushButton* const newWindow = question.addButton(tr("New Window"), QMessageBox::ActionRole);
-    question.setDefaultButton(here);
-    question.exec();
-    if (question.clickedButton() == here)
+    const auto chosen =
+        ask(&m_window, {tr("Open Project"),
+                        tr("Vellory is already open. Where should “%1” open?").arg(projectTitle(path)),
+                        {{tr("This Window")}, {tr("New Window"), QMessageBox::ActionRole}}});
+    if (chosen == thisWindow)
         m_actions.openHere(path);
-    else if (question.clickedButton() == newWindow)
+    else if (chosen == newWindow)
         openInNewWindow(path);
 }
 
@@ -103,8 +94,8 @@ void OpenRequests::openInNewWindow(const QString& path)
 {
     if (m_actions.startProgram({QStringLiteral("--new-instance"), path}))
         return;
-    warn(
-        m_window,
+    tell(
+        &m_window, tr("Open Project"),
         tr("Another window could not be started for %1. Open the project in this window instead, or start "
            "Vellory once more yourself.")
             .arg(QDir::toNativeSeparators(path)));

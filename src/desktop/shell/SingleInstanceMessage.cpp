@@ -2,6 +2,8 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
+
 namespace tw::desktop::shell {
 
 namespace {
@@ -40,7 +42,9 @@ SingleInstanceMessage::State SingleInstanceMessage::append(QByteArrayView bytes)
 
 void SingleInstanceMessage::finish(QByteArrayView line)
 {
-    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    // A mark of the byte order would be part of the name, as any other character.
+    QStringDecoder decode(
+        QStringDecoder::Utf8, QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     const QString text = decode(line);
     m_state = decode.hasError() ? State::Refused : State::Complete;
     if (m_state == State::Complete)

@@ -1,9 +1,11 @@
 #include "desktop/shell/WelcomePage.h"
 
 #include "desktop/icons/IconSet.h"
+#include "desktop/theme/InterfaceSize.h"
 
 #include <QCommandLinkButton>
 #include <QDir>
+#include <QEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -21,9 +23,9 @@ QLabel* makeTitle(const QString& text, qreal scale, QWidget* parent)
 {
     auto* const label = new QLabel(text, parent);
     QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * scale);
     font.setWeight(QFont::DemiBold);
     label->setFont(font);
+    theme::followInterfaceSize(*label, scale);
     return label;
 }
 
@@ -32,11 +34,12 @@ QLabel* makeTitle(const QString& text, qreal scale, QWidget* parent)
 WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* parent)
     : QWidget(parent)
     , m_icons(icons)
+    , m_column(new QWidget(this))
     , m_recent(new QWidget(this))
     , m_recentLayout(new QVBoxLayout(m_recent))
 {
-    auto* const column = new QWidget(this);
-    column->setFixedWidth(fontMetrics().averageCharWidth() * columnCharacters);
+    QWidget* const column = m_column;
+    fitColumn();
     auto* const layout = new QVBoxLayout(column);
     layout->setSpacing(8);
     auto* const mark = new QLabel(column);
@@ -79,6 +82,18 @@ WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* p
     outer->addStretch(2);
     outer->addWidget(column, 0, Qt::AlignHCenter);
     outer->addStretch(3);
+}
+
+void WelcomePage::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitColumn();
+}
+
+void WelcomePage::fitColumn()
+{
+    m_column->setFixedWidth(fontMetrics().averageCharWidth() * columnCharacters);
 }
 
 void WelcomePage::setRecent(const QStringList& paths)

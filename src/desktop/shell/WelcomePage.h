@@ -31,8 +31,14 @@ signals:
     void openRequested();
     void recentRequested(const QString& path);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void fitColumn();
+
     const icons::IconSet& m_icons;
+    QWidget* m_column;
     QCommandLinkButton* m_back = nullptr;
     QWidget* m_recent;
     QVBoxLayout* m_recentLayout;

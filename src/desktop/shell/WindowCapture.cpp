@@ -2,6 +2,7 @@
 
 #include "desktop/shell/CommandLine.h"
 #include "desktop/shell/MainWindow.h"
+#include "desktop/shell/ProjectLife.h"
 
 #include <QApplication>
 #include <QDir>
@@ -47,7 +48,7 @@ void captureWindow(MainWindow& window, const CommandLine& commandLine)
     QTimer::singleShot(0, &window, [&window, delay, commandLine] {
         delay->start();
         if (!commandLine.projectPath.isEmpty())
-            window.openProject(commandLine.projectPath);
+            window.life().open(commandLine.projectPath);
         const QString& selection = commandLine.captureSelection;
         if (!selection.isEmpty() && !window.select(selection))
             std::fprintf(stderr, "There is nothing to select by this name: %s\n", qPrintable(selection));

@@ -104,7 +104,7 @@ private:
     void replace(const QString& name, const QByteArray& bytes)
     {
         ASSERT_TRUE(QDir().mkpath(QFileInfo(path(name)).path()));
-        const auto temporary = m_files.writeTemporary(path(name), bytes);
+        const auto temporary = m_files.writeTemporary(path(name), bytes, Durability::OnMedium);
         ASSERT_TRUE(temporary && m_files.replace(*temporary, path(name)));
         giveOwnTime(name);
     }

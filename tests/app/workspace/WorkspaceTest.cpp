@@ -149,7 +149,9 @@ TEST_F(WorkspaceTest, saveRemovesWhatACrashedOneLeftBehind)
     auto workspace = makeSaved();
     const auto leaveBehind = [&](const QString& target) {
         QDir().mkpath(QFileInfo(folder() + u'/' + target).path());
-        return persistence::DiskFileSystem().writeTemporary(folder() + u'/' + target, "half").value();
+        return persistence::DiskFileSystem()
+            .writeTemporary(folder() + u'/' + target, "half", persistence::Durability::OnMedium)
+            .value();
     };
     const QStringList ours{
         leaveBehind(u"project.json"_s), leaveBehind(u"objects/1.json"_s), leaveBehind(u"taxonomy/1.json"_s)};

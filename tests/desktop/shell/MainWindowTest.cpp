@@ -1,8 +1,10 @@
 #include "desktop/shell/MainWindow.h"
+
 #include "core/entity/EntityCommands.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/MarkdownPage.h"
 #include "desktop/shell/ObjectTitles.h"
+#include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
 #include "desktop/support/NextMessage.h"
@@ -16,6 +18,8 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <map>
 
 namespace tw::desktop::shell {
 
@@ -34,7 +38,7 @@ protected:
         auto sample = app::workspace::Workspace::openFolder(
             desk->environment, test::repositoryPath(u"examples/low-water"));
         EXPECT_TRUE(sample && sample.value()->saveAs(project));
-        EXPECT_TRUE(window->openProject(project));
+        EXPECT_TRUE(window->life().open(project));
     }
 
     /** As the program starts, with what the last run left behind. */
@@ -98,7 +102,7 @@ TEST_F(MainWindowTest, writesUndoesSavesClosesAndFindsEverythingAgain)
     EXPECT_TRUE(window->close());
 
     start();
-    EXPECT_TRUE(window->reopenLast());
+    EXPECT_TRUE(window->life().reopenLast());
     auto* const page =
         qobject_cast<manuscript::DocumentPage*>(window->findChild<WorkArea*>(u"workArea"_s)->currentPage());
     ASSERT_TRUE(page) << "what was open is open again";
@@ -128,7 +132,7 @@ TEST_F(MainWindowTest, closingAsksOnlyWhenSomethingIsUnsaved)
 TEST_F(MainWindowTest, badFoldersAreToldAndTheProjectStays)
 {
     const NextMessage close(u"Close"_s);
-    EXPECT_FALSE(window->openProject(folder.filePath(u"nowhere"_s)));
+    EXPECT_FALSE(window->life().open(folder.filePath(u"nowhere"_s)));
     EXPECT_TRUE(close.text.startsWith(u"The project could not be found:"_s));
     EXPECT_FALSE(idOf(u"The Spike"_s).isNull());
     EXPECT_FALSE(window->select(u"No such thing"_s));
@@ -177,6 +181,28 @@ TEST_F(MainWindowTest, splittingShowsOnePageTwice)
     EXPECT_EQ(area->count(), 1);
     area->restoreIds(ids);
     EXPECT_EQ(area->openIds(), ids);
+}
+
+TEST_F(MainWindowTest, anotherTextSizeReachesTheOpenWindowAtOnce)
+{
+    desk->themes.apply(*qApp);
+    ASSERT_TRUE(window->select(u"Ibbet Lusk"_s));
+    const auto sizes = [this] {
+        std::map<const QWidget*, qreal> result;
+        for (const QWidget* const widget : window->findChildren<QWidget*>())
+            result[widget] = widget->font().pointSizeF();
+        return result;
+    };
+    const auto before = sizes();
+    desk->themes.setFontScale(1.5);
+    for (const auto& [widget, size] : sizes()) {
+        const auto earlier = before.find(widget);
+        if (earlier != before.end()) {
+            EXPECT_NEAR(size / earlier->second, 1.5, 0.01)
+                << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+        }
+    }
+    desk->themes.setFontScale(1.0);
 }
 
 TEST(RecentProjectsTest, newestFirstEachOnce)

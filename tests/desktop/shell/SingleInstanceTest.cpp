@@ -104,6 +104,7 @@ TEST(SingleInstanceMessageTest, readsOneLineAndRefusesTheRest)
         {"\n", State::Complete, {}},
         {" /a b\r\n/c\n", State::Complete, u"/a b"_s},
         {"/Zo\xc3\xab\n", State::Complete, u"/Zoë"_s},
+        {"\xef\xbb\xbf/a\n", State::Complete, u"\ufeff/a"_s},
         {"/Zo\xc3\n", State::Refused, {}},
         {"\xff\xfe/\n", State::Refused, {}},
         {endless.first(longestInstanceMessage - 1), State::Incomplete, {}},

@@ -29,9 +29,20 @@ std::optional<FileStamp> DiskFileSystem::stamp(const QString& path)
     return platform::stampOf(path);
 }
 
-std::optional<QString> DiskFileSystem::writeTemporary(const QString& target, const QByteArray& bytes)
+std::optional<QString> DiskFileSystem::writeTemporary(
+    const QString& target, const QByteArray& bytes, Durability durability)
 {
-    return platform::writeTemporary(writtenThrough(target), bytes);
+    return platform::writeTemporary(writtenThrough(target), bytes, durability);
+}
+
+bool DiskFileSystem::syncFile(const QString& path)
+{
+    return platform::syncFile(path);
+}
+
+bool DiskFileSystem::syncFileSystem(const QString& folder)
+{
+    return platform::syncFileSystem(folder);
 }
 
 bool DiskFileSystem::replace(const QString& temporary, const QString& target)

@@ -26,6 +26,14 @@ struct FileContent
     FileStamp stamp;
 };
 
+/** Whether a write waits until its bytes cannot be lost any more. */
+enum class Durability
+{
+    OnMedium,
+    /** They may be in memory alone until they are synced. */
+    Cached,
+};
+
 /**
  * The operations on files that loading and saving need. Passed in by reference, so that tests can stand in a
  * medium that fails. Every operation may be called from any thread. None says more than that it failed:
@@ -44,11 +52,20 @@ public:
     [[nodiscard]] virtual std::optional<FileStamp> stamp(const QString& path) = 0;
 
     /**
-     * Writes the bytes to a new file beside the target, with the target's permissions if it exists, and has
-     * them reach the medium. Gives the new file's path; after a failure nothing is left behind.
+     * Writes the bytes to a new file beside the target, with the target's permissions if it exists. Gives the
+     * new file's path; after a failure nothing is left behind.
      */
     [[nodiscard]] virtual std::optional<QString> writeTemporary(
-        const QString& target, const QByteArray& bytes) = 0;
+        const QString& target, const QByteArray& bytes, Durability durability) = 0;
+
+    /** Has the bytes of a file reach the medium. */
+    [[nodiscard]] virtual bool syncFile(const QString& path) = 0;
+
+    /**
+     * Has all that was written to the file system of the folder reach the medium, by whomever. False where
+     * the system has no such call, or it failed: nothing is known of any file then.
+     */
+    [[nodiscard]] virtual bool syncFileSystem(const QString& folder) = 0;
 
     /** Puts the temporary in the target's place in one step; others see the old file or the new one. */
     [[nodiscard]] virtual bool replace(const QString& temporary, const QString& target) = 0;
@@ -69,7 +86,10 @@ class DiskFileSystem final : public FileSystem
 public:
     std::optional<FileContent> readFile(const QString& path) override;
     std::optional<FileStamp> stamp(const QString& path) override;
-    std::optional<QString> writeTemporary(const QString& target, const QByteArray& bytes) override;
+    std::optional<QString> writeTemporary(
+        const QString& target, const QByteArray& bytes, Durability durability) override;
+    bool syncFile(const QString& path) override;
+    bool syncFileSystem(const QString& folder) override;
     bool replace(const QString& temporary, const QString& target) override;
     bool remove(const QString& path) override;
     bool makeFolders(const QString& path) override;

@@ -18,7 +18,10 @@ inline constexpr QLatin1StringView temporaryPrefix(".vellory-save-");
 
 [[nodiscard]] std::optional<FileContent> readFile(const QString& path);
 [[nodiscard]] std::optional<FileStamp> stampOf(const QString& path);
-[[nodiscard]] std::optional<QString> writeTemporary(const QString& target, const QByteArray& bytes);
+[[nodiscard]] std::optional<QString> writeTemporary(
+    const QString& target, const QByteArray& bytes, Durability durability);
+[[nodiscard]] bool syncFile(const QString& path);
+[[nodiscard]] bool syncFileSystem(const QString& folder);
 [[nodiscard]] bool replaceFile(const QString& from, const QString& to);
 [[nodiscard]] bool syncFolder(const QString& path);
 

@@ -47,7 +47,8 @@ std::optional<FileStamp> stampOf(const QString& path)
     return info.exists() ? std::optional(stampFrom(info)) : std::nullopt;
 }
 
-std::optional<QString> writeTemporary(const QString& target, const QByteArray& bytes)
+// Qt can have bytes reach the medium only while it writes them, so every write does.
+std::optional<QString> writeTemporary(const QString& target, const QByteArray& bytes, Durability)
 {
     const QFileInfo existing(target);
     if (existing.exists() && (!existing.isFile() || !existing.isWritable()))
@@ -64,6 +65,16 @@ std::optional<QString> writeTemporary(const QString& target, const QByteArray& b
         return path;
     QFile::remove(path);
     return std::nullopt;
+}
+
+bool syncFile(const QString& path)
+{
+    return QFileInfo(path).isFile();
+}
+
+bool syncFileSystem(const QString&)
+{
+    return false;
 }
 
 bool replaceFile(const QString& from, const QString& to)

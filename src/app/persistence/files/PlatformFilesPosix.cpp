@@ -108,7 +108,7 @@ bool writeAll(int file, const QByteArray& bytes)
     return true;
 }
 
-bool syncFile(int file)
+bool syncContent(int file)
 {
 #if defined(_POSIX_SYNCHRONIZED_IO) && _POSIX_SYNCHRONIZED_IO > 0
     return repeatedWhileInterrupted([&] { return ::fdatasync(file); }) == 0;
@@ -398,7 +398,7 @@ std::optional<FileStamp> stampOf(const QString& path)
     return stampFrom(status);
 }
 
-std::optional<QString> writeTemporary(const QString& target, const QByteArray& bytes)
+std::optional<QString> writeTemporary(const QString& target, const QByteArray& bytes, Durability durability)
 {
     const QByteArray targetName = QFile::encodeName(target);
     struct stat existing = {};
@@ -412,11 +412,28 @@ std::optional<QString> writeTemporary(const QString& target, const QByteArray& b
     if (!file.isOpen())
         return std::nullopt;
     const bool isDone = (!replaces || ::fchmod(file.number(), existing.st_mode & permissionBits) == 0) &&
-                        writeAll(file.number(), bytes) && syncFile(file.number());
+                        writeAll(file.number(), bytes) &&
+                        (durability == Durability::Cached || syncContent(file.number()));
     if (file.close() && isDone)
         return path;
     ::unlink(QFile::encodeName(path).constData());
     return std::nullopt;
+}
+
+bool syncFile(const QString& path)
+{
+    const Descriptor file = openPath(QFile::encodeName(path), O_WRONLY);
+    return file.isOpen() && syncContent(file.number());
+}
+
+bool syncFileSystem([[maybe_unused]] const QString& folder)
+{
+#ifdef Q_OS_LINUX
+    const Descriptor opened = openPath(QFile::encodeName(folder), O_RDONLY | O_DIRECTORY);
+    return opened.isOpen() && ::syncfs(opened.number()) == 0;
+#else
+    return false;
+#endif
 }
 
 bool replaceFile(const QString& from, const QString& to)

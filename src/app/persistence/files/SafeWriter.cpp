@@ -1,21 +1,27 @@
 #include "app/persistence/files/SafeWriter.h"
 
+#include "app/persistence/files/ParallelFor.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QMutex>
 #include <QThreadPool>
-#include <QWaitCondition>
 
 #include <algorithm>
+#include <optional>
+#include <span>
 #include <vector>
 
 namespace tw::app::persistence {
 
 namespace {
 
-constexpr int preparingThreads = 8;
-/** Temporary files that may stand prepared ahead of the one being replaced. */
-constexpr qsizetype preparedAhead = 256;
+/** Temporary files that may lie beside their targets at any time. */
+constexpr qsizetype filesInAChunk = 1024;
+/** From so many files on, one wait for everything on the medium is shorter than one for each of them. */
+constexpr qsizetype filesSyncedTogether = 16;
+constexpr qsizetype filesOfAThread = 16;
+/** More than there are processors: they wait for the medium. */
+constexpr int syncingThreads = 8;
 
 } // namespace
 
@@ -29,80 +35,62 @@ core::Failure writeFailure(const QString& path)
             .arg(path)};
 }
 
-/** The temporary files of one batch, made ahead on a pool while the calling thread takes them in order. */
-class SafeWriter::Batch
+/** Some files of a batch, with their temporaries, all on the medium or failed. Removes those not taken. */
+class SafeWriter::Chunk
 {
 public:
-    Batch(const SafeWriter& writer, const QList<FileWrite>& files)
+    Chunk(const SafeWriter& writer, std::span<const FileWrite> files)
         : m_writer(writer)
         , m_files(files)
-        , m_prepared(static_cast<std::size_t>(files.size()))
+        , m_temporaries(files.size())
     {
-        m_pool.setMaxThreadCount(preparingThreads);
-        const qsizetype threads = std::min<qsizetype>(preparingThreads, files.size());
-        for (qsizetype thread = 0; thread < threads; ++thread)
-            m_pool.start([this] { prepareFiles(); });
+        parallelFor(std::ssize(files), filesOfAThread, [this](qsizetype begin, qsizetype end) {
+            for (auto index = static_cast<std::size_t>(begin); index < static_cast<std::size_t>(end); ++index)
+                m_temporaries[index] = m_writer.prepare(m_files[index], Durability::Cached);
+        });
+        const bool isTogether = std::ssize(files) >= filesSyncedTogether;
+        if (!isTogether || !m_writer.m_fileSystem.syncFileSystem(QFileInfo(files.front().path).path()))
+            syncEach();
     }
 
-    ~Batch()
+    ~Chunk()
     {
-        {
-            const QMutexLocker lock(&m_mutex);
-            m_isStopped = true;
-            m_roomMade.wakeAll();
-        }
-        m_pool.waitForDone();
-        for (const std::optional<core::Result<QString>>& temporary : m_prepared) {
+        for (const std::optional<core::Result<QString>>& temporary : m_temporaries) {
             if (temporary && temporary->isOk())
                 m_writer.m_fileSystem.remove(temporary->value());
         }
     }
-    Q_DISABLE_COPY_MOVE(Batch)
+    Q_DISABLE_COPY_MOVE(Chunk)
 
-    /** Waits for the temporary of the next file; from here on it is the caller's. */
-    core::Result<QString> take(qsizetype index)
+    /** From here on the temporary is the caller's. */
+    core::Result<QString> take(std::size_t index)
     {
-        const QMutexLocker lock(&m_mutex);
-        m_taken = index + 1;
-        m_roomMade.wakeOne();
-        std::optional<core::Result<QString>>& slot = m_prepared[static_cast<std::size_t>(index)];
-        while (!slot)
-            m_awaitedCame.wait(&m_mutex);
-        core::Result<QString> temporary = std::move(*slot);
-        slot.reset();
+        core::Result<QString> temporary = std::move(*m_temporaries[index]);
+        m_temporaries[index].reset();
         return temporary;
     }
 
 private:
-    void prepareFiles()
+    void syncEach()
     {
-        QMutexLocker lock(&m_mutex);
-        while (!m_isStopped && m_next < m_files.size()) {
-            if (m_next >= m_taken + preparedAhead) {
-                m_roomMade.wait(&m_mutex);
+        QThreadPool pool;
+        pool.setMaxThreadCount(syncingThreads);
+        for (std::size_t index = 0; index < m_files.size(); ++index) {
+            core::Result<QString>& temporary = *m_temporaries[index];
+            if (!temporary)
                 continue;
-            }
-            const qsizetype index = m_next++;
-            lock.unlock();
-            core::Result<QString> temporary = m_writer.prepare(m_files.at(index));
-            lock.relock();
-            m_prepared[static_cast<std::size_t>(index)].emplace(std::move(temporary));
-            // Waking threads for nothing would cost more than a fast medium takes for the file.
-            if (index == m_taken - 1)
-                m_awaitedCame.wakeOne();
+            pool.start([this, &temporary, index] {
+                const auto synced = m_writer.sync(temporary.value(), m_files[index].path);
+                if (!synced)
+                    temporary = core::Failure{synced.message()};
+            });
         }
+        pool.waitForDone();
     }
 
     const SafeWriter& m_writer;
-    const QList<FileWrite>& m_files;
-    QMutex m_mutex;               ///< Guards all that follows, but for the pool.
-    QWaitCondition m_roomMade;    ///< For the threads that prepare.
-    QWaitCondition m_awaitedCame; ///< For the calling thread, which waits for the file last asked for.
-    std::vector<std::optional<core::Result<QString>>> m_prepared;
-    qsizetype m_next = 0;  ///< The first file that no thread has begun.
-    qsizetype m_taken = 0; ///< How many the calling thread has asked for.
-    bool m_isStopped = false;
-    QThreadPool m_pool;
+    const std::span<const FileWrite> m_files;
+    std::vector<std::optional<core::Result<QString>>> m_temporaries;
 };
 
 SafeWriter::SafeWriter(FileSystem& fileSystem, RetryPolicy policy, Sleeper sleeper)
@@ -119,25 +107,30 @@ BatchOutcome SafeWriter::writeAll(const QList<FileWrite>& files, const BeforeCom
         outcome.committed = outcome.result ? 1 : 0;
         return outcome;
     }
-    Batch batch(*this, files);
-    for (; outcome.committed < files.size(); ++outcome.committed) {
-        const qsizetype index = outcome.committed;
-        const core::Result<QString> temporary = batch.take(index);
-        if (!temporary)
-            outcome.result = core::Failure{temporary.message()};
-        else
-            outcome.result = commit(temporary.value(), files.at(index).path, [&] {
-                return beforeCommit ? beforeCommit(index) : core::Result<void>();
-            });
-        if (!outcome.result)
-            break;
+    const std::span<const FileWrite> all(files);
+    while (outcome.result && outcome.committed < files.size()) {
+        const qsizetype first = outcome.committed;
+        const qsizetype count = std::min(filesInAChunk, files.size() - first);
+        Chunk chunk(*this, all.subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(count)));
+        for (qsizetype index = first; index < first + count; ++index) {
+            const core::Result<QString> temporary = chunk.take(static_cast<std::size_t>(index - first));
+            if (!temporary)
+                outcome.result = core::Failure{temporary.message()};
+            else
+                outcome.result = commit(temporary.value(), files.at(index).path, [&] {
+                    return beforeCommit ? beforeCommit(index) : core::Result<void>();
+                });
+            if (!outcome.result)
+                break;
+            ++outcome.committed;
+        }
     }
     return outcome;
 }
 
 core::Result<void> SafeWriter::write(const FileWrite& file, const BeforeCommit& beforeCommit)
 {
-    const core::Result<QString> temporary = prepare(file);
+    const core::Result<QString> temporary = prepare(file, Durability::OnMedium);
     if (!temporary)
         return core::Failure{temporary.message()};
     return commit(
@@ -160,12 +153,12 @@ core::Result<void> SafeWriter::syncFolders()
     return result;
 }
 
-core::Result<QString> SafeWriter::prepare(const FileWrite& file) const
+core::Result<QString> SafeWriter::prepare(const FileWrite& file, Durability durability) const
 {
     std::optional<QString> temporary;
     const core::Result<void> result = retryFileWrite(
         [&]() -> core::Result<void> {
-            temporary = m_fileSystem.writeTemporary(file.path, file.bytes);
+            temporary = m_fileSystem.writeTemporary(file.path, file.bytes, durability);
             if (!temporary)
                 return writeFailure(file.path);
             return {};
@@ -174,6 +167,20 @@ core::Result<QString> SafeWriter::prepare(const FileWrite& file) const
     if (!result)
         return core::Failure{result.message()};
     return *temporary;
+}
+
+core::Result<void> SafeWriter::sync(const QString& temporary, const QString& target) const
+{
+    core::Result<void> result = retryFileWrite(
+        [&]() -> core::Result<void> {
+            if (!m_fileSystem.syncFile(temporary))
+                return writeFailure(target);
+            return {};
+        },
+        m_policy, m_sleeper);
+    if (!result)
+        m_fileSystem.remove(temporary);
+    return result;
 }
 
 core::Result<void> SafeWriter::commit(

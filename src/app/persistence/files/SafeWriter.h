@@ -29,8 +29,8 @@ struct BatchOutcome
  * file in the same folder, reach the medium, and take the target's place in one step. Failed steps are tried
  * again by the policy.
  *
- * Belongs to the thread that made it. A batch prepares its temporary files on threads of its own, since
- * waiting for the medium is what takes the time; the replacing happens on the calling thread.
+ * Belongs to the thread that made it. A batch goes chunk by chunk: the temporary files are written on several
+ * threads, reach the medium together, and are put in place one after another on the calling thread.
  */
 class SafeWriter
 {
@@ -56,9 +56,10 @@ public:
     [[nodiscard]] core::Result<void> syncFolders();
 
 private:
-    class Batch;
+    class Chunk;
 
-    [[nodiscard]] core::Result<QString> prepare(const FileWrite& file) const;
+    [[nodiscard]] core::Result<QString> prepare(const FileWrite& file, Durability durability) const;
+    [[nodiscard]] core::Result<void> sync(const QString& temporary, const QString& target) const;
     [[nodiscard]] core::Result<void> commit(
         const QString& temporary, const QString& target, const std::function<core::Result<void>()>& check);
 

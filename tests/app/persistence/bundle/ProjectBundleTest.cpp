@@ -126,28 +126,9 @@ TEST_F(ProjectBundle, isNotBuiltWhenAFileWouldBeMissing)
     QFile::remove(path(u"project/assets/a\\b.png"_s));
 #endif
 
-    class Unreadable final : public FileSystem
-    {
-    public:
-        explicit Unreadable(FileSystem& files)
-            : m_files(files)
-        {}
-        std::optional<FileContent> readFile(const QString& path) override
-        {
-            return path.endsWith(u"b.json") ? std::nullopt : m_files.readFile(path);
-        }
-        std::optional<FileStamp> stamp(const QString& path) override { return m_files.stamp(path); }
-        std::optional<QString> writeTemporary(const QString&, const QByteArray&) override { return {}; }
-        bool replace(const QString&, const QString&) override { return false; }
-        bool remove(const QString&) override { return false; }
-        bool makeFolders(const QString&) override { return false; }
-        bool syncFolder(const QString&) override { return false; }
-
-    private:
-        FileSystem& m_files;
-    } unreadable(m_files);
+    m_files.unreadable.insert(project() + u"/objects/b.json"_s);
     EXPECT_EQ(
-        buildBundle(unreadable, project()).message(),
+        buildBundle(m_files, project()).message(),
         u"Could not read a project file: "_s + project() + u"/objects/b.json"_s);
 }
 

@@ -69,7 +69,7 @@ TEST(DiskFileSystem, tellsAFileFromItsReplacement)
     const QString path = folder.filePath(u"a.json"_s);
     store(path, "same");
     const std::optional<FileStamp> before = files.stamp(path);
-    const std::optional<QString> temporary = files.writeTemporary(path, "same");
+    const std::optional<QString> temporary = files.writeTemporary(path, "same", Durability::OnMedium);
     ASSERT_TRUE(temporary);
     EXPECT_EQ(files.stamp(path), before);
     EXPECT_TRUE(files.replace(*temporary, path));
@@ -89,7 +89,7 @@ TEST(DiskFileSystem, leavesNothingBehindWhenTheMediumTakesOnlyPartOfTheBytes)
     const rlimit tight{1'000'000, usual.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tight), 0);
     const std::optional<QString> temporary =
-        DiskFileSystem().writeTemporary(path, QByteArray(3'000'000, 'x'));
+        DiskFileSystem().writeTemporary(path, QByteArray(3'000'000, 'x'), Durability::Cached);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &usual), 0);
     std::signal(SIGXFSZ, handler);
     EXPECT_FALSE(temporary);
@@ -137,7 +137,8 @@ TEST(FolderScan, namesTheTemporaryFilesOfSavesApart)
     QStringList expected;
     for (const QString& target : {u"project.json"_s, u"objects/1.json"_s, u"a/b/deep.md"_s}) {
         store(folder.filePath(target), "text");
-        const std::optional<QString> temporary = files.writeTemporary(folder.filePath(target), "new");
+        const std::optional<QString> temporary =
+            files.writeTemporary(folder.filePath(target), "new", Durability::Cached);
         ASSERT_TRUE(temporary);
         expected.append(QDir(folder.path()).relativeFilePath(*temporary));
     }
@@ -174,7 +175,7 @@ TEST(FolderScan, takesOverTheNamesOfAnEarlierScanAndNothingElse)
             } else if (index % 3 == 1) {
                 QFile::rename(path, other);
             } else {
-                const auto temporary = files.writeTemporary(path, "new");
+                const auto temporary = files.writeTemporary(path, "new", Durability::Cached);
                 ASSERT_TRUE(temporary && files.replace(*temporary, path));
             }
         }

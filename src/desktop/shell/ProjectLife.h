@@ -1,0 +1,61 @@
+#pragma once
+
+#include "app/persistence/FolderSaver.h"
+#include "desktop/shell/DeskContext.h"
+
+#include <QObject>
+#include <QString>
+
+class QWidget;
+
+namespace tw::desktop::shell {
+
+/**
+ * The life of the project from opening to closing, as the user leads it: asks for names and places, asks
+ * before anything unsaved goes, tells what failed. The session does the work.
+ */
+class ProjectLife final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** `samplePath` is empty when no sample is installed. Boxes appear above the window, which is the parent.
+     */
+    ProjectLife(const DeskContext& desk, QString samplePath, QWidget* window);
+
+    /** Asks first when something is unsaved; a failure is told, and the open project stays. */
+    bool open(const QString& path);
+    /** Opens the project of the last session when that is wanted and possible. */
+    bool reopenLast();
+    [[nodiscard]] bool hasSample() const { return !m_samplePath.isEmpty(); }
+
+    void startNew();
+    void chooseAndOpen();
+    void openSample();
+    void save();
+    bool saveAs();
+    void reload();
+
+    /** True when nothing is unsaved, or the user saved or let go of it. */
+    [[nodiscard]] bool settleUnsavedChanges();
+
+signals:
+    /** Another project is about to take the place of the open one. */
+    void aboutToLeave();
+    /** A project was opened or begun. */
+    void opened();
+    void openFailed();
+    /** The open project has another place now. */
+    void placeChanged();
+    /** For the status bar. */
+    void said(const QString& text);
+
+private:
+    [[nodiscard]] bool saveOrTell(app::persistence::SaveExtent extent);
+
+    DeskContext m_desk;
+    QString m_samplePath;
+    QWidget* m_window;
+};
+
+} // namespace tw::desktop::shell
