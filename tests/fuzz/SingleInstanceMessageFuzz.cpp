@@ -18,7 +18,7 @@ SingleInstanceMessage readInPieces(QByteArrayView bytes, qsizetype piece)
 {
     SingleInstanceMessage message;
     for (qsizetype begin = 0; begin < bytes.size(); begin += piece)
-        message.append(bytes.mid(begin, piece));
+        message.append(bytes.sliced(begin, std::min(piece, bytes.size() - begin)));
     return message;
 }
 

@@ -1,6 +1,5 @@
 #include "desktop/theme/InterfaceSize.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QFont>
 #include <QWidget>
@@ -9,7 +8,7 @@ namespace tw::desktop::theme {
 
 namespace {
 
-/** A child of the widget that it watches. */
+/** A child of the widget. */
 class SizeFollower final : public QObject
 {
 public:
@@ -19,13 +18,14 @@ public:
         , m_factor(factor)
     {
         takeUpSize();
-        widget.installEventFilter(this);
+        // The size of the interface comes down through the parents.
+        widget.parentWidget()->installEventFilter(this);
     }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::ApplicationFontChange)
+        if (event->type() == QEvent::FontChange)
             takeUpSize();
         return QObject::eventFilter(watched, event);
     }
@@ -34,7 +34,7 @@ private:
     void takeUpSize()
     {
         QFont font = m_widget.font();
-        font.setPointSizeF(QApplication::font().pointSizeF() * m_factor);
+        font.setPointSizeF(m_widget.parentWidget()->font().pointSizeF() * m_factor);
         m_widget.setFont(font);
     }
 
