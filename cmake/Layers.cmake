@@ -2,6 +2,7 @@
 # is not in its row does not configure, so that the layers stay what docs/ARCHITECTURE.md says they are.
 
 set(TW_LAYER_tw_core Qt6::Core)
+set(TW_LAYER_tw_platform Qt6::Core Qt6::Network)
 set(TW_LAYER_tw_project tw_core Qt6::Core simdjson::simdjson)
 set(TW_LAYER_tw_engines tw_core Qt6::Core)
 set(TW_LAYER_tw_exchange tw_core tw_engines tw_project Qt6::Core Qt6::Gui Qt6::Pdf)
@@ -10,6 +11,7 @@ set(TW_LAYER_tw_tools tw_core tw_project tw_engines tw_exchange Qt6::Core)
 set(TW_LAYER_tw_scripting tw_core tw_project Qt6::Core Qt6::Qml)
 set(TW_LAYER_tw_desktop
     tw_core
+    tw_platform
     tw_project
     tw_engines
     tw_exchange
@@ -19,6 +21,7 @@ set(TW_LAYER_tw_desktop
     Qt6::Core
     Qt6::DBus
     Qt6::Gui
+    Qt6::Network
     Qt6::Widgets
     Qt6::Svg
     ads::qtadvanceddocking
@@ -75,13 +78,19 @@ function(tw_add_library name)
     tw_precompile(${name})
 endfunction()
 
-# Sources, headers and resource lists below the folders, looked up again at every build.
+# Sources, headers and resource lists below the folders, looked up again at every build. What is written for a system says
+# so at the end of its name.
 function(tw_collect_sources result root)
     set(patterns)
     foreach(folder IN LISTS ARGN)
         list(APPEND patterns ${root}/${folder}/*.cpp ${root}/${folder}/*.h ${root}/${folder}/*.qrc)
     endforeach()
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${patterns})
+    if(WIN32)
+        list(FILTER sources EXCLUDE REGEX "Posix\\.cpp$")
+    else()
+        list(FILTER sources EXCLUDE REGEX "Windows\\.cpp$")
+    endif()
     # Headers alone make no library.
     set(compiled ${sources})
     list(FILTER compiled INCLUDE REGEX "\\.cpp$")

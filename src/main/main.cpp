@@ -1,28 +1,59 @@
 #include "app/persistence/StorageEnvironment.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/CommandLine.h"
+#include "desktop/shell/DialogSelfTest.h"
 #include "desktop/shell/MainWindow.h"
 #include "desktop/shell/Navigator.h"
+#include "desktop/shell/OpenRequest.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/ProjectSession.h"
+#include "desktop/shell/SettingsMigration.h"
+#include "desktop/shell/SingleInstance.h"
+#include "desktop/shell/SingleInstanceServer.h"
+#include "desktop/shell/Translations.h"
+#include "desktop/shell/WindowCapture.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QTimer>
 
-#include <chrono>
 #include <cstdio>
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace tw;
+using namespace tw::desktop::shell;
 
 namespace {
 
-constexpr std::chrono::milliseconds captureDelay{1500};
+const QString organizationName = u"Vellory"_s;
+
+void nameApplication()
+{
+    QApplication::setApplicationName(u"Vellory"_s);
+    QApplication::setOrganizationName(organizationName);
+    QApplication::setApplicationVersion(QStringLiteral(TW_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral(TW_APPLICATION_ID));
+}
+
+void takeOverFormerSettings(QSettings& settings)
+{
+    QSettings former(organizationName, u"Tarnwick"_s);
+    former.setFallbacksEnabled(false);
+    migrateLegacySettings(former, settings);
+}
+
+CommandLine readArguments()
+{
+    CommandLine commandLine = parseArguments(QApplication::arguments().mid(1));
+    if (!commandLine.projectPath.isEmpty())
+        commandLine.projectPath = QDir::cleanPath(QDir::current().absoluteFilePath(commandLine.projectPath));
+    return commandLine;
+}
 
 /** The sample project: installed beside the program, or in the source tree it was built from. */
 QString findSample()
@@ -38,14 +69,35 @@ QString findSample()
     return {};
 }
 
-void capture(desktop::shell::MainWindow& window, const QString& path)
+int printSelfTest(const SelfTestReport& report)
 {
-    if (window.grab().save(path)) {
-        QCoreApplication::exit(0);
+    for (const QString& line : report.lines)
+        std::printf("%s\n", qPrintable(line));
+    return report.isPassed ? 0 : 1;
+}
+
+OpenRequestActions openRequestActions(MainWindow& window)
+{
+    return {
+        [&window](const QString& path) { window.life().open(path); },
+        [](const QStringList& arguments) {
+            return QProcess::startDetached(QApplication::applicationFilePath(), arguments);
+        }};
+}
+
+/** The project that was asked for, or what was open last; the ways to begin at the very first start. */
+void begin(MainWindow& window, const QString& projectPath, QSettings& settings)
+{
+    constexpr QLatin1StringView welcomedKey = "onboarding/welcomed"_L1;
+    if (!projectPath.isEmpty()) {
+        window.life().open(projectPath);
         return;
     }
-    std::fprintf(stderr, "The picture could not be saved: %s\n", qPrintable(QDir::toNativeSeparators(path)));
-    QCoreApplication::exit(1);
+    window.life().reopenLast();
+    if (!settings.contains(welcomedKey)) {
+        window.showWelcome();
+        settings.setValue(welcomedKey, u"true"_s);
+    }
 }
 
 } // namespace
@@ -53,15 +105,22 @@ void capture(desktop::shell::MainWindow& window, const QString& path)
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
-    QApplication::setApplicationName(u"Vellory"_s);
-    QApplication::setOrganizationName(u"Vellory"_s);
-    QApplication::setApplicationVersion(QStringLiteral(TW_VERSION));
-    QApplication::setWindowIcon(desktop::icons::applicationIcon());
-    const desktop::shell::CommandLine commandLine =
-        desktop::shell::parseArguments(QApplication::arguments().mid(1));
-
+    nameApplication();
     QSettings settings;
     settings.setFallbacksEnabled(false);
+    takeOverFormerSettings(settings);
+    QApplication::setWindowIcon(desktop::icons::applicationIcon());
+    const CommandLine commandLine = readArguments();
+
+    std::unique_ptr<SingleInstanceServer> server;
+    if (commandLine.isInteractive()) {
+        const QString name = serverName(userNameFromEnvironment());
+        if (!commandLine.isNewInstance && sendToRunningInstance(name, commandLine.projectPath))
+            return 0;
+        server = std::make_unique<SingleInstanceServer>(name);
+    }
+
+    const Translations translations(chooseLocale(commandLine.language, settings));
     desktop::theme::ThemeManager themes(settings);
     themes.apply(application);
     const desktop::icons::IconSet icons(themes);
@@ -69,21 +128,21 @@ int main(int argc, char* argv[])
     app::persistence::DiskFileSystem fileSystem;
     const app::persistence::StorageEnvironment environment{
         fileSystem, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)};
-    desktop::shell::ProjectSession session(environment);
-    desktop::shell::Navigator navigator;
-    desktop::shell::MainWindow window({session, navigator, themes, icons, settings}, findSample());
+    ProjectSession session(environment);
+    Navigator navigator;
+    const DeskContext desk{session, navigator, themes, icons, settings};
+    MainWindow window(desk, findSample());
+    OpenRequests openRequests(window, openRequestActions(window));
+    if (server)
+        QObject::connect(
+            server.get(), &SingleInstanceServer::requested, &openRequests, &OpenRequests::receive);
     window.show();
 
-    if (!commandLine.projectPath.isEmpty())
-        window.life().open(QFileInfo(commandLine.projectPath).absoluteFilePath());
-    else if (!commandLine.isCapture())
-        window.life().reopenLast();
-
-    if (commandLine.isCapture()) {
-        const QString& selection = commandLine.captureSelection;
-        if (!selection.isEmpty() && !window.select(selection))
-            std::fprintf(stderr, "There is nothing to select by this name: %s\n", qPrintable(selection));
-        QTimer::singleShot(captureDelay, &window, [&] { capture(window, commandLine.capturePath); });
-    }
+    if (commandLine.isSelfTest)
+        return printSelfTest(runDialogSelfTest(window, desk));
+    if (commandLine.isCapture())
+        captureWindow(window, commandLine);
+    else
+        begin(window, commandLine.projectPath, settings);
     return QApplication::exec();
 }

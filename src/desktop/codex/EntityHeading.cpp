@@ -10,6 +10,7 @@
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/Fonts.h"
+#include "desktop/theme/InterfaceSize.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QLabel>
@@ -100,9 +101,9 @@ void EntityHeading::makeAliases()
 void EntityHeading::makeName()
 {
     QFont font = theme::defaultPageFont();
-    font.setPointSizeF(this->font().pointSizeF() * nameScale);
     font.setWeight(QFont::DemiBold);
     m_name->setFont(font);
+    theme::followInterfaceSize(*m_name, nameScale);
     m_name->setFrame(false);
     m_name->setTextMargins(-2, 0, 0, 0);
     m_name->setPlaceholderText(tr("Name"));

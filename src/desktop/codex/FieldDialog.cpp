@@ -203,6 +203,7 @@ void FieldDialog::makeValueEditor()
         m_value->deleteLater();
     }
     m_value = fields::makeValueEditor(m_desk, m_valueField, m_valuePlace);
+    m_value->nameControl(tr("Fixed value"));
     m_value->setValue(value);
     m_valueLayout->addWidget(m_value);
 }

@@ -80,11 +80,7 @@ void FieldRow::makeEditor(const shell::DeskContext& desk)
     layout->addWidget(m_required);
     m_body->setFocusProxy(m_editor);
     m_editor->setToolTip(m_resolved.field.description);
-    QWidget* control = m_editor;
-    while (control->focusProxy())
-        control = control->focusProxy();
-    control->setAccessibleName(m_resolved.field.displayName());
-    control->setAccessibleDescription(m_resolved.field.description);
+    m_editor->nameControl(m_resolved.field.displayName(), m_resolved.field.description);
 }
 
 void FieldRow::makeFixedValue(const shell::DeskContext& desk)

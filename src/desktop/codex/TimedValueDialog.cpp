@@ -40,6 +40,7 @@ TimedValueDialog::TimedValueDialog(
         m_field->addItem(
             fieldTypeIcon(desk.icons, resolved.field.type), resolved.field.displayName(), resolved.field.key);
     }
+    m_date->focusProxy()->setAccessibleName(tr("From"));
     m_date->setCalendar(desk.session.project().calendar());
     if (present) {
         m_field->setCurrentIndex(std::max(0, m_field->findData(present->key)));
@@ -76,6 +77,7 @@ void TimedValueDialog::makeEditor(const std::optional<QString>& value)
         m_value->deleteLater();
     }
     m_value = fields::makeValueEditor(m_desk, field(), this);
+    m_value->nameControl(tr("Value"));
     m_value->setValue(value);
     m_valuePlace->addWidget(m_value);
 }

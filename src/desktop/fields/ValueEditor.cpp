@@ -48,6 +48,15 @@ void ValueEditor::setValue(const std::optional<QString>& value)
     present();
 }
 
+void ValueEditor::nameControl(const QString& name, const QString& description)
+{
+    QWidget* control = this;
+    while (control->focusProxy())
+        control = control->focusProxy();
+    control->setAccessibleName(name);
+    control->setAccessibleDescription(description);
+}
+
 void ValueEditor::commit() {}
 
 void ValueEditor::follow(const core::project::ProjectChanges&) {}

@@ -26,6 +26,8 @@ public:
     /** Shows another stored value, in place of uncommitted typing too; emits nothing. */
     void setValue(const std::optional<QString>& value);
 
+    /** What a screen reader says of the control, wherever it lies in the editor. */
+    void nameControl(const QString& name, const QString& description = {});
     virtual void setReadOnly(bool readOnly) = 0;
     /** Emits valueEdited() for what was typed but not finished, when it makes a value. */
     virtual void commit();

@@ -9,14 +9,21 @@ CommandLine parseArguments(const QStringList& arguments)
     CommandLine commandLine;
     for (qsizetype index = 0; index < arguments.size(); ++index) {
         const QString& argument = arguments[index];
-        const bool hasValue = index + 1 < arguments.size();
+        const auto takeValue = [&](QString& value) {
+            if (index + 1 < arguments.size())
+                value = arguments[++index];
+        };
         if (argument == "--capture"_L1) {
-            if (hasValue)
-                commandLine.capturePath = arguments[++index];
+            takeValue(commandLine.capturePath);
         } else if (argument == "--capture-select"_L1) {
-            // The next option is no value.
-            if (hasValue && !arguments[index + 1].startsWith("--"_L1))
-                commandLine.captureSelection = arguments[++index];
+            if (!arguments.value(index + 1).startsWith("--"_L1))
+                takeValue(commandLine.captureSelection);
+        } else if (argument == "--lang"_L1) {
+            takeValue(commandLine.language);
+        } else if (argument == "--selftest-dialogs"_L1) {
+            commandLine.isSelfTest = true;
+        } else if (argument == "--new-instance"_L1) {
+            commandLine.isNewInstance = true;
         } else if (!argument.startsWith(u'-') && commandLine.projectPath.isEmpty()) {
             commandLine.projectPath = argument;
         }

@@ -67,6 +67,8 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
                 refreshTitle();
         });
     connect(&desk.navigator, &Navigator::said, this, &MainWindow::say);
+    // The page may be there already, behind the ways to begin.
+    connect(&desk.navigator, &Navigator::openRequested, this, &MainWindow::showCenter);
     followLife();
     showCenter();
     refreshHistory();
@@ -81,6 +83,7 @@ void MainWindow::followLife()
     connect(m_life, &ProjectLife::placeChanged, this, &MainWindow::refreshTitle);
     connect(m_life, &ProjectLife::said, this, &MainWindow::say);
     statusBar()->insertPermanentWidget(0, m_life->externalChanges().notice());
+    connect(m_welcome, &WelcomePage::backRequested, this, &MainWindow::showCenter);
     connect(m_welcome, &WelcomePage::newRequested, m_life, &ProjectLife::startNew);
     connect(m_welcome, &WelcomePage::openRequested, m_life, &ProjectLife::chooseAndOpen);
     connect(m_welcome, &WelcomePage::sampleRequested, m_life, &ProjectLife::openSample);
@@ -178,12 +181,19 @@ bool MainWindow::select(const QString& what)
     return true;
 }
 
+void MainWindow::showWelcome()
+{
+    const ProjectSession& session = m_desk.session;
+    m_welcome->setRecent(RecentProjects(m_desk.settings).paths());
+    m_welcome->setOpenProject(session.isProjectOpen() ? session.workspace().displayName() : QString());
+    m_center->setCurrentWidget(m_welcome);
+}
+
 void MainWindow::showCenter()
 {
     const bool isOpen = m_desk.session.isProjectOpen();
-    m_welcome->setRecent(RecentProjects(m_desk.settings).paths());
     if (!isOpen)
-        m_center->setCurrentWidget(m_welcome);
+        showWelcome();
     else if (m_workArea->hasPages())
         m_center->setCurrentWidget(m_workArea);
     else

@@ -38,6 +38,8 @@ public:
 
     /** What opens and closes projects here. */
     [[nodiscard]] ProjectLife& life() { return *m_life; }
+    /** Shows the ways to begin, also while a project is open. */
+    void showWelcome();
     /** Shows an object, or a panel by its object name or an object by its exact title; false when there is
      * none. */
     bool select(const QString& what);

@@ -100,6 +100,7 @@ void MainWindow::buildMenus()
     buildViewMenu();
     buildCodexMenu();
     QMenu* const windows = menuBar()->addMenu(tr("&Windows"));
+    windows->setObjectName(u"windowsMenu"_s);
     m_docks->fillMenu(*windows);
     buildHelpMenu();
 }

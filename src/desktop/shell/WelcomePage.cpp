@@ -1,9 +1,11 @@
 #include "desktop/shell/WelcomePage.h"
 
 #include "desktop/icons/IconSet.h"
+#include "desktop/theme/InterfaceSize.h"
 
 #include <QCommandLinkButton>
 #include <QDir>
+#include <QEvent>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -21,9 +23,9 @@ QLabel* makeTitle(const QString& text, qreal scale, QWidget* parent)
 {
     auto* const label = new QLabel(text, parent);
     QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * scale);
     font.setWeight(QFont::DemiBold);
     label->setFont(font);
+    theme::followInterfaceSize(*label, scale);
     return label;
 }
 
@@ -32,11 +34,12 @@ QLabel* makeTitle(const QString& text, qreal scale, QWidget* parent)
 WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* parent)
     : QWidget(parent)
     , m_icons(icons)
+    , m_column(new QWidget(this))
     , m_recent(new QWidget(this))
     , m_recentLayout(new QVBoxLayout(m_recent))
 {
-    auto* const column = new QWidget(this);
-    column->setFixedWidth(fontMetrics().averageCharWidth() * columnCharacters);
+    QWidget* const column = m_column;
+    fitColumn();
     auto* const layout = new QVBoxLayout(column);
     layout->setSpacing(8);
     auto* const mark = new QLabel(column);
@@ -54,7 +57,10 @@ WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* p
         button->setIcon(m_icons.icon(icon));
         connect(button, &QCommandLinkButton::clicked, this, signal);
         layout->addWidget(button);
+        return button;
     };
+    m_back = addLink(icons::Icon::ChevronRight, {}, {}, &WelcomePage::backRequested);
+    m_back->hide();
     if (hasSample) {
         addLink(
             icons::Icon::Manuscript, tr("Look around in the sample"),
@@ -78,6 +84,18 @@ WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* p
     outer->addStretch(3);
 }
 
+void WelcomePage::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        fitColumn();
+}
+
+void WelcomePage::fitColumn()
+{
+    m_column->setFixedWidth(fontMetrics().averageCharWidth() * columnCharacters);
+}
+
 void WelcomePage::setRecent(const QStringList& paths)
 {
     qDeleteAll(m_recent->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
@@ -90,6 +108,13 @@ void WelcomePage::setRecent(const QStringList& paths)
         connect(button, &QCommandLinkButton::clicked, this, [this, path] { emit recentRequested(path); });
         m_recentLayout->addWidget(button);
     }
+}
+
+void WelcomePage::setOpenProject(const QString& name)
+{
+    m_back->setVisible(!name.isEmpty());
+    m_back->setText(tr("Go on with “%1”").arg(name));
+    m_back->setDescription(tr("The project is open already."));
 }
 
 } // namespace tw::desktop::shell

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QCommandLinkButton;
 class QVBoxLayout;
 
 namespace tw::desktop::icons {
@@ -10,7 +11,7 @@ class IconSet;
 
 namespace tw::desktop::shell {
 
-/** What the window shows while no project is open: ways to begin. */
+/** What the window shows while no project is open, and once at the first start: ways to begin. */
 class WelcomePage final : public QWidget
 {
     Q_OBJECT
@@ -20,15 +21,25 @@ public:
     WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* parent);
 
     void setRecent(const QStringList& paths);
+    /** The project to go back to; empty while none is open. */
+    void setOpenProject(const QString& name);
 
 signals:
+    void backRequested();
     void sampleRequested();
     void newRequested();
     void openRequested();
     void recentRequested(const QString& path);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void fitColumn();
+
     const icons::IconSet& m_icons;
+    QWidget* m_column;
+    QCommandLinkButton* m_back = nullptr;
     QWidget* m_recent;
     QVBoxLayout* m_recentLayout;
 };

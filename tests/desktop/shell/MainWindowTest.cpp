@@ -3,7 +3,6 @@
 #include "core/entity/EntityCommands.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/MarkdownPage.h"
-#include "desktop/shell/CommandLine.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
@@ -20,13 +19,22 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 namespace tw::desktop::shell {
 
 using namespace Qt::Literals::StringLiterals;
-
 using test::NextMessage;
 
 namespace {
+
+bool isPartOfPage(const QWidget& widget)
+{
+    const QWidget* ancestor = &widget;
+    while (ancestor && !qobject_cast<const manuscript::MarkdownPage*>(ancestor))
+        ancestor = ancestor->parentWidget();
+    return ancestor != nullptr;
+}
 
 class MainWindowTest : public testing::Test
 {
@@ -185,30 +193,29 @@ TEST_F(MainWindowTest, splittingShowsOnePageTwice)
     EXPECT_EQ(area->openIds(), ids);
 }
 
-TEST(CommandLineTest, readsPathAndOptions)
+TEST_F(MainWindowTest, anotherTextSizeReachesTheOpenWindowAtOnce)
 {
-    const struct
-    {
-        QStringList arguments;
-        QString path;
-        QString capture;
-        QString selection;
-    } cases[] = {
-        {{}, {}, {}, {}},
-        {{u"a"_s, u"b"_s}, u"a"_s, {}, {}},
-        {{u"--capture"_s, u"x.png"_s, u"a"_s}, u"a"_s, u"x.png"_s, {}},
-        {{u"a"_s, u"--capture"_s}, u"a"_s, {}, {}},
-        {{u"--capture-select"_s, u"The Spike"_s, u"--capture"_s, u"x"_s}, {}, u"x"_s, u"The Spike"_s},
-        {{u"--capture-select"_s, u"--capture"_s, u"x"_s}, {}, u"x"_s, {}},
-        {{u"--unknown"_s, u"a"_s}, u"a"_s, {}, {}},
+    desk->themes.apply(*qApp);
+    ASSERT_TRUE(window->select(u"Ibbet Lusk"_s));
+    const auto sizes = [this] {
+        std::map<const QWidget*, qreal> result;
+        for (const QWidget* const widget : window->findChildren<QWidget*>()) {
+            // The size of the page is the writer's own.
+            if (!isPartOfPage(*widget))
+                result[widget] = widget->font().pointSizeF();
+        }
+        return result;
     };
-    for (const auto& sample : cases) {
-        const CommandLine line = parseArguments(sample.arguments);
-        const std::string shown = sample.arguments.join(u' ').toStdString();
-        EXPECT_EQ(line.projectPath, sample.path) << shown;
-        EXPECT_EQ(line.capturePath, sample.capture) << shown;
-        EXPECT_EQ(line.captureSelection, sample.selection) << shown;
+    const auto before = sizes();
+    desk->themes.setFontScale(1.5);
+    for (const auto& [widget, size] : sizes()) {
+        const auto earlier = before.find(widget);
+        if (earlier != before.end()) {
+            EXPECT_NEAR(size / earlier->second, 1.5, 0.01)
+                << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+        }
     }
+    desk->themes.setFontScale(1.0);
 }
 
 TEST(RecentProjectsTest, newestFirstEachOnce)
