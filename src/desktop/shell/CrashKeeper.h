@@ -31,8 +31,11 @@ public:
     void flush();
     /** What was noted is of no use any more: it was saved, or the user let go of it. */
     void discard();
-    /** Notes edits that were brought back from another journal, which may go then. */
-    void noteRestored(const std::map<QString, app::persistence::FileVersion>& files);
+    /**
+     * Notes edits that were brought back from another journal. Whether they are on the medium: only then may
+     * that journal go.
+     */
+    bool noteRestored(const std::map<QString, app::persistence::FileVersion>& files);
 
 signals:
     /** Edits could not be noted; once until it works again. */
