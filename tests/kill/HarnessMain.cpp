@@ -72,14 +72,12 @@ private:
     {
         return path(m_options.form == u"file" ? u"tide.vellory"_s : u"tide"_s);
     }
-    [[nodiscard]] app::persistence::StorageEnvironment environment()
-    {
-        return {m_files, path(u"data"_s), {}, [](auto) {}};
-    }
 
     void begin()
     {
         m_root = std::make_unique<QTemporaryDir>();
+        m_environment = std::make_unique<app::persistence::StorageEnvironment>(
+            app::persistence::StorageEnvironment{m_files, path(u"data"_s), {}, [](auto) {}});
         m_ledger = {};
     }
 
@@ -110,31 +108,25 @@ private:
 
     QStringList look()
     {
-        QStringList faults;
-        const auto first = open();
+        auto first = openAndRecover(*m_environment, project());
         if (!first) {
             if (m_ledger.hasKept())
                 return {u"Does not open: "_s + first.message()};
             begin();
             return {};
         }
-        const OpenedProject& opened = first.value();
+        OpenedProject opened = std::move(first).value();
         m_recoveries += opened.abandonedJournals > 0 || !opened.workspace->openingNotice().isEmpty() ? 1 : 0;
         const FileHashes hashes = hashesOf(*opened.workspace);
-        faults += m_ledger.settle(hashes);
+        QStringList faults = m_ledger.settle(hashes);
         for (const QString& overridden : opened.overridden)
             faults.append(u"Overridden: "_s + overridden);
         if (auto saved = opened.workspace->save(app::persistence::SaveExtent::Everything); !saved)
             faults.append(u"Cannot be saved: "_s + saved.message());
         opened.journal->discard();
         faults += lookAtFiles(*opened.workspace);
+        opened = {};
         return faults + lookAgain(hashes);
-    }
-
-    [[nodiscard]] core::Result<OpenedProject> open()
-    {
-        m_environment = std::make_unique<app::persistence::StorageEnvironment>(environment());
-        return openAndRecover(*m_environment, project());
     }
 
     [[nodiscard]] QStringList lookAtFiles(const app::workspace::Workspace& workspace)
@@ -155,7 +147,7 @@ private:
 
     [[nodiscard]] QStringList lookAgain(const FileHashes& hashes)
     {
-        const auto second = open();
+        const auto second = openAndRecover(*m_environment, project());
         if (!second)
             return {u"Does not open a second time: "_s + second.message()};
         QStringList faults;

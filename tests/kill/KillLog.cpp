@@ -13,8 +13,23 @@ KillLog::KillLog(const QString& path)
         std::abort();
 }
 
+void KillLog::mayBe(const FileHashes& files)
+{
+    for (const auto& [path, hash] : m_told) {
+        if (!files.contains(path))
+            write("file", path, goneHash);
+    }
+    for (const auto& [path, hash] : files) {
+        const auto told = m_told.find(path);
+        if (told == m_told.end() || told->second != hash)
+            write("file", path, hash);
+    }
+    m_told = files;
+}
+
 void KillLog::wasFound(const FileHashes& files)
 {
+    m_told = files;
     for (const auto& [path, hash] : files)
         write("open", path, hash);
 }

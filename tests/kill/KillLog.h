@@ -22,7 +22,8 @@ class KillLog
 public:
     explicit KillLog(const QString& path);
 
-    void mayBe(const QString& path, const QByteArray& hash) { write("file", path, hash); }
+    /** Tells only what is not the same as it was last told. */
+    void mayBe(const FileHashes& files);
     void wasFound(const FileHashes& files);
     void isKept() { write("kept", {}, {}); }
     void fault(const QString& text) { write("fault", text, {}); }
@@ -31,6 +32,7 @@ private:
     void write(const char* verb, const QString& what, const QByteArray& hash);
 
     QFile m_file;
+    FileHashes m_told;
 };
 
 /** Reads a log and holds what was found against it. */

@@ -88,8 +88,7 @@ void KilledProgram::make()
     Workspace& workspace = *m_open.workspace;
     fillWithEveryKind(workspace.projectForEdit());
     const FileHashes hashes = hashesOf(workspace);
-    for (const auto& [path, hash] : hashes)
-        m_log.mayBe(path, hash);
+    m_log.mayBe(hashes);
     require(workspace.saveAs(m_place.project), "making");
     m_open.journal = std::make_unique<app::persistence::CrashJournal>(m_environment, workspace.displayPath());
     m_log.wasFound(hashes);
@@ -137,8 +136,8 @@ void KilledProgram::noteEdits()
     auto present = app::persistence::serializeProject(m_open.workspace->project());
     const auto& disk = m_open.workspace->diskState();
     QList<JournalEdit> edits;
+    m_log.mayBe(hashesOf(present));
     const auto note = [&](const QString& path, const FileVersion& bytes) {
-        m_log.mayBe(path, hashOf(bytes));
         const FileVersion base = disk.contains(path) ? FileVersion(disk.bytes(path)) : FileVersion();
         edits.append({path, base, bytes, {}});
     };
@@ -218,7 +217,9 @@ bool KilledProgram::writeAsOthers()
             isEditedHere ? QByteArray() : retitled(bytes, path, u"Theirs %1"_s.arg(number(0, 1 << 30)));
         if (theirs.isEmpty() || number(0, 1) == 0)
             continue;
-        m_log.mayBe(path, hashOf(theirs));
+        app::persistence::ProjectFileMap together = m_noted;
+        together.insert_or_assign(path, theirs);
+        m_log.mayBe(hashesOf(together));
         if (!workspace.hasSingleFile()) {
             writeOutside(workspace.folderPath() + u'/' + path, theirs);
             return true;

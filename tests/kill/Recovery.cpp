@@ -1,6 +1,6 @@
 #include "kill/Recovery.h"
 
-#include "app/persistence/codec/ProjectWriter.h"
+#include "app/persistence/codec/ProjectLoader.h"
 #include "app/persistence/journal/JournalRestore.h"
 
 #include <QCryptographicHash>
@@ -16,6 +16,8 @@ using core::Failure;
 using core::Result;
 
 namespace {
+
+constexpr qsizetype digitsOfAHash = 16;
 
 FileVersion onDisk(const Workspace& workspace, const QString& path)
 {
@@ -72,19 +74,21 @@ Result<OpenedProject> openAndRecover(
     return opened;
 }
 
-FileHashes hashesOf(const Workspace& workspace)
+FileHashes hashesOf(const app::persistence::ProjectFileMap& files)
 {
+    const auto read = app::persistence::parseProject(files);
     FileHashes hashes;
-    for (const auto& [path, bytes] : app::persistence::serializeProject(workspace.project()))
-        hashes.emplace(path, hashOf(bytes));
+    if (!read)
+        return hashes;
+    for (const auto& [path, bytes] : app::persistence::serializeProject(*read.value().project))
+        hashes.emplace(
+            path, QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex().first(digitsOfAHash));
     return hashes;
 }
 
-QByteArray hashOf(const FileVersion& version)
+FileHashes hashesOf(const Workspace& workspace)
 {
-    if (!version)
-        return goneHash;
-    return QCryptographicHash::hash(*version, QCryptographicHash::Sha256).toHex().first(16);
+    return hashesOf(app::persistence::serializeProject(workspace.project()));
 }
 
 } // namespace tw::test

@@ -1,6 +1,7 @@
 // Opening a project the way the program does after a crash.
 #pragma once
 
+#include "app/persistence/codec/ProjectWriter.h"
 #include "app/persistence/journal/CrashJournal.h"
 #include "app/workspace/Workspace.h"
 
@@ -25,10 +26,14 @@ struct OpenedProject
 [[nodiscard]] core::Result<OpenedProject> openAndRecover(
     const app::persistence::StorageEnvironment& environment, const QString& projectPath);
 
-/** What the project's files hold as the workspace has them, told by a hash: path to hexadecimal digits. */
+/** What the project's files hold, told by a hash: path to hexadecimal digits. */
 using FileHashes = std::map<QString, QByteArray>;
+/**
+ * The files as they are after reading: some edits have more than one form, as a list with an empty place in
+ * it.
+ */
+[[nodiscard]] FileHashes hashesOf(const app::persistence::ProjectFileMap& files);
 [[nodiscard]] FileHashes hashesOf(const app::workspace::Workspace& workspace);
-[[nodiscard]] QByteArray hashOf(const app::persistence::FileVersion& version);
 
 /** Stands for the hash of a file that is not there. */
 inline constexpr char goneHash[] = "gone";

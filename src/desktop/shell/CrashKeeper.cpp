@@ -4,20 +4,14 @@
 #include "app/persistence/codec/ProjectCodec.h"
 #include "app/persistence/files/ProjectFiles.h"
 
-#include <chrono>
-
 namespace tw::desktop::shell {
 
-using namespace std::chrono_literals;
 using app::persistence::CrashJournal;
 using app::persistence::FileVersion;
 using app::persistence::JournalEdit;
 using core::project::ProjectChanges;
 
 namespace {
-
-/** With the time that writing takes, well below the two seconds that a crash may cost. */
-constexpr auto noteAfter = 1000ms;
 
 /** The files in which many things stand together, as the project has them now. */
 std::map<QString, FileVersion> sharedFiles(const core::project::Project& project)
@@ -33,7 +27,8 @@ std::map<QString, FileVersion> sharedFiles(const core::project::Project& project
 } // namespace
 
 CrashKeeper::CrashKeeper(
-    ProjectSession& session, const app::persistence::StorageEnvironment& environment, QObject* parent)
+    ProjectSession& session, const app::persistence::StorageEnvironment& environment, QObject* parent,
+    std::chrono::milliseconds noteAfter)
     : QObject(parent)
     , m_session(session)
     , m_environment(environment)

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <map>
 #include <memory>
 #include <set>
@@ -22,9 +23,12 @@ class CrashKeeper final : public QObject
     Q_OBJECT
 
 public:
+    /** With the time that writing takes, well below the two seconds that a crash may cost. */
+    static constexpr std::chrono::milliseconds usualDelay{1000};
+
     CrashKeeper(
         ProjectSession& session, const app::persistence::StorageEnvironment& environment,
-        QObject* parent = nullptr);
+        QObject* parent = nullptr, std::chrono::milliseconds noteAfter = usualDelay);
     ~CrashKeeper() override;
 
     /** Notes what has not been noted yet and waits until it is on the medium. */

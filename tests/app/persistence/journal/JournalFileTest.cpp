@@ -55,7 +55,7 @@ TEST(JournalFile, isReadUpToTheTornEndWhereverThatIs)
     QByteArray bytes = journalHeader(project);
     QList<qsizetype> ends{bytes.size()};
     for (int record = 0; record < 3; ++record) {
-        bytes += encodeRecord({u"%1"_s.arg(record), FileVersion("old"), QByteArray(record * 7, 'x')});
+        bytes += encodeRecord({u"%1"_s.arg(record), FileVersion("old"), QByteArray(record * 7 + 1, 'x')});
         ends.append(bytes.size());
     }
     for (qsizetype size = 0; size <= bytes.size(); ++size) {
