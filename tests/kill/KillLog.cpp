@@ -56,6 +56,9 @@ QStringList KillLedger::read(const QString& logPath)
         const QList<QByteArray> words = line.trimmed().split(' ');
         const QString path = QString::fromUtf8(words.value(1));
         if (words.first() == "file") {
+            // A file that is told of for the first time may still not be there.
+            if (!m_versions.contains(path))
+                m_versions[path].append(goneHash);
             m_versions[path].append(words.value(2));
         } else if (words.first() == "open") {
             found.emplace(path, words.value(2));
@@ -86,8 +89,7 @@ QStringList KillLedger::compare(const FileHashes& found) const
     for (const auto& [path, versions] : m_versions.asKeyValueRange()) {
         const auto file = found.find(path);
         const QByteArray hash = file == found.end() ? QByteArray(goneHash) : file->second;
-        const bool mayNotBeThere = !m_hasKept && file == found.end();
-        if (!versions.contains(hash) && !mayNotBeThere)
+        if (!versions.contains(hash))
             faults.append(u"%1 is %2, but was reported as %3"_s.arg(
                 path, QString::fromLatin1(hash), QString::fromLatin1(versions.join(" or "))));
     }
