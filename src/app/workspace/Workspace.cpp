@@ -239,9 +239,15 @@ Result<void> Workspace::saveAsFolder(const QString& folder)
                 "Workspace", "The folder %1 already holds a project. Choose an empty folder or a new name."),
             folder);
     }
+    const bool isNew =
+        QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     auto copy = writeCopy(folder);
-    if (!copy)
+    if (!copy) {
+        // Half a project in its place would refuse the next attempt.
+        if (isNew)
+            QDir(folder).removeRecursively();
         return Failure{copy.message()};
+    }
     m_singleFile.reset();
     moveTo(folder, std::move(copy).value());
     return {};
