@@ -398,10 +398,19 @@ Result<QString> Workspace::importAsset(const QString& sourceFile)
     return imported;
 }
 
+bool Workspace::followLibraryMounts()
+{
+    if (m_project->libraryMounts() == m_readMounts)
+        return false;
+    reloadLibraries();
+    return true;
+}
+
 void Workspace::reloadLibraries()
 {
     m_libraries.clear();
     m_libraryNotices.clear();
+    m_readMounts = m_project->libraryMounts();
     // Nobody knows where the working copy of a single file lies.
     const QDir base = hasSingleFile() ? QFileInfo(displayPath()).dir() : QDir(m_folderPath);
     for (const core::project::LibraryMount& mount : m_project->libraryMounts()) {
