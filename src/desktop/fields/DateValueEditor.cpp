@@ -68,8 +68,7 @@ void DateValueEditor::present()
     m_edit->setInstant(instant);
     const bool isOther = !instant && !value().value_or(QString()).isEmpty();
     m_otherNote->setNote(
-        isOther ? tr("Holds “%1”, which is no stored date. It is kept until you enter one.").arg(*value())
-                : QString(),
+        isOther ? tr("“%1” is not a date. It is kept until you enter one.").arg(*value()) : QString(),
         NoteLabel::Tone::Warning);
     m_takeOut->setVisible(isOther);
 }

@@ -41,7 +41,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_center(new QStackedWidget)
     , m_workArea(new WorkArea(desk, m_center))
     , m_welcome(new WelcomePage(desk.icons, m_life->hasSample(), m_center))
-    , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entry in the codex."), m_center))
+    , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entity in the codex."), m_center))
     , m_docks(nullptr)
     , m_status(new StatusStrip(desk, *statusBar()))
 {
