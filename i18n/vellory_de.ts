@@ -1833,7 +1833,7 @@
     </message>
     <message>
         <source>New Document &amp;Inside</source>
-        <translation>Neues Dokument &amp;innerhalb</translation>
+        <translation>Neues Dokument dar&amp;in</translation>
     </message>
     <message>
         <source>New &amp;Screenplay</source>
@@ -1992,8 +1992,8 @@
     <message numerus="yes">
         <source>%n of them conflict with unsaved edits here and can&apos;t be merged automatically. Take the on-disk version (discarding your unsaved edits), or keep yours (your next save overwrites the on-disk changes)?</source>
         <translation>
-            <numerusform>%n davon widerspricht ungespeicherten Änderungen hier und lässt sich nicht von selbst zusammenführen. Möchten Sie die Fassung auf der Festplatte nehmen (Ihre ungespeicherten Änderungen werden verworfen) oder Ihre behalten (das nächste Speichern überschreibt die Änderungen auf der Festplatte)?</numerusform>
-            <numerusform>%n davon widersprechen ungespeicherten Änderungen hier und lassen sich nicht von selbst zusammenführen. Möchten Sie die Fassung auf der Festplatte nehmen (Ihre ungespeicherten Änderungen werden verworfen) oder Ihre behalten (das nächste Speichern überschreibt die Änderungen auf der Festplatte)?</numerusform>
+            <numerusform>%n Datei widerspricht ungespeicherten Änderungen hier und lässt sich nicht von selbst zusammenführen. Möchten Sie die Fassung auf der Festplatte nehmen (Ihre ungespeicherten Änderungen werden verworfen) oder Ihre behalten (das nächste Speichern überschreibt die Änderungen auf der Festplatte)?</numerusform>
+            <numerusform>%n Dateien widersprechen ungespeicherten Änderungen hier und lassen sich nicht von selbst zusammenführen. Möchten Sie die Fassung auf der Festplatte nehmen (Ihre ungespeicherten Änderungen werden verworfen) oder Ihre behalten (das nächste Speichern überschreibt die Änderungen auf der Festplatte)?</numerusform>
         </translation>
     </message>
     <message>
@@ -2474,7 +2474,7 @@
     </message>
     <message>
         <source>A quiet desk for long stories and the worlds they live in.</source>
-        <translation>Ein ruhiger Schreibtisch für lange Geschichten und die Welten, in denen sie leben.</translation>
+        <translation>Ein ruhiger Schreibtisch für lange Geschichten und die Welten, in denen sie spielen.</translation>
     </message>
     <message>
         <source>Look around in the sample</source>
