@@ -53,6 +53,12 @@ void GrowingTextEdit::setText(const QString& text)
     setTextCursor(cursor);
 }
 
+void GrowingTextEdit::setLeastLines(int lines)
+{
+    m_leastLines = lines;
+    fitHeight();
+}
+
 void GrowingTextEdit::keyPressEvent(QKeyEvent* event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -90,7 +96,8 @@ void GrowingTextEdit::fitHeight()
 {
     if (m_isResizing)
         return;
-    const int text = static_cast<int>(std::ceil(document()->size().height()));
+    const int lines = fontMetrics().lineSpacing() * m_leastLines;
+    const int text = std::max(lines, static_cast<int>(std::ceil(document()->size().height())));
     setFixedHeight(std::max(smallestHeight, text + 2 * frameWidth()));
 }
 

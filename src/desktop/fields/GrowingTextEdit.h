@@ -19,6 +19,8 @@ public:
     [[nodiscard]] QString text() const;
     /** The cursor stays near where it was. */
     void setText(const QString& text);
+    /** Is never lower than so many lines; 1 until set. */
+    void setLeastLines(int lines);
 
 signals:
     /** The keyboard went elsewhere, or Ctrl+Return was pressed. */
@@ -33,6 +35,7 @@ protected:
 private:
     void fitHeight();
 
+    int m_leastLines = 1;
     bool m_isResizing = false;
 };
 

@@ -1,8 +1,9 @@
 #include "desktop/inspector/DocumentSection.h"
 
 #include "core/document/DocumentCommands.h"
+#include "desktop/fields/EditorKeys.h"
+#include "desktop/fields/GrowingTextEdit.h"
 #include "desktop/fields/StoryDateEdit.h"
-#include "desktop/inspector/NoteEdit.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QComboBox>
@@ -50,7 +51,7 @@ void setSuggestions(QComboBox& box, const std::set<QString>& texts, const QStrin
 DocumentSection::DocumentSection(const shell::DeskContext& desk, QWidget* parent)
     : QWidget(parent)
     , m_desk(desk)
-    , m_synopsis(new NoteEdit(synopsisLines, this))
+    , m_synopsis(new fields::GrowingTextEdit(this))
     , m_kind(new QComboBox(this))
     , m_status(makeSuggestionBox(this))
     , m_pointOfView(makeSuggestionBox(this))
@@ -77,6 +78,7 @@ DocumentSection::DocumentSection(const shell::DeskContext& desk, QWidget* parent
     form->addRow(tr("Te&nsion"), m_tension);
     form->addRow(tr("Tar&get"), m_target);
     form->addRow(tr("&Kind"), m_kind);
+    m_synopsis->setLeastLines(synopsisLines);
     m_synopsis->setPlaceholderText(tr("What happens here, in a few sentences"));
     m_synopsis->setAccessibleName(tr("Synopsis"));
     m_kind->addItem(tr("Prose"), static_cast<int>(DocumentKind::Prose));
@@ -96,9 +98,7 @@ DocumentSection::DocumentSection(const shell::DeskContext& desk, QWidget* parent
 void DocumentSection::connectFields()
 {
     namespace doc = core::document;
-    connect(m_synopsis, &NoteEdit::textCommitted, this, [this](const QString& text) {
-        apply<doc::SetDocumentSynopsisCommand>(text);
-    });
+    connectSynopsis();
     connect(m_kind, &QComboBox::activated, this, [this] {
         apply<doc::SetDocumentKindCommand>(static_cast<DocumentKind>(m_kind->currentData().toInt()));
     });
@@ -125,7 +125,7 @@ void DocumentSection::connectFields()
         [this](const std::optional<core::calendar::StoryInstant>& instant) {
             apply<doc::SetDocumentSceneInstantCommand>(instant);
         });
-    connect(&m_desk.session, &shell::ProjectSession::commitRequested, this, &DocumentSection::commitPending);
+    connect(&m_desk.session, &shell::ProjectSession::commitRequested, this, &DocumentSection::commitSynopsis);
 }
 
 template <class Command, class Value>
@@ -140,21 +140,49 @@ const Document* DocumentSection::document() const
     return m_desk.session.project().findAs<Document>(m_id);
 }
 
-void DocumentSection::commitPending()
+void DocumentSection::connectSynopsis()
 {
-    m_synopsis->commit();
+    new fields::EditorKeys(*m_synopsis, [this] {
+        if (m_synopsis->text() == m_shownSynopsis)
+            return false;
+        showSynopsis(m_shownSynopsis);
+        m_desk.session.setTypingPending(false);
+        return true;
+    });
+    connect(m_synopsis, &fields::GrowingTextEdit::left, this, &DocumentSection::commitSynopsis);
+    connect(m_synopsis, &QTextEdit::textChanged, this, [this] {
+        if (m_synopsis->text() != m_shownSynopsis)
+            m_desk.session.setTypingPending(true);
+    });
+}
+
+void DocumentSection::showSynopsis(const QString& text)
+{
+    m_shownSynopsis = text;
+    if (m_synopsis->text() != text)
+        m_synopsis->setText(text);
+}
+
+void DocumentSection::commitSynopsis()
+{
+    const QString text = m_synopsis->text();
+    if (text == m_shownSynopsis)
+        return;
+    m_shownSynopsis = text;
+    m_desk.session.setTypingPending(false);
+    apply<core::document::SetDocumentSynopsisCommand>(text);
 }
 
 void DocumentSection::showDocument(const core::ContentId& id)
 {
     if (id != m_id)
-        commitPending();
+        commitSynopsis();
     m_id = id;
     const Document* const shown = document();
     setEnabled(shown && !shown->isLocked());
     if (!shown)
         return;
-    m_synopsis->showText(shown->synopsis());
+    showSynopsis(shown->synopsis());
     fillSuggestions();
     const QSignalBlocker kindBlocker(m_kind);
     m_kind->setCurrentIndex(m_kind->findData(static_cast<int>(shown->documentKind())));

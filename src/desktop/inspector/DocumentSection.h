@@ -17,12 +17,11 @@ namespace tw::core::undo {
 class Command;
 }
 namespace tw::desktop::fields {
+class GrowingTextEdit;
 class StoryDateEdit;
-}
+} // namespace tw::desktop::fields
 
 namespace tw::desktop::inspector {
-
-class NoteEdit;
 
 /** The planning data of a document: each field one command, committed when it is left. */
 class DocumentSection final : public QWidget
@@ -37,7 +36,9 @@ public:
 
 private:
     void connectFields();
-    void commitPending();
+    void connectSynopsis();
+    void showSynopsis(const QString& text);
+    void commitSynopsis();
     void fillSuggestions();
     /** Builds a command for the shown document and applies it. */
     template <class Command, class Value>
@@ -46,7 +47,9 @@ private:
 
     shell::DeskContext m_desk;
     core::ContentId m_id;
-    NoteEdit* m_synopsis;
+    fields::GrowingTextEdit* m_synopsis;
+    /** As the project has it. */
+    QString m_shownSynopsis;
     QComboBox* m_kind;
     QComboBox* m_status;
     QComboBox* m_pointOfView;

@@ -20,7 +20,10 @@ FieldList throwAwayFields()
          {FieldType::Text, FieldType::Number, FieldType::Boolean, FieldType::Date, FieldType::Reference,
           FieldType::Choice, FieldType::Url}) {
         const QString number = QString::number(fields.size() + 1);
-        Field field{u"selftest%1"_s.arg(number), u"Selftest Property %1"_s.arg(number), type};
+        Field field;
+        field.key = u"selftest%1"_s.arg(number);
+        field.label = u"Selftest Property %1"_s.arg(number);
+        field.type = type;
         field.description = u"Selftest Description"_s;
         if (type == FieldType::Choice)
             field.options = {u"Selftest Choice 1"_s, u"Selftest Choice 2"_s};

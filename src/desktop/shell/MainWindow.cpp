@@ -115,6 +115,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     rememberPages();
     m_desk.settings.setValue("window/geometry", saveGeometry());
     m_docks->save(m_desk.settings);
+    m_life->end();
     event->accept();
 }
 

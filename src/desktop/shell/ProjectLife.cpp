@@ -1,6 +1,8 @@
 #include "desktop/shell/ProjectLife.h"
 
 #include "desktop/review/ExternalChanges.h"
+#include "desktop/shell/CrashKeeper.h"
+#include "desktop/shell/CrashRecovery.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/Questions.h"
 #include "desktop/shell/RecentProjects.h"
@@ -31,7 +33,12 @@ ProjectLife::ProjectLife(const DeskContext& desk, QString samplePath, QWidget* w
     , m_samplePath(std::move(samplePath))
     , m_window(window)
     , m_externalChanges(new review::ExternalChanges(desk, window))
+    , m_crashKeeper(new CrashKeeper(desk.session, desk.session.workspace().environment(), this))
 {
+    connect(m_crashKeeper, &CrashKeeper::failed, this, &ProjectLife::said);
+    connect(&desk.session, &ProjectSession::autosaveFailed, this, [this](const QString& message) {
+        emit said(tr("Autosave failed: %1").arg(message));
+    });
     connect(m_externalChanges, &review::ExternalChanges::said, this, &ProjectLife::said);
 }
 
@@ -46,8 +53,16 @@ bool ProjectLife::open(const QString& path)
         emit openFailed();
         return false;
     }
+    const bool isRestored = recoverAfterCrash(m_desk.session, *m_crashKeeper, m_window);
     emit opened();
+    if (isRestored)
+        emit said(tr("Your unsaved changes are back. Save to keep them."));
     return true;
+}
+
+void ProjectLife::end()
+{
+    m_crashKeeper->discard();
 }
 
 bool ProjectLife::reopenLast()

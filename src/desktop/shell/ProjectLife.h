@@ -14,6 +14,8 @@ class ExternalChanges;
 
 namespace tw::desktop::shell {
 
+class CrashKeeper;
+
 /**
  * The life of the project from opening to closing, as the user leads it: asks for names and places, asks
  * before anything unsaved goes, tells what failed. The session does the work.
@@ -45,6 +47,8 @@ public:
 
     /** True when nothing is unsaved, or the user saved or let go of it. */
     [[nodiscard]] bool settleUnsavedChanges();
+    /** The window closes, and nothing that the user wants is unsaved. */
+    void end();
 
 signals:
     /** Another project is about to take the place of the open one. */
@@ -64,6 +68,7 @@ private:
     QString m_samplePath;
     QWidget* m_window;
     review::ExternalChanges* m_externalChanges;
+    CrashKeeper* m_crashKeeper;
 };
 
 } // namespace tw::desktop::shell
