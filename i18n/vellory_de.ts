@@ -95,6 +95,35 @@
     </message>
 </context>
 <context>
+    <name>CrashRecovery</name>
+    <message numerus="yes">
+        <source>Vellory did not end properly the last time. Changes to %n items of “%1” were noted, but not saved. Bring them back?</source>
+        <translation>
+            <numerusform>Vellory wurde beim letzten Mal nicht ordnungsgemäß beendet. Änderungen an %n Stelle von „%1“ wurden festgehalten, aber nicht gespeichert. Möchten Sie sie zurückholen?</numerusform>
+            <numerusform>Vellory wurde beim letzten Mal nicht ordnungsgemäß beendet. Änderungen an %n Stellen von „%1“ wurden festgehalten, aber nicht gespeichert. Möchten Sie sie zurückholen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them were changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</source>
+        <translation>
+            <numerusform>%n davon hat sich seither auch auf der Festplatte geändert. Dort steht danach Ihre Fassung; das Projekt, wie es auf der Festplatte ist, wird zuvor gesichert.</numerusform>
+            <numerusform>%n davon haben sich seither auch auf der Festplatte geändert. Dort steht danach Ihre Fassung; das Projekt, wie es auf der Festplatte ist, wird zuvor gesichert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unsaved Changes Found</source>
+        <translation>Ungespeicherte Änderungen gefunden</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+</context>
+<context>
     <name>ExternalReview</name>
     <message>
         <source>The resolved files could not be written; nothing was changed. Your project was backed up first.</source>
@@ -2414,6 +2443,14 @@
     <message>
         <source>Discard Changes</source>
         <translation>Änderungen verwerfen</translation>
+    </message>
+    <message>
+        <source>Autosave failed: %1</source>
+        <translation>Automatisches Speichern fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes are back. Save to keep them.</source>
+        <translation>Ihre ungespeicherten Änderungen sind wieder da. Speichern Sie, um sie zu behalten.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,23 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>CrashRecovery</name>
+    <message numerus="yes">
+        <source>Vellory did not end properly the last time. Changes to %n items of “%1” were noted, but not saved. Bring them back?</source>
+        <translation>
+            <numerusform>Vellory did not end properly the last time. Changes to %n item of “%1” were noted, but not saved. Bring them back?</numerusform>
+            <numerusform>Vellory did not end properly the last time. Changes to %n items of “%1” were noted, but not saved. Bring them back?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them were changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</source>
+        <translation>
+            <numerusform>%n of them was changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</numerusform>
+            <numerusform>%n of them were changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::codex::CodexPanel</name>
     <message numerus="yes">
         <source>Removed %n things from the codex. Undo brings them back.</source>
