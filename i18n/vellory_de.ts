@@ -99,8 +99,8 @@
     <message numerus="yes">
         <source>Vellory did not end properly the last time. Changes to %n items of “%1” were noted, but not saved. Bring them back?</source>
         <translation>
-            <numerusform>Vellory wurde beim letzten Mal nicht ordnungsgemäß beendet. Änderungen an %n Stelle von „%1“ wurden festgehalten, aber nicht gespeichert. Möchten Sie sie zurückholen?</numerusform>
-            <numerusform>Vellory wurde beim letzten Mal nicht ordnungsgemäß beendet. Änderungen an %n Stellen von „%1“ wurden festgehalten, aber nicht gespeichert. Möchten Sie sie zurückholen?</numerusform>
+            <numerusform>Vellory wurde beim letzten Mal nicht ordnungsgemäß beendet. Änderungen an %n Teil von „%1“ wurden festgehalten, aber nicht gespeichert. Möchten Sie sie zurückholen?</numerusform>
+            <numerusform>Vellory wurde beim letzten Mal nicht ordnungsgemäß beendet. Änderungen an %n Teilen von „%1“ wurden festgehalten, aber nicht gespeichert. Möchten Sie sie zurückholen?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
