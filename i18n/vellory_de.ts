@@ -150,7 +150,7 @@
     <name>FieldGroups</name>
     <message>
         <source>Through %1</source>
-        <translation>Über %1</translation>
+        <translation>Von %1</translation>
     </message>
     <message>
         <source>Only here</source>
@@ -804,7 +804,7 @@
     </message>
     <message>
         <source>Edit lifespan</source>
-        <translation>Lebensdauer bearbeiten</translation>
+        <translation>Lebensspanne bearbeiten</translation>
     </message>
     <message>
         <source>Change entity properties</source>
@@ -1509,7 +1509,7 @@
     <name>tw::desktop::codex::LifespanSection</name>
     <message>
         <source>Lifespan</source>
-        <translation>Lebensdauer</translation>
+        <translation>Lebensspanne</translation>
     </message>
     <message>
         <source>From</source>
@@ -1622,8 +1622,8 @@
 <context>
     <name>tw::desktop::fields::ChipButton</name>
     <message>
-        <source>Take out “%1”</source>
-        <translation>„%1“ herausnehmen</translation>
+        <source>Remove “%1”</source>
+        <translation>„%1“ entfernen</translation>
     </message>
 </context>
 <context>
@@ -1640,12 +1640,12 @@
 <context>
     <name>tw::desktop::fields::DateValueEditor</name>
     <message>
-        <source>Take this text out</source>
-        <translation>Diesen Text herausnehmen</translation>
-    </message>
-    <message>
         <source>“%1” is not a date. It is kept until you enter one.</source>
         <translation>„%1“ ist kein Datum. Der Text bleibt stehen, bis Sie eines eingeben.</translation>
+    </message>
+    <message>
+        <source>Remove this text</source>
+        <translation>Diesen Text entfernen</translation>
     </message>
 </context>
 <context>
@@ -1889,7 +1889,7 @@
         <translation>Dokument nach &amp;oben</translation>
     </message>
     <message>
-        <source>Move Document D&amp;own</source>
+        <source>Move Document Do&amp;wn</source>
         <translation>Dokument nach un&amp;ten</translation>
     </message>
     <message>
@@ -1897,7 +1897,7 @@
         <translation>Dokument e&amp;inrücken</translation>
     </message>
     <message>
-        <source>Move Document O&amp;ut</source>
+        <source>Move Document &amp;Out</source>
         <translation>Dokument a&amp;usrücken</translation>
     </message>
     <message>

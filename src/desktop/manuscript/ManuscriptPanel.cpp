@@ -110,11 +110,11 @@ void ManuscriptPanel::makeEditActions()
     add(Icon::Rename, tr("Re&name Document"), QKeySequence(Qt::Key_F2),
         [this] { m_tree->renameSource(m_tree->currentSource()); });
     add(Icon::MoveUp, tr("Move Document &Up"), QKeySequence(Qt::CTRL | Qt::Key_Up), step(MoveDirection::Up));
-    add(Icon::MoveDown, tr("Move Document D&own"), QKeySequence(Qt::CTRL | Qt::Key_Down),
+    add(Icon::MoveDown, tr("Move Document Do&wn"), QKeySequence(Qt::CTRL | Qt::Key_Down),
         step(MoveDirection::Down));
     add(Icon::ChevronRight, tr("Move Document &In"), QKeySequence(Qt::CTRL | Qt::Key_Right),
         step(MoveDirection::In));
-    add(Icon::ChevronLeft, tr("Move Document O&ut"), QKeySequence(Qt::CTRL | Qt::Key_Left),
+    add(Icon::ChevronLeft, tr("Move Document &Out"), QKeySequence(Qt::CTRL | Qt::Key_Left),
         step(MoveDirection::Out));
     add(Icon::Remove, tr("&Remove Document"), QKeySequence(Qt::Key_Delete), [this] { removeSelected(); });
     m_header->menu().addSeparator();

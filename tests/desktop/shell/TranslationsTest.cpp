@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QFile>
+#include <QKeySequence>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -16,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 
 namespace tw::desktop::shell {
 
@@ -54,10 +56,10 @@ QList<Text> textsOf(const QString& catalogue)
     return texts;
 }
 
-/** The places for values in a text, sorted: "%1", "%n". */
+/** The places for values in a text, sorted: "%1", "%n", "%Ln". */
 QStringList placesIn(const QString& text)
 {
-    static const QRegularExpression place(u"%(L?[0-9]+|n)"_s);
+    static const QRegularExpression place(u"%L?([0-9]+|n)"_s);
     QStringList places;
     for (const QRegularExpressionMatch& match : place.globalMatch(text))
         places.append(match.captured());
@@ -77,6 +79,24 @@ QMenu* menuNamed(const QMenuBar& bar, const QString& title)
             return action->menu();
     }
     return nullptr;
+}
+
+/** Entries of one bar or menu, or of a menu below, that share their letter with another entry beside them. */
+QStringList entriesWithSharedLetters(const QList<QAction*>& actions)
+{
+    QStringList found;
+    std::map<QString, QString> entries;
+    for (const QAction* const action : actions) {
+        if (action->menu())
+            found += entriesWithSharedLetters(action->menu()->actions());
+        const QString letter = QKeySequence::mnemonic(action->text()).toString();
+        if (letter.isEmpty())
+            continue;
+        const auto [first, isNew] = entries.emplace(letter, action->text());
+        if (!isNew)
+            found.append(u"%1 and %2"_s.arg(first->second, action->text()));
+    }
+    return found;
 }
 
 } // namespace
@@ -129,6 +149,17 @@ TEST(TranslationsTest, germanReachesMenusQuestionsAndCounts)
     EXPECT_TRUE(report.isPassed) << report.lines.join(u'\n').toStdString();
 }
 
+TEST(TranslationsTest, noTwoEntriesOfAMenuShareALetter)
+{
+    for (const QLocale::Language language : {QLocale::English, QLocale::German}) {
+        const Translations translations{QLocale(language)};
+        const test::TestDesk desk;
+        const MainWindow window(desk.context, QString());
+        const QStringList shared = entriesWithSharedLetters(window.menuBar()->actions());
+        EXPECT_TRUE(shared.isEmpty()) << shared.join(u'\n').toStdString();
+    }
+}
+
 TEST(TranslationsTest, withoutACatalogueTextsStayEnglishAndCountWell)
 {
     const auto removed = [](int count) {
@@ -157,8 +188,10 @@ TEST(TranslationsTest, cataloguesKeepPlacesKeysAndDots)
                 QStringList expected = placesIn(text.source);
                 QStringList places = placesIn(translation);
                 if (translation == text.translations.first()) {
-                    expected.removeAll(u"%n"_s);
-                    places.removeAll(u"%n"_s);
+                    for (const QString& count : {u"%n"_s, u"%Ln"_s}) {
+                        expected.removeAll(count);
+                        places.removeAll(count);
+                    }
                 }
                 const std::string shown = text.source.toStdString() + " / " + translation.toStdString();
                 EXPECT_EQ(places, expected) << shown;
