@@ -1711,22 +1711,6 @@
         <translation>S&amp;ynopse</translation>
     </message>
     <message>
-        <source>Story &amp;date</source>
-        <translation>Handlungs&amp;zeit</translation>
-    </message>
-    <message>
-        <source>S&amp;tatus</source>
-        <translation>S&amp;tatus</translation>
-    </message>
-    <message>
-        <source>&amp;Point of view</source>
-        <translation>Per&amp;spektive</translation>
-    </message>
-    <message>
-        <source>Te&amp;nsion</source>
-        <translation>Spa&amp;nnung</translation>
-    </message>
-    <message>
         <source>Tar&amp;get</source>
         <translation>Z&amp;iel</translation>
     </message>
@@ -1778,6 +1762,22 @@
         <source>Final</source>
         <translation>Endfassung</translation>
     </message>
+    <message>
+        <source>Sto&amp;ry date</source>
+        <translation>Handlungs&amp;zeit</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>S&amp;tatus</translation>
+    </message>
+    <message>
+        <source>Poi&amp;nt of view</source>
+        <translation>Per&amp;spektive</translation>
+    </message>
+    <message>
+        <source>Ten&amp;sion</source>
+        <translation>Spa&amp;nnung</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::inspector::InspectorPanel</name>
@@ -1795,10 +1795,6 @@
     <message>
         <source>E&amp;xclude from AI</source>
         <translation>&amp;Von der KI ausschließen</translation>
-    </message>
-    <message>
-        <source>P&amp;inned</source>
-        <translation>An&amp;geheftet</translation>
     </message>
     <message>
         <source>T&amp;ags</source>
@@ -1819,6 +1815,10 @@
     <message>
         <source>Separated by commas</source>
         <translation>Durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>Pinne&amp;d</source>
+        <translation>An&amp;geheftet</translation>
     </message>
 </context>
 <context>

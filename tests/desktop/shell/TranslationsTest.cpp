@@ -1,5 +1,6 @@
 #include "desktop/shell/Translations.h"
 
+#include "desktop/inspector/InspectorPanel.h"
 #include "desktop/shell/DialogSelfTest.h"
 #include "desktop/shell/MainWindow.h"
 #include "desktop/support/TestDesk.h"
@@ -8,6 +9,7 @@
 #include <QAction>
 #include <QFile>
 #include <QKeySequence>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -99,6 +101,30 @@ QStringList entriesWithSharedLetters(const QList<QAction*>& actions)
     return found;
 }
 
+/** Controls of the window's panels whose letter also opens a menu, or belongs to another control as well. */
+QStringList controlsWithLettersOfMenus(const MainWindow& window)
+{
+    QStringList found;
+    std::map<QString, QString> texts;
+    const auto add = [&](const QString& text) {
+        const QString letter = QKeySequence::mnemonic(text).toString();
+        if (letter.isEmpty())
+            return;
+        const auto [first, isNew] = texts.emplace(letter, text);
+        if (!isNew)
+            found.append(u"%1 and %2"_s.arg(first->second, text));
+    };
+    for (const QAction* const action : window.menuBar()->actions())
+        add(action->text());
+    const auto* const inspector = window.findChild<inspector::InspectorPanel*>();
+    EXPECT_TRUE(inspector);
+    for (const QLabel* const label : inspector->findChildren<QLabel*>())
+        add(label->buddy() ? label->text() : QString());
+    for (const QAbstractButton* const button : inspector->findChildren<QAbstractButton*>())
+        add(button->text());
+    return found;
+}
+
 } // namespace
 
 TEST(ChooseLocaleTest, theStartThenTheSettingThenTheSystem)
@@ -149,13 +175,14 @@ TEST(TranslationsTest, germanReachesMenusQuestionsAndCounts)
     EXPECT_TRUE(report.isPassed) << report.lines.join(u'\n').toStdString();
 }
 
-TEST(TranslationsTest, noTwoEntriesOfAMenuShareALetter)
+TEST(TranslationsTest, everyEntryAndControlHasALetterOfItsOwn)
 {
     for (const QLocale::Language language : {QLocale::English, QLocale::German}) {
         const Translations translations{QLocale(language)};
         const test::TestDesk desk;
         const MainWindow window(desk.context, QString());
-        const QStringList shared = entriesWithSharedLetters(window.menuBar()->actions());
+        QStringList shared = entriesWithSharedLetters(window.menuBar()->actions());
+        shared += controlsWithLettersOfMenus(window);
         EXPECT_TRUE(shared.isEmpty()) << shared.join(u'\n').toStdString();
     }
 }
