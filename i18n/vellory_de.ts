@@ -5,162 +5,285 @@
     <name>CalendarRules</name>
     <message>
         <source>A calendar needs at least one month.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Kalender braucht mindestens einen Monat.</translation>
     </message>
     <message>
         <source>Every month needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Monat braucht einen Namen.</translation>
     </message>
     <message>
         <source>Every month needs a length of at least one day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Monat braucht eine Länge von mindestens einem Tag.</translation>
     </message>
     <message>
         <source>A calendar needs at least one weekday.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Kalender braucht mindestens einen Wochentag.</translation>
     </message>
     <message>
         <source>Every era needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Ära braucht einen Namen.</translation>
     </message>
     <message>
         <source>Every era needs a whole-number start year.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Ära braucht eine ganze Zahl als Anfangsjahr.</translation>
     </message>
 </context>
 <context>
     <name>CategoryProperties</name>
     <message>
         <source>There is another property with the key “%1” here. Give this one another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier gibt es schon eine Eigenschaft mit dem Schlüssel „%1“. Geben Sie dieser einen anderen Namen.</translation>
     </message>
     <message>
         <source>A choice needs something to choose from. Write one choice on each line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einer Auswahl gehört etwas, woraus sich wählen lässt. Schreiben Sie je Zeile eine Möglichkeit.</translation>
     </message>
     <message>
         <source>“%1” already comes from above. This category gets its own version.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kommt bereits von oben. Diese Kategorie erhält ihre eigene Fassung.</translation>
     </message>
     <message>
         <source>“%1” already comes from the category “%2”. This category and what is beneath it get their own version.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kommt bereits aus der Kategorie „%2“. Diese Kategorie und alles darunter erhalten eine eigene Fassung.</translation>
     </message>
     <message>
         <source>Edit properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften bearbeiten</translation>
     </message>
 </context>
 <context>
     <name>CodexEdits</name>
     <message>
         <source>Remove entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag entfernen</translation>
     </message>
     <message>
         <source>Remove category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie entfernen</translation>
     </message>
     <message>
         <source>Remove from the codex</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus dem Kodex entfernen</translation>
     </message>
     <message>
         <source>Move entity to category</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag in Kategorie verschieben</translation>
     </message>
     <message>
         <source>Move category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie verschieben</translation>
     </message>
     <message>
         <source>Move in the codex</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Kodex verschieben</translation>
     </message>
     <message>
         <source>Add entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag hinzufügen</translation>
     </message>
     <message>
         <source>Duplicate entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag duplizieren</translation>
     </message>
     <message>
         <source>Copy of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie von %1</translation>
     </message>
     <message>
         <source>Add category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>CrashRecovery</name>
+    <message numerus="yes">
+        <source>Vellory did not end properly the last time. Changes to %n items of “%1” were noted, but not saved. Bring them back?</source>
+        <translation>
+            <numerusform>Vellory wurde beim letzten Mal nicht ordnungsgemäß beendet. Änderungen an %n Teil von „%1“ wurden festgehalten, aber nicht gespeichert. Möchten Sie sie zurückholen?</numerusform>
+            <numerusform>Vellory wurde beim letzten Mal nicht ordnungsgemäß beendet. Änderungen an %n Teilen von „%1“ wurden festgehalten, aber nicht gespeichert. Möchten Sie sie zurückholen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them were changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</source>
+        <translation>
+            <numerusform>%n davon hat sich seither auch auf der Festplatte geändert. Dort steht danach Ihre Fassung; das Projekt, wie es auf der Festplatte ist, wird zuvor gesichert.</numerusform>
+            <numerusform>%n davon haben sich seither auch auf der Festplatte geändert. Dort steht danach Ihre Fassung; das Projekt, wie es auf der Festplatte ist, wird zuvor gesichert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unsaved Changes Found</source>
+        <translation>Ungespeicherte Änderungen gefunden</translation>
+    </message>
+    <message>
+        <source>Bring Back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+</context>
+<context>
+    <name>ExternalReview</name>
+    <message>
+        <source>The resolved files could not be written; nothing was changed. Your project was backed up first.</source>
+        <translation>Die gelösten Dateien ließen sich nicht schreiben; nichts wurde geändert. Ihr Projekt wurde zuvor gesichert.</translation>
+    </message>
+    <message>
+        <source>Some merged changes could not be applied to the files on disk. Your project was backed up first; reloading what is on disk now.</source>
+        <translation>Einige zusammengeführte Änderungen ließen sich nicht in die Dateien auf der Festplatte übernehmen. Ihr Projekt wurde zuvor gesichert; nun wird neu geladen, was auf der Festplatte steht.</translation>
+    </message>
+    <message>
+        <source>The merged result could not be written back to the project file, so the file&apos;s own version will be loaded instead. Your project was backed up first.</source>
+        <translation>Das zusammengeführte Ergebnis ließ sich nicht in die Projektdatei zurückschreiben; stattdessen wird die Fassung der Datei geladen. Ihr Projekt wurde zuvor gesichert.</translation>
+    </message>
+    <message>
+        <source>Save the project first, then Vellory can check whether anything on disk changed outside the app.</source>
+        <translation>Speichern Sie zuerst das Projekt. Dann kann Vellory prüfen, ob sich auf der Festplatte außerhalb des Programms etwas geändert hat.</translation>
+    </message>
+    <message>
+        <source>The files on disk cannot be read as a project right now: %1. Nothing was changed. If a sync client is still at work, wait until it is done, then check again.</source>
+        <translation>Die Dateien auf der Festplatte ergeben im Augenblick kein lesbares Projekt: %1. Nichts wurde geändert. Falls noch ein Synchronisierungsprogramm arbeitet, warten Sie, bis es fertig ist, und prüfen Sie dann erneut.</translation>
     </message>
 </context>
 <context>
     <name>FieldGroups</name>
     <message>
         <source>Through %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Von %1</translation>
     </message>
     <message>
         <source>Only here</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur hier</translation>
     </message>
     <message>
         <source>Fixed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fest</translation>
     </message>
     <message>
         <source>Properties that cross from the entity this category hangs under.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften, die von dem Eintrag herüberkommen, unter dem diese Kategorie hängt.</translation>
     </message>
     <message>
         <source>Properties of this entity alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften, die nur dieser Eintrag hat.</translation>
     </message>
     <message>
         <source>Values that a category supplies to everything beneath it. Change them there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte, die eine Kategorie allem unter ihr vorgibt. Ändern Sie sie dort.</translation>
     </message>
     <message>
         <source>Inherited from the category “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geerbt von der Kategorie „%1“.</translation>
     </message>
     <message>
         <source>Declared by the category “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Festgelegt von der Kategorie „%1“.</translation>
     </message>
     <message>
         <source>%1 (from %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (aus %2)</translation>
     </message>
 </context>
 <context>
     <name>FieldRow</name>
     <message>
         <source>Fixed by the category “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Kategorie „%1“ fest vorgegeben</translation>
     </message>
     <message>
         <source>Fixed by its category</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Kategorie fest vorgegeben</translation>
     </message>
     <message>
         <source>Still to be filled in</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch auszufüllen</translation>
+    </message>
+</context>
+<context>
+    <name>FileTitles</name>
+    <message>
+        <source>%1 (document)</source>
+        <translation>%1 (Dokument)</translation>
+    </message>
+    <message>
+        <source>%1 (table)</source>
+        <translation>%1 (Tabelle)</translation>
+    </message>
+    <message>
+        <source>%1 (chart)</source>
+        <translation>%1 (Diagramm)</translation>
+    </message>
+    <message>
+        <source>%1 (map)</source>
+        <translation>%1 (Karte)</translation>
+    </message>
+    <message>
+        <source>%1 (timeline)</source>
+        <translation>%1 (Zeitleiste)</translation>
+    </message>
+    <message>
+        <source>%1 (event)</source>
+        <translation>%1 (Ereignis)</translation>
+    </message>
+    <message>
+        <source>%1 (media)</source>
+        <translation>%1 (Mediendatei)</translation>
+    </message>
+    <message>
+        <source>%1 (source)</source>
+        <translation>%1 (Quelle)</translation>
+    </message>
+    <message>
+        <source>%1 (task)</source>
+        <translation>%1 (Aufgabe)</translation>
+    </message>
+    <message>
+        <source>%1 (board)</source>
+        <translation>%1 (Pinnwand)</translation>
+    </message>
+    <message>
+        <source>%1 (comment)</source>
+        <translation>%1 (Kommentar)</translation>
+    </message>
+    <message>
+        <source>%1 (language)</source>
+        <translation>%1 (Sprache)</translation>
+    </message>
+    <message>
+        <source>%1 (random table)</source>
+        <translation>%1 (Zufallstabelle)</translation>
+    </message>
+    <message>
+        <source>%1 (stat block)</source>
+        <translation>%1 (Wertekasten)</translation>
+    </message>
+    <message>
+        <source>Settings of the project</source>
+        <translation>Einstellungen des Projekts</translation>
+    </message>
+    <message>
+        <source>%1 (category)</source>
+        <translation>%1 (Kategorie)</translation>
+    </message>
+    <message>
+        <source>%1 (entity)</source>
+        <translation>%1 (Eintrag)</translation>
     </message>
 </context>
 <context>
     <name>ManuscriptEdits</name>
     <message>
         <source>Add document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument hinzufügen</translation>
     </message>
     <message>
         <source>Move document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument verschieben</translation>
     </message>
     <message>
         <source>Remove document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument entfernen</translation>
     </message>
 </context>
 <context>
@@ -173,257 +296,313 @@
 <context>
     <name>OwnFieldEdits</name>
     <message>
-        <source>The entity is gone. Leave this without saving.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>New Property of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Eigenschaft von „%1“</translation>
     </message>
     <message>
         <source>Add Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft hinzufügen</translation>
     </message>
     <message>
         <source>Property “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft „%1“</translation>
     </message>
     <message>
         <source>Change Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft ändern</translation>
     </message>
     <message>
         <source>Values already entered are kept — but nothing will show them. Undo puts the property back with its data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schon eingetragene Werte bleiben erhalten, doch nichts zeigt sie mehr an. „Rückgängig“ stellt die Eigenschaft mit ihren Daten wieder her.</translation>
+    </message>
+    <message>
+        <source>This entity has been removed meanwhile. Cancel here; undo brings the entity back.</source>
+        <translation>Dieser Eintrag ist inzwischen entfernt worden. Brechen Sie hier ab; „Rückgängig“ holt ihn zurück.</translation>
     </message>
 </context>
 <context>
     <name>Persistence</name>
     <message>
         <source>Save the project to a folder before backing it up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern Sie das Projekt in einem Ordner, bevor Sie es sichern.</translation>
     </message>
     <message>
         <source>Could not create a backup of the project.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Projekt ließ sich keine Sicherung anlegen.</translation>
     </message>
     <message>
         <source>Not a valid Vellory project file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine gültige Vellory-Projektdatei: %1</translation>
     </message>
     <message>
         <source>Could not read a project file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei des Projekts ließ sich nicht lesen: %1</translation>
     </message>
     <message>
         <source>A file has a name that cannot be kept in a project file. Rename it, then try again: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei hat einen Namen, der sich in einer Projektdatei nicht ablegen lässt. Benennen Sie sie um, und versuchen Sie es dann noch einmal: %1</translation>
     </message>
     <message>
         <source>The project folder does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Projektordner gibt es nicht: %1</translation>
     </message>
     <message>
         <source>The folder is not an Vellory project (no project.json): %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner ist kein Vellory-Projekt (project.json fehlt): %1</translation>
     </message>
     <message>
         <source>Could not write the project file (it may be locked by another program -- the desktop app, a sync client, or antivirus): %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Projektdatei ließ sich nicht schreiben (vielleicht hält ein anderes Programm sie fest: ein weiteres Vellory, ein Synchronisierungsprogramm oder ein Virenscanner): %1</translation>
     </message>
     <message>
         <source>The extraction folder is not empty: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner zum Entpacken ist nicht leer: %1</translation>
     </message>
     <message>
         <source>Could not create the folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner ließ sich nicht anlegen: %1</translation>
     </message>
     <message>
         <source>Could not create the folder for: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Datei ließ sich kein Ordner anlegen: %1</translation>
     </message>
     <message>
         <source>Could not write a project file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei des Projekts ließ sich nicht schreiben: %1</translation>
     </message>
     <message>
         <source>Could not open the project file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Projektdatei ließ sich nicht öffnen: %1</translation>
     </message>
     <message>
         <source>Malformed category file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerhafte Kategoriedatei: %1</translation>
     </message>
     <message>
         <source>Malformed field in category: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerhafte Eigenschaft in der Kategorie: %1</translation>
     </message>
     <message>
         <source>Malformed object file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlerhafte Objektdatei: %1</translation>
     </message>
     <message>
         <source>Duplicate object id %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Objektkennung %1 ist doppelt vergeben in %2</translation>
     </message>
     <message>
         <source>Cannot read file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht lesbar: %1</translation>
     </message>
     <message>
         <source>Invalid JSON in file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges JSON in der Datei: %1</translation>
     </message>
     <message>
         <source>No project directory to import into</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Projektordner, in den importiert werden könnte</translation>
     </message>
     <message>
         <source>Source file does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ausgangsdatei gibt es nicht: %1</translation>
     </message>
     <message>
         <source>Cannot create assets folder in: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner für Medien lässt sich nicht anlegen in: %1</translation>
     </message>
     <message>
         <source>Cannot copy file into assets: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei lässt sich nicht in den Medienordner kopieren: %1</translation>
     </message>
     <message>
         <source>Could not write &apos;%1&apos; (it may be locked by another program -- the desktop app, a sync client, or antivirus).</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ließ sich nicht schreiben (vielleicht hält ein anderes Programm die Datei fest: ein weiteres Vellory, ein Synchronisierungsprogramm oder ein Virenscanner).</translation>
     </message>
     <message>
         <source>The project changed on disk since it was opened, so saving now would overwrite those changes. Review them first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt hat sich auf der Festplatte geändert, seit es geöffnet wurde; wenn es jetzt gespeichert würde, gingen diese Änderungen verloren. Sehen Sie sie zuerst durch.</translation>
     </message>
     <message>
         <source>The folder %1 is a link that leads out of the project. Put a real folder in its place, then save again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 ist eine Verknüpfung, die aus dem Projekt hinausführt. Ersetzen Sie sie durch einen wirklichen Ordner, und speichern Sie dann noch einmal.</translation>
     </message>
     <message>
         <source>Cannot create project folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Projektordner lässt sich nicht anlegen: %1</translation>
     </message>
     <message>
         <source>Cannot create taxonomy folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner für die Kategorien lässt sich nicht anlegen: %1</translation>
     </message>
     <message>
         <source>Could not remove &apos;%1&apos; (it may be locked by another program -- the desktop app, a sync client, or antivirus).</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ließ sich nicht entfernen (vielleicht hält ein anderes Programm die Datei fest: ein weiteres Vellory, ein Synchronisierungsprogramm oder ein Virenscanner).</translation>
     </message>
     <message>
         <source>Cannot create the folder for locks: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner für Sperren lässt sich nicht anlegen: %1</translation>
     </message>
     <message>
         <source>Another program is saving this project right now: %1. Try again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm speichert dieses Projekt gerade: %1. Versuchen Sie es gleich noch einmal.</translation>
     </message>
     <message>
         <source>The compressed data is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die komprimierten Daten sind beschädigt oder unvollständig.</translation>
     </message>
     <message>
         <source>The file is too short to be an archive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist zu kurz für ein Archiv.</translation>
     </message>
     <message>
         <source>The file is not an archive, or its end is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist kein Archiv, oder ihr Ende fehlt.</translation>
     </message>
     <message>
         <source>The archive is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv ist beschädigt.</translation>
     </message>
     <message>
         <source>The archive is damaged: its entries overlap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv ist beschädigt: Seine Einträge überschneiden sich.</translation>
     </message>
     <message>
         <source>The archive holds two entries of the same name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv enthält zwei Einträge desselben Namens.</translation>
     </message>
     <message>
         <source>The archive is encrypted, split, or packed in a way that cannot be read. Pack it again as a plain ZIP archive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv ist verschlüsselt, geteilt oder auf eine Weise gepackt, die nicht lesbar ist. Packen Sie es neu als einfaches ZIP-Archiv.</translation>
     </message>
     <message>
         <source>The archive claims to hold far more than it can.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv gibt vor, weit mehr zu enthalten, als es kann.</translation>
     </message>
     <message>
         <source>The archive is damaged: a checksum is wrong.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv ist beschädigt: Eine Prüfsumme stimmt nicht.</translation>
     </message>
     <message>
         <source>The archive would be larger than 4 GiB. Remove some large files, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv würde größer als 4 GiB. Entfernen Sie einige große Dateien, und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message>
         <source>The path of a file is too long for an archive: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Pfad einer Datei ist für ein Archiv zu lang: %1</translation>
     </message>
     <message>
         <source>An archive can hold at most 65,535 files. Remove some files, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Archiv kann höchstens 65.535 Dateien enthalten. Entfernen Sie einige Dateien, und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message>
         <source>The archive could not be written. Check that there is room on the disk.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Archiv ließ sich nicht schreiben. Prüfen Sie, ob auf der Festplatte noch Platz ist.</translation>
+    </message>
+    <message>
+        <source>The project file is not readable right now; try again.</source>
+        <translation>Die Projektdatei ist im Augenblick nicht lesbar; versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Could not prepare the project&apos;s working folder: %1</source>
+        <translation>Der Arbeitsordner des Projekts ließ sich nicht vorbereiten: %1</translation>
+    </message>
+    <message>
+        <source>Could not refresh the project&apos;s working folder: %1</source>
+        <translation>Der Arbeitsordner des Projekts ließ sich nicht auffrischen: %1</translation>
+    </message>
+    <message>
+        <source>Could not restore unsaved changes into the project file: %1</source>
+        <translation>Ungespeicherte Änderungen ließen sich nicht in die Projektdatei übernehmen: %1</translation>
+    </message>
+    <message>
+        <source>Could not clear the stale working copy: %1</source>
+        <translation>Die veraltete Arbeitskopie ließ sich nicht beseitigen: %1</translation>
+    </message>
+    <message>
+        <source>Unsaved changes could not be noted for recovery in %1. Save your work, and free some space.</source>
+        <translation>Ungespeicherte Änderungen ließen sich nicht für die Wiederherstellung in %1 festhalten. Speichern Sie Ihre Arbeit, und schaffen Sie Platz.</translation>
+    </message>
+    <message>
+        <source>The journal of unsaved changes cannot be read. It may be of another version of the program.</source>
+        <translation>Das Journal der ungespeicherten Änderungen ist nicht lesbar. Vielleicht stammt es von einer anderen Version des Programms.</translation>
+    </message>
+    <message>
+        <source>the merged file &apos;%1&apos; would not be valid</source>
+        <translation>die zusammengeführte Datei „%1“ wäre nicht gültig</translation>
+    </message>
+    <message>
+        <source>the reconcile has conflicts to resolve first</source>
+        <translation>beim Abgleich sind erst noch Konflikte zu lösen</translation>
+    </message>
+    <message>
+        <source>Import “%1”</source>
+        <translation>„%1“ importieren</translation>
+    </message>
+    <message>
+        <source>The folder %1 holds no content pack. Choose the folder that holds pack.json.</source>
+        <translation>Der Ordner %1 enthält kein Inhaltspaket. Wählen Sie den Ordner, in dem pack.json liegt.</translation>
+    </message>
+    <message>
+        <source>In the content pack %1, the category “%2” is above itself. Give one of the categories above it another parent, then try again.</source>
+        <translation>Im Inhaltspaket %1 steht die Kategorie „%2“ über sich selbst. Hängen Sie eine der Kategorien über ihr an eine andere Stelle, und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>The folder %1 holds something else. Choose an empty folder or a new name for the content pack.</source>
+        <translation>Der Ordner %1 enthält etwas anderes. Wählen Sie einen leeren Ordner oder einen neuen Namen für das Inhaltspaket.</translation>
+    </message>
+    <message>
+        <source>In the content pack %1, the files %2 and %3 hold the same category. Remove one of them, then try again.</source>
+        <translation>Im Inhaltspaket %1 enthalten die Dateien %2 und %3 dieselbe Kategorie. Entfernen Sie eine davon, und versuchen Sie es dann noch einmal.</translation>
     </message>
 </context>
 <context>
     <name>Questions</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Schließen</translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>Taxonomy</name>
     <message>
         <source>“%1” is a fixed property of the category “%2”, which supplies its value for everything beneath it. An entity cannot hold its own — change it on the category, or give this one a differently-named property.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist eine feste Eigenschaft der Kategorie „%2“, die den Wert allem unter ihr vorgibt. Ein Eintrag kann keinen eigenen haben. Ändern Sie ihn an der Kategorie, oder geben Sie diesem Eintrag eine Eigenschaft mit anderem Namen.</translation>
     </message>
     <message>
         <source>“%1” already comes from the category “%2”. Adding it here gives this entity its own version, which overrides the inherited one for it alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kommt bereits aus der Kategorie „%2“. Wenn Sie sie hier hinzufügen, erhält dieser Eintrag seine eigene Fassung, die nur bei ihm an die Stelle der geerbten tritt.</translation>
     </message>
     <message>
         <source>Reparenting there would create a cycle.</source>
-        <translation type="unfinished"></translation>
+        <translation>An dieser Stelle läge die Kategorie unter sich selbst. Wählen Sie eine andere.</translation>
     </message>
     <message>
         <source>Cannot reparent an unknown category.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine unbekannte Kategorie lässt sich nicht verschieben.</translation>
     </message>
     <message>
         <source>A category can only hang under an entity of this project. Choose another place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kategorie kann nur unter einem Eintrag dieses Projekts hängen. Wählen Sie eine andere Stelle.</translation>
     </message>
     <message>
         <source>“%1” lies beneath the category “%2”, so the category cannot hang under it. Move the entity to another category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ liegt unter der Kategorie „%2“; deshalb kann die Kategorie nicht unter ihm hängen. Verschieben Sie den Eintrag zuerst in eine andere Kategorie.</translation>
     </message>
     <message>
         <source>A field needs a key. Give it a name first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Eigenschaft braucht einen Schlüssel. Geben Sie ihr zuerst einen Namen.</translation>
     </message>
     <message>
         <source>A field cannot be both &quot;fixed&quot; and &quot;required&quot;: a fixed field&apos;s value is supplied once by the category, so there is nothing for an entity to be required to fill in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Eigenschaft kann nicht zugleich „fest“ und „Pflichtangabe“ sein: Einen festen Wert gibt die Kategorie einmal vor, sodass an einem Eintrag nichts auszufüllen bleibt.</translation>
     </message>
     <message>
         <source>Cannot reparent under an unknown category.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter eine unbekannte Kategorie lässt sich nichts verschieben.</translation>
     </message>
 </context>
 <context>
@@ -449,442 +628,442 @@
     <name>UndoCommand</name>
     <message>
         <source>Set calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender festlegen</translation>
     </message>
     <message>
         <source>Set reckonings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitrechnungen festlegen</translation>
     </message>
     <message>
         <source>Rename canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinnwand umbenennen</translation>
     </message>
     <message>
         <source>Move card</source>
-        <translation type="unfinished"></translation>
+        <translation>Kärtchen verschieben</translation>
     </message>
     <message>
         <source>Remove card</source>
-        <translation type="unfinished"></translation>
+        <translation>Kärtchen entfernen</translation>
     </message>
     <message>
         <source>Connect cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Kärtchen verbinden</translation>
     </message>
     <message>
         <source>Disconnect cards</source>
-        <translation type="unfinished"></translation>
+        <translation>Kärtchen trennen</translation>
     </message>
     <message>
         <source>Edit chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm bearbeiten</translation>
     </message>
     <message>
         <source>Edit language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache bearbeiten</translation>
     </message>
     <message>
         <source>Edit grammar</source>
-        <translation type="unfinished"></translation>
+        <translation>Grammatik bearbeiten</translation>
     </message>
     <message>
         <source>Edit orthography</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechtschreibung bearbeiten</translation>
     </message>
     <message>
         <source>Edit phonotactics</source>
-        <translation type="unfinished"></translation>
+        <translation>Phonotaktik bearbeiten</translation>
     </message>
     <message>
         <source>Edit sound changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautwandel bearbeiten</translation>
     </message>
     <message>
         <source>Edit writing system</source>
-        <translation type="unfinished"></translation>
+        <translation>Schriftsystem bearbeiten</translation>
     </message>
     <message>
         <source>Set tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlagwörter festlegen</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Sperren</translation>
     </message>
     <message>
         <source>Unlock</source>
-        <translation type="unfinished"></translation>
+        <translation>Entsperren</translation>
     </message>
     <message>
         <source>Set visibility</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichtbarkeit festlegen</translation>
     </message>
     <message>
         <source>Set AI exclusion</source>
-        <translation type="unfinished"></translation>
+        <translation>KI-Ausschluss festlegen</translation>
     </message>
     <message>
         <source>Edit audiences</source>
-        <translation type="unfinished"></translation>
+        <translation>Zielgruppen bearbeiten</translation>
     </message>
     <message>
         <source>Set the default audience</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgegebene Zielgruppe festlegen</translation>
     </message>
     <message>
         <source>Add object</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekt hinzufügen</translation>
     </message>
     <message>
         <source>Remove object</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekt entfernen</translation>
     </message>
     <message>
         <source>Pin</source>
-        <translation type="unfinished"></translation>
+        <translation>Anheften</translation>
     </message>
     <message>
         <source>Unpin</source>
-        <translation type="unfinished"></translation>
+        <translation>Loslösen</translation>
     </message>
     <message>
         <source>Rename document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument umbenennen</translation>
     </message>
     <message>
         <source>Edit document body</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumenttext bearbeiten</translation>
     </message>
     <message>
         <source>Change document kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumentart ändern</translation>
     </message>
     <message>
         <source>Edit synopsis</source>
-        <translation type="unfinished"></translation>
+        <translation>Synopse bearbeiten</translation>
     </message>
     <message>
         <source>Edit status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status bearbeiten</translation>
     </message>
     <message>
         <source>Edit point of view</source>
-        <translation type="unfinished"></translation>
+        <translation>Perspektive bearbeiten</translation>
     </message>
     <message>
         <source>Edit tension</source>
-        <translation type="unfinished"></translation>
+        <translation>Spannung bearbeiten</translation>
     </message>
     <message>
         <source>Set scene date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum der Szene festlegen</translation>
     </message>
     <message>
         <source>Set word-count target</source>
-        <translation type="unfinished"></translation>
+        <translation>Wortziel festlegen</translation>
     </message>
     <message>
         <source>Edit footnotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Fußnoten bearbeiten</translation>
     </message>
     <message>
         <source>Cite source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle zitieren</translation>
     </message>
     <message>
         <source>Edit document variants</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumentvarianten bearbeiten</translation>
     </message>
     <message>
         <source>Edit version history</source>
-        <translation type="unfinished"></translation>
+        <translation>Versionsverlauf bearbeiten</translation>
     </message>
     <message>
         <source>Mark screenplay revision</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehbuchrevision kennzeichnen</translation>
     </message>
     <message>
         <source>Move document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument verschieben</translation>
     </message>
     <message>
         <source>Rename entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag umbenennen</translation>
     </message>
     <message>
         <source>Move entity to category</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintrag in Kategorie verschieben</translation>
     </message>
     <message>
         <source>Set aliases</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Namen festlegen</translation>
     </message>
     <message>
         <source>Set entity gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie des Eintrags festlegen</translation>
     </message>
     <message>
         <source>Edit lifespan</source>
-        <translation type="unfinished"></translation>
+        <translation>Lebensspanne bearbeiten</translation>
     </message>
     <message>
         <source>Change entity properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften des Eintrags ändern</translation>
     </message>
     <message>
         <source>Set state over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand im Zeitverlauf festlegen</translation>
     </message>
     <message>
         <source>Update entity templates</source>
-        <translation type="unfinished"></translation>
+        <translation>Eintragsvorlagen ändern</translation>
     </message>
     <message>
         <source>Set field value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert festlegen</translation>
     </message>
     <message>
         <source>Rename map</source>
-        <translation type="unfinished"></translation>
+        <translation>Karte umbenennen</translation>
     </message>
     <message>
         <source>Set map image</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartenbild festlegen</translation>
     </message>
     <message>
         <source>Edit map grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartenraster bearbeiten</translation>
     </message>
     <message>
         <source>Edit map pins</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartennadeln bearbeiten</translation>
     </message>
     <message>
         <source>Edit map regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartengebiete bearbeiten</translation>
     </message>
     <message>
         <source>Edit map routes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartenrouten bearbeiten</translation>
     </message>
     <message>
         <source>Edit map tokens</source>
-        <translation type="unfinished"></translation>
+        <translation>Kartenfiguren bearbeiten</translation>
     </message>
     <message>
         <source>Set map travel settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiseeinstellungen der Karte festlegen</translation>
     </message>
     <message>
         <source>Edit caption</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildunterschrift bearbeiten</translation>
     </message>
     <message>
         <source>Crop image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild zuschneiden</translation>
     </message>
     <message>
         <source>Add annotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmerkung hinzufügen</translation>
     </message>
     <message>
         <source>Remove annotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmerkung entfernen</translation>
     </message>
     <message>
         <source>Edit plot threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Handlungsstränge bearbeiten</translation>
     </message>
     <message>
         <source>Edit beat sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Beat-Sheet bearbeiten</translation>
     </message>
     <message>
         <source>Tag plot threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Handlungsstränge zuordnen</translation>
     </message>
     <message>
         <source>Update saved searches</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Suchen ändern</translation>
     </message>
     <message>
         <source>Update mounted libraries</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingebundene Bibliotheken ändern</translation>
     </message>
     <message>
         <source>Record property migration answer</source>
-        <translation type="unfinished"></translation>
+        <translation>Antwort zur Übernahme von Eigenschaften festhalten</translation>
     </message>
     <message>
         <source>Edit source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle bearbeiten</translation>
     </message>
     <message>
         <source>Edit comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar bearbeiten</translation>
     </message>
     <message>
         <source>Move comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar verschieben</translation>
     </message>
     <message>
         <source>Rename spreadsheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle umbenennen</translation>
     </message>
     <message>
         <source>Update spreadsheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle ändern</translation>
     </message>
     <message>
         <source>Resize</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe ändern</translation>
     </message>
     <message>
         <source>Bind spreadsheet to category</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle an Kategorie binden</translation>
     </message>
     <message>
         <source>Edit cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelle bearbeiten</translation>
     </message>
     <message>
         <source>Rename task</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgabe umbenennen</translation>
     </message>
     <message>
         <source>Edit task details</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten der Aufgabe bearbeiten</translation>
     </message>
     <message>
         <source>Complete task</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgabe abschließen</translation>
     </message>
     <message>
         <source>Reopen task</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgabe wieder öffnen</translation>
     </message>
     <message>
         <source>Change task due date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fälligkeit der Aufgabe ändern</translation>
     </message>
     <message>
         <source>Change task priority</source>
-        <translation type="unfinished"></translation>
+        <translation>Priorität der Aufgabe ändern</translation>
     </message>
     <message>
         <source>Change task status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status der Aufgabe ändern</translation>
     </message>
     <message>
         <source>Move task to board</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgabe auf anderes Brett verschieben</translation>
     </message>
     <message>
         <source>Change submission details</source>
-        <translation type="unfinished"></translation>
+        <translation>Einzelheiten der Einreichung ändern</translation>
     </message>
     <message>
         <source>Link task</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgabe verknüpfen</translation>
     </message>
     <message>
         <source>Move task</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufgabe verschieben</translation>
     </message>
     <message>
         <source>Add category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie hinzufügen</translation>
     </message>
     <message>
         <source>Remove category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie entfernen</translation>
     </message>
     <message>
         <source>Rename category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie umbenennen</translation>
     </message>
     <message>
         <source>Move category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie verschieben</translation>
     </message>
     <message>
         <source>Move category under entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie unter Eintrag hängen</translation>
     </message>
     <message>
         <source>Set inherited properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernommene Eigenschaften festlegen</translation>
     </message>
     <message>
         <source>Set excluded properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgelassene Eigenschaften festlegen</translation>
     </message>
     <message>
         <source>Add field</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft hinzufügen</translation>
     </message>
     <message>
         <source>Remove field</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft entfernen</translation>
     </message>
     <message>
         <source>Move field</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft verschieben</translation>
     </message>
     <message>
         <source>Rename timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitleiste umbenennen</translation>
     </message>
     <message>
         <source>Edit timeline event</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignis der Zeitleiste bearbeiten</translation>
     </message>
     <message>
         <source>Set timeline eras</source>
-        <translation type="unfinished"></translation>
+        <translation>Ären der Zeitleiste festlegen</translation>
     </message>
     <message>
         <source>Set timeline markers</source>
-        <translation type="unfinished"></translation>
+        <translation>Marken der Zeitleiste festlegen</translation>
     </message>
     <message>
         <source>Set timeline bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesezeichen der Zeitleiste festlegen</translation>
     </message>
     <message>
         <source>Change timeline view</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansicht der Zeitleiste ändern</translation>
     </message>
     <message>
         <source>Update timeline view presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Ansichtsvorgaben der Zeitleiste ändern</translation>
     </message>
     <message>
         <source>Set continuity rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontinuitätsregeln festlegen</translation>
     </message>
     <message>
         <source>Edit random table</source>
-        <translation type="unfinished"></translation>
+        <translation>Zufallstabelle bearbeiten</translation>
     </message>
     <message>
         <source>Edit stat block</source>
-        <translation type="unfinished"></translation>
+        <translation>Wertekasten bearbeiten</translation>
     </message>
     <message>
         <source>Set writing goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibziel festlegen</translation>
     </message>
 </context>
 <context>
     <name>ValueText</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
 </context>
 <context>
@@ -894,98 +1073,122 @@
         <translation>Das Projekt wurde nicht gefunden: %1</translation>
     </message>
     <message>
-        <source>This is no project: %1. Choose a project folder, the one that holds project.json.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The file project.json is missing in %1. If a sync client is still at work there, wait until it is done; otherwise bring the file back from a backup, or put an empty one with {} in its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>In %1 fehlt die Datei project.json. Falls dort noch ein Synchronisierungsprogramm arbeitet, warten Sie, bis es fertig ist; sonst holen Sie die Datei aus einer Sicherung zurück, oder legen Sie an ihre Stelle eine leere mit dem Inhalt {}.</translation>
     </message>
     <message>
         <source>The folder %1 holds no project. Choose the folder that holds project.json, or make a new project.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 enthält kein Projekt. Wählen Sie den Ordner, in dem project.json liegt, oder legen Sie ein neues Projekt an.</translation>
     </message>
     <message>
         <source>Could not copy &apos;%1&apos; to the new place. Free some space or choose another folder, then save again.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ließ sich nicht an den neuen Ort kopieren. Schaffen Sie Platz oder wählen Sie einen anderen Ordner, und speichern Sie dann noch einmal.</translation>
     </message>
     <message>
         <source>This project has no save location yet; use saveAs().</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Projekt hat noch keinen Speicherort; wählen Sie „Speichern unter“.</translation>
     </message>
     <message>
         <source>The folder %1 already holds a project. Choose an empty folder or a new name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 enthält schon ein Projekt. Wählen Sie einen leeren Ordner oder einen neuen Namen.</translation>
     </message>
     <message>
         <source>Cannot create project folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Projektordner lässt sich nicht anlegen: %1</translation>
     </message>
     <message>
         <source>This project has no save location to reload from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Projekt hat keinen Speicherort, von dem es neu geladen werden könnte.</translation>
     </message>
     <message>
         <source>The project cannot be read anew while a change is under way. Try again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt lässt sich nicht neu lesen, während eine Änderung läuft. Versuchen Sie es gleich noch einmal.</translation>
     </message>
     <message>
         <source>The library %1 could not be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bibliothek %1 ließ sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>Restored unsaved changes from your last session into %1.</source>
+        <translation>Ungespeicherte Änderungen Ihrer letzten Sitzung wurden in %1 wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>Project File Changed</source>
+        <translation>Projektdatei geändert</translation>
+    </message>
+    <message>
+        <source>%1 was changed outside Vellory, so the file&apos;s version was loaded. Your previous local working state was backed up to:
+%2</source>
+        <translation>%1 wurde außerhalb von Vellory geändert; deshalb wurde die Fassung der Datei geladen. Ihr bisheriger Arbeitsstand wurde gesichert unter:
+%2</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes Kept Aside</source>
+        <translation>Ungespeicherte Änderungen beiseitegelegt</translation>
+    </message>
+    <message>
+        <source>Your last session left changes that are not in %1 and could not be read, so the file&apos;s version was loaded. The changes were backed up to:
+%2</source>
+        <translation>Ihre letzte Sitzung hat Änderungen hinterlassen, die nicht in %1 stehen und nicht lesbar waren; deshalb wurde die Fassung der Datei geladen. Die Änderungen wurden gesichert unter:
+%2</translation>
+    </message>
+    <message>
+        <source>This is no project: %1. Choose a .vellory file, or the folder that holds project.json.</source>
+        <translation>Das ist kein Projekt: %1. Wählen Sie eine .vellory-Datei oder den Ordner, in dem project.json liegt.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::CategoryChooser</name>
     <message>
         <source>Find a category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie suchen</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorien</translation>
     </message>
     <message>
         <source>No category</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kategorie</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::CategoryPropertiesDialog</name>
     <message>
         <source>fixed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>fest: %1</translation>
     </message>
     <message>
         <source>required</source>
-        <translation type="unfinished"></translation>
+        <translation>Pflichtangabe</translation>
     </message>
     <message>
         <source>Properties of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften von „%1“</translation>
     </message>
     <message>
         <source>Save Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften speichern</translation>
     </message>
     <message>
         <source>Properties declared here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier festgelegte Eigenschaften</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hinzufügen…</translation>
     </message>
     <message>
         <source>&amp;Edit…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten…</translation>
     </message>
     <message>
         <source>Move &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;oben</translation>
     </message>
     <message>
         <source>Move &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
@@ -993,43 +1196,43 @@
     </message>
     <message>
         <source>Properties taken from “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Von „%1“ übernommene Eigenschaften</translation>
     </message>
     <message>
         <source>Inherited properties to leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>Geerbte Eigenschaften, die ausgelassen werden</translation>
     </message>
     <message>
         <source>A category under an entity starts with NO inherited properties — nothing crosses from an entity unless the category asks for it. Tick what it asks for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kategorie unter einem Eintrag beginnt OHNE geerbte Eigenschaften. Von einem Eintrag kommt nur herüber, was die Kategorie verlangt. Kreuzen Sie es an.</translation>
     </message>
     <message>
         <source>Ticking a property hides it; values already entered stay exactly where they are and come back the moment you untick it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Häkchen blendet die Eigenschaft aus. Schon eingetragene Werte bleiben, wo sie sind, und erscheinen wieder, sobald Sie das Häkchen entfernen.</translation>
     </message>
     <message>
         <source>%1 (from %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (aus %2)</translation>
     </message>
     <message>
         <source>New Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Eigenschaft</translation>
     </message>
     <message>
         <source>Add Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft hinzufügen</translation>
     </message>
     <message>
         <source>Property “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft „%1“</translation>
     </message>
     <message>
         <source>Change Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft ändern</translation>
     </message>
     <message>
         <source>Values already entered are kept — but nothing will show them. Undo puts the property back with its data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schon eingetragene Werte bleiben erhalten, doch nichts zeigt sie mehr an. „Rückgängig“ stellt die Eigenschaft mit ihren Daten wieder her.</translation>
     </message>
 </context>
 <context>
@@ -1040,15 +1243,15 @@
     </message>
     <message>
         <source>Uncategorised</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Kategorie</translation>
     </message>
     <message>
         <source>%1, also called %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, auch %2 genannt</translation>
     </message>
     <message>
         <source>Entities without a category</source>
-        <translation type="unfinished"></translation>
+        <translation>Einträge ohne Kategorie</translation>
     </message>
 </context>
 <context>
@@ -1063,7 +1266,7 @@
     </message>
     <message>
         <source>Nothing of the world is here. Press + to add its first person, place or thing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Welt ist noch nichts da. Mit + legen Sie die erste Person, den ersten Ort oder Gegenstand an.</translation>
     </message>
     <message>
         <source>New &amp;Entity</source>
@@ -1103,11 +1306,11 @@
     </message>
     <message>
         <source>Locked entities stay. Unlock them in the inspector to remove them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesperrte Einträge bleiben. Um sie zu entfernen, entsperren Sie sie im Inspektor.</translation>
     </message>
     <message>
         <source>Removed “%1”. Undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ entfernt. „Rückgängig“ holt den Eintrag zurück.</translation>
     </message>
     <message numerus="yes">
         <source>Removed %n things from the codex. Undo brings them back.</source>
@@ -1118,218 +1321,218 @@
     </message>
     <message>
         <source>Removed the category “%1”. Undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie „%1“ entfernt. „Rückgängig“ holt sie zurück.</translation>
     </message>
     <message>
         <source>Removed the category “%1”. Its subcategories moved up. Undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie „%1“ entfernt. Ihre Unterkategorien sind nach oben gerückt. „Rückgängig“ holt sie zurück.</translation>
     </message>
     <message>
         <source>Removed the category “%1”. Its entities moved up to “%2”. Undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie „%1“ entfernt. Ihre Einträge gehören jetzt zu „%2“. „Rückgängig“ holt sie zurück.</translation>
     </message>
     <message>
         <source>Removed the category “%1”. Its entities have no category now. Undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie „%1“ entfernt. Ihre Einträge haben jetzt keine Kategorie. „Rückgängig“ holt sie zurück.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::EntityHeading</name>
     <message>
         <source>Move to another category</source>
-        <translation type="unfinished"></translation>
+        <translation>In eine andere Kategorie verschieben</translation>
     </message>
     <message>
         <source>Add another name</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiteren Namen hinzufügen</translation>
     </message>
     <message>
         <source>Other names</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Namen</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>No category</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kategorie</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::EntityPage</name>
     <message>
         <source>This entity is locked. Unlock it in the inspector to edit it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Eintrag ist gesperrt. Um ihn zu bearbeiten, entsperren Sie ihn im Inspektor.</translation>
     </message>
     <message>
         <source>%1 of %2 properties filled in</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Eigenschaften ausgefüllt</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::EventsSection</name>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Ereignisse</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::FieldDialog</name>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl</translation>
     </message>
     <message>
         <source>Yes or no</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja oder nein</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Verweis</translation>
     </message>
     <message>
         <source>Choice</source>
-        <translation type="unfinished"></translation>
+        <translation>Auswahl</translation>
     </message>
     <message>
         <source>Web address</source>
-        <translation type="unfinished"></translation>
+        <translation>Internetadresse</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Must be filled in</source>
-        <translation type="unfinished"></translation>
+        <translation>Muss ausgefüllt werden</translation>
     </message>
     <message>
         <source>Fixed: the same for everything beneath</source>
-        <translation type="unfinished"></translation>
+        <translation>Fest: für alles darunter gleich</translation>
     </message>
     <message>
         <source>Anything in the codex</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles im Kodex</translation>
     </message>
     <message>
         <source>One choice on each line</source>
-        <translation type="unfinished"></translation>
+        <translation>Je Zeile eine Möglichkeit</translation>
     </message>
     <message>
         <source>What belongs in here</source>
-        <translation type="unfinished"></translation>
+        <translation>Was hier hineingehört</translation>
     </message>
     <message>
         <source>The value a fixed field supplies to everything beneath it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wert, den eine feste Eigenschaft allem darunter vorgibt.</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Choices</source>
-        <translation type="unfinished"></translation>
+        <translation>Möglichkeiten</translation>
     </message>
     <message>
         <source>Points to</source>
-        <translation type="unfinished"></translation>
+        <translation>Verweist auf</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>Fixed value</source>
-        <translation type="unfinished"></translation>
+        <translation>Fester Wert</translation>
     </message>
     <message>
         <source>A category that is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Kategorie, die es nicht mehr gibt</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::FieldsSection</name>
     <message>
         <source>Add Property…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft hinzufügen…</translation>
     </message>
     <message>
         <source>Add a property that this entity alone has</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Eigenschaft hinzufügen, die nur dieser Eintrag hat</translation>
     </message>
     <message>
         <source>Edit or remove this property</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Eigenschaft bearbeiten oder entfernen</translation>
     </message>
     <message>
         <source>&amp;Edit Property…</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft &amp;bearbeiten…</translation>
     </message>
     <message>
         <source>&amp;Remove Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft entfe&amp;rnen</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::GallerySection</name>
     <message>
         <source>Gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::HiddenValuesSection</name>
     <message>
         <source>Kept, but no property shows it</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufbewahrt, aber von keiner Eigenschaft angezeigt</translation>
     </message>
     <message>
         <source>These values show again when a property with their key reaches the entity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Werte erscheinen wieder, sobald den Eintrag eine Eigenschaft mit ihrem Schlüssel erreicht.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::LifespanSection</name>
     <message>
         <source>Lifespan</source>
-        <translation type="unfinished"></translation>
+        <translation>Lebensspanne</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Bis</translation>
     </message>
     <message>
         <source>The end lies before the beginning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Ende liegt vor dem Anfang.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::MentionsSection</name>
     <message>
         <source>Mentions</source>
-        <translation type="unfinished"></translation>
+        <translation>Erwähnungen</translation>
     </message>
     <message>
         <source>Reading the manuscript…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Manuskript wird gelesen…</translation>
     </message>
     <message numerus="yes">
         <source>%n times</source>
@@ -1340,297 +1543,303 @@
     </message>
     <message>
         <source>No document names it yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein Dokument nennt ihn.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::TimedValueDialog</name>
     <message>
         <source>State over Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand im Zeitverlauf</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Ab</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Change State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand ändern</translation>
     </message>
     <message>
         <source>Add State</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand hinzufügen</translation>
     </message>
     <message>
         <source>Enter the date from which the value holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie das Datum ein, ab dem der Wert gilt.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::codex::TimedValuesSection</name>
     <message>
         <source>State over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand im Zeitverlauf</translation>
     </message>
     <message>
         <source>Add State…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zustand hinzufügen…</translation>
     </message>
     <message>
         <source>Change…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern…</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::fields::BooleanValueEditor</name>
     <message>
         <source>Yes, no, not set: a click goes on to the next</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja, nein, nicht festgelegt: Ein Klick geht weiter</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht festgelegt</translation>
     </message>
     <message>
         <source>Neither yes nor no. It is kept until you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Weder Ja noch Nein. Es bleibt stehen, bis Sie wählen.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::fields::ChipButton</name>
     <message>
-        <source>Take out “%1”</source>
-        <translation type="unfinished"></translation>
+        <source>Remove “%1”</source>
+        <translation>„%1“ entfernen</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::fields::ChoiceValueEditor</name>
     <message>
         <source>Not set</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht festgelegt</translation>
     </message>
     <message>
         <source>%1 (not among the choices)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nicht unter den Möglichkeiten)</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::fields::DateValueEditor</name>
     <message>
-        <source>Take this text out</source>
-        <translation type="unfinished"></translation>
+        <source>“%1” is not a date. It is kept until you enter one.</source>
+        <translation>„%1“ ist kein Datum. Der Text bleibt stehen, bis Sie eines eingeben.</translation>
     </message>
     <message>
-        <source>Holds “%1”, which is no stored date. It is kept until you enter one.</source>
-        <translation type="unfinished"></translation>
+        <source>Remove this text</source>
+        <translation>Diesen Text entfernen</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::fields::NumberValueEditor</name>
     <message>
         <source>“%1” is not a number, so it is not stored. Write digits and a point, like 1250 or 3.5.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine Zahl und wird deshalb nicht gespeichert. Schreiben Sie Ziffern und einen Punkt, etwa 1250 oder 3.5.</translation>
     </message>
     <message>
         <source>Not a number. It is kept until you write one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Zahl. Der Text bleibt stehen, bis Sie eine schreiben.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::fields::ReferenceValueEditor</name>
     <message>
         <source>Add by name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Namen hinzufügen</translation>
     </message>
     <message>
         <source>Open “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ öffnen</translation>
     </message>
     <message>
         <source>missing</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlt</translation>
     </message>
     <message>
         <source>Nothing in this project answers to “%1”. It is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Projekt hört nichts auf „%1“. Der Verweis bleibt erhalten.</translation>
     </message>
     <message>
         <source>No single entity is called “%1” here. Choose one from the list that appears as you type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier heißt nicht genau ein Eintrag „%1“. Wählen Sie einen aus der Liste, die beim Tippen erscheint.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::fields::StoryDateEdit</name>
     <message>
         <source>No date</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Datum</translation>
     </message>
     <message>
         <source>Reads as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelesen als %1</translation>
     </message>
     <message>
         <source>Not a date this calendar can read. Write it like “%1” or just a year.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Datum kann der Kalender nicht lesen. Schreiben Sie es wie „%1“ oder nur ein Jahr.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::fields::UrlValueEditor</name>
     <message>
         <source>Open in the browser</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser öffnen</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::inspector::DocumentSection</name>
     <message>
         <source>S&amp;ynopsis</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Story &amp;date</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>S&amp;tatus</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Point of view</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Te&amp;nsion</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ynopse</translation>
     </message>
     <message>
         <source>Tar&amp;get</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;iel</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Dok&amp;umentart</translation>
     </message>
     <message>
         <source>What happens here, in a few sentences</source>
-        <translation type="unfinished"></translation>
+        <translation>Was hier geschieht, in wenigen Sätzen</translation>
     </message>
     <message>
         <source>Synopsis</source>
-        <translation type="unfinished"></translation>
+        <translation>Synopse</translation>
     </message>
     <message>
         <source>Prose</source>
-        <translation type="unfinished"></translation>
+        <translation>Prosa</translation>
     </message>
     <message>
         <source>Screenplay</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehbuch</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Notiz</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keines</translation>
     </message>
     <message>
         <source> words</source>
-        <translation type="unfinished"></translation>
+        <translation> Wörter</translation>
     </message>
     <message>
         <source>Idea</source>
-        <translation type="unfinished"></translation>
+        <translation>Idee</translation>
     </message>
     <message>
         <source>First draft</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Fassung</translation>
     </message>
     <message>
         <source>Revised</source>
-        <translation type="unfinished"></translation>
+        <translation>Überarbeitet</translation>
     </message>
     <message>
         <source>Final</source>
-        <translation type="unfinished"></translation>
+        <translation>Endfassung</translation>
+    </message>
+    <message>
+        <source>Sto&amp;ry date</source>
+        <translation>Handlungs&amp;zeit</translation>
+    </message>
+    <message>
+        <source>Stat&amp;us</source>
+        <translation>S&amp;tatus</translation>
+    </message>
+    <message>
+        <source>Poi&amp;nt of view</source>
+        <translation>Per&amp;spektive</translation>
+    </message>
+    <message>
+        <source>Ten&amp;sion</source>
+        <translation>Spa&amp;nnung</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::inspector::InspectorPanel</name>
     <message>
-        <source>Select a document or a codex entry to see its properties.</source>
-        <translation type="unfinished"></translation>
+        <source>Select a document or an entity to see its properties.</source>
+        <translation>Wählen Sie ein Dokument oder einen Eintrag, um die Eigenschaften zu sehen.</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::inspector::ObjectSection</name>
     <message>
         <source>&amp;Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespe&amp;rrt</translation>
     </message>
     <message>
         <source>E&amp;xclude from AI</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>P&amp;inned</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Von der KI ausschließen</translation>
     </message>
     <message>
         <source>T&amp;ags</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;lagwörter</translation>
     </message>
     <message>
         <source>Plot threads</source>
-        <translation type="unfinished"></translation>
+        <translation>Handlungsstränge</translation>
     </message>
     <message>
         <source>Visible to</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichtbar für</translation>
     </message>
     <message>
         <source>With none ticked, every audience sees it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Häkchen sieht es jede Zielgruppe.</translation>
     </message>
     <message>
         <source>Separated by commas</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch Kommas getrennt</translation>
+    </message>
+    <message>
+        <source>Pinne&amp;d</source>
+        <translation>An&amp;geheftet</translation>
     </message>
 </context>
 <context>
     <name>tw::desktop::manuscript::DocumentPage</name>
     <message>
         <source>This document is locked. Unlock it in the inspector to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Dokument ist gesperrt. Um darin zu schreiben, entsperren Sie es im Inspektor.</translation>
     </message>
-    <message>
-        <source>%1 of %2 words</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%1 of %Ln words</source>
+        <translation>
+            <numerusform>%1 von %Ln Wort</numerusform>
+            <numerusform>%1 von %Ln Wörtern</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 words</source>
-        <translation type="unfinished"></translation>
+    <message numerus="yes">
+        <source>%Ln words</source>
+        <translation>
+            <numerusform>%Ln Wort</numerusform>
+            <numerusform>%Ln Wörter</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1653,7 +1862,7 @@
     </message>
     <message>
         <source>New Document &amp;Inside</source>
-        <translation>Neues Dokument &amp;innerhalb</translation>
+        <translation>Neues Dokument dar&amp;in</translation>
     </message>
     <message>
         <source>New &amp;Screenplay</source>
@@ -1680,7 +1889,7 @@
         <translation>Dokument nach &amp;oben</translation>
     </message>
     <message>
-        <source>Move Document D&amp;own</source>
+        <source>Move Document Do&amp;wn</source>
         <translation>Dokument nach un&amp;ten</translation>
     </message>
     <message>
@@ -1688,7 +1897,7 @@
         <translation>Dokument e&amp;inrücken</translation>
     </message>
     <message>
-        <source>Move Document O&amp;ut</source>
+        <source>Move Document &amp;Out</source>
         <translation>Dokument a&amp;usrücken</translation>
     </message>
     <message>
@@ -1697,11 +1906,11 @@
     </message>
     <message>
         <source>“%1” is locked. Unlock it in the inspector to remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist gesperrt. Um es zu entfernen, entsperren Sie es im Inspektor.</translation>
     </message>
     <message>
         <source>Removed “%1”. Undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ entfernt. „Rückgängig“ holt das Dokument zurück.</translation>
     </message>
     <message numerus="yes">
         <source>Removed %n documents with all that was in them. Undo brings them back.</source>
@@ -1712,7 +1921,7 @@
     </message>
     <message>
         <source>No documents here. Press + to write the first one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier sind noch keine Dokumente. Mit + beginnen Sie das erste.</translation>
     </message>
     <message>
         <source>Open a project, or begin one.</source>
@@ -1723,7 +1932,218 @@
     <name>tw::desktop::manuscript::MarkdownPage</name>
     <message>
         <source>Text of the document</source>
-        <translation type="unfinished"></translation>
+        <translation>Text des Dokuments</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::review::ConflictModel</name>
+    <message>
+        <source>Keep my version</source>
+        <translation>Meine Fassung behalten</translation>
+    </message>
+    <message>
+        <source>Keep my version (delete the file)</source>
+        <translation>Meine Fassung behalten (Datei löschen)</translation>
+    </message>
+    <message>
+        <source>Take on-disk version</source>
+        <translation>Fassung auf der Festplatte nehmen</translation>
+    </message>
+    <message>
+        <source>Take on-disk version (delete the file)</source>
+        <translation>Fassung auf der Festplatte nehmen (Datei löschen)</translation>
+    </message>
+    <message>
+        <source>Merge both by paragraphs</source>
+        <translation>Beide absatzweise zusammenführen</translation>
+    </message>
+    <message>
+        <source>Not chosen yet</source>
+        <translation>Noch nicht gewählt</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Entscheidung</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::review::ExternalChanges</name>
+    <message>
+        <source>External Changes</source>
+        <translation>Änderungen von außen</translation>
+    </message>
+    <message>
+        <source>No external changes — the project on disk matches what you have open.</source>
+        <translation>Keine Änderungen von außen – das Projekt auf der Festplatte entspricht dem geöffneten.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project file(s) changed outside Vellory since you opened it, and you have no unsaved edits here. Load the on-disk version now?</source>
+        <translation>
+            <numerusform>%n Datei des Projekts wurde außerhalb von Vellory geändert, seit Sie es geöffnet haben, und hier ist nichts ungespeichert. Fassung auf der Festplatte jetzt laden?</numerusform>
+            <numerusform>%n Dateien des Projekts wurden außerhalb von Vellory geändert, seit Sie es geöffnet haben, und hier ist nichts ungespeichert. Fassung auf der Festplatte jetzt laden?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Load On-Disk Version</source>
+        <translation>Fassung auf der Festplatte laden</translation>
+    </message>
+    <message>
+        <source>Loaded the on-disk version of the project.</source>
+        <translation>Die Fassung des Projekts auf der Festplatte wurde geladen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) changed outside Vellory and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</source>
+        <translation>
+            <numerusform>%n Datei wurde außerhalb von Vellory geändert und lässt sich mit Ihren ungespeicherten Änderungen zusammenführen. Jetzt zusammenführen und neu laden? Ihr jetziges Projekt wird zuvor gesichert.</numerusform>
+            <numerusform>%n Dateien wurden außerhalb von Vellory geändert und lassen sich mit Ihren ungespeicherten Änderungen zusammenführen. Jetzt zusammenführen und neu laden? Ihr jetziges Projekt wird zuvor gesichert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Merge and Reload</source>
+        <translation>Zusammenführen und neu laden</translation>
+    </message>
+    <message>
+        <source>Merged external changes into the project.</source>
+        <translation>Die Änderungen von außen wurden ins Projekt übernommen.</translation>
+    </message>
+    <message>
+        <source>Resolved external changes and reloaded the project.</source>
+        <translation>Über die Änderungen von außen ist entschieden; das Projekt wurde neu geladen.</translation>
+    </message>
+    <message>
+        <source>The project changed outside Vellory since you opened it.</source>
+        <translation>Das Projekt wurde außerhalb von Vellory geändert, seit Sie es geöffnet haben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them conflict with unsaved edits here and can&apos;t be merged automatically. Take the on-disk version (discarding your unsaved edits), or keep yours (your next save overwrites the on-disk changes)?</source>
+        <translation>
+            <numerusform>%n Datei widerspricht ungespeicherten Änderungen hier und lässt sich nicht von selbst zusammenführen. Möchten Sie die Fassung auf der Festplatte nehmen (Ihre ungespeicherten Änderungen werden verworfen) oder Ihre behalten (das nächste Speichern überschreibt die Änderungen auf der Festplatte)?</numerusform>
+            <numerusform>%n Dateien widersprechen ungespeicherten Änderungen hier und lassen sich nicht von selbst zusammenführen. Möchten Sie die Fassung auf der Festplatte nehmen (Ihre ungespeicherten Änderungen werden verworfen) oder Ihre behalten (das nächste Speichern überschreibt die Änderungen auf der Festplatte)?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Take On-Disk Version</source>
+        <translation>Fassung auf der Festplatte nehmen</translation>
+    </message>
+    <message>
+        <source>Keep My Version</source>
+        <translation>Meine Fassung behalten</translation>
+    </message>
+    <message>
+        <source>Keeping your version — your next save will overwrite the on-disk changes.</source>
+        <translation>Ihre Fassung bleibt – das nächste Speichern überschreibt die Änderungen auf der Festplatte.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n media file(s) in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</source>
+        <translation>
+            <numerusform>%n Mediendatei des Projekts hat sich auf der Festplatte geändert (hinzugefügt, ersetzt oder entfernt durch Mitautoren oder ein Synchronisierungsprogramm). Speichern Sie das Projekt, oder öffnen Sie es neu, um den jetzigen Stand zu verwenden.</numerusform>
+            <numerusform>%n Mediendateien des Projekts haben sich auf der Festplatte geändert (hinzugefügt, ersetzt oder entfernt durch Mitautoren oder ein Synchronisierungsprogramm). Speichern Sie das Projekt, oder öffnen Sie es neu, um den jetzigen Stand zu verwenden.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n media file(s) in the project changed on disk (added, replaced, or removed by a co-author or sync client). Reload the project to use them?</source>
+        <translation>
+            <numerusform>%n Mediendatei des Projekts hat sich auf der Festplatte geändert (hinzugefügt, ersetzt oder entfernt durch Mitautoren oder ein Synchronisierungsprogramm). Projekt neu laden, um den jetzigen Stand zu verwenden?</numerusform>
+            <numerusform>%n Mediendateien des Projekts haben sich auf der Festplatte geändert (hinzugefügt, ersetzt oder entfernt durch Mitautoren oder ein Synchronisierungsprogramm). Projekt neu laden, um den jetzigen Stand zu verwenden?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Reloaded the project with the updated media files.</source>
+        <translation>Das Projekt wurde mit den geänderten Mediendateien neu geladen.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::review::ResolveDialog</name>
+    <message>
+        <source>− </source>
+        <translation>− </translation>
+    </message>
+    <message>
+        <source>+ </source>
+        <translation>+ </translation>
+    </message>
+    <message>
+        <source>⋯</source>
+        <translation>⋯</translation>
+    </message>
+    <message>
+        <source>Resolve External Changes</source>
+        <translation>Über Änderungen von außen entscheiden</translation>
+    </message>
+    <message>
+        <source>Differences for the selected file — your version in red (−), the on-disk version in green (+):</source>
+        <translation>Unterschiede in der gewählten Datei – Ihre Fassung in Rot (−), die auf der Festplatte in Grün (+):</translation>
+    </message>
+    <message>
+        <source>Differences for the selected file</source>
+        <translation>Unterschiede in der gewählten Datei</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) changed both on disk and in this window over the same lines and can&apos;t be merged automatically. Choose which version to keep for each.</source>
+        <translation>
+            <numerusform>%n Datei wurde auf der Festplatte und in diesem Fenster in denselben Zeilen geändert und lässt sich nicht von selbst zusammenführen. Wählen Sie, welche Fassung bleiben soll.</numerusform>
+            <numerusform>%n Dateien wurden auf der Festplatte und in diesem Fenster in denselben Zeilen geändert und lassen sich nicht von selbst zusammenführen. Wählen Sie für jede, welche Fassung bleiben soll.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other external change(s) will be merged in automatically.</source>
+        <translation>
+            <numerusform>%n weitere Änderung von außen wird von selbst übernommen.</numerusform>
+            <numerusform>%n weitere Änderungen von außen werden von selbst übernommen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Files to choose for</source>
+        <translation>Dateien, über die zu entscheiden ist</translation>
+    </message>
+    <message>
+        <source>Keep All Mine</source>
+        <translation>Alle meine behalten</translation>
+    </message>
+    <message>
+        <source>Take All from Disk</source>
+        <translation>Alle von der Festplatte nehmen</translation>
+    </message>
+    <message>
+        <source>Apply and Reload</source>
+        <translation>Anwenden und neu laden</translation>
+    </message>
+    <message>
+        <source>Choose a version for every file first.</source>
+        <translation>Wählen Sie zuerst für jede Datei eine Fassung.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::review::ReviewNotice</name>
+    <message>
+        <source>Review…</source>
+        <translation>Durchsehen…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n project file(s) changed outside Vellory since you opened it.</source>
+        <translation>
+            <numerusform>%n Datei des Projekts wurde außerhalb von Vellory geändert, seit Sie es geöffnet haben.</numerusform>
+            <numerusform>%n Dateien des Projekts wurden außerhalb von Vellory geändert, seit Sie es geöffnet haben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Reopen the project to load the on-disk version, or save to keep yours. (This is a read-only heads-up so a sync client or co-author&apos;s changes don&apos;t surprise you.)</source>
+        <translation>Öffnen Sie das Projekt neu, um die Fassung auf der Festplatte zu laden, oder speichern Sie, um Ihre zu behalten. (Dieser Hinweis ändert nichts. Er soll verhindern, dass Änderungen eines Synchronisierungsprogramms oder von Mitautoren Sie überraschen.)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n media file(s) in the project changed on disk.</source>
+        <translation>
+            <numerusform>%n Mediendatei des Projekts hat sich auf der Festplatte geändert.</numerusform>
+            <numerusform>%n Mediendateien des Projekts haben sich auf der Festplatte geändert.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1735,10 +2155,6 @@
 </context>
 <context>
     <name>tw::desktop::shell::MainWindow</name>
-    <message>
-        <source>Choose a document in the manuscript or an entry in the codex.</source>
-        <translation>Wählen Sie ein Dokument im Manuskript oder einen Eintrag im Kodex.</translation>
-    </message>
     <message>
         <source>Vellory</source>
         <translation>Vellory</translation>
@@ -1923,6 +2339,14 @@
         <source>Inspector</source>
         <translation>Inspektor</translation>
     </message>
+    <message>
+        <source>&amp;Check for External Changes…</source>
+        <translation>Auf Änderungen von außen &amp;prüfen…</translation>
+    </message>
+    <message>
+        <source>Choose a document in the manuscript or an entity in the codex.</source>
+        <translation>Wählen Sie ein Dokument im Manuskript oder einen Eintrag im Kodex.</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::OpenRequests</name>
@@ -1962,63 +2386,71 @@
     <name>tw::desktop::shell::ProjectLife</name>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished">Projekt öffnen</translation>
+        <translation>Projekt öffnen</translation>
     </message>
     <message>
         <source>Open the Sample</source>
-        <translation type="unfinished">Beispiel öffnen</translation>
+        <translation>Beispiel öffnen</translation>
     </message>
     <message>
         <source>New Project</source>
-        <translation type="unfinished">Neues Projekt</translation>
+        <translation>Neues Projekt</translation>
     </message>
     <message>
         <source>What is the project called?</source>
-        <translation type="unfinished">Wie heißt das Projekt?</translation>
+        <translation>Wie heißt das Projekt?</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished">Ohne Titel</translation>
+        <translation>Ohne Titel</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation type="unfinished">Gespeichert.</translation>
+        <translation>Gespeichert.</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished">Projekt speichern</translation>
+        <translation>Projekt speichern</translation>
     </message>
     <message>
         <source>Save Project As a Folder</source>
-        <translation type="unfinished">Projekt als Ordner speichern</translation>
+        <translation>Projekt als Ordner speichern</translation>
     </message>
     <message>
         <source>Read the Project Anew</source>
-        <translation type="unfinished">Projekt neu lesen</translation>
+        <translation>Projekt neu lesen</translation>
     </message>
     <message>
         <source>“%1” has changes that are not saved. Reading it anew from disk drops them.</source>
-        <translation type="unfinished">„%1“ hat Änderungen, die nicht gespeichert sind. Wenn es neu von der Festplatte gelesen wird, gehen sie verloren.</translation>
+        <translation>„%1“ hat Änderungen, die nicht gespeichert sind. Wenn es neu von der Festplatte gelesen wird, gehen sie verloren.</translation>
     </message>
     <message>
         <source>Drop Changes</source>
-        <translation type="unfinished">Änderungen verwerfen</translation>
+        <translation>Änderungen verwerfen</translation>
     </message>
     <message>
         <source>Unsaved Changes</source>
-        <translation type="unfinished">Ungespeicherte Änderungen</translation>
+        <translation>Ungespeicherte Änderungen</translation>
     </message>
     <message>
         <source>“%1” has changes that are not saved.</source>
-        <translation type="unfinished">„%1“ hat Änderungen, die nicht gespeichert sind.</translation>
+        <translation>„%1“ hat Änderungen, die nicht gespeichert sind.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Speichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Discard Changes</source>
-        <translation type="unfinished">Änderungen verwerfen</translation>
+        <translation>Änderungen verwerfen</translation>
+    </message>
+    <message>
+        <source>Autosave failed: %1</source>
+        <translation>Automatisches Speichern fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Your unsaved changes are back. Save to keep them.</source>
+        <translation>Ihre ungespeicherten Änderungen sind wieder da. Speichern Sie, um sie zu behalten.</translation>
     </message>
 </context>
 <context>
@@ -2030,10 +2462,6 @@
     <message>
         <source>When the scene happens in the story</source>
         <translation>Wann die Szene in der Geschichte spielt</translation>
-    </message>
-    <message>
-        <source>Manuscript: %1 words</source>
-        <translation>Manuskript: %1 Wörter</translation>
     </message>
     <message>
         <source>Session: +%1</source>
@@ -2067,6 +2495,13 @@
         <source>Not saved</source>
         <translation>Nicht gespeichert</translation>
     </message>
+    <message numerus="yes">
+        <source>Manuscript: %Ln words</source>
+        <translation>
+            <numerusform>Manuskript: %Ln Wort</numerusform>
+            <numerusform>Manuskript: %Ln Wörter</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::WelcomePage</name>
@@ -2076,7 +2511,7 @@
     </message>
     <message>
         <source>A quiet desk for long stories and the worlds they live in.</source>
-        <translation>Ein ruhiger Schreibtisch für lange Geschichten und die Welten, in denen sie leben.</translation>
+        <translation>Ein ruhiger Schreibtisch für lange Geschichten und die Welten, in denen sie spielen.</translation>
     </message>
     <message>
         <source>Look around in the sample</source>

@@ -2,6 +2,23 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>CrashRecovery</name>
+    <message numerus="yes">
+        <source>Vellory did not end properly the last time. Changes to %n items of “%1” were noted, but not saved. Bring them back?</source>
+        <translation>
+            <numerusform>Vellory did not end properly the last time. Changes to %n item of “%1” were noted, but not saved. Bring them back?</numerusform>
+            <numerusform>Vellory did not end properly the last time. Changes to %n items of “%1” were noted, but not saved. Bring them back?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them were changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</source>
+        <translation>
+            <numerusform>%n of them was changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</numerusform>
+            <numerusform>%n of them were changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::codex::CodexPanel</name>
     <message numerus="yes">
         <source>Removed %n things from the codex. Undo brings them back.</source>
@@ -22,12 +39,111 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::manuscript::DocumentPage</name>
+    <message numerus="yes">
+        <source>%1 of %Ln words</source>
+        <translation>
+            <numerusform>%1 of %Ln word</numerusform>
+            <numerusform>%1 of %Ln words</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln words</source>
+        <translation>
+            <numerusform>%Ln word</numerusform>
+            <numerusform>%Ln words</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::manuscript::ManuscriptPanel</name>
     <message numerus="yes">
         <source>Removed %n documents with all that was in them. Undo brings them back.</source>
         <translation>
             <numerusform>Removed %n document with all that was in it. Undo brings it back.</numerusform>
             <numerusform>Removed %n documents with all that was in them. Undo brings them back.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::review::ExternalChanges</name>
+    <message numerus="yes">
+        <source>%n project file(s) changed outside Vellory since you opened it, and you have no unsaved edits here. Load the on-disk version now?</source>
+        <translation>
+            <numerusform>%n project file changed outside Vellory since you opened it, and you have no unsaved edits here. Load the on-disk version now?</numerusform>
+            <numerusform>%n project files changed outside Vellory since you opened it, and you have no unsaved edits here. Load the on-disk version now?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) changed outside Vellory and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</source>
+        <translation>
+            <numerusform>%n file changed outside Vellory and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</numerusform>
+            <numerusform>%n files changed outside Vellory and can be merged with your unsaved edits here. Merge and reload now? Your current project is backed up first.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them conflict with unsaved edits here and can&apos;t be merged automatically. Take the on-disk version (discarding your unsaved edits), or keep yours (your next save overwrites the on-disk changes)?</source>
+        <translation>
+            <numerusform>%n of them conflicts with unsaved edits here and can&apos;t be merged automatically. Take the on-disk version (discarding your unsaved edits), or keep yours (your next save overwrites the on-disk changes)?</numerusform>
+            <numerusform>%n of them conflict with unsaved edits here and can&apos;t be merged automatically. Take the on-disk version (discarding your unsaved edits), or keep yours (your next save overwrites the on-disk changes)?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n media file(s) in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</source>
+        <translation>
+            <numerusform>%n media file in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</numerusform>
+            <numerusform>%n media files in the project changed on disk (added, replaced, or removed by a co-author or sync client). Save or reopen the project to use the updated assets.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n media file(s) in the project changed on disk (added, replaced, or removed by a co-author or sync client). Reload the project to use them?</source>
+        <translation>
+            <numerusform>%n media file in the project changed on disk (added, replaced, or removed by a co-author or sync client). Reload the project to use it?</numerusform>
+            <numerusform>%n media files in the project changed on disk (added, replaced, or removed by a co-author or sync client). Reload the project to use them?</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::review::ResolveDialog</name>
+    <message numerus="yes">
+        <source>%n file(s) changed both on disk and in this window over the same lines and can&apos;t be merged automatically. Choose which version to keep for each.</source>
+        <translation>
+            <numerusform>%n file changed both on disk and in this window over the same lines and can&apos;t be merged automatically. Choose which version to keep.</numerusform>
+            <numerusform>%n files changed both on disk and in this window over the same lines and can&apos;t be merged automatically. Choose which version to keep for each.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n other external change(s) will be merged in automatically.</source>
+        <translation>
+            <numerusform>%n other external change will be merged in automatically.</numerusform>
+            <numerusform>%n other external changes will be merged in automatically.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::review::ReviewNotice</name>
+    <message numerus="yes">
+        <source>%n project file(s) changed outside Vellory since you opened it.</source>
+        <translation>
+            <numerusform>%n project file changed outside Vellory since you opened it.</numerusform>
+            <numerusform>%n project files changed outside Vellory since you opened it.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n media file(s) in the project changed on disk.</source>
+        <translation>
+            <numerusform>%n media file in the project changed on disk.</numerusform>
+            <numerusform>%n media files in the project changed on disk.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::shell::StatusStrip</name>
+    <message numerus="yes">
+        <source>Manuscript: %Ln words</source>
+        <translation>
+            <numerusform>Manuscript: %Ln word</numerusform>
+            <numerusform>Manuscript: %Ln words</numerusform>
         </translation>
     </message>
 </context>

@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
@@ -120,7 +121,10 @@ int main(int argc, char* argv[])
         server = std::make_unique<SingleInstanceServer>(name);
     }
 
-    const Translations translations(chooseLocale(commandLine.language, settings));
+    const QLocale locale = chooseLocale(commandLine.language, settings);
+    // Counts are grouped the way the language of the interface groups them.
+    QLocale::setDefault(locale);
+    const Translations translations(locale);
     desktop::theme::ThemeManager themes(settings);
     themes.apply(application);
     const desktop::icons::IconSet icons(themes);

@@ -45,7 +45,9 @@ FieldVerdict judge(
     const auto* const entity = project.findAs<Entity>(entityId);
     if (!entity)
         return {
-            translated(QT_TRANSLATE_NOOP("OwnFieldEdits", "The entity is gone. Leave this without saving.")),
+            translated(QT_TRANSLATE_NOOP(
+                "OwnFieldEdits",
+                "This entity has been removed meanwhile. Cancel here; undo brings the entity back.")),
             {}};
     FieldVerdict verdict{
         core::entity::checkOwnField(project, *entity, field).message(),

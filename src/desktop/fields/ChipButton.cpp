@@ -105,7 +105,7 @@ void ChipButton::setChip(const Chip& chip)
     m_name->setToolTip(chip.toolTip);
     m_name->setAccessibleName(chip.text);
     m_name->setState(chip.state);
-    m_remove->setToolTip(tr("Take out “%1”").arg(chip.text));
+    m_remove->setToolTip(tr("Remove “%1”").arg(chip.text));
     m_remove->setAccessibleName(m_remove->toolTip());
 }
 

@@ -32,7 +32,7 @@ DateValueEditor::DateValueEditor(const shell::DeskContext& desk, QWidget* parent
     m_edit->setCalendar(desk.session.project().calendar());
     m_takeOut->setIcon(desk.icons.icon(icons::Icon::Close));
     m_takeOut->setAutoRaise(true);
-    m_takeOut->setToolTip(tr("Take this text out"));
+    m_takeOut->setToolTip(tr("Remove this text"));
     m_takeOut->setAccessibleName(m_takeOut->toolTip());
     connect(m_edit, &StoryDateEdit::typed, this, &DateValueEditor::typed);
     connect(m_edit, &StoryDateEdit::instantEdited, this, [this](const std::optional<StoryInstant>& instant) {
@@ -68,8 +68,7 @@ void DateValueEditor::present()
     m_edit->setInstant(instant);
     const bool isOther = !instant && !value().value_or(QString()).isEmpty();
     m_otherNote->setNote(
-        isOther ? tr("Holds “%1”, which is no stored date. It is kept until you enter one.").arg(*value())
-                : QString(),
+        isOther ? tr("“%1” is not a date. It is kept until you enter one.").arg(*value()) : QString(),
         NoteLabel::Tone::Warning);
     m_takeOut->setVisible(isOther);
 }

@@ -69,13 +69,13 @@ DocumentSection::DocumentSection(const shell::DeskContext& desk, QWidget* parent
     synopsisLabel->setBuddy(m_synopsis);
     form->addRow(synopsisLabel);
     form->addRow(m_synopsis);
-    auto* const dateLabel = new QLabel(tr("Story &date"), this);
+    auto* const dateLabel = new QLabel(tr("Sto&ry date"), this);
     dateLabel->setBuddy(m_sceneDate);
     form->addRow(dateLabel);
     form->addRow(m_sceneDate);
-    form->addRow(tr("S&tatus"), m_status);
-    form->addRow(tr("&Point of view"), m_pointOfView);
-    form->addRow(tr("Te&nsion"), m_tension);
+    form->addRow(tr("Stat&us"), m_status);
+    form->addRow(tr("Poi&nt of view"), m_pointOfView);
+    form->addRow(tr("Ten&sion"), m_tension);
     form->addRow(tr("Tar&get"), m_target);
     form->addRow(tr("&Kind"), m_kind);
     m_synopsis->setLeastLines(synopsisLines);

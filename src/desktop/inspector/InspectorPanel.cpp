@@ -25,7 +25,7 @@ constexpr int iconSize = 18;
 InspectorPanel::InspectorPanel(const shell::DeskContext& desk, QWidget* parent)
     : QWidget(parent)
     , m_desk(desk)
-    , m_hint(new QLabel(tr("Select a document or a codex entry to see its properties."), this))
+    , m_hint(new QLabel(tr("Select a document or an entity to see its properties."), this))
     , m_scroll(new QScrollArea(this))
     , m_icon(new QLabel)
     , m_title(new QLabel)

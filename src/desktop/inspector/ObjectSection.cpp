@@ -46,7 +46,7 @@ ObjectSection::ObjectSection(const shell::DeskContext& desk, QWidget* parent)
     , m_tags(new QLineEdit(this))
     , m_locked(new QCheckBox(tr("&Locked"), this))
     , m_aiExcluded(new QCheckBox(tr("E&xclude from AI"), this))
-    , m_pinned(new QCheckBox(tr("P&inned"), this))
+    , m_pinned(new QCheckBox(tr("Pinne&d"), this))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -113,10 +113,9 @@ void DocumentPage::takeFocus()
 QString DocumentPage::statusText() const
 {
     const auto* const document = m_desk.session.project().findAs<Document>(objectId());
-    const QString words = QLocale().toString(m_words);
     if (document && document->wordCountTarget() > 0)
-        return tr("%1 of %2 words").arg(words, QLocale().toString(document->wordCountTarget()));
-    return tr("%1 words").arg(words);
+        return tr("%1 of %Ln words", nullptr, document->wordCountTarget()).arg(QLocale().toString(m_words));
+    return tr("%Ln words", nullptr, static_cast<int>(m_words));
 }
 
 void DocumentPage::noteTyping()

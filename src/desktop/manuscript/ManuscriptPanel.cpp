@@ -117,11 +117,11 @@ void ManuscriptPanel::makeEditActions()
         [this] { m_tree->renameSource(m_tree->currentSource()); });
     add(u"manuscript.moveUp"_s, Icon::MoveUp, tr("Move Document &Up"), QKeySequence(Qt::CTRL | Qt::Key_Up),
         step(MoveDirection::Up));
-    add(u"manuscript.moveDown"_s, Icon::MoveDown, tr("Move Document D&own"),
+    add(u"manuscript.moveDown"_s, Icon::MoveDown, tr("Move Document Do&wn"),
         QKeySequence(Qt::CTRL | Qt::Key_Down), step(MoveDirection::Down));
     add(u"manuscript.moveIn"_s, Icon::ChevronRight, tr("Move Document &In"),
         QKeySequence(Qt::CTRL | Qt::Key_Right), step(MoveDirection::In));
-    add(u"manuscript.moveOut"_s, Icon::ChevronLeft, tr("Move Document O&ut"),
+    add(u"manuscript.moveOut"_s, Icon::ChevronLeft, tr("Move Document &Out"),
         QKeySequence(Qt::CTRL | Qt::Key_Left), step(MoveDirection::Out));
     add(u"manuscript.remove"_s, Icon::Remove, tr("&Remove Document"), QKeySequence(Qt::Key_Delete),
         [this] { removeSelected(); });

@@ -28,7 +28,7 @@ QString withKind(ContentKind kind)
     case ContentKind::Document:
         return translated(QT_TRANSLATE_NOOP("FileTitles", "%1 (document)"));
     case ContentKind::Entity:
-        return translated(QT_TRANSLATE_NOOP("FileTitles", "%1 (codex entry)"));
+        return translated(QT_TRANSLATE_NOOP("FileTitles", "%1 (entity)"));
     case ContentKind::Spreadsheet:
         return translated(QT_TRANSLATE_NOOP("FileTitles", "%1 (table)"));
     case ContentKind::Chart:

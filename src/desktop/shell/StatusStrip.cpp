@@ -96,7 +96,7 @@ void StatusStrip::refreshWords()
         widget->setVisible(isOpen);
     const qint64 total = m_desk.session.words().total();
     const qint64 session = total - m_wordsAtOpening;
-    m_projectWords->setText(tr("Manuscript: %1 words").arg(grouped(total)));
+    m_projectWords->setText(tr("Manuscript: %Ln words", nullptr, static_cast<int>(total)));
     m_sessionWords->setText(
         session >= 0 ? tr("Session: +%1").arg(grouped(session)) : tr("Session: −%1").arg(grouped(-session)));
     m_sessionWords->setToolTip(tr("Words since the project was opened"));

@@ -1,5 +1,6 @@
 #include "desktop/shell/Translations.h"
 
+#include "desktop/inspector/InspectorPanel.h"
 #include "desktop/shell/DialogSelfTest.h"
 #include "desktop/shell/MainWindow.h"
 #include "desktop/support/TestDesk.h"
@@ -7,6 +8,8 @@
 
 #include <QAction>
 #include <QFile>
+#include <QKeySequence>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
@@ -16,6 +19,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 
 namespace tw::desktop::shell {
 
@@ -54,10 +58,10 @@ QList<Text> textsOf(const QString& catalogue)
     return texts;
 }
 
-/** The places for values in a text, sorted: "%1", "%n". */
+/** The places for values in a text, sorted: "%1", "%n", "%Ln". */
 QStringList placesIn(const QString& text)
 {
-    static const QRegularExpression place(u"%(L?[0-9]+|n)"_s);
+    static const QRegularExpression place(u"%L?([0-9]+|n)"_s);
     QStringList places;
     for (const QRegularExpressionMatch& match : place.globalMatch(text))
         places.append(match.captured());
@@ -77,6 +81,48 @@ QMenu* menuNamed(const QMenuBar& bar, const QString& title)
             return action->menu();
     }
     return nullptr;
+}
+
+/** Entries of one bar or menu, or of a menu below, that share their letter with another entry beside them. */
+QStringList entriesWithSharedLetters(const QList<QAction*>& actions)
+{
+    QStringList found;
+    std::map<QString, QString> entries;
+    for (const QAction* const action : actions) {
+        if (action->menu())
+            found += entriesWithSharedLetters(action->menu()->actions());
+        const QString letter = QKeySequence::mnemonic(action->text()).toString();
+        if (letter.isEmpty())
+            continue;
+        const auto [first, isNew] = entries.emplace(letter, action->text());
+        if (!isNew)
+            found.append(u"%1 and %2"_s.arg(first->second, action->text()));
+    }
+    return found;
+}
+
+/** Controls of the window's panels whose letter also opens a menu, or belongs to another control as well. */
+QStringList controlsWithLettersOfMenus(const MainWindow& window)
+{
+    QStringList found;
+    std::map<QString, QString> texts;
+    const auto add = [&](const QString& text) {
+        const QString letter = QKeySequence::mnemonic(text).toString();
+        if (letter.isEmpty())
+            return;
+        const auto [first, isNew] = texts.emplace(letter, text);
+        if (!isNew)
+            found.append(u"%1 and %2"_s.arg(first->second, text));
+    };
+    for (const QAction* const action : window.menuBar()->actions())
+        add(action->text());
+    const auto* const inspector = window.findChild<inspector::InspectorPanel*>();
+    EXPECT_TRUE(inspector);
+    for (const QLabel* const label : inspector->findChildren<QLabel*>())
+        add(label->buddy() ? label->text() : QString());
+    for (const QAbstractButton* const button : inspector->findChildren<QAbstractButton*>())
+        add(button->text());
+    return found;
 }
 
 } // namespace
@@ -129,6 +175,18 @@ TEST(TranslationsTest, germanReachesMenusQuestionsAndCounts)
     EXPECT_TRUE(report.isPassed) << report.lines.join(u'\n').toStdString();
 }
 
+TEST(TranslationsTest, everyEntryAndControlHasALetterOfItsOwn)
+{
+    for (const QLocale::Language language : {QLocale::English, QLocale::German}) {
+        const Translations translations{QLocale(language)};
+        const test::TestDesk desk;
+        const MainWindow window(desk.context, QString());
+        QStringList shared = entriesWithSharedLetters(window.menuBar()->actions());
+        shared += controlsWithLettersOfMenus(window);
+        EXPECT_TRUE(shared.isEmpty()) << shared.join(u'\n').toStdString();
+    }
+}
+
 TEST(TranslationsTest, withoutACatalogueTextsStayEnglishAndCountWell)
 {
     const auto removed = [](int count) {
@@ -157,8 +215,10 @@ TEST(TranslationsTest, cataloguesKeepPlacesKeysAndDots)
                 QStringList expected = placesIn(text.source);
                 QStringList places = placesIn(translation);
                 if (translation == text.translations.first()) {
-                    expected.removeAll(u"%n"_s);
-                    places.removeAll(u"%n"_s);
+                    for (const QString& count : {u"%n"_s, u"%Ln"_s}) {
+                        expected.removeAll(count);
+                        places.removeAll(count);
+                    }
                 }
                 const std::string shown = text.source.toStdString() + " / " + translation.toStdString();
                 EXPECT_EQ(places, expected) << shown;
