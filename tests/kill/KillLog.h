@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QHash>
-#include <QSet>
 
 namespace tw::test {
 
@@ -43,7 +42,7 @@ public:
     [[nodiscard]] QStringList read(const QString& logPath);
 
     /** Whether anything was reported kept, so that there must be a project. */
-    [[nodiscard]] bool hasKept() const { return !m_versions.isEmpty() && m_hasKept; }
+    [[nodiscard]] bool hasKept() const { return m_hasKept; }
     /** Compares a project just opened; from here on it has to stay like this. */
     [[nodiscard]] QStringList settle(const FileHashes& found);
 

@@ -7,6 +7,7 @@
 #include "app/workspace/ExternalReview.h"
 #include "core/document/Document.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 

@@ -1,13 +1,14 @@
 // The work of a writer, until the program is killed.
 #pragma once
 
+#include "app/persistence/StorageEnvironment.h"
+#include "app/persistence/codec/ProjectWriter.h"
 #include "kill/KillLog.h"
 #include "kill/MortalFileSystem.h"
 #include "kill/Recovery.h"
 #include "support/RandomCommands.h"
 
-#include "app/persistence/codec/ProjectWriter.h"
-
+#include <memory>
 #include <random>
 
 namespace tw::test {

@@ -2,8 +2,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
-#include <QThread>
 
 #include <csignal>
 

@@ -3,6 +3,7 @@
 
 #include "app/persistence/files/FileSystem.h"
 
+#include <QHash>
 #include <QMutex>
 #include <QSet>
 

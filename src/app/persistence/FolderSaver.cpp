@@ -98,7 +98,7 @@ Result<void> FolderSaver::saveObjects(const Project& project, SaveExtent extent)
             obsolete.append(objectPath(saved->first));
     };
     for (const auto& [id, object] : project.objects()) {
-        takeObsolete([&id](const core::ContentId& savedId) { return savedId < id; });
+        takeObsolete([&id = id](const core::ContentId& savedId) { return savedId < id; });
         const bool isKnown = saved != m_saved.revisions.cend() && saved->first == id;
         const bool isUnchanged = isKnown && saved->second == object->revision();
         if (isKnown)

@@ -1,7 +1,5 @@
 #include "core/undo/CompositeCommand.h"
 
-#include <ranges>
-
 namespace tw::core::undo {
 
 CompositeCommand::CompositeCommand(QString label)
@@ -18,8 +16,8 @@ void CompositeCommand::redo()
 
 void CompositeCommand::undo()
 {
-    for (const auto& child : std::views::reverse(m_children))
-        child->undo();
+    for (auto child = m_children.rbegin(); child != m_children.rend(); ++child)
+        (*child)->undo();
 }
 
 QString CompositeCommand::text() const

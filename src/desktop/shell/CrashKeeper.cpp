@@ -105,11 +105,12 @@ void CrashKeeper::note()
     }
     if (std::exchange(m_areSharedMoved, false))
         noteSharedFiles(edits);
-    // How this went is known only later, and what failed is tried again.
-    const bool hasMore = !edits.isEmpty() || m_session.isTypingPending();
-    m_journal->append(std::move(edits));
+    if (!edits.isEmpty() || m_isFailing)
+        m_journal->append(std::move(edits));
+    // How it went is known only later, and what failed is tried again.
+    const bool isWriting = m_journal->isWriting();
     report(m_journal->lastOutcome());
-    if (hasMore || m_isFailing)
+    if (isWriting || m_isFailing || m_session.isTypingPending())
         m_due.start();
 }
 

@@ -48,6 +48,8 @@ public:
     void append(QList<JournalEdit> edits);
     /** Waits until all appended edits are on the medium; fails when they could not be written. */
     [[nodiscard]] core::Result<void> flush();
+    /** Whether edits are on their way, so that how they fare is not known yet. */
+    [[nodiscard]] bool isWriting() const { return m_writer.activeThreadCount() > 0; }
     /** How the last write that ended went; waits for nothing. */
     [[nodiscard]] core::Result<void> lastOutcome();
     /** Removes the file: everything was saved, or let go. */
