@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -35,7 +36,8 @@ PlaceRows::PlaceRows(const shell::DeskContext& desk, QFormLayout& form, QWidget*
     choose->setAutoDefault(false);
     place->addWidget(choose);
     form.addRow(tr("&Place"), place);
-    m_folder->setAccessibleName(tr("Place"));
+    // A label stands for one control, and this row has two.
+    qobject_cast<QLabel*>(form.labelForField(place))->setBuddy(m_folder);
     addFormChoice(form);
     form.addRow(QString(), m_note);
     m_note->setObjectName(u"placeNote"_s);

@@ -110,13 +110,11 @@ void ProjectSettingsDialog::removeAudience(int row)
     const QString original = m_audiences->list().item(row)->data(originalRole).toString();
     const AudienceUse use = useOf(m_desk.session.project(), original);
     if (use.objects > 0) {
-        const QString text =
-            use.alone > 0 ? tr("“%1” is an audience of %2 things. %3 of them name no other one, so everyone "
-                               "would see them.")
-                                .arg(original)
-                                .arg(use.objects)
-                                .arg(use.alone)
-                          : tr("“%1” is an audience of %n things.", nullptr, use.objects).arg(original);
+        QString text = tr("“%1” is an audience of %n things.", nullptr, use.objects).arg(original);
+        if (use.alone > 0) {
+            text +=
+                u' ' + tr("Everyone would see %n of them, which name no other audience.", nullptr, use.alone);
+        }
         const shell::Question question{
             tr("Remove Audience"), text, {{tr("Remove Audience"), QMessageBox::DestructiveRole}}};
         if (!shell::ask(this, question))

@@ -77,6 +77,8 @@ void Shortcuts::collectFrom(const QMenu& menu, const QString& title)
         const QVariant chosen = m_settings.value(settingsKey(shortcut.id));
         if (chosen.isValid()) {
             shortcut.current = QKeySequence::listFromString(chosen.toString());
+            // No keys at all read back as one that is empty.
+            shortcut.current.removeAll(QKeySequence());
             action->setShortcuts(shortcut.current);
         }
         m_shortcuts.push_back(std::move(shortcut));

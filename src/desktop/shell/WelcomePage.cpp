@@ -127,7 +127,11 @@ void WelcomePage::changeEvent(QEvent* event)
 
 void WelcomePage::fitColumn()
 {
-    m_column->setFixedWidth(fontMetrics().averageCharWidth() * columnCharacters);
+    const int width = fontMetrics().averageCharWidth() * columnCharacters;
+    m_column->setFixedWidth(width);
+    // Beside another button the rows would be given the height of one line.
+    for (QWidget* const row : m_recent->findChildren<QCommandLinkButton*>())
+        row->setMinimumHeight(row->heightForWidth(width));
 }
 
 void WelcomePage::setRecent(const std::vector<RecentProject>& projects)
@@ -138,6 +142,7 @@ void WelcomePage::setRecent(const std::vector<RecentProject>& projects)
     m_recentLayout->addWidget(makeTitle(tr("Recent projects"), 1.1, m_recent));
     for (const RecentProject& project : projects | std::views::take(shownRecent))
         addRecent(project);
+    fitColumn();
 }
 
 void WelcomePage::addRecent(const RecentProject& project)

@@ -4,8 +4,8 @@
 #include "desktop/support/TestDesk.h"
 
 #include <QAbstractItemModelTester>
+#include <QCheckBox>
 #include <QLineEdit>
-#include <QTableView>
 
 #include <gtest/gtest.h>
 
@@ -16,9 +16,12 @@ using app::persistence::BackupFile;
 
 namespace {
 
+/** Hours stand before minutes, seconds and milliseconds. */
+constexpr int hourInName = 10000000;
+
 BackupFile backup(const QString& project, int hour)
 {
-    const QString name = u"%1-20260309-%20000000.twbackup"_s.arg(project).arg(hour);
+    const QString name = u"%1-20260309-%2.twbackup"_s.arg(project).arg(hour * hourInName);
     return {u"/backups/"_s + name, {project, QDate(2026, 3, 9), QTime(hour, 0)}, 4096};
 }
 
@@ -37,7 +40,8 @@ TEST(RestoreDialog, showsOwnBackupsAndFollowsTheChosenOneWithTheName)
 
     auto* const name = dialog.findChild<QLineEdit*>(u"projectName"_s);
     name->setText(u"Mine"_s);
-    emit dialog.findChild<QTableView*>(u"backups"_s)->selectionModel()->currentRowChanged({}, {});
+    dialog.findChild<QCheckBox*>()->click();
+    EXPECT_EQ(dialog.restoration().backupPath, subject.backups[0].path) << "the newest of all";
     EXPECT_EQ(dialog.restoration().place.name, u"Mine"_s) << "a name that the user gave stays";
 
     subject.chosenFile = u"/elsewhere/Flood.twbackup"_s;
