@@ -652,6 +652,7 @@ void RandomCommands::addBoardCommands()
 
 void RandomCommands::addProjectCommands()
 {
+    addField<project::SetProjectNameCommand>();
     addField<project::SetSavedSearchesCommand>();
     addField<project::SetLibraryMountsCommand>();
     addField<project::SetPropertyMigrationAnswerCommand>();

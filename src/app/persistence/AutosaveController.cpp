@@ -9,8 +9,6 @@ namespace tw::app::persistence {
 namespace {
 
 constexpr std::chrono::seconds firstInterval{30};
-constexpr std::chrono::seconds shortestInterval{15};
-constexpr std::chrono::seconds longestInterval{3600};
 
 } // namespace
 
@@ -57,8 +55,8 @@ std::chrono::seconds autosaveInterval(const QString& setting)
     bool isNumber = false;
     const qint64 seconds = setting.toLongLong(&isNumber);
     if (!isNumber)
-        return shortestInterval;
-    return std::clamp(std::chrono::seconds(seconds), shortestInterval, longestInterval);
+        return shortestAutosave;
+    return std::clamp(std::chrono::seconds(seconds), shortestAutosave, longestAutosave);
 }
 
 } // namespace tw::app::persistence

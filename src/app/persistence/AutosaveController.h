@@ -44,6 +44,9 @@ private:
     QTimer m_timer;
 };
 
+inline constexpr std::chrono::seconds shortestAutosave{15};
+inline constexpr std::chrono::seconds longestAutosave{3600};
+
 /** The period that a setting asks for: whole seconds, between 15 and 3600; what is no number counts as 15. */
 [[nodiscard]] std::chrono::seconds autosaveInterval(const QString& setting);
 

@@ -239,9 +239,15 @@ Result<void> Workspace::saveAsFolder(const QString& folder)
                 "Workspace", "The folder %1 already holds a project. Choose an empty folder or a new name."),
             folder);
     }
+    const bool isNew =
+        QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     auto copy = writeCopy(folder);
-    if (!copy)
+    if (!copy) {
+        // Half a project in its place would refuse the next attempt.
+        if (isNew)
+            QDir(folder).removeRecursively();
         return Failure{copy.message()};
+    }
     m_singleFile.reset();
     moveTo(folder, std::move(copy).value());
     return {};
@@ -392,10 +398,19 @@ Result<QString> Workspace::importAsset(const QString& sourceFile)
     return imported;
 }
 
+bool Workspace::followLibraryMounts()
+{
+    if (m_project->libraryMounts() == m_readMounts)
+        return false;
+    reloadLibraries();
+    return true;
+}
+
 void Workspace::reloadLibraries()
 {
     m_libraries.clear();
     m_libraryNotices.clear();
+    m_readMounts = m_project->libraryMounts();
     // Nobody knows where the working copy of a single file lies.
     const QDir base = hasSingleFile() ? QFileInfo(displayPath()).dir() : QDir(m_folderPath);
     for (const core::project::LibraryMount& mount : m_project->libraryMounts()) {

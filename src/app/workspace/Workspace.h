@@ -112,8 +112,10 @@ public:
     [[nodiscard]] const std::vector<MountedLibrary>& libraries() const { return m_libraries; }
     /** What went wrong with libraries at the last load; the project itself is open all the same. */
     [[nodiscard]] const QStringList& libraryNotices() const { return m_libraryNotices; }
-    /** Reads the mounted libraries anew, after the list of mounts changed. */
+    /** Reads the mounted libraries anew. */
     void reloadLibraries();
+    /** The same if the list of mounts is another than when they were read last; true then. */
+    bool followLibraryMounts();
 
     // For a review of what others changed
 
@@ -157,6 +159,8 @@ private:
     persistence::AssetStamps m_assets;
     bool m_fullSaveDue = false;
     std::vector<MountedLibrary> m_libraries;
+    /** What `m_libraries` was read from. */
+    std::vector<core::project::LibraryMount> m_readMounts;
     QStringList m_libraryNotices;
 };
 

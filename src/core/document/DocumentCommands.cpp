@@ -87,7 +87,6 @@ MoveDocumentCommand::MoveDocumentCommand(
 
 void MoveDocumentCommand::redo()
 {
-    m_oldIndices.clear();
     m_applied = canMoveDocument(m_project, m_documentId, m_newParentId);
     if (!m_applied)
         return;
@@ -95,9 +94,6 @@ void MoveDocumentCommand::redo()
     m_oldParentId = document->parentId();
     std::vector<ContentId> oldSiblings = childDocuments(m_project, m_oldParentId);
     std::vector<ContentId> newSiblings = childDocuments(m_project, m_newParentId);
-    recordOrder(oldSiblings);
-    recordOrder(newSiblings);
-
     std::erase(oldSiblings, m_documentId);
     std::erase(newSiblings, m_documentId);
     const auto index = std::clamp<std::ptrdiff_t>(m_index, 0, std::ssize(newSiblings));
@@ -105,9 +101,9 @@ void MoveDocumentCommand::redo()
 
     document->setParentId(m_newParentId);
     document->touch();
-    renumber(newSiblings);
+    m_order.number(m_project, newSiblings);
     if (m_oldParentId != m_newParentId)
-        renumber(oldSiblings);
+        m_order.number(m_project, oldSiblings);
 }
 
 void MoveDocumentCommand::undo()
@@ -119,36 +115,12 @@ void MoveDocumentCommand::undo()
         document->setParentId(m_oldParentId);
         document->touch();
     }
-    for (const auto& [id, index] : m_oldIndices) {
-        if (auto* const sibling = m_project.findAsForEdit<Document>(id)) {
-            sibling->setSortIndex(index);
-            sibling->touch();
-        }
-    }
+    m_order.restore(m_project);
 }
 
 QString MoveDocumentCommand::text() const
 {
     return QCoreApplication::translate("UndoCommand", "Move document");
-}
-
-void MoveDocumentCommand::recordOrder(const std::vector<ContentId>& siblings)
-{
-    for (const ContentId& id : siblings)
-        m_oldIndices.emplace(id, m_project.findAs<Document>(id)->sortIndex());
-}
-
-void MoveDocumentCommand::renumber(const std::vector<ContentId>& siblings)
-{
-    qint32 index = 0;
-    for (const ContentId& id : siblings) {
-        auto* const sibling = m_project.findAsForEdit<Document>(id);
-        if (sibling->sortIndex() != index) {
-            sibling->setSortIndex(index);
-            sibling->touch();
-        }
-        ++index;
-    }
 }
 
 } // namespace tw::core::document

@@ -2,9 +2,8 @@
 
 #include "core/document/Document.h"
 #include "core/project/Project.h"
+#include "core/project/SiblingOrder.h"
 #include "core/undo/SetFieldCommand.h"
-
-#include <map>
 
 namespace tw::core::document {
 
@@ -134,16 +133,13 @@ public:
     [[nodiscard]] QString text() const override;
 
 private:
-    void recordOrder(const std::vector<ContentId>& siblings);
-    void renumber(const std::vector<ContentId>& siblings);
-
     project::Project& m_project;
     ContentId m_documentId;
     ContentId m_newParentId;
     qint32 m_index;
     bool m_applied = false;
     ContentId m_oldParentId;
-    std::map<ContentId, qint32> m_oldIndices;
+    project::SiblingOrder<Document> m_order;
 };
 
 } // namespace tw::core::document

@@ -4,6 +4,11 @@
 
 namespace tw::core::project {
 
+QString SetProjectNameCommand::text() const
+{
+    return QCoreApplication::translate("UndoCommand", "Rename project");
+}
+
 QString SetSavedSearchesCommand::text() const
 {
     return QCoreApplication::translate("UndoCommand", "Update saved searches");

@@ -5,6 +5,13 @@
 
 namespace tw::core::project {
 
+class SetProjectNameCommand final : public undo::SetFieldCommand<&Project::name, &Project::setName>
+{
+public:
+    using SetFieldCommand::SetFieldCommand;
+    [[nodiscard]] QString text() const override;
+};
+
 class SetSavedSearchesCommand final
     : public undo::SetFieldCommand<&Project::savedSearches, &Project::setSavedSearches>
 {

@@ -75,7 +75,6 @@ MoveTaskCommand::MoveTaskCommand(project::Project& project, ContentId taskId, Ta
 
 void MoveTaskCommand::redo()
 {
-    m_oldIndices.clear();
     auto* const task = m_project.findAsForEdit<Task>(m_taskId);
     m_applied = task != nullptr;
     if (!m_applied)
@@ -83,9 +82,6 @@ void MoveTaskCommand::redo()
     m_oldColumn = {task->board(), task->status()};
     std::vector<ContentId> oldTasks = tasksInColumn(m_project, m_oldColumn);
     std::vector<ContentId> newTasks = tasksInColumn(m_project, m_newColumn);
-    recordOrder(oldTasks);
-    recordOrder(newTasks);
-
     std::erase(oldTasks, m_taskId);
     std::erase(newTasks, m_taskId);
     const auto index = std::clamp<std::ptrdiff_t>(m_index, 0, std::ssize(newTasks));
@@ -94,9 +90,9 @@ void MoveTaskCommand::redo()
     task->setBoard(m_newColumn.board);
     task->setStatus(m_newColumn.status);
     task->touch();
-    renumber(newTasks);
+    m_order.number(m_project, newTasks);
     if (m_oldColumn != m_newColumn)
-        renumber(oldTasks);
+        m_order.number(m_project, oldTasks);
 }
 
 void MoveTaskCommand::undo()
@@ -109,36 +105,12 @@ void MoveTaskCommand::undo()
         task->setStatus(m_oldColumn.status);
         task->touch();
     }
-    for (const auto& [id, index] : m_oldIndices) {
-        if (auto* const other = m_project.findAsForEdit<Task>(id)) {
-            other->setSortIndex(index);
-            other->touch();
-        }
-    }
+    m_order.restore(m_project);
 }
 
 QString MoveTaskCommand::text() const
 {
     return QCoreApplication::translate("UndoCommand", "Move task");
-}
-
-void MoveTaskCommand::recordOrder(const std::vector<ContentId>& tasks)
-{
-    for (const ContentId& id : tasks)
-        m_oldIndices.emplace(id, m_project.findAs<Task>(id)->sortIndex());
-}
-
-void MoveTaskCommand::renumber(const std::vector<ContentId>& tasks)
-{
-    qint32 index = 0;
-    for (const ContentId& id : tasks) {
-        auto* const task = m_project.findAsForEdit<Task>(id);
-        if (task->sortIndex() != index) {
-            task->setSortIndex(index);
-            task->touch();
-        }
-        ++index;
-    }
 }
 
 } // namespace tw::core::task

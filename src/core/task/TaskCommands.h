@@ -1,10 +1,9 @@
 #pragma once
 
 #include "core/project/Project.h"
+#include "core/project/SiblingOrder.h"
 #include "core/task/Task.h"
 #include "core/undo/SetFieldCommand.h"
-
-#include <map>
 
 namespace tw::core::task {
 
@@ -99,16 +98,13 @@ public:
     [[nodiscard]] QString text() const override;
 
 private:
-    void recordOrder(const std::vector<ContentId>& tasks);
-    void renumber(const std::vector<ContentId>& tasks);
-
     project::Project& m_project;
     ContentId m_taskId;
     TaskColumn m_newColumn;
     qint32 m_index;
     bool m_applied = false;
     TaskColumn m_oldColumn;
-    std::map<ContentId, qint32> m_oldIndices;
+    project::SiblingOrder<Task> m_order;
 };
 
 } // namespace tw::core::task

@@ -20,6 +20,7 @@ namespace tw::desktop::codex {
 using core::CategoryId;
 using core::ContentId;
 using core::entity::Entity;
+using namespace Qt::Literals::StringLiterals;
 using icons::Icon;
 
 CodexPanel::CodexPanel(const shell::DeskContext& desk, QWidget* parent)
@@ -68,9 +69,11 @@ CodexPanel::~CodexPanel()
 
 template <class Handler>
 QAction* CodexPanel::addMenuAction(
-    Icon icon, const QString& text, const QKeySequence& keys, KeyScope scope, Handler handler)
+    const QString& name, Icon icon, const QString& text, const QKeySequence& keys, KeyScope scope,
+    Handler handler)
 {
     auto* const action = new QAction(m_desk.icons.icon(icon), text, this);
+    action->setObjectName(name);
     action->setShortcut(keys);
     connect(action, &QAction::triggered, this, handler);
     if (scope == KeyScope::Tree) {
@@ -91,29 +94,32 @@ void CodexPanel::addSeparator()
 void CodexPanel::makeActions()
 {
     m_addEntity = addMenuAction(
-        Icon::Entity, tr("New &Entity"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E), KeyScope::Window,
-        [this] { addNewEntity(); });
-    m_addCategory = addMenuAction(Icon::Category, tr("New &Category"), {}, KeyScope::Window, [this] {
-        addNewCategory(placeBehind(m_desk.session, currentCategory()));
-    });
-    m_addUnder =
-        addMenuAction(Icon::CategoryUnderEntity, tr("New Category &Beneath"), {}, KeyScope::Window, [this] {
+        u"codex.entity"_s, Icon::Entity, tr("New &Entity"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
+        KeyScope::Window, [this] { addNewEntity(); });
+    m_addCategory =
+        addMenuAction(u"codex.category"_s, Icon::Category, tr("New &Category"), {}, KeyScope::Window, [this] {
+            addNewCategory(placeBehind(m_desk.session, currentCategory()));
+        });
+    m_addUnder = addMenuAction(
+        u"codex.categoryBeneath"_s, Icon::CategoryUnderEntity, tr("New Category &Beneath"), {},
+        KeyScope::Window, [this] {
             const CodexItem item = currentItem();
             addNewCategory({{item.categoryId, item.entityId}, {}});
         });
     addSeparator();
-    m_rename = addMenuAction(Icon::Rename, tr("Re&name"), QKeySequence(Qt::Key_F2), KeyScope::Tree, [this] {
-        m_tree->renameSource(m_tree->currentSource());
-    });
+    m_rename = addMenuAction(
+        u"codex.rename"_s, Icon::Rename, tr("Re&name"), QKeySequence(Qt::Key_F2), KeyScope::Tree,
+        [this] { m_tree->renameSource(m_tree->currentSource()); });
     m_duplicate = addMenuAction(
-        Icon::Copy, tr("&Duplicate Entity"), {}, KeyScope::Window, [this] { duplicateCurrent(); });
+        u"codex.duplicate"_s, Icon::Copy, tr("&Duplicate Entity"), {}, KeyScope::Window,
+        [this] { duplicateCurrent(); });
     m_properties = addMenuAction(
-        Icon::Settings, tr("Edit &Properties…"), {}, KeyScope::Window, [this] { editProperties(); });
+        u"codex.properties"_s, Icon::Settings, tr("Edit &Properties…"), {}, KeyScope::Window,
+        [this] { editProperties(); });
     addSeparator();
-    m_remove =
-        addMenuAction(Icon::Remove, tr("&Remove"), QKeySequence(Qt::Key_Delete), KeyScope::Tree, [this] {
-            removeSelected();
-        });
+    m_remove = addMenuAction(
+        u"codex.remove"_s, Icon::Remove, tr("&Remove"), QKeySequence(Qt::Key_Delete), KeyScope::Tree,
+        [this] { removeSelected(); });
 
     auto* const headerAdd = new QAction(m_desk.icons.icon(Icon::Add), tr("New entity"), this);
     connect(headerAdd, &QAction::triggered, m_addEntity, &QAction::trigger);

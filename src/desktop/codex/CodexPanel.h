@@ -46,7 +46,8 @@ private:
     void makeActions();
     template <class Handler>
     QAction* addMenuAction(
-        icons::Icon icon, const QString& text, const QKeySequence& keys, KeyScope scope, Handler handler);
+        const QString& name, icons::Icon icon, const QString& text, const QKeySequence& keys, KeyScope scope,
+        Handler handler);
     void addSeparator();
 
     [[nodiscard]] CodexItem currentItem() const;

@@ -61,9 +61,11 @@ ManuscriptPanel::~ManuscriptPanel()
     m_desk.session.disconnect(this);
 }
 
-QAction* ManuscriptPanel::makeAction(Icon icon, const QString& text, const QKeySequence& keys)
+QAction* ManuscriptPanel::makeAction(
+    const QString& name, Icon icon, const QString& text, const QKeySequence& keys)
 {
     auto* const action = new QAction(m_desk.icons.icon(icon), text, this);
+    action->setObjectName(name);
     action->setShortcut(keys);
     return action;
 }
@@ -71,21 +73,24 @@ QAction* ManuscriptPanel::makeAction(Icon icon, const QString& text, const QKeyS
 void ManuscriptPanel::makeInsertActions()
 {
     const auto add = [this](
-                         Icon icon, const QString& text, const QKeySequence& keys, auto kind, auto place,
-                         const QString& title) {
-        QAction* const action = makeAction(icon, text, keys);
+                         const QString& name, Icon icon, const QString& text, const QKeySequence& keys,
+                         auto kind, auto place, const QString& title) {
+        QAction* const action = makeAction(name, icon, text, keys);
         connect(action, &QAction::triggered, this, [=, this] { addNew(kind, place, title); });
         m_insertActions.append(action);
         return action;
     };
     QAction* const document =
-        add(Icon::Document, tr("New &Document"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N),
-            DocumentKind::Prose, Place::AfterCurrent, tr("New document"));
-    add(Icon::Add, tr("New Document &Inside"), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_N),
-        DocumentKind::Prose, Place::InsideCurrent, tr("New document"));
-    add(Icon::Screenplay, tr("New &Screenplay"), {}, DocumentKind::Screenplay, Place::AfterCurrent,
-        tr("New screenplay"));
-    add(Icon::Note, tr("New N&ote"), {}, DocumentKind::Note, Place::AfterCurrent, tr("New note"));
+        add(u"insert.document"_s, Icon::Document, tr("New &Document"),
+            QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N), DocumentKind::Prose, Place::AfterCurrent,
+            tr("New document"));
+    add(u"insert.documentInside"_s, Icon::Add, tr("New Document &Inside"),
+        QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_N), DocumentKind::Prose, Place::InsideCurrent,
+        tr("New document"));
+    add(u"insert.screenplay"_s, Icon::Screenplay, tr("New &Screenplay"), {}, DocumentKind::Screenplay,
+        Place::AfterCurrent, tr("New screenplay"));
+    add(u"insert.note"_s, Icon::Note, tr("New N&ote"), {}, DocumentKind::Note, Place::AfterCurrent,
+        tr("New note"));
 
     auto* const headerAdd = new QAction(m_desk.icons.icon(Icon::Add), tr("New document"), this);
     connect(headerAdd, &QAction::triggered, document, &QAction::trigger);
@@ -95,28 +100,31 @@ void ManuscriptPanel::makeInsertActions()
 
 void ManuscriptPanel::makeEditActions()
 {
-    const auto add = [this](Icon icon, const QString& text, const QKeySequence& keys, auto handler) {
-        QAction* const action = makeAction(icon, text, keys);
-        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, this, handler);
-        m_tree->addAction(action);
-        m_editActions.append(action);
-    };
+    const auto add =
+        [this](const QString& name, Icon icon, const QString& text, const QKeySequence& keys, auto handler) {
+            QAction* const action = makeAction(name, icon, text, keys);
+            action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+            connect(action, &QAction::triggered, this, handler);
+            m_tree->addAction(action);
+            m_editActions.append(action);
+        };
     const auto step = [this](MoveDirection direction) {
         return [this, direction] {
             stepDocument(m_desk.session, m_model->idAt(m_tree->currentSource()), direction);
         };
     };
-    add(Icon::Rename, tr("Re&name Document"), QKeySequence(Qt::Key_F2),
+    add(u"manuscript.rename"_s, Icon::Rename, tr("Re&name Document"), QKeySequence(Qt::Key_F2),
         [this] { m_tree->renameSource(m_tree->currentSource()); });
-    add(Icon::MoveUp, tr("Move Document &Up"), QKeySequence(Qt::CTRL | Qt::Key_Up), step(MoveDirection::Up));
-    add(Icon::MoveDown, tr("Move Document Do&wn"), QKeySequence(Qt::CTRL | Qt::Key_Down),
-        step(MoveDirection::Down));
-    add(Icon::ChevronRight, tr("Move Document &In"), QKeySequence(Qt::CTRL | Qt::Key_Right),
-        step(MoveDirection::In));
-    add(Icon::ChevronLeft, tr("Move Document &Out"), QKeySequence(Qt::CTRL | Qt::Key_Left),
-        step(MoveDirection::Out));
-    add(Icon::Remove, tr("&Remove Document"), QKeySequence(Qt::Key_Delete), [this] { removeSelected(); });
+    add(u"manuscript.moveUp"_s, Icon::MoveUp, tr("Move Document &Up"), QKeySequence(Qt::CTRL | Qt::Key_Up),
+        step(MoveDirection::Up));
+    add(u"manuscript.moveDown"_s, Icon::MoveDown, tr("Move Document Do&wn"),
+        QKeySequence(Qt::CTRL | Qt::Key_Down), step(MoveDirection::Down));
+    add(u"manuscript.moveIn"_s, Icon::ChevronRight, tr("Move Document &In"),
+        QKeySequence(Qt::CTRL | Qt::Key_Right), step(MoveDirection::In));
+    add(u"manuscript.moveOut"_s, Icon::ChevronLeft, tr("Move Document &Out"),
+        QKeySequence(Qt::CTRL | Qt::Key_Left), step(MoveDirection::Out));
+    add(u"manuscript.remove"_s, Icon::Remove, tr("&Remove Document"), QKeySequence(Qt::Key_Delete),
+        [this] { removeSelected(); });
     m_header->menu().addSeparator();
     m_header->menu().addActions(m_editActions);
 }

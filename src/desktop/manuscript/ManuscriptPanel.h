@@ -43,7 +43,7 @@ private:
         InsideCurrent,
     };
 
-    QAction* makeAction(icons::Icon icon, const QString& text, const QKeySequence& keys);
+    QAction* makeAction(const QString& name, icons::Icon icon, const QString& text, const QKeySequence& keys);
     void makeInsertActions();
     void makeEditActions();
     void addNew(core::document::DocumentKind kind, Place place, const QString& title);

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QSettings>
 #include <QTextBlock>
+#include <QUrl>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -19,14 +20,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int columnCharacters = 66;
-/** Of the font's size. */
-constexpr qreal lineHeight = 1.5;
+constexpr QLatin1StringView familyKey = "editor/fontFamily"_L1;
+constexpr QLatin1StringView sizeKey = "editor/fontSize"_L1;
+constexpr QLatin1StringView widthKey = "editor/pageWidth"_L1;
+constexpr QLatin1StringView lineHeightKey = "editor/lineHeight"_L1;
 constexpr int sideMargin = 56;
 constexpr int narrowMargin = 16;
 constexpr int topMargin = 40;
-constexpr qreal smallestFont = 6;
-constexpr qreal largestFont = 72;
 constexpr qreal smallestZoom = 0.5;
 constexpr qreal largestZoom = 3.0;
 constexpr qreal zoomStep = 0.1;
@@ -44,11 +44,30 @@ qreal characterWidth(const QFont& font)
 PageStyle pageStyleFrom(const QSettings& settings)
 {
     PageStyle style;
-    style.fontFamily = settings.value("editor/fontFamily", theme::defaultPageFont().family()).toString();
+    style.fontFamily = settings.value(familyKey, theme::defaultPageFont().family()).toString();
     style.fontPointSize = std::clamp(
-        settings.value("editor/fontSize", style.fontPointSize).toReal(), smallestFont, largestFont);
+        settings.value(sizeKey, style.fontPointSize).toReal(), PageLimits::smallestFont,
+        PageLimits::largestFont);
+    style.columnCharacters = std::clamp(
+        settings.value(widthKey, style.columnCharacters).toInt(), PageLimits::narrowest, PageLimits::widest);
+    style.lineHeight = std::clamp(
+        settings.value(lineHeightKey, style.lineHeight).toReal(), PageLimits::tightest, PageLimits::loosest);
     style.zoom = std::clamp(settings.value("editor/zoom", style.zoom).toReal(), smallestZoom, largestZoom);
     return style;
+}
+
+void storePageStyle(QSettings& settings, const PageStyle& style)
+{
+    settings.setValue(familyKey, style.fontFamily);
+    settings.setValue(sizeKey, style.fontPointSize);
+    settings.setValue(widthKey, style.columnCharacters);
+    settings.setValue(lineHeightKey, style.lineHeight);
+}
+
+void forgetPageStyle(QSettings& settings)
+{
+    for (const QLatin1StringView key : {familyKey, sizeKey, widthKey, lineHeightKey})
+        settings.remove(key);
 }
 
 void stepPageZoom(QSettings& settings, int steps)
@@ -107,7 +126,7 @@ void MarkdownPage::formatLines()
     const qreal size = QFontInfo(document()->defaultFont()).pixelSize();
     QTextBlockFormat format;
     format.setLineHeight(
-        100 * lineHeight * size / metrics.lineSpacing(), QTextBlockFormat::ProportionalHeight);
+        100 * m_style.lineHeight * size / metrics.lineSpacing(), QTextBlockFormat::ProportionalHeight);
     QTextCursor all(document());
     all.select(QTextCursor::Document);
     all.mergeBlockFormat(format);
@@ -115,7 +134,7 @@ void MarkdownPage::formatLines()
 
 void MarkdownPage::layOutColumn()
 {
-    const int column = static_cast<int>(characterWidth(document()->defaultFont()) * columnCharacters);
+    const int column = static_cast<int>(characterWidth(document()->defaultFont()) * m_style.columnCharacters);
     const int available = viewport()->width();
     const int side = std::clamp((available - column) / 2, std::min(narrowMargin, available / 12), available);
     m_sheetMargin = std::max(0, side - sideMargin);
@@ -204,7 +223,9 @@ void MarkdownPage::wheelEvent(QWheelEvent* event)
 
 bool MarkdownPage::canInsertFromMimeData(const QMimeData* source) const
 {
-    return source->hasText();
+    // Files belong to the window, which opens projects.
+    const QList<QUrl> urls = source->urls();
+    return source->hasText() && (urls.isEmpty() || !urls.constFirst().isLocalFile());
 }
 
 void MarkdownPage::insertFromMimeData(const QMimeData* source)

@@ -4,20 +4,14 @@
 #include "app/persistence/codec/ProjectCodec.h"
 #include "app/persistence/files/ProjectFiles.h"
 
-#include <chrono>
-
 namespace tw::desktop::shell {
 
-using namespace std::chrono_literals;
 using app::persistence::CrashJournal;
 using app::persistence::FileVersion;
 using app::persistence::JournalEdit;
 using core::project::ProjectChanges;
 
 namespace {
-
-/** With the time that writing takes, well below the two seconds that a crash may cost. */
-constexpr auto noteAfter = 1000ms;
 
 /** The files in which many things stand together, as the project has them now. */
 std::map<QString, FileVersion> sharedFiles(const core::project::Project& project)
@@ -33,7 +27,8 @@ std::map<QString, FileVersion> sharedFiles(const core::project::Project& project
 } // namespace
 
 CrashKeeper::CrashKeeper(
-    ProjectSession& session, const app::persistence::StorageEnvironment& environment, QObject* parent)
+    ProjectSession& session, const app::persistence::StorageEnvironment& environment, QObject* parent,
+    std::chrono::milliseconds noteAfter)
     : QObject(parent)
     , m_session(session)
     , m_environment(environment)
@@ -101,8 +96,7 @@ void CrashKeeper::note()
     if (!m_journal)
         return;
     QList<JournalEdit> edits;
-    if (m_session.isTypingPending())
-        noteHeldBackTyping(edits);
+    noteHeldBackTyping(edits);
     for (const core::ContentId& id : std::exchange(m_moved, {})) {
         const auto* const object = m_session.project().find(id);
         edits.append(editOf(
@@ -111,23 +105,30 @@ void CrashKeeper::note()
     }
     if (std::exchange(m_areSharedMoved, false))
         noteSharedFiles(edits);
+    // How this went is known only later, and what failed is tried again.
+    const bool hasMore = !edits.isEmpty() || m_session.isTypingPending();
     m_journal->append(std::move(edits));
     report(m_journal->lastOutcome());
-    if (m_session.isTypingPending())
+    if (hasMore || m_isFailing)
         m_due.start();
 }
 
 void CrashKeeper::noteHeldBackTyping(QList<JournalEdit>& edits)
 {
-    const HeldBackTexts texts = m_session.heldBackTexts();
-    if (texts.isEmpty()) {
-        // A field of an entity: short enough to become a step of its own.
+    const bool isPending = m_session.isTypingPending();
+    const HeldBackTexts texts = isPending ? m_session.heldBackTexts() : HeldBackTexts();
+    // A field of an entity: short enough to become a step of its own.
+    if (isPending && texts.isEmpty())
         m_session.commitPendingEdits();
-        return;
+    // Typing that was taken back leaves the object as it was.
+    for (const auto& [id, text] : m_notedTyping.asKeyValueRange()) {
+        if (!texts.contains(id))
+            m_moved.insert(id);
     }
     for (const auto& [id, text] : texts.asKeyValueRange()) {
         const auto* const object = m_session.project().find(id);
-        if (!object || m_notedTyping.value(id) == text)
+        const bool isNoted = m_notedTyping.contains(id) && m_notedTyping.value(id) == text;
+        if (!object || (isNoted && !m_moved.contains(id)))
             continue;
         JournalEdit edit =
             editOf(app::persistence::objectPath(id), app::persistence::serializeObject(*object));
@@ -167,15 +168,17 @@ void CrashKeeper::flush()
     report(m_journal->flush());
 }
 
-void CrashKeeper::noteRestored(const std::map<QString, FileVersion>& files)
+bool CrashKeeper::noteRestored(const std::map<QString, FileVersion>& files)
 {
     if (!m_journal)
-        return;
+        return false;
     QList<JournalEdit> edits;
     for (const auto& [path, bytes] : files)
         edits.append(editOf(path, bytes));
     m_journal->append(std::move(edits));
-    report(m_journal->flush());
+    const core::Result<void> written = m_journal->flush();
+    report(written);
+    return written.isOk();
 }
 
 void CrashKeeper::report(const core::Result<void>& written)

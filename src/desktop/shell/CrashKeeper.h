@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <map>
 #include <memory>
 #include <set>
@@ -22,17 +23,23 @@ class CrashKeeper final : public QObject
     Q_OBJECT
 
 public:
+    /** With the time that writing takes, well below the two seconds that a crash may cost. */
+    static constexpr std::chrono::milliseconds usualDelay{1000};
+
     CrashKeeper(
         ProjectSession& session, const app::persistence::StorageEnvironment& environment,
-        QObject* parent = nullptr);
+        QObject* parent = nullptr, std::chrono::milliseconds noteAfter = usualDelay);
     ~CrashKeeper() override;
 
     /** Notes what has not been noted yet and waits until it is on the medium. */
     void flush();
     /** What was noted is of no use any more: it was saved, or the user let go of it. */
     void discard();
-    /** Notes edits that were brought back from another journal, which may go then. */
-    void noteRestored(const std::map<QString, app::persistence::FileVersion>& files);
+    /**
+     * Notes edits that were brought back from another journal. Whether they are on the medium: only then may
+     * that journal go.
+     */
+    bool noteRestored(const std::map<QString, app::persistence::FileVersion>& files);
 
 signals:
     /** Edits could not be noted; once until it works again. */

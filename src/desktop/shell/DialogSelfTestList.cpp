@@ -1,7 +1,17 @@
 #include "desktop/codex/CategoryPropertiesDialog.h"
 #include "desktop/codex/FieldDialog.h"
 #include "desktop/codex/TimedValueDialog.h"
+#include "desktop/project/ExportPackDialog.h"
+#include "desktop/project/NewProjectDialog.h"
+#include "desktop/project/ProjectSettingsDialog.h"
+#include "desktop/project/RestoreDialog.h"
+#include "desktop/settings/SettingsDialog.h"
+#include "desktop/settings/Shortcuts.h"
+#include "desktop/shell/AboutDialog.h"
 #include "desktop/shell/DialogSelfTest.h"
+
+#include <QMenu>
+#include <QMenuBar>
 
 namespace tw::desktop::shell {
 
@@ -95,6 +105,67 @@ std::unique_ptr<QDialog> makeTimedValueDialog(const DeskContext& desk)
     return std::make_unique<codex::TimedValueDialog>(desk, throwAwaySchema(), std::nullopt, nullptr);
 }
 
+std::unique_ptr<QDialog> makeNewProjectDialog(const DeskContext& desk)
+{
+    return std::make_unique<project::NewProjectDialog>(
+        desk, project::NewProject{{u"Selftest"_s, QDir::tempPath()}}, nullptr);
+}
+
+std::unique_ptr<QDialog> makeRestoreDialog(const DeskContext& desk)
+{
+    project::RestoreSubject subject;
+    for (const QString& name : {u"Selftest 1"_s, u"Selftest 2"_s})
+        subject.backups.push_back(
+            {QDir::tempPath() + u'/' + name, {name, QDate(2000, 1, 1), QTime(12, 0)}, 1});
+    subject.projectName = u"Selftest 1"_s;
+    subject.place = {u"Selftest"_s, QDir::tempPath()};
+    return std::make_unique<project::RestoreDialog>(desk, std::move(subject), nullptr);
+}
+
+std::unique_ptr<QDialog> makeProjectSettingsDialog(const DeskContext& desk)
+{
+    return std::make_unique<project::ProjectSettingsDialog>(
+        desk,
+        project::ProjectSettings{
+            u"Selftest"_s,
+            {{u"Selftest Audience"_s, u"Selftest Audience"_s, true}},
+            {{u"Selftest.vellory"_s}}},
+        nullptr);
+}
+
+/** Settings that nobody touched come out as they went in. */
+QStringList checkProjectSettingsDialog(const DeskContext& desk)
+{
+    const project::ProjectSettings settings{
+        u"Selftest"_s, {{u"a"_s, u"b"_s, true}, {{}, u"c"_s}}, {{u"d"_s, true}}};
+    const project::ProjectSettingsDialog dialog(desk, settings, nullptr);
+    return dialog.settings() == settings ? QStringList() : QStringList{u"changes settings by itself"_s};
+}
+
+std::unique_ptr<QDialog> makeExportPackDialog(const DeskContext& desk)
+{
+    return std::make_unique<project::ExportPackDialog>(
+        desk, project::PackExport{{u"Selftest"_s, {}, {}, u"1.0"_s}, {}}, nullptr);
+}
+
+/** With an action of its own, since those of the window are none of the dialog's business. */
+std::unique_ptr<QDialog> makeSettingsDialog(const DeskContext& desk)
+{
+    auto shortcuts = std::make_unique<settings::Shortcuts>(desk.settings, nullptr);
+    QMenuBar menus;
+    QAction* const action = menus.addMenu(u"Selftest"_s)->addAction(u"Selftest Command"_s);
+    action->setObjectName(u"selftest.command"_s);
+    shortcuts->collect(menus);
+    auto dialog = std::make_unique<settings::SettingsDialog>(desk, *shortcuts, nullptr);
+    shortcuts.release()->setParent(dialog.get());
+    return dialog;
+}
+
+std::unique_ptr<QDialog> makeAboutDialog(const DeskContext& /*desk*/)
+{
+    return std::make_unique<AboutDialog>(nullptr);
+}
+
 } // namespace
 
 std::vector<SelfTestDialog> selfTestDialogs()
@@ -103,6 +174,12 @@ std::vector<SelfTestDialog> selfTestDialogs()
         {u"property"_s, makeFixedPropertyDialog, checkPropertyDialog},
         {u"category properties"_s, makeCategoryDialog, {}},
         {u"value over time"_s, makeTimedValueDialog, {}},
+        {u"new project"_s, makeNewProjectDialog, {}},
+        {u"restore from a backup"_s, makeRestoreDialog, {}},
+        {u"project settings"_s, makeProjectSettingsDialog, checkProjectSettingsDialog},
+        {u"export content pack"_s, makeExportPackDialog, {}},
+        {u"settings"_s, makeSettingsDialog, {}},
+        {u"about"_s, makeAboutDialog, {}},
     };
 }
 

@@ -83,6 +83,7 @@ void DockLayout::addPanel(const PanelSpec& spec, QWidget* panel)
 {
     auto* const dock = new ads::CDockWidget(spec.title);
     dock->setObjectName(spec.objectName);
+    dock->toggleViewAction()->setObjectName(u"windows."_s + spec.objectName);
     dock->setWidget(panel, ads::CDockWidget::ForceNoScrollArea);
     dock->setMinimumSizeHintMode(ads::CDockWidget::MinimumSizeHintFromContent);
     dock->setIcon(m_icons.icon(spec.icon));
@@ -104,6 +105,7 @@ void DockLayout::fillMenu(QMenu& menu)
             menu.addSeparator();
     }
     auto* const resetAction = menu.addAction(m_icons.icon(icons::Icon::Layout), tr("Reset Layout"));
+    resetAction->setObjectName(u"windows.resetLayout"_s);
     connect(resetAction, &QAction::triggered, this, &DockLayout::reset);
 }
 

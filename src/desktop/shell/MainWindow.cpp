@@ -4,8 +4,11 @@
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
+#include "desktop/project/ProjectFileDialogs.h"
 #include "desktop/review/ExternalChanges.h"
 #include "desktop/review/ReviewNotice.h"
+#include "desktop/settings/AutosaveChoice.h"
+#include "desktop/settings/Shortcuts.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
@@ -19,10 +22,13 @@
 
 #include <QCloseEvent>
 #include <QCryptographicHash>
+#include <QDragEnterEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace tw::desktop::shell {
 
@@ -43,9 +49,11 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_welcome(new WelcomePage(desk.icons, m_life->hasSample(), m_center))
     , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entity in the codex."), m_center))
     , m_docks(nullptr)
+    , m_shortcuts(new settings::Shortcuts(desk.settings, this))
     , m_status(new StatusStrip(desk, *statusBar()))
 {
     setObjectName(u"mainWindow"_s);
+    setAcceptDrops(true);
     statusBar()->setSizeGripEnabled(false);
     m_center->addWidget(m_welcome);
     m_center->addWidget(m_workArea);
@@ -69,6 +77,11 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     connect(&desk.navigator, &Navigator::said, this, &MainWindow::say);
     // The page may be there already, behind the ways to begin.
     connect(&desk.navigator, &Navigator::openRequested, this, &MainWindow::showCenter);
+    desk.session.setAutosave(settings::autosaveFrom(desk.settings));
+    connect(&desk.session, &ProjectSession::autosaveFailed, this, [this](const QString& message) {
+        say(tr("Autosave failed: %1").arg(message));
+    });
+    connect(&desk.session, &ProjectSession::librariesRead, this, &MainWindow::sayLibraryNotices);
     followLife();
     showCenter();
     refreshHistory();
@@ -87,7 +100,16 @@ void MainWindow::followLife()
     connect(m_welcome, &WelcomePage::newRequested, m_life, &ProjectLife::startNew);
     connect(m_welcome, &WelcomePage::openRequested, m_life, &ProjectLife::chooseAndOpen);
     connect(m_welcome, &WelcomePage::sampleRequested, m_life, &ProjectLife::openSample);
-    connect(m_welcome, &WelcomePage::recentRequested, m_life, &ProjectLife::open);
+    connect(m_welcome, &WelcomePage::openFolderRequested, m_life, &ProjectLife::chooseAndOpenFolder);
+    // The page makes its list anew when this fails, which must not happen under the button that was pressed.
+    connect(m_welcome, &WelcomePage::recentRequested, m_life, &ProjectLife::open, Qt::QueuedConnection);
+    connect(
+        m_welcome, &WelcomePage::forgetRequested, this,
+        [this](const QString& path) {
+            RecentProjects(m_desk.settings).remove(path);
+            showWelcome();
+        },
+        Qt::QueuedConnection);
 }
 
 MainWindow::~MainWindow()
@@ -119,6 +141,22 @@ void MainWindow::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!project::projectIn(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    const QString path = project::projectIn(*event->mimeData());
+    if (path.isEmpty())
+        return;
+    event->acceptProposedAction();
+    // The program that the project is dragged from waits until this returns; questions come afterwards.
+    QTimer::singleShot(0, this, [this, path] { m_life->open(path); });
+}
+
 void MainWindow::noteOpened()
 {
     const auto& workspace = m_desk.session.workspace();
@@ -133,8 +171,14 @@ void MainWindow::noteOpened()
         openFirstDocument();
     showCenter();
     refreshTitle();
-    if (!workspace.libraryNotices().isEmpty())
-        say(workspace.libraryNotices().join(u' '));
+    sayLibraryNotices();
+}
+
+void MainWindow::sayLibraryNotices()
+{
+    const QStringList& notices = m_desk.session.workspace().libraryNotices();
+    if (!notices.isEmpty())
+        say(notices.join(u' '));
 }
 
 void MainWindow::openFirstDocument()
@@ -185,7 +229,10 @@ bool MainWindow::select(const QString& what)
 void MainWindow::showWelcome()
 {
     const ProjectSession& session = m_desk.session;
-    m_welcome->setRecent(RecentProjects(m_desk.settings).paths());
+    std::vector<RecentProject> recent;
+    for (const QString& path : RecentProjects(m_desk.settings).paths())
+        recent.push_back(describeRecent(path));
+    m_welcome->setRecent(recent);
     m_welcome->setOpenProject(session.isProjectOpen() ? session.workspace().displayName() : QString());
     m_center->setCurrentWidget(m_welcome);
 }

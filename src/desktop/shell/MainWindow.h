@@ -5,6 +5,8 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
 class QLabel;
 class QStackedWidget;
 
@@ -14,6 +16,11 @@ class CodexPanel;
 namespace tw::desktop::manuscript {
 class ManuscriptPanel;
 }
+
+namespace tw::desktop::settings {
+class Shortcuts;
+enum class SettingsPage : qint32;
+} // namespace tw::desktop::settings
 
 namespace tw::desktop::shell {
 
@@ -46,27 +53,36 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    /** A project that is dropped on the window opens. */
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void addPanels();
     void buildMenus();
-    /** An action of the menu; the handler runs in the window's context. */
-    template <class Handler>
+    /**
+     * An action of the menu; the handler runs in the window's context. The name is stable: settings keep keys
+     * by it.
+     */
     QAction* addAction(
-        QMenu& menu, icons::Icon icon, const QString& text, const QKeySequence& keys, Handler handler);
+        QMenu& menu, const QString& name, icons::Icon icon, const QString& text, const QKeySequence& keys,
+        std::function<void()> handler);
     void buildFileMenu();
     void buildEditMenu();
     void buildInsertMenu();
     void buildFormatMenu();
     void buildViewMenu();
-    void choosePageFont();
     void zoomPages(int steps);
+    void buildProjectMenu();
     void buildCodexMenu();
+    void buildToolsMenu();
     void buildHelpMenu();
+    void showSettings(settings::SettingsPage page);
     void restoreWindow();
 
     void followLife();
     void noteOpened();
+    void sayLibraryNotices();
     void rememberPages();
     /** The settings key under which something of the open project is remembered. */
     [[nodiscard]] QString projectKey(QStringView what) const;
@@ -85,6 +101,7 @@ private:
     WelcomePage* m_welcome;
     QLabel* m_emptyHint;
     DockLayout* m_docks;
+    settings::Shortcuts* m_shortcuts;
     StatusStrip* m_status;
     QMenu* m_recentMenu = nullptr;
     QAction* m_undoAction = nullptr;

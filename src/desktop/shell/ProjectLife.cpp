@@ -1,5 +1,9 @@
 #include "desktop/shell/ProjectLife.h"
 
+#include "app/persistence/bundle/BackupList.h"
+#include "desktop/project/NewProjectDialog.h"
+#include "desktop/project/ProjectBackups.h"
+#include "desktop/project/ProjectFileDialogs.h"
 #include "desktop/review/ExternalChanges.h"
 #include "desktop/shell/CrashKeeper.h"
 #include "desktop/shell/CrashRecovery.h"
@@ -7,9 +11,7 @@
 #include "desktop/shell/Questions.h"
 #include "desktop/shell/RecentProjects.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QInputDialog>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -34,27 +36,30 @@ ProjectLife::ProjectLife(const DeskContext& desk, QString samplePath, QWidget* w
     , m_window(window)
     , m_externalChanges(new review::ExternalChanges(desk, window))
     , m_crashKeeper(new CrashKeeper(desk.session, desk.session.workspace().environment(), this))
+    , m_backups(new project::ProjectBackups(desk, window))
 {
     connect(m_crashKeeper, &CrashKeeper::failed, this, &ProjectLife::said);
-    connect(&desk.session, &ProjectSession::autosaveFailed, this, [this](const QString& message) {
-        emit said(tr("Autosave failed: %1").arg(message));
-    });
+    m_backups->setSave([this] { return saveForBackup(); });
+    connect(m_backups, &project::ProjectBackups::said, this, &ProjectLife::said);
+    connect(m_backups, &project::ProjectBackups::restored, this, &ProjectLife::open);
     connect(m_externalChanges, &review::ExternalChanges::said, this, &ProjectLife::said);
 }
 
 bool ProjectLife::open(const QString& path)
 {
+    if (app::persistence::isBackupPath(path))
+        return m_backups->restore(path);
     if (!settleUnsavedChanges())
         return false;
     emit aboutToLeave();
     if (const auto result = m_desk.session.open(path); !result) {
         tell(m_window, tr("Open Project"), result.message());
-        RecentProjects(m_desk.settings).remove(path);
         emit openFailed();
         return false;
     }
     const bool isRestored = recoverAfterCrash(m_desk.session, *m_crashKeeper, m_window);
     emit opened();
+    tellOpeningNotice();
     if (isRestored)
         emit said(tr("Your unsaved changes are back. Save to keep them."));
     return true;
@@ -63,6 +68,17 @@ bool ProjectLife::open(const QString& path)
 void ProjectLife::end()
 {
     m_crashKeeper->discard();
+}
+
+void ProjectLife::tellOpeningNotice()
+{
+    const app::workspace::OpeningNotice& notice = m_desk.session.workspace().openingNotice();
+    if (notice.isEmpty())
+        return;
+    if (notice.title.isEmpty())
+        emit said(notice.text);
+    else
+        inform(m_window, notice.title, notice.text);
 }
 
 bool ProjectLife::reopenLast()
@@ -94,24 +110,33 @@ void ProjectLife::openSample()
 
 void ProjectLife::startNew()
 {
-    if (!settleUnsavedChanges())
-        return;
-    bool accepted = false;
-    const QString name = QInputDialog::getText(
-        m_window, tr("New Project"), tr("What is the project called?"), QLineEdit::Normal, tr("Untitled"),
-        &accepted);
-    if (!accepted)
+    const auto wanted = project::askForNewProject(m_desk, m_window);
+    if (!wanted || !settleUnsavedChanges())
         return;
     emit aboutToLeave();
-    m_desk.session.startNew(name.trimmed().isEmpty() ? tr("Untitled") : name.trimmed());
+    const auto fill = [&wanted](core::project::Project& created) {
+        created.setName(wanted->place.name);
+        app::workspace::templates::fillProject(created, wanted->chosen);
+    };
+    // Saved at once, so that nothing that is written from now on is without a place.
+    if (const auto created = m_desk.session.create(project::pathOf(wanted->place), fill); !created) {
+        tell(m_window, tr("New Project"), created.message());
+        emit openFailed();
+        return;
+    }
     emit opened();
 }
 
 void ProjectLife::chooseAndOpen()
 {
-    const QString folder = QFileDialog::getExistingDirectory(m_window, tr("Open Project"), documentsFolder());
-    if (!folder.isEmpty())
-        open(folder);
+    if (const QString path = project::askForProjectFile(m_desk.settings, m_window); !path.isEmpty())
+        open(path);
+}
+
+void ProjectLife::chooseAndOpenFolder()
+{
+    if (const QString path = project::askForProjectFolder(m_desk.settings, m_window); !path.isEmpty())
+        open(path);
 }
 
 void ProjectLife::save()
@@ -139,19 +164,27 @@ bool ProjectLife::saveOrTell(SaveExtent extent)
 
 bool ProjectLife::saveAs()
 {
-    const QString suggestion = documentsFolder() + u'/' + m_desk.session.workspace().displayName();
-    const QString folder = QFileDialog::getSaveFileName(
-        m_window, tr("Save Project As a Folder"), suggestion, QString(), nullptr,
-        QFileDialog::DontConfirmOverwrite);
-    if (folder.isEmpty())
-        return false;
-    if (const auto saved = m_desk.session.saveAs(folder); !saved) {
+    const QString path =
+        project::askForSavePath(m_desk.settings, m_desk.session.workspace().displayName(), m_window);
+    return !path.isEmpty() && saveAt(path);
+}
+
+bool ProjectLife::saveAt(const QString& path)
+{
+    if (const auto saved = m_desk.session.saveAs(path); !saved) {
         tell(m_window, tr("Save Project"), saved.message());
         return false;
     }
+    project::setUsualFolder(m_desk.settings, QFileInfo(path).absolutePath());
     RecentProjects(m_desk.settings).add(m_desk.session.workspace().displayPath());
     emit placeChanged();
     return true;
+}
+
+bool ProjectLife::saveForBackup()
+{
+    // Without a place there is nothing to save yet; the backup says so.
+    return !m_desk.session.workspace().hasPath() || saveOrTell(SaveExtent::Everything);
 }
 
 void ProjectLife::reload()
@@ -168,6 +201,8 @@ void ProjectLife::reload()
     }
     if (const auto reloaded = m_desk.session.reload(); !reloaded)
         tell(m_window, tr("Read the Project Anew"), reloaded.message());
+    else
+        tellOpeningNotice();
 }
 
 bool ProjectLife::settleUnsavedChanges()

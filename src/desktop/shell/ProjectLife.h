@@ -11,6 +11,9 @@ class QWidget;
 namespace tw::desktop::review {
 class ExternalChanges;
 }
+namespace tw::desktop::project {
+class ProjectBackups;
+}
 
 namespace tw::desktop::shell {
 
@@ -32,7 +35,12 @@ public:
     /** What is done about changes that others make to the open project. */
     [[nodiscard]] review::ExternalChanges& externalChanges() { return *m_externalChanges; }
 
-    /** Asks first when something is unsaved; a failure is told, and the open project stays. */
+    [[nodiscard]] project::ProjectBackups& backups() { return *m_backups; }
+
+    /**
+     * Asks first when something is unsaved; a failure is told, and the open project stays. Of a backup it
+     * asks where the new project is to lie that is made of it.
+     */
     bool open(const QString& path);
     /** Opens the project of the last session when that is wanted and possible. */
     bool reopenLast();
@@ -40,9 +48,13 @@ public:
 
     void startNew();
     void chooseAndOpen();
+    void chooseAndOpenFolder();
     void openSample();
     void save();
+    /** Asks where; true when it was saved there. */
     bool saveAs();
+    /** Gives the project a new place without asking; a failure is told. */
+    bool saveAt(const QString& path);
     void reload();
 
     /** True when nothing is unsaved, or the user saved or let go of it. */
@@ -63,12 +75,15 @@ signals:
 
 private:
     [[nodiscard]] bool saveOrTell(app::persistence::SaveExtent extent);
+    [[nodiscard]] bool saveForBackup();
+    void tellOpeningNotice();
 
     DeskContext m_desk;
     QString m_samplePath;
     QWidget* m_window;
     review::ExternalChanges* m_externalChanges;
     CrashKeeper* m_crashKeeper;
+    project::ProjectBackups* m_backups;
 };
 
 } // namespace tw::desktop::shell

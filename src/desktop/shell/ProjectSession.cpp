@@ -85,7 +85,10 @@ void ProjectSession::announce()
     if (m_workspace->history().isMacroOpen())
         return;
     const core::project::ProjectChanges changes = m_workspace->projectForEdit().takeChanges();
+    const bool areLibrariesRead = changes.areSettingsChanged && m_workspace->followLibraryMounts();
     announceChanges(changes);
+    if (areLibrariesRead)
+        emit librariesRead();
 }
 
 void ProjectSession::announceChanges(const core::project::ProjectChanges& changes)
@@ -150,6 +153,17 @@ void ProjectSession::startNew(const QString& name)
     workspace->projectForEdit().setName(name);
     workspace->markModified();
     replaceWorkspace(std::move(workspace));
+}
+
+Result<void> ProjectSession::create(
+    const QString& path, const std::function<void(core::project::Project& project)>& fill)
+{
+    auto workspace = std::make_unique<Workspace>(m_environment);
+    fill(workspace->projectForEdit());
+    if (auto saved = workspace->saveAs(path); !saved)
+        return saved;
+    replaceWorkspace(std::move(workspace));
+    return {};
 }
 
 Result<void> ProjectSession::open(const QString& folder)

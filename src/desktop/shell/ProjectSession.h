@@ -10,6 +10,7 @@
 #include <QObject>
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -113,6 +114,12 @@ public:
 
     /** Begins a new project without a place on disk, in the place of the open one. */
     void startNew(const QString& name);
+    /**
+     * Begins a project with what `fill` puts into it, saved at the path, in the place of the open one: a
+     * single file when the path ends as those do, otherwise a folder. The open project stays when this fails.
+     */
+    [[nodiscard]] core::Result<void> create(
+        const QString& path, const std::function<void(core::project::Project& project)>& fill);
     /** The open project stays when this fails. */
     [[nodiscard]] core::Result<void> open(const QString& folder);
     [[nodiscard]] core::Result<void> save(
@@ -155,6 +162,8 @@ signals:
     /** All edits up to now are on disk. */
     void saved();
     void autosaveFailed(const QString& message);
+    /** The list of mounted libraries changed, and they were read anew. */
+    void librariesRead();
 
 private:
     void announce();

@@ -1,5 +1,9 @@
 #include "desktop/shell/RecentProjects.h"
 
+#include "app/persistence/bundle/ProjectBundle.h"
+
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace tw::desktop::shell {
@@ -10,6 +14,19 @@ constexpr const char* key = "recentProjects";
 constexpr qsizetype longestList = 12;
 
 } // namespace
+
+RecentProject describeRecent(const QString& path)
+{
+    const QFileInfo info(path);
+    // A missing one is named as it would be if it were there.
+    const bool isFile = app::persistence::isBundlePath(path) && !info.isDir();
+    RecentProject recent{path, isFile ? info.completeBaseName() : QDir(path).dirName()};
+    if (info.isDir())
+        recent.state = RecentProject::State::Folder;
+    else if (info.isFile())
+        recent.state = RecentProject::State::SingleFile;
+    return recent;
+}
 
 QStringList RecentProjects::paths() const
 {

@@ -7,7 +7,10 @@
 #include <QDir>
 #include <QEvent>
 #include <QLabel>
+#include <QToolButton>
 #include <QVBoxLayout>
+
+#include <ranges>
 
 namespace tw::desktop::shell {
 
@@ -17,7 +20,35 @@ namespace {
 
 constexpr int markSize = 72;
 constexpr int columnCharacters = 52;
-constexpr qsizetype shownRecent = 5;
+constexpr int shownRecent = 5;
+
+icons::Icon iconOf(RecentProject::State state)
+{
+    switch (state) {
+    case RecentProject::State::SingleFile:
+        return icons::Icon::Manuscript;
+    case RecentProject::State::Folder:
+        return icons::Icon::Folder;
+    case RecentProject::State::Missing:
+        break;
+    }
+    return icons::Icon::Warning;
+}
+
+/** The form and the place, in one line. */
+QString placeText(const RecentProject& project)
+{
+    const QString path = QDir::toNativeSeparators(project.path);
+    switch (project.state) {
+    case RecentProject::State::SingleFile:
+        return WelcomePage::tr("File %1").arg(path);
+    case RecentProject::State::Folder:
+        return WelcomePage::tr("Folder %1").arg(path);
+    case RecentProject::State::Missing:
+        break;
+    }
+    return path;
+}
 
 QLabel* makeTitle(const QString& text, qreal scale, QWidget* parent)
 {
@@ -68,11 +99,14 @@ WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* p
             &WelcomePage::sampleRequested);
     }
     addLink(
-        icons::Icon::New, tr("New project"), tr("An empty manuscript and an empty world."),
+        icons::Icon::New, tr("New project"), tr("A novel, a screenplay, a campaign, or an empty desk."),
         &WelcomePage::newRequested);
     addLink(
-        icons::Icon::Open, tr("Open a project"), tr("A folder that holds project.json."),
+        icons::Icon::Open, tr("Open a project"), tr("A .vellory file, or a backup of one."),
         &WelcomePage::openRequested);
+    addLink(
+        icons::Icon::Folder, tr("Open a project folder"), tr("A folder that holds project.json."),
+        &WelcomePage::openFolderRequested);
 
     m_recentLayout->setContentsMargins(0, 12, 0, 0);
     m_recentLayout->setSpacing(0);
@@ -96,18 +130,36 @@ void WelcomePage::fitColumn()
     m_column->setFixedWidth(fontMetrics().averageCharWidth() * columnCharacters);
 }
 
-void WelcomePage::setRecent(const QStringList& paths)
+void WelcomePage::setRecent(const std::vector<RecentProject>& projects)
 {
     qDeleteAll(m_recent->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
-    m_recent->setVisible(!paths.isEmpty());
+    qDeleteAll(m_recentLayout->findChildren<QLayout*>(QString(), Qt::FindDirectChildrenOnly));
+    m_recent->setVisible(!projects.empty());
     m_recentLayout->addWidget(makeTitle(tr("Recent projects"), 1.1, m_recent));
-    for (const QString& path : paths.first(std::min(paths.size(), shownRecent))) {
-        auto* const button =
-            new QCommandLinkButton(QDir(path).dirName(), QDir::toNativeSeparators(path), m_recent);
-        button->setIcon(m_icons.icon(icons::Icon::History));
-        connect(button, &QCommandLinkButton::clicked, this, [this, path] { emit recentRequested(path); });
-        m_recentLayout->addWidget(button);
-    }
+    for (const RecentProject& project : projects | std::views::take(shownRecent))
+        addRecent(project);
+}
+
+void WelcomePage::addRecent(const RecentProject& project)
+{
+    const bool isMissing = project.state == RecentProject::State::Missing;
+    auto* const open = new QCommandLinkButton(
+        isMissing ? tr("%1 (missing)").arg(project.name) : project.name, placeText(project), m_recent);
+    open->setIcon(m_icons.icon(iconOf(project.state)));
+    open->setToolTip(QDir::toNativeSeparators(project.path));
+    connect(open, &QCommandLinkButton::clicked, this, [this, path = project.path] {
+        emit recentRequested(path);
+    });
+    auto* const forget = new QToolButton(m_recent);
+    forget->setIcon(m_icons.icon(icons::Icon::Close));
+    forget->setAutoRaise(true);
+    forget->setToolTip(tr("Remove “%1” from this list").arg(project.name));
+    forget->setAccessibleName(forget->toolTip());
+    connect(forget, &QToolButton::clicked, this, [this, path = project.path] { emit forgetRequested(path); });
+    auto* const row = new QHBoxLayout;
+    row->addWidget(open, 1);
+    row->addWidget(forget);
+    m_recentLayout->addLayout(row);
 }
 
 void WelcomePage::setOpenProject(const QString& name)

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "desktop/shell/RecentProjects.h"
+
 #include <QWidget>
+
+#include <vector>
 
 class QCommandLinkButton;
 class QVBoxLayout;
@@ -20,7 +24,7 @@ public:
     /** Without a sample that entry is left out. */
     WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* parent);
 
-    void setRecent(const QStringList& paths);
+    void setRecent(const std::vector<RecentProject>& projects);
     /** The project to go back to; empty while none is open. */
     void setOpenProject(const QString& name);
 
@@ -29,13 +33,17 @@ signals:
     void sampleRequested();
     void newRequested();
     void openRequested();
+    void openFolderRequested();
     void recentRequested(const QString& path);
+    /** The project is to leave the list. */
+    void forgetRequested(const QString& path);
 
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
     void fitColumn();
+    void addRecent(const RecentProject& project);
 
     const icons::IconSet& m_icons;
     QWidget* m_column;

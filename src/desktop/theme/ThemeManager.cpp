@@ -20,6 +20,7 @@ namespace {
 
 constexpr QLatin1String themeKey = "appearance/theme"_L1;
 constexpr QLatin1String fontScaleKey = "a11y/uiFontScale"_L1;
+constexpr QLatin1String motionKey = "a11y/reduceMotion"_L1;
 
 Theme::Tone toneOf(const QPalette& palette)
 {
@@ -51,6 +52,8 @@ ThemeManager::ThemeManager(QSettings& settings, QObject* parent)
     , m_startTone(toneOf(QGuiApplication::palette()))
     , m_choice(settings.value(themeKey, QString(builtInThemes().front().name)).toString())
     , m_fontScale(validScale(settings.value(fontScaleKey, 1.0)))
+    , m_isMotionReduced(settings.value(motionKey).toString() == u"true")
+    , m_cursorFlashTime(QApplication::cursorFlashTime())
 {
     refresh();
 }
@@ -76,6 +79,15 @@ void ThemeManager::setFontScale(qreal scale)
     update();
 }
 
+void ThemeManager::setMotionReduced(bool isReduced)
+{
+    if (isReduced == m_isMotionReduced)
+        return;
+    m_isMotionReduced = isReduced;
+    m_settings.setValue(motionKey, isReduced ? u"true"_s : u"false"_s);
+    update();
+}
+
 void ThemeManager::apply(QApplication& application)
 {
     m_application = &application;
@@ -86,6 +98,7 @@ void ThemeManager::apply(QApplication& application)
     m_style->setTheme(m_theme);
     QApplication::setPalette(makePalette(m_theme));
     QApplication::setFont(interfaceFont(m_fontScale));
+    QApplication::setCursorFlashTime(m_isMotionReduced ? 0 : m_cursorFlashTime);
     // Last: setting it also makes every widget take up the style's new colours.
     application.setStyleSheet(applicationStyleSheet(m_theme));
 }

@@ -43,6 +43,10 @@ public:
     [[nodiscard]] qreal fontScale() const { return m_fontScale; }
     void setFontScale(qreal scale);
 
+    /** Whether nothing is to move by itself: "a11y/reduceMotion". Nothing but the text cursor does. */
+    [[nodiscard]] bool isMotionReduced() const { return m_isMotionReduced; }
+    void setMotionReduced(bool isReduced);
+
     /** Sets style, palette, font and style sheet now and again whenever the theme or the scale changes. */
     void apply(QApplication& application);
 
@@ -58,6 +62,9 @@ private:
     const Theme::Tone m_startTone;
     QString m_choice;
     qreal m_fontScale = 1.0;
+    bool m_isMotionReduced = false;
+    /** Of the system, in milliseconds. */
+    const int m_cursorFlashTime;
     Theme m_theme;
     SystemColorScheme* m_systemScheme = nullptr; // child; only once the system is followed
     QPointer<QApplication> m_application;

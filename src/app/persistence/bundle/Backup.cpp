@@ -1,5 +1,6 @@
 #include "app/persistence/bundle/Backup.h"
 
+#include "app/persistence/bundle/BackupList.h"
 #include "app/persistence/bundle/WorkingCopy.h"
 #include "app/persistence/files/SafeWriter.h"
 
@@ -17,36 +18,18 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr QStringView backupSuffix = u".twbackup";
-
 QString fileName(const QString& name, const QDateTime& timestamp)
 {
     return u"%1-%2%3"_s.arg(name, timestamp.toString(u"yyyyMMdd-HHmmsszzz"), backupSuffix);
 }
 
-bool isTimestamp(QStringView text)
-{
-    constexpr qsizetype dateSize = 8;
-    const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
-    if (text.size() != dateSize + 10 || text.at(dateSize) != u'-')
-        return false;
-    const QStringView date = text.first(dateSize);
-    const QStringView time = text.sliced(dateSize + 1);
-    // Apart from each other, since together they may lie in the hour that daylight saving leaves out.
-    return std::ranges::all_of(date, isDigit) && std::ranges::all_of(time, isDigit) &&
-           QDate::fromString(date, u"yyyyMMdd").isValid() && QTime::fromString(time, u"HHmmsszzz").isValid();
-}
-
 /** The names of this project's backups in the folder, the oldest first. */
 QStringList backupsOf(const QString& name, const QString& folder)
 {
-    const QString prefix = name + u'-';
     QStringList backups = QDir(folder).entryList(QDir::Files | QDir::Hidden);
     backups.removeIf([&](const QString& backup) {
-        if (backup.size() < prefix.size() + backupSuffix.size() || !backup.startsWith(prefix) ||
-            !backup.endsWith(backupSuffix))
-            return true;
-        return !isTimestamp(QStringView(backup).sliced(prefix.size()).chopped(backupSuffix.size()));
+        const std::optional<BackupName> parsed = parseBackupName(backup);
+        return !parsed || parsed->project != name;
     });
     std::ranges::sort(backups);
     return backups;
@@ -79,7 +62,7 @@ BackupRequest backupRequest(
 {
     const QString name = safeFileName(
         isBundlePath(projectPath) ? QFileInfo(projectPath).completeBaseName() : QDir(projectPath).dirName());
-    return {folder, environment.dataFolder + u"/backups/"_s + name, name, timestamp};
+    return {folder, backupsFolder(environment) + u'/' + name, name, timestamp};
 }
 
 Result<Backup> backupProject(const StorageEnvironment& environment, const BackupRequest& request)

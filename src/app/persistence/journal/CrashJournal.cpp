@@ -90,8 +90,6 @@ CrashJournal::~CrashJournal()
 
 void CrashJournal::append(QList<JournalEdit> edits)
 {
-    if (edits.isEmpty())
-        return;
     m_writer.start([this, edits = std::move(edits)] {
         Result<void> written = write(edits);
         const QMutexLocker lock(&m_mutex);
@@ -101,6 +99,7 @@ void CrashJournal::append(QList<JournalEdit> edits)
 
 Result<void> CrashJournal::flush()
 {
+    append({});
     m_writer.waitForDone();
     return lastOutcome();
 }
@@ -118,17 +117,19 @@ void CrashJournal::discard()
 
 Result<void> CrashJournal::write(const QList<JournalEdit>& edits)
 {
-    if (!m_lock) {
-        if (auto begun = begin(); !begun)
-            return begun;
-    }
-    QByteArray records;
+    for (const JournalEdit& edit : edits)
+        m_unwritten.insert(edit.path, edit);
+    if (m_unwritten.isEmpty())
+        return {};
+    if (auto begun = begin(); !begun)
+        return begun;
+    QByteArray records = m_size == 0 ? journalHeader(m_projectPath) : QByteArray();
     QHash<QString, qsizetype> sizes;
-    for (const JournalEdit& edit : edits) {
+    for (const JournalEdit& edit : std::as_const(m_unwritten)) {
         JournalRecord record{edit.path, std::nullopt, edit.bytes};
         if (edit.body && edit.bytes)
             record.bytes = withBody(*edit.bytes, edit.path, *edit.body);
-        if (!m_recordSizes.contains(edit.path) && !sizes.contains(edit.path))
+        if (!m_recordSizes.contains(edit.path))
             record.base = edit.base;
         const QByteArray encoded = encodeRecord(record);
         sizes.insert(edit.path, encoded.size());
@@ -136,6 +137,7 @@ Result<void> CrashJournal::write(const QList<JournalEdit>& edits)
     }
     if (auto stored = store(records); !stored)
         return stored;
+    m_unwritten.clear();
     m_recordSizes.insert(sizes);
     compactWhenWorthwhile();
     return {};
@@ -143,25 +145,44 @@ Result<void> CrashJournal::write(const QList<JournalEdit>& edits)
 
 Result<void> CrashJournal::begin()
 {
-    if (!m_environment.fileSystem.makeFolders(journalsFolder(m_environment)))
-        return journalFailure(m_filePath);
-    m_lock = lockOf(m_filePath);
-    return m_lock ? store(journalHeader(m_projectPath)) : journalFailure(m_filePath);
+    if (m_lock)
+        return {};
+    if (m_environment.fileSystem.makeFolders(journalsFolder(m_environment)))
+        m_lock = lockOf(m_filePath);
+    return m_lock ? Result<void>() : journalFailure(m_filePath);
 }
 
 Result<void> CrashJournal::store(const QByteArray& records)
 {
     QFile file(m_filePath);
-    const bool isStored = file.open(QIODevice::ReadWrite) && file.seek(m_size) &&
-                          file.write(records) == records.size() && file.flush();
+    if (!file.open(QIODevice::ReadWrite))
+        return journalFailure(m_filePath);
+    if (file.size() < m_size) {
+        // Somebody took it away: a new one begins, with what is noted from here on.
+        m_size = 0;
+        m_recordSizes.clear();
+        m_isNameOnMedium = false;
+        return journalFailure(m_filePath);
+    }
+    // What a write that failed left behind goes first: half a record would hide all that follow it.
+    const bool isStored =
+        file.resize(m_size) && file.seek(m_size) && file.write(records) == records.size() && file.flush();
     if (!isStored) {
-        // Half a record would hide all that follow it.
         file.resize(m_size);
         return journalFailure(m_filePath);
     }
     file.close();
+    if (!m_environment.fileSystem.syncFile(m_filePath) || !syncName())
+        return journalFailure(m_filePath);
     m_size += records.size();
-    return m_environment.fileSystem.syncFile(m_filePath) ? Result<void>() : journalFailure(m_filePath);
+    return {};
+}
+
+bool CrashJournal::syncName()
+{
+    if (!m_isNameOnMedium)
+        m_isNameOnMedium = m_environment.fileSystem.syncFolder(journalsFolder(m_environment));
+    return m_isNameOnMedium;
 }
 
 void CrashJournal::compactWhenWorthwhile()
@@ -188,16 +209,20 @@ void CrashJournal::compactWhenWorthwhile()
         return;
     m_size = compact.size();
     m_recordSizes = std::move(sizes);
+    // Until the next write has seen to it, a power cut brings the long one back.
+    m_isNameOnMedium = false;
 }
 
 void CrashJournal::removeFile()
 {
-    if (!m_lock)
-        return;
-    m_environment.fileSystem.remove(m_filePath);
-    m_lock.reset();
+    m_unwritten.clear();
     m_recordSizes.clear();
     m_size = 0;
+    m_isNameOnMedium = false;
+    // An empty file is no journal, and tells of no crash.
+    if (m_lock && !m_environment.fileSystem.remove(m_filePath))
+        QFile::resize(m_filePath, 0);
+    m_lock.reset();
     const QMutexLocker lock(&m_mutex);
     m_lastWrite = {};
 }

@@ -43,9 +43,10 @@ public:
     ~CrashJournal();
     Q_DISABLE_COPY_MOVE(CrashJournal)
 
-    /** Returns at once. */
+    /** Returns at once. Edits that cannot be written now are tried again with the next call, also an empty
+     * one. */
     void append(QList<JournalEdit> edits);
-    /** Waits until all appended edits are on the medium; fails when the last ones could not be written. */
+    /** Waits until all appended edits are on the medium; fails when they could not be written. */
     [[nodiscard]] core::Result<void> flush();
     /** How the last write that ended went; waits for nothing. */
     [[nodiscard]] core::Result<void> lastOutcome();
@@ -58,7 +59,9 @@ private:
     // All below runs on the writing thread.
     [[nodiscard]] core::Result<void> write(const QList<JournalEdit>& edits);
     [[nodiscard]] core::Result<void> begin();
+    /** Either all of the records count, or none. */
     [[nodiscard]] core::Result<void> store(const QByteArray& records);
+    [[nodiscard]] bool syncName();
     void compactWhenWorthwhile();
     void removeFile();
 
@@ -66,9 +69,12 @@ private:
     const QString m_projectPath;
     const QString m_filePath;
     std::unique_ptr<QLockFile> m_lock;
+    /** Edits that are not on the medium, by path. */
+    QHash<QString, JournalEdit> m_unwritten;
     /** The size of the last record of each file in the journal. */
     QHash<QString, qsizetype> m_recordSizes;
-    qint64 m_size = 0; ///< Of the whole records in the file.
+    qint64 m_size = 0;             ///< Of the header and the whole records in the file.
+    bool m_isNameOnMedium = false; ///< A power cut would not lose the file itself.
 
     QMutex m_mutex;
     core::Result<void> m_lastWrite; ///< Guarded by the mutex.

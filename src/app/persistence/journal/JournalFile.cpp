@@ -37,7 +37,8 @@ std::optional<QByteArray> takePayload(QByteArrayView& rest)
         return std::nullopt;
     const auto size = static_cast<qsizetype>(qFromLittleEndian<quint32>(rest.data()));
     const auto checksum = qFromLittleEndian<quint32>(rest.data() + 4);
-    if (size > rest.size() - frameSize)
+    // Nothing is empty; zeros are what a medium has where nothing was written yet.
+    if (size == 0 || size > rest.size() - frameSize)
         return std::nullopt;
     const QByteArrayView payload = rest.sliced(frameSize, size);
     if (crc32(payload) != checksum)

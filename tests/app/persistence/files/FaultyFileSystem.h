@@ -33,6 +33,8 @@ public:
     qint64 bytesLeft = std::numeric_limits<qint64>::max();
     /** It takes so many more files. */
     int writesLeft = always;
+    /** It takes so many more changes of any kind; then it is read-only. */
+    int changesLeft = always;
 
     [[nodiscard]] int writes() const { return m_writes; }
     [[nodiscard]] int mostTemporaries() const { return m_mostTemporaries; }
@@ -51,7 +53,7 @@ public:
         {
             const QMutexLocker lock(&m_mutex);
             ++m_writes;
-            if (fails(failingWrites, target) || bytesLeft < bytes.size() || writesLeft == 0)
+            if (isReadOnly() || fails(failingWrites, target) || bytesLeft < bytes.size() || writesLeft == 0)
                 return std::nullopt;
             if (writesLeft != always)
                 --writesLeft;
@@ -86,6 +88,8 @@ public:
     bool replace(const QString& temporary, const QString& target) override
     {
         const QMutexLocker lock(&m_mutex);
+        if (isReadOnly())
+            return false;
         const auto left = replacementsLeft.find(target);
         if (left != replacementsLeft.end() && --left.value() < 0)
             return false;
@@ -97,8 +101,16 @@ public:
         return true;
     }
 
-    bool remove(const QString& path) override { return m_disk.remove(path); }
-    bool makeFolders(const QString& path) override { return m_disk.makeFolders(path); }
+    bool remove(const QString& path) override
+    {
+        const QMutexLocker lock(&m_mutex);
+        return !isReadOnly() && m_disk.remove(path);
+    }
+    bool makeFolders(const QString& path) override
+    {
+        const QMutexLocker lock(&m_mutex);
+        return !isReadOnly() && m_disk.makeFolders(path);
+    }
 
     bool syncFolder(const QString& path) override
     {
@@ -107,6 +119,15 @@ public:
     }
 
 private:
+    /** Counts a change that is asked for. */
+    bool isReadOnly()
+    {
+        if (changesLeft == always)
+            return false;
+        changesLeft = std::max(changesLeft - 1, -1);
+        return changesLeft < 0;
+    }
+
     static bool fails(QHash<QString, int>& faults, const QString& path)
     {
         const auto fault = faults.find(path);

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "desktop/shell/DeskContext.h"
+
+#include <QDialog>
+
+class QListWidget;
+class QStackedWidget;
+
+namespace tw::desktop::settings {
+
+class Shortcuts;
+
+enum class SettingsPage : qint32
+{
+    Appearance = 0,
+    Editor = 1,
+    Saving = 2,
+    Keys = 3,
+};
+
+/** What the user sets for the program. Everything takes effect at once. */
+class SettingsDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    SettingsDialog(const shell::DeskContext& desk, Shortcuts& shortcuts, QWidget* parent);
+
+    void showPage(SettingsPage page);
+
+signals:
+    /** Open pages are to take up how pages are set now. */
+    void pageStyleChanged();
+
+private:
+    /** Pages are added in the order of SettingsPage. */
+    void addPage(const QString& title, const QIcon& icon, QWidget* page);
+    void fitPageList();
+
+    QListWidget* m_list;
+    QStackedWidget* m_pages;
+};
+
+} // namespace tw::desktop::settings

@@ -1,0 +1,186 @@
+#include "desktop/shell/MainWindow.h"
+
+#include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/DocumentPage.h"
+#include "desktop/manuscript/ManuscriptPanel.h"
+#include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/settings/SettingsDialog.h"
+#include "desktop/shell/ProjectSession.h"
+#include "desktop/shell/WorkArea.h"
+#include "desktop/theme/Theme.h"
+#include "desktop/theme/ThemeManager.h"
+
+#include <QAbstractItemView>
+#include <QActionGroup>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QSettings>
+#include <QTextEdit>
+
+namespace tw::desktop::shell {
+
+using namespace Qt::Literals::StringLiterals;
+using icons::Icon;
+
+namespace {
+
+enum class ClipboardEdit
+{
+    Cut,
+    Copy,
+    Paste,
+    SelectAll,
+};
+
+template <class Editor>
+bool editIn(QWidget* focused, ClipboardEdit edit)
+{
+    auto* const editor = qobject_cast<Editor*>(focused);
+    if (!editor)
+        return false;
+    switch (edit) {
+    case ClipboardEdit::Cut:
+        editor->cut();
+        break;
+    case ClipboardEdit::Copy:
+        editor->copy();
+        break;
+    case ClipboardEdit::Paste:
+        editor->paste();
+        break;
+    case ClipboardEdit::SelectAll:
+        editor->selectAll();
+        break;
+    }
+    return true;
+}
+
+/** Does the edit in whatever has the keyboard; nothing where there is no text. */
+void editFocused(ClipboardEdit edit)
+{
+    QWidget* const focused = QApplication::focusWidget();
+    if (editIn<QTextEdit>(focused, edit) || editIn<QPlainTextEdit>(focused, edit) ||
+        editIn<QLineEdit>(focused, edit))
+        return;
+    if (auto* const view = qobject_cast<QAbstractItemView*>(focused);
+        view && edit == ClipboardEdit::SelectAll)
+        view->selectAll();
+}
+
+} // namespace
+
+void MainWindow::buildEditMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&Edit"));
+    m_undoAction = addAction(
+        menu, u"edit.undo"_s, Icon::Undo, tr("Undo"), QKeySequence::Undo, [this] { m_desk.session.undo(); });
+    m_redoAction = addAction(
+        menu, u"edit.redo"_s, Icon::Redo, tr("Redo"), QKeySequence::Redo, [this] { m_desk.session.redo(); });
+    m_redoAction->setShortcuts(
+        {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    menu.addSeparator();
+    addAction(menu, u"edit.cut"_s, Icon::Cut, tr("Cu&t"), QKeySequence::Cut, [] {
+        editFocused(ClipboardEdit::Cut);
+    });
+    addAction(menu, u"edit.copy"_s, Icon::Copy, tr("&Copy"), QKeySequence::Copy, [] {
+        editFocused(ClipboardEdit::Copy);
+    });
+    addAction(menu, u"edit.paste"_s, Icon::Paste, tr("&Paste"), QKeySequence::Paste, [] {
+        editFocused(ClipboardEdit::Paste);
+    });
+    addAction(menu, u"edit.selectAll"_s, Icon::Check, tr("Select &All"), QKeySequence::SelectAll, [] {
+        editFocused(ClipboardEdit::SelectAll);
+    });
+    menu.addSeparator();
+    for (QAction* const action : m_manuscript->editActions())
+        menu.addAction(action);
+}
+
+void MainWindow::buildInsertMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&Insert"));
+    for (QAction* const action : m_manuscript->insertActions()) {
+        menu.addAction(action);
+        m_projectActions.append(action);
+    }
+}
+
+void MainWindow::buildFormatMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("F&ormat"));
+    addAction(menu, u"format.pageFont"_s, Icon::Text, tr("Page &Font…"), {}, [this] {
+        showSettings(settings::SettingsPage::Editor);
+    });
+}
+
+void MainWindow::zoomPages(int steps)
+{
+    manuscript::stepPageZoom(m_desk.settings, steps);
+    for (manuscript::DocumentPage* const page : m_workArea->findChildren<manuscript::DocumentPage*>())
+        page->applyStyle();
+}
+
+void MainWindow::buildViewMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&View"));
+    QMenu* const themes = menu.addMenu(m_desk.icons.icon(Icon::Theme), tr("&Theme"));
+    auto* const group = new QActionGroup(this);
+    const auto addTheme = [&](const QString& choice, const QString& title) {
+        QAction* const action = themes->addAction(title);
+        action->setObjectName(u"view.theme"_s + choice);
+        action->setCheckable(true);
+        // The choice may be made elsewhere as well.
+        connect(themes, &QMenu::aboutToShow, action, [this, action, choice] {
+            action->setChecked(m_desk.themes.choice() == choice);
+        });
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, choice] { m_desk.themes.setChoice(choice); });
+    };
+    for (const theme::Theme& theme : theme::builtInThemes())
+        addTheme(theme.name, theme.title());
+    themes->addSeparator();
+    addTheme(theme::ThemeManager::systemChoice, tr("Follow the System"));
+    menu.addSeparator();
+    addAction(
+        menu, u"view.zoomIn"_s, Icon::Add, tr("Zoom &In"), QKeySequence::ZoomIn, [this] { zoomPages(1); });
+    addAction(menu, u"view.zoomOut"_s, Icon::Minus, tr("Zoom &Out"), QKeySequence::ZoomOut, [this] {
+        zoomPages(-1);
+    });
+    addAction(
+        menu, u"view.actualSize"_s, Icon::Search, tr("&Actual Size"), QKeySequence(Qt::CTRL | Qt::Key_0),
+        [this] {
+            m_desk.settings.remove("editor/zoom");
+            zoomPages(0);
+        });
+    menu.addSeparator();
+    addAction(
+        menu, u"view.split"_s, Icon::Split, tr("&Split Side by Side"),
+        QKeySequence(Qt::CTRL | Qt::Key_Backslash), [this] { m_workArea->splitCurrent(); });
+    addAction(
+        menu, u"view.nextTab"_s, Icon::ChevronRight, tr("&Next Tab"),
+        QKeySequence(Qt::CTRL | Qt::Key_PageDown), [this] { m_workArea->stepTab(1); });
+    addAction(
+        menu, u"view.previousTab"_s, Icon::ChevronLeft, tr("&Previous Tab"),
+        QKeySequence(Qt::CTRL | Qt::Key_PageUp), [this] { m_workArea->stepTab(-1); });
+    addAction(menu, u"view.closeTab"_s, Icon::Close, tr("&Close Tab"), QKeySequence::Close, [this] {
+        m_workArea->closeCurrent();
+    });
+    menu.addSeparator();
+    addAction(menu, u"fullScreen"_s, Icon::FullScreen, tr("&Full Screen"), QKeySequence(Qt::Key_F11), [this] {
+        setWindowState(windowState() ^ Qt::WindowFullScreen);
+    });
+}
+
+void MainWindow::refreshHistory()
+{
+    const ProjectSession& session = m_desk.session;
+    m_undoAction->setEnabled(session.canUndo());
+    m_undoAction->setText(session.canUndo() ? tr("Undo %1").arg(session.undoText()) : tr("Undo"));
+    m_redoAction->setEnabled(session.canRedo());
+    m_redoAction->setText(session.canRedo() ? tr("Redo %1").arg(session.redoText()) : tr("Redo"));
+}
+
+} // namespace tw::desktop::shell
