@@ -31,7 +31,7 @@ PlaceRows::PlaceRows(const shell::DeskContext& desk, QFormLayout& form, QWidget*
     auto* const place = new QHBoxLayout;
     place->addWidget(m_folder, 1);
     auto* const choose = new QPushButton(tr("&Choose…"), dialog);
-    choose->setToolTip(tr("Choose the folder in which the project is to lie"));
+    choose->setToolTip(tr("Choose a folder for the project"));
     choose->setAutoDefault(false);
     place->addWidget(choose);
     form.addRow(tr("&Place"), place);
