@@ -3165,7 +3165,7 @@
     </message>
     <message>
         <source>&amp;Restore Defaults</source>
-        <translation>&amp;Zurücksetzen</translation>
+        <translation>Z&amp;urücksetzen</translation>
     </message>
 </context>
 <context>
@@ -3469,7 +3469,7 @@
     </message>
     <message>
         <source>Open Project &amp;Folder…</source>
-        <translation>Projektord&amp;ner öffnen…</translation>
+        <translation>Projekt&amp;ordner öffnen…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
