@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -34,7 +35,9 @@ PlaceRows::PlaceRows(const shell::DeskContext& desk, QFormLayout& form, QWidget*
     choose->setToolTip(tr("Choose a folder for the project"));
     choose->setAutoDefault(false);
     place->addWidget(choose);
-    form.addRow(tr("&Place"), place);
+    auto* const placeLabel = new QLabel(tr("&Place"), dialog);
+    placeLabel->setBuddy(m_folder);
+    form.addRow(placeLabel, place);
     m_folder->setAccessibleName(tr("Place"));
     addFormChoice(form);
     form.addRow(QString(), m_note);
