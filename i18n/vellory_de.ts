@@ -287,6 +287,49 @@
     </message>
 </context>
 <context>
+    <name>NewPlace</name>
+    <message>
+        <source>One file (recommended)</source>
+        <translation>Eine Datei (empfohlen)</translation>
+    </message>
+    <message>
+        <source>A folder</source>
+        <translation>Ein Ordner</translation>
+    </message>
+    <message>
+        <source>The project is one .vellory file you can copy, back up, and double-click.</source>
+        <translation>Das Projekt ist eine einzige .vellory-Datei, die Sie kopieren, sichern und per Doppelklick öffnen können.</translation>
+    </message>
+    <message>
+        <source>The project is a folder of plain text files, ideal under Git, Perforce, or a sync client.</source>
+        <translation>Das Projekt ist ein Ordner mit einfachen Textdateien, ideal unter Git, Perforce oder einem Synchronisierungsprogramm.</translation>
+    </message>
+    <message>
+        <source>Give the project a name.</source>
+        <translation>Geben Sie dem Projekt einen Namen.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written in %1. Choose another place.</source>
+        <translation>In %1 lässt sich nichts schreiben. Wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>%1 is the folder of another project. Choose another place.</source>
+        <translation>%1 ist der Ordner eines anderen Projekts. Wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>Choose a folder for the project.</source>
+        <translation>Wählen Sie einen Ordner für das Projekt.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder. Choose another place.</source>
+        <translation>%1 ist kein Ordner. Wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>There is already something at %1, and it is not replaced. Choose another name or another place.</source>
+        <translation>Unter %1 gibt es schon etwas, und es wird nicht ersetzt. Wählen Sie einen anderen Namen oder einen anderen Ort.</translation>
+    </message>
+</context>
+<context>
     <name>ObjectTitles</name>
     <message>
         <source>Untitled</source>
@@ -318,6 +361,55 @@
     <message>
         <source>This entity has been removed meanwhile. Cancel here; undo brings the entity back.</source>
         <translation>Dieser Eintrag ist inzwischen entfernt worden. Brechen Sie hier ab; „Rückgängig“ holt ihn zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>PackTransfer</name>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>Export Content Pack</source>
+        <translation>Inhaltspaket exportieren</translation>
+    </message>
+    <message>
+        <source>Replace the Pack</source>
+        <translation>Paket ersetzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %n categories: %1</source>
+        <translation>
+            <numerusform>%n Kategorie hinzugefügt: %1</numerusform>
+            <numerusform>%n Kategorien hinzugefügt: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n categories that are here already: %1</source>
+        <translation>
+            <numerusform>%n Kategorie ausgelassen, weil sie schon da ist: %1</numerusform>
+            <numerusform>%n Kategorien ausgelassen, weil sie schon da sind: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The pack holds no categories.</source>
+        <translation>Das Paket enthält keine Kategorien.</translation>
+    </message>
+    <message>
+        <source>Import Content Pack</source>
+        <translation>Inhaltspaket importieren</translation>
+    </message>
+    <message>
+        <source>Where the Pack&apos;s Folder Goes</source>
+        <translation>Wohin der Ordner des Pakets kommt</translation>
+    </message>
+    <message>
+        <source>Exported the content pack to %1</source>
+        <translation>Inhaltspaket exportiert nach %1</translation>
+    </message>
+    <message>
+        <source>There is already a content pack at %1.</source>
+        <translation>Unter %1 gibt es schon ein Inhaltspaket.</translation>
     </message>
 </context>
 <context>
@@ -554,6 +646,80 @@
         <source>In the content pack %1, the files %2 and %3 hold the same category. Remove one of them, then try again.</source>
         <translation>Im Inhaltspaket %1 enthalten die Dateien %2 und %3 dieselbe Kategorie. Entfernen Sie eine davon, und versuchen Sie es dann noch einmal.</translation>
     </message>
+    <message>
+        <source>There is already something at %1, and it is not replaced. Choose another name or folder.</source>
+        <translation>Unter %1 gibt es schon etwas, und es wird nicht ersetzt. Wählen Sie einen anderen Namen oder Ordner.</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectFileDialogs</name>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Projects (*.vellory *.tarnwick)</source>
+        <translation>Projekte (*.vellory *.tarnwick)</translation>
+    </message>
+    <message>
+        <source>Backups (*.twbackup)</source>
+        <translation>Sicherungen (*.twbackup)</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Open Project Folder</source>
+        <translation>Projektordner öffnen</translation>
+    </message>
+    <message>
+        <source>Choose a Backup</source>
+        <translation>Sicherung wählen</translation>
+    </message>
+    <message>
+        <source>Backups and projects (*.twbackup *.vellory *.tarnwick)</source>
+        <translation>Sicherungen und Projekte (*.twbackup *.vellory *.tarnwick)</translation>
+    </message>
+    <message>
+        <source>One file (*.vellory)</source>
+        <translation>Eine Datei (*.vellory)</translation>
+    </message>
+    <message>
+        <source>A folder (*)</source>
+        <translation>Ein Ordner (*)</translation>
+    </message>
+    <message>
+        <source>Save Project As</source>
+        <translation>Projekt speichern unter</translation>
+    </message>
+    <message>
+        <source>Choose Another Name</source>
+        <translation>Anderen Namen wählen</translation>
+    </message>
+    <message>
+        <source>Replace the File</source>
+        <translation>Datei ersetzen</translation>
+    </message>
+    <message>
+        <source>There is already a file at %1.</source>
+        <translation>Unter %1 gibt es schon eine Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectSettings</name>
+    <message>
+        <source>Give the project a name.</source>
+        <translation>Geben Sie dem Projekt einen Namen.</translation>
+    </message>
+    <message>
+        <source>Give every audience a name, or remove it.</source>
+        <translation>Geben Sie jeder Zielgruppe einen Namen, oder entfernen Sie sie.</translation>
+    </message>
+    <message>
+        <source>Two audiences are called “%1”. Give one another name.</source>
+        <translation>Zwei Zielgruppen heißen „%1“. Geben Sie einer einen anderen Namen.</translation>
+    </message>
 </context>
 <context>
     <name>Questions</name>
@@ -603,6 +769,497 @@
     <message>
         <source>Cannot reparent under an unknown category.</source>
         <translation>Unter eine unbekannte Kategorie lässt sich nichts verschieben.</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateText</name>
+    <message>
+        <source>Sessions</source>
+        <translation>Sitzungen</translation>
+    </message>
+    <message>
+        <source>What happened last time</source>
+        <translation>Was letztes Mal geschah</translation>
+    </message>
+    <message>
+        <source>Scenes to be ready for</source>
+        <translation>Szenen, die bereitliegen sollten</translation>
+    </message>
+    <message>
+        <source>Rewards and consequences</source>
+        <translation>Belohnungen und Folgen</translation>
+    </message>
+    <message>
+        <source>Session 0</source>
+        <translation>Sitzung 0</translation>
+    </message>
+    <message>
+        <source>Who plays whom, and what kind of game it is.</source>
+        <translation>Wer wen spielt und was für ein Spiel es wird.</translation>
+    </message>
+    <message>
+        <source>Session 1</source>
+        <translation>Sitzung 1</translation>
+    </message>
+    <message>
+        <source>At the table</source>
+        <translation>Am Spieltisch</translation>
+    </message>
+    <message>
+        <source>House rules</source>
+        <translation>Hausregeln</translation>
+    </message>
+    <message>
+        <source>Secrets and clues</source>
+        <translation>Geheimnisse und Hinweise</translation>
+    </message>
+    <message>
+        <source>Locations</source>
+        <translation>Orte</translation>
+    </message>
+    <message>
+        <source>What one sees first</source>
+        <translation>Was man zuerst sieht</translation>
+    </message>
+    <message>
+        <source>Danger</source>
+        <translation>Gefahr</translation>
+    </message>
+    <message>
+        <source>What can be found</source>
+        <translation>Was es zu finden gibt</translation>
+    </message>
+    <message>
+        <source>Factions</source>
+        <translation>Fraktionen</translation>
+    </message>
+    <message>
+        <source>Goal</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>Means</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Seat</source>
+        <translation>Sitz</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Figuren</translation>
+    </message>
+    <message>
+        <source>Faction</source>
+        <translation>Fraktion</translation>
+    </message>
+    <message>
+        <source>Where to find them</source>
+        <translation>Wo man sie findet</translation>
+    </message>
+    <message>
+        <source>Player characters</source>
+        <translation>Spielerfiguren</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Spieler</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>NPCs</source>
+        <translation>Nichtspielerfiguren</translation>
+    </message>
+    <message>
+        <source>Attitude</source>
+        <translation>Haltung</translation>
+    </message>
+    <message>
+        <source>Friendly</source>
+        <translation>Freundlich</translation>
+    </message>
+    <message>
+        <source>Indifferent</source>
+        <translation>Gleichgültig</translation>
+    </message>
+    <message>
+        <source>Hostile</source>
+        <translation>Feindselig</translation>
+    </message>
+    <message>
+        <source>Wants</source>
+        <translation>Will</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Geheimnis</translation>
+    </message>
+    <message>
+        <source>Alive</source>
+        <translation>Lebt</translation>
+    </message>
+    <message>
+        <source>On the road</source>
+        <translation>Unterwegs</translation>
+    </message>
+    <message>
+        <source>Nothing but weather</source>
+        <translation>Nichts als Wetter</translation>
+    </message>
+    <message>
+        <source>Travellers with news</source>
+        <translation>Reisende mit Neuigkeiten</translation>
+    </message>
+    <message>
+        <source>A toll that was not there last time</source>
+        <translation>Ein Zoll, den es letztes Mal noch nicht gab</translation>
+    </message>
+    <message>
+        <source>Tracks of something large</source>
+        <translation>Spuren von etwas Großem</translation>
+    </message>
+    <message>
+        <source>Someone from a player&apos;s past</source>
+        <translation>Jemand aus der Vergangenheit einer Spielerfigur</translation>
+    </message>
+    <message>
+        <source>Players</source>
+        <translation>Spieler</translation>
+    </message>
+    <message>
+        <source>Game master</source>
+        <translation>Spielleitung</translation>
+    </message>
+    <message>
+        <source>Act One</source>
+        <translation>Erster Akt</translation>
+    </message>
+    <message>
+        <source>Who they are, what they want, and what makes it impossible to stay.</source>
+        <translation>Wer sie sind, was sie wollen und warum sie nicht bleiben können.</translation>
+    </message>
+    <message>
+        <source>Chapter 1</source>
+        <translation>Kapitel 1</translation>
+    </message>
+    <message>
+        <source>The ordinary day, and the crack in it.</source>
+        <translation>Der gewöhnliche Tag und der Riss darin.</translation>
+    </message>
+    <message>
+        <source>Chapter 2</source>
+        <translation>Kapitel 2</translation>
+    </message>
+    <message>
+        <source>What happens that cannot be undone.</source>
+        <translation>Was geschieht und sich nicht ungeschehen machen lässt.</translation>
+    </message>
+    <message>
+        <source>Chapter 3</source>
+        <translation>Kapitel 3</translation>
+    </message>
+    <message>
+        <source>The decision to go.</source>
+        <translation>Der Entschluss zu gehen.</translation>
+    </message>
+    <message>
+        <source>Act Two</source>
+        <translation>Zweiter Akt</translation>
+    </message>
+    <message>
+        <source>It gets harder, and then what they believed turns out to be wrong.</source>
+        <translation>Es wird schwerer, und dann erweist sich, was sie glaubten, als falsch.</translation>
+    </message>
+    <message>
+        <source>Chapter 4</source>
+        <translation>Kapitel 4</translation>
+    </message>
+    <message>
+        <source>New ground, new people, first costs.</source>
+        <translation>Neuer Boden, neue Menschen, der erste Preis.</translation>
+    </message>
+    <message>
+        <source>Chapter 5</source>
+        <translation>Kapitel 5</translation>
+    </message>
+    <message>
+        <source>The turn in the middle.</source>
+        <translation>Die Wende in der Mitte.</translation>
+    </message>
+    <message>
+        <source>Chapter 6</source>
+        <translation>Kapitel 6</translation>
+    </message>
+    <message>
+        <source>Everything that could hold gives way.</source>
+        <translation>Alles, was noch halten könnte, gibt nach.</translation>
+    </message>
+    <message>
+        <source>Act Three</source>
+        <translation>Dritter Akt</translation>
+    </message>
+    <message>
+        <source>What they do with what they know now.</source>
+        <translation>Was sie mit dem tun, was sie jetzt wissen.</translation>
+    </message>
+    <message>
+        <source>Chapter 7</source>
+        <translation>Kapitel 7</translation>
+    </message>
+    <message>
+        <source>The way back in.</source>
+        <translation>Der Weg zurück hinein.</translation>
+    </message>
+    <message>
+        <source>Chapter 8</source>
+        <translation>Kapitel 8</translation>
+    </message>
+    <message>
+        <source>The last confrontation.</source>
+        <translation>Die letzte Begegnung.</translation>
+    </message>
+    <message>
+        <source>Chapter 9</source>
+        <translation>Kapitel 9</translation>
+    </message>
+    <message>
+        <source>The world as it is afterwards.</source>
+        <translation>Die Welt, wie sie danach ist.</translation>
+    </message>
+    <message>
+        <source>Scene</source>
+        <translation>Szene</translation>
+    </message>
+    <message>
+        <source>Idea</source>
+        <translation>Idee</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Premise</source>
+        <translation>Prämisse</translation>
+    </message>
+    <message>
+        <source>Loose ends</source>
+        <translation>Lose Enden</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Orte</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Geschichte</translation>
+    </message>
+    <message>
+        <source>Part in the story</source>
+        <translation>Rolle in der Geschichte</translation>
+    </message>
+    <message>
+        <source>Protagonist</source>
+        <translation>Hauptfigur</translation>
+    </message>
+    <message>
+        <source>Antagonist</source>
+        <translation>Gegenspieler</translation>
+    </message>
+    <message>
+        <source>Supporting</source>
+        <translation>Nebenfigur</translation>
+    </message>
+    <message>
+        <source>In passing</source>
+        <translation>Randfigur</translation>
+    </message>
+    <message>
+        <source>Needs</source>
+        <translation>Braucht</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Voice</source>
+        <translation>Stimme</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Zuhause</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Gegenstände</translation>
+    </message>
+    <message>
+        <source>Why it matters</source>
+        <translation>Warum es wichtig ist</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <translation>Besitzer</translation>
+    </message>
+    <message>
+        <source>Where it is</source>
+        <translation>Wo es ist</translation>
+    </message>
+    <message>
+        <source>Novel</source>
+        <translation>Roman</translation>
+    </message>
+    <message>
+        <source>Three acts with chapters and scenes, and a codex for characters, places and items.</source>
+        <translation>Drei Akte mit Kapiteln und Szenen und ein Kodex für Figuren, Orte und Gegenstände.</translation>
+    </message>
+    <message>
+        <source>Screenplay</source>
+        <translation>Drehbuch</translation>
+    </message>
+    <message>
+        <source>Three acts of screenplay scenes, a treatment, and a codex for characters and locations.</source>
+        <translation>Drei Akte mit Drehbuchszenen, ein Treatment und ein Kodex für Figuren und Orte.</translation>
+    </message>
+    <message>
+        <source>Campaign</source>
+        <translation>Kampagne</translation>
+    </message>
+    <message>
+        <source>Sessions, characters, locations and factions for a game table, a random table, and audiences for players and game master.</source>
+        <translation>Sitzungen, Figuren, Orte und Fraktionen für die Spielrunde, eine Zufallstabelle und Zielgruppen für Spieler und Spielleitung.</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>Nothing at all: an empty manuscript and an empty world.</source>
+        <translation>Gar nichts: ein leeres Manuskript und eine leere Welt.</translation>
+    </message>
+    <message>
+        <source>Opening image</source>
+        <translation>Eröffnungsbild</translation>
+    </message>
+    <message>
+        <source>The world in one picture, before it changes.</source>
+        <translation>Die Welt in einem Bild, bevor sie sich ändert.</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Exposition</translation>
+    </message>
+    <message>
+        <source>Who it is about, and what is missing.</source>
+        <translation>Um wen es geht und was fehlt.</translation>
+    </message>
+    <message>
+        <source>Inciting incident</source>
+        <translation>Auslösendes Ereignis</translation>
+    </message>
+    <message>
+        <source>What sets it in motion.</source>
+        <translation>Was alles in Gang setzt.</translation>
+    </message>
+    <message>
+        <source>Into the new world</source>
+        <translation>In die neue Welt</translation>
+    </message>
+    <message>
+        <source>The first step that cannot be taken back.</source>
+        <translation>Der erste Schritt, der sich nicht zurücknehmen lässt.</translation>
+    </message>
+    <message>
+        <source>Midpoint</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>What was sought is found, or turns out false.</source>
+        <translation>Das Gesuchte wird gefunden oder erweist sich als falsch.</translation>
+    </message>
+    <message>
+        <source>All is lost</source>
+        <translation>Alles ist verloren</translation>
+    </message>
+    <message>
+        <source>The lowest point.</source>
+        <translation>Der tiefste Punkt.</translation>
+    </message>
+    <message>
+        <source>Climax</source>
+        <translation>Höhepunkt</translation>
+    </message>
+    <message>
+        <source>The choice that decides it.</source>
+        <translation>Die Wahl, die alles entscheidet.</translation>
+    </message>
+    <message>
+        <source>Final image</source>
+        <translation>Schlussbild</translation>
+    </message>
+    <message>
+        <source>The same world, seen anew.</source>
+        <translation>Dieselbe Welt, neu gesehen.</translation>
+    </message>
+    <message>
+        <source>Development</source>
+        <translation>Entwicklung</translation>
+    </message>
+    <message>
+        <source>Logline</source>
+        <translation>Logline</translation>
+    </message>
+    <message>
+        <source>The film in one sentence.</source>
+        <translation>Der Film in einem Satz.</translation>
+    </message>
+    <message>
+        <source>Treatment</source>
+        <translation>Treatment</translation>
+    </message>
+    <message>
+        <source>The film told in prose.</source>
+        <translation>Der Film als Prosa erzählt.</translation>
+    </message>
+    <message>
+        <source>Age</source>
+        <translation>Alter</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Schauplatz</translation>
+    </message>
+    <message>
+        <source>Interior</source>
+        <translation>Innen</translation>
+    </message>
+    <message>
+        <source>Exterior</source>
+        <translation>Außen</translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation>Beides</translation>
+    </message>
+    <message>
+        <source>Look</source>
+        <translation>Aussehen</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Klang</translation>
+    </message>
+    <message>
+        <source>Props</source>
+        <translation>Requisiten</translation>
+    </message>
+    <message>
+        <source>What it is used for</source>
+        <translation>Wozu es gebraucht wird</translation>
     </message>
 </context>
 <context>
@@ -1053,6 +1710,14 @@
     <message>
         <source>Set writing goal</source>
         <translation>Schreibziel festlegen</translation>
+    </message>
+    <message>
+        <source>Rename project</source>
+        <translation>Projekt umbenennen</translation>
+    </message>
+    <message>
+        <source>Change project settings</source>
+        <translation>Projekteinstellungen ändern</translation>
     </message>
 </context>
 <context>
@@ -1936,6 +2601,293 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::project::BackupModel</name>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Made on</source>
+        <translation>Erstellt am</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::project::ExportPackDialog</name>
+    <message>
+        <source>Export Content Pack</source>
+        <translation>Inhaltspaket exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation>&amp;Beschreibung</translation>
+    </message>
+    <message>
+        <source>&amp;Author</source>
+        <translation>&amp;Autor</translation>
+    </message>
+    <message>
+        <source>&amp;Version</source>
+        <translation>&amp;Version</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren…</translation>
+    </message>
+    <message>
+        <source>Categories of the pack</source>
+        <translation>Kategorien des Pakets</translation>
+    </message>
+    <message>
+        <source>Give the pack a name.</source>
+        <translation>Geben Sie dem Paket einen Namen.</translation>
+    </message>
+    <message>
+        <source>Tick the categories that go into the pack.</source>
+        <translation>Kreuzen Sie die Kategorien an, die ins Paket kommen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n categories go into the pack, those that they need included.</source>
+        <translation>
+            <numerusform>%n Kategorie kommt ins Paket.</numerusform>
+            <numerusform>%n Kategorien kommen ins Paket, samt denen, die sie brauchen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::project::ListEditor</name>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::project::NewProjectDialog</name>
+    <message>
+        <source>New Project</source>
+        <translation>Neues Projekt</translation>
+    </message>
+    <message>
+        <source>&amp;Template</source>
+        <translation>&amp;Vorlage</translation>
+    </message>
+    <message>
+        <source>Create Project</source>
+        <translation>Projekt anlegen</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Ohne Titel</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::project::PlaceRows</name>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Wählen…</translation>
+    </message>
+    <message>
+        <source>&amp;Place</source>
+        <translation>&amp;Ort</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Kept as</source>
+        <translation>Aufbewahrt als</translation>
+    </message>
+    <message>
+        <source>Place of the Project</source>
+        <translation>Ort des Projekts</translation>
+    </message>
+    <message>
+        <source>It will be %1</source>
+        <translation>Es entsteht %1</translation>
+    </message>
+    <message>
+        <source>Choose a folder for the project</source>
+        <translation>Einen Ordner für das Projekt wählen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::project::ProjectBackups</name>
+    <message>
+        <source>Back Up Project</source>
+        <translation>Projekt sichern</translation>
+    </message>
+    <message>
+        <source>Backed up project to %1</source>
+        <translation>Projekt gesichert unter %1</translation>
+    </message>
+    <message>
+        <source>Restored project</source>
+        <translation>Wiederhergestelltes Projekt</translation>
+    </message>
+    <message>
+        <source>Restore from a Backup</source>
+        <translation>Aus einer Sicherung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Backups Folder</source>
+        <translation>Ordner der Sicherungen</translation>
+    </message>
+    <message>
+        <source>The folder could not be shown. It is here:
+%1</source>
+        <translation>Der Ordner ließ sich nicht anzeigen. Er liegt hier:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::project::ProjectSettingsDialog</name>
+    <message>
+        <source>Audiences</source>
+        <translation>Zielgruppen</translation>
+    </message>
+    <message>
+        <source>No audiences: everything is for everyone.</source>
+        <translation>Keine Zielgruppen: Alles ist für alle.</translation>
+    </message>
+    <message>
+        <source>Libraries</source>
+        <translation>Bibliotheken</translation>
+    </message>
+    <message>
+        <source>No libraries: add another project to refer to what it holds.</source>
+        <translation>Keine Bibliotheken: Fügen Sie ein anderes Projekt hinzu, um auf dessen Inhalt zu verweisen.</translation>
+    </message>
+    <message>
+        <source>Project Settings</source>
+        <translation>Projekteinstellungen</translation>
+    </message>
+    <message>
+        <source>What is new is visible to the ticked ones; with none ticked, to everyone.</source>
+        <translation>Neues ist für die angekreuzten sichtbar; ist keine angekreuzt, für alle.</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>Apply Settings</source>
+        <translation>Einstellungen anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Add Audience</source>
+        <translation>Zielgruppe &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>New audience</source>
+        <translation>Neue Zielgruppe</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is an audience of %n things.</source>
+        <translation>
+            <numerusform>„%1“ ist Zielgruppe von %n Objekt.</numerusform>
+            <numerusform>„%1“ ist Zielgruppe von %n Objekten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Audience</source>
+        <translation>Zielgruppe entfernen</translation>
+    </message>
+    <message>
+        <source>Add &amp;File…</source>
+        <translation>&amp;Datei hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add F&amp;older…</source>
+        <translation>&amp;Ordner hinzufügen…</translation>
+    </message>
+    <message>
+        <source>A project is no library of itself. Choose another one.</source>
+        <translation>Ein Projekt ist keine Bibliothek seiner selbst. Wählen Sie ein anderes.</translation>
+    </message>
+    <message>
+        <source>Other projects whose entities can be referred to from this one. They are only read.</source>
+        <translation>Andere Projekte, auf deren Einträge dieses verweisen kann. Sie werden nur gelesen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them name no other audience, so everyone would see them.</source>
+        <translation>
+            <numerusform>%n davon nennt keine andere Zielgruppe, sodass alle es sähen.</numerusform>
+            <numerusform>%n davon nennen keine andere Zielgruppe, sodass alle sie sähen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 is already in the list.</source>
+        <translation>%1 steht schon in der Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::project::RestoreDialog</name>
+    <message>
+        <source>There are no backups yet. “Back Up Project” makes one.</source>
+        <translation>Es gibt noch keine Sicherungen. „Projekt sichern“ legt eine an.</translation>
+    </message>
+    <message>
+        <source>Show the backups of &amp;all projects</source>
+        <translation>Sicherungen &amp;aller Projekte zeigen</translation>
+    </message>
+    <message>
+        <source>Restore from a Backup</source>
+        <translation>Aus einer Sicherung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>A backup becomes a new project. The project it was made of stays as it is.</source>
+        <translation>Aus einer Sicherung wird ein neues Projekt. Das Projekt, von dem sie stammt, bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
+    </message>
+    <message>
+        <source>Choose a &amp;File…</source>
+        <translation>&amp;Datei wählen…</translation>
+    </message>
+    <message>
+        <source>Restore as New Project</source>
+        <translation>Als neues Projekt wiederherstellen</translation>
+    </message>
+    <message>
+        <source>No backup is chosen.</source>
+        <translation>Keine Sicherung gewählt.</translation>
+    </message>
+    <message>
+        <source>From %1</source>
+        <translation>Aus %1</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::review::ConflictModel</name>
     <message>
         <source>Keep my version</source>
@@ -2147,6 +3099,242 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::settings::AppearancePage</name>
+    <message>
+        <source>The system&apos;s language</source>
+        <translation>Sprache des Systems</translation>
+    </message>
+    <message>
+        <source>Follow the system</source>
+        <translation>Dem System folgen</translation>
+    </message>
+    <message>
+        <source>&amp;Theme</source>
+        <translation>&amp;Farbschema</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Vellory uses it from the next start on.</source>
+        <translation>Vellory verwendet sie ab dem nächsten Start.</translation>
+    </message>
+    <message>
+        <source>Text &amp;size</source>
+        <translation>Te&amp;xtgröße</translation>
+    </message>
+    <message>
+        <source>&amp;Reduce motion: the text cursor does not blink</source>
+        <translation>&amp;Bewegung verringern: Die Schreibmarke blinkt nicht</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::settings::EditorPage</name>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source> characters</source>
+        <translation> Zeichen</translation>
+    </message>
+    <message>
+        <source> lines</source>
+        <translation> Zeilen</translation>
+    </message>
+    <message>
+        <source>Page &amp;font</source>
+        <translation>Seiten&amp;schrift</translation>
+    </message>
+    <message>
+        <source>&amp;Size</source>
+        <translation>Schrift&amp;größe</translation>
+    </message>
+    <message>
+        <source>Page &amp;width</source>
+        <translation>Seiten&amp;breite</translation>
+    </message>
+    <message>
+        <source>&amp;Line height</source>
+        <translation>&amp;Zeilenhöhe</translation>
+    </message>
+    <message>
+        <source>&amp;Restore Defaults</source>
+        <translation>Z&amp;urücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::settings::KeysModel</name>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::settings::KeysPage</name>
+    <message>
+        <source>Search commands and keys</source>
+        <translation>Befehle und Tasten suchen</translation>
+    </message>
+    <message>
+        <source>Commands and their keys</source>
+        <translation>Befehle und ihre Tasten</translation>
+    </message>
+    <message>
+        <source>New &amp;keys</source>
+        <translation>Neue &amp;Tasten</translation>
+    </message>
+    <message>
+        <source>New keys</source>
+        <translation>Neue Tasten</translation>
+    </message>
+    <message>
+        <source>Press the keys here</source>
+        <translation>Drücken Sie hier die Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;Assign</source>
+        <translation>&amp;Zuweisen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Keys</source>
+        <translation>Tasten entfe&amp;rnen</translation>
+    </message>
+    <message>
+        <source>R&amp;eset This One</source>
+        <translation>&amp;Diesen zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset A&amp;ll…</source>
+        <translation>&amp;Alle zurücksetzen…</translation>
+    </message>
+    <message>
+        <source>Reset All Keys</source>
+        <translation>Alle Tasten zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Every command gets back the keys it came with. Your own ones are given up.</source>
+        <translation>Jeder Befehl erhält die Tasten zurück, die er zu Beginn hatte. Ihre eigenen gehen verloren.</translation>
+    </message>
+    <message>
+        <source>Reset All</source>
+        <translation>Alle zurücksetzen</translation>
+    </message>
+    <message>
+        <source>%1 belongs to “%2” in the menu %3, which would lose it.</source>
+        <translation>%1 gehört zu „%2“ im Menü „%3“, das die Tasten damit verlöre.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::settings::SavingPage</name>
+    <message>
+        <source>Save &amp;by itself while I write</source>
+        <translation>Beim Schreiben von selbst &amp;speichern</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> Sekunden</translation>
+    </message>
+    <message>
+        <source>&amp;Every</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>Keep new projects as &amp;folders</source>
+        <translation>Neue Projekte als &amp;Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>Off (recommended): the project is one .vellory file you can copy, back up, and double-click. On: the project is a folder of plain text files, ideal under Git, Perforce, or a sync client.</source>
+        <translation>Aus (empfohlen): Das Projekt ist eine einzige .vellory-Datei, die Sie kopieren, sichern und per Doppelklick öffnen können. Ein: Das Projekt ist ein Ordner mit einfachen Textdateien, ideal unter Git, Perforce oder einem Synchronisierungsprogramm.</translation>
+    </message>
+    <message>
+        <source>&amp;Open the last project when Vellory starts</source>
+        <translation>Beim Start das &amp;letzte Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Bac&amp;kups are kept in</source>
+        <translation>Ordner der Si&amp;cherungen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::settings::SettingsDialog</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Pages of the settings</source>
+        <translation>Seiten der Einstellungen</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Saving</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::settings::Shortcuts</name>
+    <message>
+        <source>%1 › %2</source>
+        <translation>%1 › %2</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::shell::AboutDialog</name>
+    <message>
+        <source>About Vellory</source>
+        <translation>Über Vellory</translation>
+    </message>
+    <message>
+        <source>Vellory %1</source>
+        <translation>Vellory %1</translation>
+    </message>
+    <message>
+        <source>A writing and worldbuilding workspace for novelists, screenwriters and game masters.</source>
+        <translation>Ein Arbeitsplatz zum Schreiben und Weltenbauen für alle, die Romane, Drehbücher und Spielwelten schreiben.</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later.</source>
+        <translation>Freie Software unter der GNU General Public License, Version 3 oder neuer.</translation>
+    </message>
+    <message>
+        <source>Built with Qt %1, Qt Advanced Docking System and simdjson.</source>
+        <translation>Gebaut mit Qt %1, Qt Advanced Docking System und simdjson.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::shell::DockLayout</name>
     <message>
         <source>Reset Layout</source>
@@ -2156,56 +3344,20 @@
 <context>
     <name>tw::desktop::shell::MainWindow</name>
     <message>
+        <source>Choose a document in the manuscript or an entity in the codex.</source>
+        <translation>Wählen Sie ein Dokument im Manuskript oder einen Eintrag im Kodex.</translation>
+    </message>
+    <message>
+        <source>Autosave failed: %1</source>
+        <translation>Automatisches Speichern fehlgeschlagen: %1</translation>
+    </message>
+    <message>
         <source>Vellory</source>
         <translation>Vellory</translation>
     </message>
     <message>
         <source>%1[*] – Vellory</source>
         <translation>%1[*] – Vellory</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>&amp;Windows</source>
-        <translation>&amp;Fenster</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;New Project…</source>
-        <translation>&amp;Neues Projekt…</translation>
-    </message>
-    <message>
-        <source>&amp;Open Project…</source>
-        <translation>Projekt ö&amp;ffnen…</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>&amp;Zuletzt geöffnet</translation>
-    </message>
-    <message>
-        <source>Open the Sa&amp;mple</source>
-        <translation>&amp;Beispiel öffnen</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>Speichern &amp;unter…</translation>
-    </message>
-    <message>
-        <source>Read Anew from &amp;Disk</source>
-        <translation>Neu von der Festplatte &amp;lesen</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>B&amp;eenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -2240,20 +3392,12 @@
         <translation>&amp;Einfügen</translation>
     </message>
     <message>
-        <source>&amp;Codex</source>
-        <translation>&amp;Kodex</translation>
-    </message>
-    <message>
         <source>F&amp;ormat</source>
         <translation>F&amp;ormat</translation>
     </message>
     <message>
         <source>Page &amp;Font…</source>
         <translation>Seiten&amp;schrift…</translation>
-    </message>
-    <message>
-        <source>Page Font</source>
-        <translation>Seitenschrift</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -2300,6 +3444,106 @@
         <translation>Voll&amp;bild</translation>
     </message>
     <message>
+        <source>Undo %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Windows</source>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New Project…</source>
+        <translation>&amp;Neues Projekt…</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project…</source>
+        <translation>Projekt ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Open Project &amp;Folder…</source>
+        <translation>Projekt&amp;ordner öffnen…</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Open the Sa&amp;mple</source>
+        <translation>&amp;Beispiel öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>Reload from &amp;Disk</source>
+        <translation>Neu von der Festplatte &amp;laden</translation>
+    </message>
+    <message>
+        <source>&amp;Check for External Changes…</source>
+        <translation>Auf Änderungen von außen &amp;prüfen…</translation>
+    </message>
+    <message>
+        <source>Show the &amp;Welcome Page</source>
+        <translation>&amp;Willkommensseite zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>B&amp;eenden</translation>
+    </message>
+    <message>
+        <source>&amp;Project</source>
+        <translation>&amp;Projekt</translation>
+    </message>
+    <message>
+        <source>Project &amp;Settings…</source>
+        <translation>Projekt&amp;einstellungen…</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up Project</source>
+        <translation>Projekt &amp;sichern</translation>
+    </message>
+    <message>
+        <source>&amp;Restore from a Backup…</source>
+        <translation>Aus einer Sicherung &amp;wiederherstellen…</translation>
+    </message>
+    <message>
+        <source>Show Backups &amp;Folder</source>
+        <translation>&amp;Ordner der Sicherungen zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Einstellungen…</translation>
+    </message>
+    <message>
+        <source>&amp;Codex</source>
+        <translation>&amp;Kodex</translation>
+    </message>
+    <message>
+        <source>&amp;Import Content Pack…</source>
+        <translation>Inhaltspaket &amp;importieren…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Content Pack…</source>
+        <translation>Inhaltspaket e&amp;xportieren…</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
@@ -2308,24 +3552,8 @@
         <translation>Ü&amp;ber Vellory</translation>
     </message>
     <message>
-        <source>About Vellory</source>
-        <translation>Über Vellory</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Vellory %1&lt;/h3&gt;&lt;p&gt;A writing and worldbuilding workspace for novelists, screenwriters and game masters.&lt;/p&gt;&lt;p&gt;Free software under the GNU General Public License, version 3 or later.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Vellory %1&lt;/h3&gt;&lt;p&gt;Ein Arbeitsplatz zum Schreiben und Weltenbauen für Roman- und Drehbuchautoren und Spielleiter.&lt;/p&gt;&lt;p&gt;Freie Software unter der GNU General Public License, Version 3 oder neuer.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Nothing opened yet</source>
         <translation>Noch nichts geöffnet</translation>
-    </message>
-    <message>
-        <source>Undo %1</source>
-        <translation>Rückgängig: %1</translation>
-    </message>
-    <message>
-        <source>Redo %1</source>
-        <translation>Wiederholen: %1</translation>
     </message>
     <message>
         <source>Manuscript</source>
@@ -2338,14 +3566,6 @@
     <message>
         <source>Inspector</source>
         <translation>Inspektor</translation>
-    </message>
-    <message>
-        <source>&amp;Check for External Changes…</source>
-        <translation>Auf Änderungen von außen &amp;prüfen…</translation>
-    </message>
-    <message>
-        <source>Choose a document in the manuscript or an entity in the codex.</source>
-        <translation>Wählen Sie ein Dokument im Manuskript oder einen Eintrag im Kodex.</translation>
     </message>
 </context>
 <context>
@@ -2397,36 +3617,12 @@
         <translation>Neues Projekt</translation>
     </message>
     <message>
-        <source>What is the project called?</source>
-        <translation>Wie heißt das Projekt?</translation>
-    </message>
-    <message>
-        <source>Untitled</source>
-        <translation>Ohne Titel</translation>
-    </message>
-    <message>
         <source>Saved.</source>
         <translation>Gespeichert.</translation>
     </message>
     <message>
         <source>Save Project</source>
         <translation>Projekt speichern</translation>
-    </message>
-    <message>
-        <source>Save Project As a Folder</source>
-        <translation>Projekt als Ordner speichern</translation>
-    </message>
-    <message>
-        <source>Read the Project Anew</source>
-        <translation>Projekt neu lesen</translation>
-    </message>
-    <message>
-        <source>“%1” has changes that are not saved. Reading it anew from disk drops them.</source>
-        <translation>„%1“ hat Änderungen, die nicht gespeichert sind. Wenn es neu von der Festplatte gelesen wird, gehen sie verloren.</translation>
-    </message>
-    <message>
-        <source>Drop Changes</source>
-        <translation>Änderungen verwerfen</translation>
     </message>
     <message>
         <source>Unsaved Changes</source>
@@ -2445,12 +3641,16 @@
         <translation>Änderungen verwerfen</translation>
     </message>
     <message>
-        <source>Autosave failed: %1</source>
-        <translation>Automatisches Speichern fehlgeschlagen: %1</translation>
-    </message>
-    <message>
         <source>Your unsaved changes are back. Save to keep them.</source>
         <translation>Ihre ungespeicherten Änderungen sind wieder da. Speichern Sie, um sie zu behalten.</translation>
+    </message>
+    <message>
+        <source>Reload Project</source>
+        <translation>Projekt neu laden</translation>
+    </message>
+    <message>
+        <source>“%1” has changes that are not saved. Reloading it from disk discards them.</source>
+        <translation>„%1“ hat Änderungen, die nicht gespeichert sind. Wenn es neu von der Festplatte geladen wird, gehen sie verloren.</translation>
     </message>
 </context>
 <context>
@@ -2526,10 +3726,6 @@
         <translation>Neues Projekt</translation>
     </message>
     <message>
-        <source>An empty manuscript and an empty world.</source>
-        <translation>Ein leeres Manuskript und eine leere Welt.</translation>
-    </message>
-    <message>
         <source>Open a project</source>
         <translation>Ein Projekt öffnen</translation>
     </message>
@@ -2548,6 +3744,34 @@
     <message>
         <source>The project is open already.</source>
         <translation>Das Projekt ist schon geöffnet.</translation>
+    </message>
+    <message>
+        <source>File %1</source>
+        <translation>Datei %1</translation>
+    </message>
+    <message>
+        <source>Folder %1</source>
+        <translation>Ordner %1</translation>
+    </message>
+    <message>
+        <source>A novel, a screenplay, a campaign, or an empty desk.</source>
+        <translation>Ein Roman, ein Drehbuch, eine Kampagne oder ein leerer Schreibtisch.</translation>
+    </message>
+    <message>
+        <source>A .vellory file, or a backup of one.</source>
+        <translation>Eine .vellory-Datei oder die Sicherung eines Projekts.</translation>
+    </message>
+    <message>
+        <source>Open a project folder</source>
+        <translation>Einen Projektordner öffnen</translation>
+    </message>
+    <message>
+        <source>%1 (missing)</source>
+        <translation>%1 (fehlt)</translation>
+    </message>
+    <message>
+        <source>Remove “%1” from this list</source>
+        <translation>„%1“ aus dieser Liste entfernen</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,23 @@
     </message>
 </context>
 <context>
+    <name>PackTransfer</name>
+    <message numerus="yes">
+        <source>Added %n categories: %1</source>
+        <translation>
+            <numerusform>Added %n category: %1</numerusform>
+            <numerusform>Added %n categories: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out %n categories that are here already: %1</source>
+        <translation>
+            <numerusform>Left out %n category that is here already: %1</numerusform>
+            <numerusform>Left out %n categories that are here already: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::codex::CodexPanel</name>
     <message numerus="yes">
         <source>Removed %n things from the codex. Undo brings them back.</source>
@@ -62,6 +79,33 @@
         <translation>
             <numerusform>Removed %n document with all that was in it. Undo brings it back.</numerusform>
             <numerusform>Removed %n documents with all that was in them. Undo brings them back.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::project::ExportPackDialog</name>
+    <message numerus="yes">
+        <source>%n categories go into the pack, those that they need included.</source>
+        <translation>
+            <numerusform>%n category goes into the pack.</numerusform>
+            <numerusform>%n categories go into the pack, those that they need included.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::project::ProjectSettingsDialog</name>
+    <message numerus="yes">
+        <source>“%1” is an audience of %n things.</source>
+        <translation>
+            <numerusform>“%1” is an audience of %n thing.</numerusform>
+            <numerusform>“%1” is an audience of %n things.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them name no other audience, so everyone would see them.</source>
+        <translation>
+            <numerusform>%n of them names no other audience, so everyone would see it.</numerusform>
+            <numerusform>%n of them name no other audience, so everyone would see them.</numerusform>
         </translation>
     </message>
 </context>

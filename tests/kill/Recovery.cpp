@@ -25,27 +25,6 @@ FileVersion onDisk(const Workspace& workspace, const QString& path)
     return disk.contains(path) ? FileVersion(disk.bytes(path)) : FileVersion();
 }
 
-/** The files as they are with the journals applied one after another. */
-Result<std::map<QString, FileVersion>> restore(
-    OpenedProject& opened, const std::vector<AbandonedJournal>& journals)
-{
-    std::map<QString, FileVersion> files;
-    for (const AbandonedJournal& journal : journals) {
-        auto plan = app::persistence::planRestore(journal.content(), [&](const QString& path) {
-            const auto restored = files.find(path);
-            return restored != files.end() ? restored->second : onDisk(*opened.workspace, path);
-        });
-        opened.overridden += plan.overridden;
-        for (auto& [path, bytes] : plan.files)
-            files.insert_or_assign(path, std::move(bytes));
-    }
-    if (!files.empty()) {
-        if (auto restored = opened.workspace->restoreUnsaved(files); !restored)
-            return Failure{restored.message()};
-    }
-    return files;
-}
-
 } // namespace
 
 Result<OpenedProject> openAndRecover(
@@ -58,13 +37,17 @@ Result<OpenedProject> openAndRecover(
     const QString& place = opened.workspace->displayPath();
     auto journals = AbandonedJournal::find(environment, place);
     opened.abandonedJournals = std::ssize(journals);
-    const auto restored = restore(opened, journals);
-    if (!restored)
-        return Failure{restored.message()};
+    const auto restore = app::persistence::planRestore(
+        journals, [&](const QString& path) { return onDisk(*opened.workspace, path); });
+    opened.overridden = restore.overridden;
+    if (!restore.isEmpty()) {
+        if (auto restored = opened.workspace->restoreUnsaved(restore.files); !restored)
+            return Failure{restored.message()};
+    }
 
     opened.journal = std::make_unique<CrashJournal>(environment, place);
     QList<JournalEdit> edits;
-    for (const auto& [path, bytes] : restored.value())
+    for (const auto& [path, bytes] : restore.files)
         edits.append({path, onDisk(*opened.workspace, path), bytes, {}});
     opened.journal->append(std::move(edits));
     if (auto noted = opened.journal->flush(); !noted)

@@ -79,12 +79,11 @@ Result<void> checkPlace(const NewPlace& place)
         return Failure{translated(QT_TRANSLATE_NOOP("NewPlace", "Give the project a name."))};
     const QString folder = place.folder.trimmed();
     if (folder.isEmpty() || QDir::isRelativePath(folder)) {
-        return Failure{
-            translated(QT_TRANSLATE_NOOP("NewPlace", "Choose the folder in which the project is to lie."))};
+        return Failure{translated(QT_TRANSLATE_NOOP("NewPlace", "Choose a folder for the project."))};
     }
     const QFileInfo info(folder);
     if (info.exists() && !info.isDir())
-        return failure(QT_TRANSLATE_NOOP("NewPlace", "%1 is no folder. Choose another place."), folder);
+        return failure(QT_TRANSLATE_NOOP("NewPlace", "%1 is not a folder. Choose another place."), folder);
     if (info.exists() && !info.isWritable()) {
         return failure(
             QT_TRANSLATE_NOOP("NewPlace", "Nothing can be written in %1. Choose another place."), folder);
@@ -97,8 +96,8 @@ Result<void> checkPlace(const NewPlace& place)
     if (const QString path = pathOf(place); QFileInfo::exists(path)) {
         return failure(
             QT_TRANSLATE_NOOP(
-                "NewPlace",
-                "There is something at %1 already, and it stays. Choose another name or another place."),
+                "NewPlace", "There is already something at %1, and it is not replaced. Choose another name "
+                            "or another place."),
             path);
     }
     return {};

@@ -41,7 +41,7 @@ bool settleEarlierPack(const QString& folder, QWidget* parent)
         return true;
     return shell::ask(
                parent, {PackTransfer::tr("Export Content Pack"),
-                        PackTransfer::tr("There is a content pack at %1 already.")
+                        PackTransfer::tr("There is already a content pack at %1.")
                             .arg(QDir::toNativeSeparators(folder)),
                         {{PackTransfer::tr("Replace the Pack"), QMessageBox::DestructiveRole}}})
         .has_value();

@@ -32,12 +32,13 @@ PlaceRows::PlaceRows(const shell::DeskContext& desk, QFormLayout& form, QWidget*
     auto* const place = new QHBoxLayout;
     place->addWidget(m_folder, 1);
     auto* const choose = new QPushButton(tr("&Choose…"), dialog);
-    choose->setToolTip(tr("Choose the folder in which the project is to lie"));
+    choose->setToolTip(tr("Choose a folder for the project"));
     choose->setAutoDefault(false);
     place->addWidget(choose);
-    form.addRow(tr("&Place"), place);
-    // A label stands for one control, and this row has two.
-    qobject_cast<QLabel*>(form.labelForField(place))->setBuddy(m_folder);
+    auto* const placeLabel = new QLabel(tr("&Place"), dialog);
+    placeLabel->setBuddy(m_folder);
+    form.addRow(placeLabel, place);
+    m_folder->setAccessibleName(tr("Place"));
     addFormChoice(form);
     form.addRow(QString(), m_note);
     m_note->setObjectName(u"placeNote"_s);

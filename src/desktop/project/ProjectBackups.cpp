@@ -78,7 +78,7 @@ void ProjectBackups::revealFolder()
     if (!isShown) {
         shell::tell(
             m_window, tr("Backups Folder"),
-            tr("The folder could not be shown. It lies at:\n%1").arg(QDir::toNativeSeparators(folder)));
+            tr("The folder could not be shown. It is here:\n%1").arg(QDir::toNativeSeparators(folder)));
     }
 }
 

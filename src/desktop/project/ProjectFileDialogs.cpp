@@ -77,7 +77,7 @@ QString askForSavePath(const QSettings& settings, const QString& name, QWidget* 
             return path;
         const shell::Question question{
             translated(QT_TRANSLATE_NOOP("ProjectFileDialogs", "Save Project As")),
-            translated(QT_TRANSLATE_NOOP("ProjectFileDialogs", "There is a file at %1 already."))
+            translated(QT_TRANSLATE_NOOP("ProjectFileDialogs", "There is already a file at %1."))
                 .arg(QDir::toNativeSeparators(path)),
             {{translated(QT_TRANSLATE_NOOP("ProjectFileDialogs", "Choose Another Name"))},
              {translated(QT_TRANSLATE_NOOP("ProjectFileDialogs", "Replace the File")),

@@ -57,7 +57,7 @@ ProjectSettingsDialog::ProjectSettingsDialog(
     audiencesNote->setNote(tr("What is new is visible to the ticked ones; with none ticked, to everyone."));
     auto* const librariesNote = new fields::NoteLabel(desk.themes, this);
     librariesNote->setNote(
-        tr("Other projects whose entries can be referred to from this one. They are only read."));
+        tr("Other projects whose entities can be referred to from this one. They are only read."));
     auto* const form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("&Name"), m_name);
@@ -112,8 +112,8 @@ void ProjectSettingsDialog::removeAudience(int row)
     if (use.objects > 0) {
         QString text = tr("“%1” is an audience of %n things.", nullptr, use.objects).arg(original);
         if (use.alone > 0) {
-            text +=
-                u' ' + tr("Everyone would see %n of them, which name no other audience.", nullptr, use.alone);
+            text += u' ' +
+                    tr("%n of them name no other audience, so everyone would see them.", nullptr, use.alone);
         }
         const shell::Question question{
             tr("Remove Audience"), text, {{tr("Remove Audience"), QMessageBox::DestructiveRole}}};
@@ -159,7 +159,7 @@ void ProjectSettingsDialog::chooseLibrary(const QString& path)
     for (const LibraryMount& mount : settings().libraries) {
         if (mount.path == kept) {
             m_note->setNote(
-                tr("%1 is in the list already.").arg(QDir::toNativeSeparators(path)),
+                tr("%1 is already in the list.").arg(QDir::toNativeSeparators(path)),
                 fields::NoteLabel::Tone::Error);
             return;
         }

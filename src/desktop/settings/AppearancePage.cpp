@@ -85,7 +85,7 @@ void AppearancePage::addLanguage(QFormLayout& form)
     connect(languages, &QComboBox::activated, this, [this, languages, note, present] {
         const QString chosen = languages->currentData().toString();
         m_desk.settings.setValue(languageKey, chosen);
-        note->setNote(chosen == present ? QString() : tr("Vellory speaks it from the next start on."));
+        note->setNote(chosen == present ? QString() : tr("Vellory uses it from the next start on."));
     });
     form.addRow(tr("&Language"), languages);
     form.addRow(QString(), note);
@@ -104,12 +104,12 @@ void AppearancePage::addTextSize(QFormLayout& form)
     connect(size, &QSpinBox::valueChanged, this, [this](int percent) {
         m_desk.themes.setFontScale(qreal(percent) / wholePercent);
     });
-    form.addRow(tr("&Size of texts"), size);
+    form.addRow(tr("Text &size"), size);
 }
 
 void AppearancePage::addMotion(QFormLayout& form)
 {
-    auto* const motion = new QCheckBox(tr("&Reduce motion: the text cursor stands still"), this);
+    auto* const motion = new QCheckBox(tr("&Reduce motion: the text cursor does not blink"), this);
     motion->setObjectName(u"reduceMotion"_s);
     motion->setChecked(m_desk.themes.isMotionReduced());
     connect(motion, &QCheckBox::toggled, &m_desk.themes, &theme::ThemeManager::setMotionReduced);

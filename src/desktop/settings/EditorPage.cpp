@@ -41,7 +41,7 @@ EditorPage::EditorPage(const shell::DeskContext& desk, QWidget* parent)
     m_lineHeight->setSingleStep(lineStep);
     m_lineHeight->setDecimals(1);
     m_lineHeight->setSuffix(tr(" lines"));
-    auto* const reset = new QPushButton(tr("As It &Came"), this);
+    auto* const reset = new QPushButton(tr("&Restore Defaults"), this);
     reset->setAutoDefault(false);
 
     auto* const form = new QFormLayout(this);

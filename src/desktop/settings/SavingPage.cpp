@@ -84,7 +84,7 @@ void SavingPage::addForm(QFormLayout& form)
 
 void SavingPage::addStart(QFormLayout& form)
 {
-    auto* const reopen = new QCheckBox(tr("&Open the last project at the start"), this);
+    auto* const reopen = new QCheckBox(tr("&Open the last project when Vellory starts"), this);
     reopen->setObjectName(u"reopenLast"_s);
     reopen->setChecked(m_desk.settings.value(reopenKey, u"true"_s).toString() == u"true");
     connect(reopen, &QCheckBox::toggled, this, [this](bool isOn) {
@@ -99,7 +99,7 @@ void SavingPage::addBackups(QFormLayout& form)
     auto* const place = new QLineEdit(QDir::toNativeSeparators(folder), this);
     place->setReadOnly(true);
     place->setCursorPosition(0);
-    form.addRow(tr("Bac&kups lie in"), place);
+    form.addRow(tr("Bac&kups are kept in"), place);
 }
 
 } // namespace tw::desktop::settings

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/settings/SettingsPage.h"
 #include "desktop/shell/DeskContext.h"
 
 #include <QDialog>
@@ -10,14 +11,6 @@ class QStackedWidget;
 namespace tw::desktop::settings {
 
 class Shortcuts;
-
-enum class SettingsPage : qint32
-{
-    Appearance = 0,
-    Editor = 1,
-    Saving = 2,
-    Keys = 3,
-};
 
 /** What the user sets for the program. Everything takes effect at once. */
 class SettingsDialog final : public QDialog

@@ -59,16 +59,20 @@ Choice askWhatToDo(const ProjectSession& session, const JournalRestore& restore,
     return *answer == 0 ? Choice::BringBack : Choice::Discard;
 }
 
-core::Result<void> bringBack(ProjectSession& session, CrashKeeper& keeper, const JournalRestore& restore)
+FileVersion onDisk(const ProjectSession& session, const QString& path)
+{
+    const auto& disk = session.workspace().diskState();
+    return disk.contains(path) ? FileVersion(disk.bytes(path)) : FileVersion();
+}
+
+/** Fails with the project as it was; the journals are still needed then. */
+core::Result<void> bringBack(ProjectSession& session, const JournalRestore& restore)
 {
     if (!restore.overridden.isEmpty()) {
         if (const auto backup = session.workspace().backup(QDateTime::currentDateTime()); !backup)
             return core::Failure{backup.message()};
     }
-    auto restored = session.restoreUnsaved(restore.files);
-    if (restored)
-        keeper.noteRestored(restore.files);
-    return restored;
+    return session.restoreUnsaved(restore.files);
 }
 
 } // namespace
@@ -76,28 +80,26 @@ core::Result<void> bringBack(ProjectSession& session, CrashKeeper& keeper, const
 bool recoverAfterCrash(ProjectSession& session, CrashKeeper& keeper, QWidget* window)
 {
     const auto& workspace = session.workspace();
-    bool isRestored = false;
-    for (AbandonedJournal& journal :
-         AbandonedJournal::find(workspace.environment(), workspace.displayPath())) {
-        const auto present = [&](const QString& path) {
-            const auto& disk = session.workspace().diskState();
-            return disk.contains(path) ? FileVersion(disk.bytes(path)) : FileVersion();
-        };
-        const JournalRestore restore = app::persistence::planRestore(journal.content(), present);
-        const Choice choice = restore.isEmpty() ? Choice::Discard : askWhatToDo(session, restore, window);
-        if (choice == Choice::BringBack) {
-            if (const auto restored = bringBack(session, keeper, restore); !restored) {
-                tell(
-                    window, translated(QT_TRANSLATE_NOOP("CrashRecovery", "Unsaved Changes Found")),
-                    restored.message());
-                continue;
-            }
-            isRestored = true;
+    auto journals = AbandonedJournal::find(workspace.environment(), workspace.displayPath());
+    const JournalRestore restore = app::persistence::planRestore(
+        journals, [&session](const QString& path) { return onDisk(session, path); });
+    const Choice choice = restore.isEmpty() ? Choice::Discard : askWhatToDo(session, restore, window);
+    if (choice == Choice::Later)
+        return false;
+    if (choice == Choice::BringBack) {
+        if (const auto restored = bringBack(session, restore); !restored) {
+            tell(
+                window, translated(QT_TRANSLATE_NOOP("CrashRecovery", "Unsaved Changes Found")),
+                restored.message());
+            return false;
         }
-        if (choice != Choice::Later)
-            journal.remove();
+        // Until they stand in the new journal, the old ones are all there is of them.
+        if (!keeper.noteRestored(restore.files))
+            return true;
     }
-    return isRestored;
+    for (AbandonedJournal& journal : journals)
+        journal.remove();
+    return choice == Choice::BringBack;
 }
 
 } // namespace tw::desktop::shell

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/icons/Icon.h"
+#include "desktop/settings/SettingsPage.h"
 #include "desktop/shell/DeskContext.h"
 
 #include <QMainWindow>
@@ -19,8 +20,7 @@ class ManuscriptPanel;
 
 namespace tw::desktop::settings {
 class Shortcuts;
-enum class SettingsPage : qint32;
-} // namespace tw::desktop::settings
+}
 
 namespace tw::desktop::shell {
 

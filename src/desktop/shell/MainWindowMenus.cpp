@@ -85,8 +85,7 @@ void MainWindow::buildFileMenu()
             menu, u"file.saveAs"_s, Icon::Export, tr("Save &As…"),
             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), [this] { m_life->saveAs(); }),
         addAction(
-            menu, u"file.reload"_s, Icon::Refresh, tr("Read Anew from &Disk"), {},
-            [this] { m_life->reload(); }),
+            menu, u"file.reload"_s, Icon::Refresh, tr("Reload from &Disk"), {}, [this] { m_life->reload(); }),
         addAction(
             menu, u"file.checkExternalChanges"_s, Icon::Search, tr("&Check for External Changes…"), {},
             [this] { m_life->externalChanges().check(); }),
@@ -112,7 +111,7 @@ void MainWindow::buildProjectMenu()
     addAction(menu, u"project.restore"_s, Icon::History, tr("&Restore from a Backup…"), {}, [&backups] {
         backups.chooseAndRestore();
     });
-    addAction(menu, u"project.revealBackups"_s, Icon::Folder, tr("Reveal Backups &Folder"), {}, [&backups] {
+    addAction(menu, u"project.revealBackups"_s, Icon::Folder, tr("Show Backups &Folder"), {}, [&backups] {
         backups.revealFolder();
     });
 }

@@ -191,16 +191,16 @@ void ProjectLife::reload()
 {
     if (m_desk.session.isModified()) {
         const Question question{
-            tr("Read the Project Anew"),
-            tr("“%1” has changes that are not saved. Reading it anew from disk drops them.")
+            tr("Reload Project"),
+            tr("“%1” has changes that are not saved. Reloading it from disk discards them.")
                 .arg(m_desk.session.workspace().displayName()),
-            {{tr("Drop Changes"), QMessageBox::DestructiveRole}},
+            {{tr("Discard Changes"), QMessageBox::DestructiveRole}},
         };
         if (!ask(m_window, question))
             return;
     }
     if (const auto reloaded = m_desk.session.reload(); !reloaded)
-        tell(m_window, tr("Read the Project Anew"), reloaded.message());
+        tell(m_window, tr("Reload Project"), reloaded.message());
     else
         tellOpeningNotice();
 }

@@ -114,7 +114,12 @@ WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* p
 
     auto* const outer = new QVBoxLayout(this);
     outer->addStretch(2);
-    outer->addWidget(column, 0, Qt::AlignHCenter);
+    // An alignment would have the height reckoned for the width of the whole page, where no line breaks.
+    auto* const centered = new QHBoxLayout;
+    centered->addStretch();
+    centered->addWidget(column);
+    centered->addStretch();
+    outer->addLayout(centered);
     outer->addStretch(3);
 }
 

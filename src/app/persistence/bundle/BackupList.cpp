@@ -95,7 +95,7 @@ Result<void> restoreBackup(
         return failedPlace(
             QT_TRANSLATE_NOOP(
                 "Persistence",
-                "There is something at %1 already, and it stays. Choose another name or folder."),
+                "There is already something at %1, and it is not replaced. Choose another name or folder."),
             projectPath);
     }
     const auto archive = readArchive(environment.fileSystem, backupPath);

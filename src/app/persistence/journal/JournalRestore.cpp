@@ -44,4 +44,21 @@ JournalRestore planRestore(
     return restore;
 }
 
+JournalRestore planRestore(
+    const std::vector<AbandonedJournal>& journals,
+    const std::function<FileVersion(const QString& path)>& present)
+{
+    JournalRestore all;
+    for (const AbandonedJournal& journal : journals) {
+        JournalRestore restore = planRestore(journal.content(), [&](const QString& path) {
+            const auto restored = all.files.find(path);
+            return restored != all.files.end() ? restored->second : present(path);
+        });
+        all.overridden += restore.overridden;
+        for (auto& [path, bytes] : restore.files)
+            all.files.insert_or_assign(path, std::move(bytes));
+    }
+    return all;
+}
+
 } // namespace tw::app::persistence

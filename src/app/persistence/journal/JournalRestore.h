@@ -1,10 +1,12 @@
 #pragma once
 
+#include "app/persistence/journal/CrashJournal.h"
 #include "app/persistence/journal/JournalFile.h"
 
 #include <QStringList>
 
 #include <functional>
+#include <vector>
 
 namespace tw::app::persistence {
 
@@ -25,5 +27,10 @@ struct JournalRestore
  */
 [[nodiscard]] JournalRestore planRestore(
     const Journal& journal, const std::function<FileVersion(const QString& path)>& present);
+
+/** The same for several journals, applied one after another. */
+[[nodiscard]] JournalRestore planRestore(
+    const std::vector<AbandonedJournal>& journals,
+    const std::function<FileVersion(const QString& path)>& present);
 
 } // namespace tw::app::persistence

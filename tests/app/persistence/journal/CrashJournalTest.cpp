@@ -40,14 +40,14 @@ protected:
     /** What is found of a project after a crash: path to content, all journals together. */
     std::map<QString, QByteArray> found(const QString& project = u"/books/tide"_s) const
     {
-        std::map<QString, QByteArray> files;
+        std::map<QString, QByteArray> contents;
         for (const AbandonedJournal& journal : AbandonedJournal::find(environment, project)) {
             for (const auto& [path, file] : journal.content().files) {
                 EXPECT_EQ(file.base, FileVersion("base of " + path.toUtf8()));
-                files.insert_or_assign(path, file.bytes.value_or("(gone)"));
+                contents.insert_or_assign(path, file.bytes.value_or("(gone)"));
             }
         }
-        return files;
+        return contents;
     }
 
     QStringList names() const { return QDir(journals()).entryList(QDir::Files); }

@@ -68,7 +68,7 @@ TEST(JournalFile, isReadUpToTheTornEndWhereverThatIs)
             ASSERT_EQ(journal.isOk(), size >= ends.first());
             if (!journal)
                 continue;
-            const auto whole = std::ranges::count_if(ends, [size](qsizetype whole) { return whole <= size; });
+            const auto whole = std::ranges::count_if(ends, [size](qsizetype end) { return end <= size; });
             EXPECT_EQ(std::ssize(journal.value().files), whole - 1);
             EXPECT_EQ(journal.value().readableSize, ends.at(whole - 1));
         }

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QtGlobal>
+
+namespace tw::desktop::settings {
+
+/** The pages of the settings, in the order of their list. */
+enum class SettingsPage : qint32
+{
+    Appearance = 0,
+    Editor = 1,
+    Saving = 2,
+    Keys = 3,
+};
+
+} // namespace tw::desktop::settings
