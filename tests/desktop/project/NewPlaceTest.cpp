@@ -73,14 +73,14 @@ TEST_F(NewPlaceTest, onlyFreePlacesAreAccepted)
         {{u"new"_s, folder.filePath(u"not/there/yet"_s)}, {}},
         {place(u"taken"_s, ProjectForm::Folder), {}},
         {place(u"  "_s, ProjectForm::SingleFile), u"Give the project a name."_s},
-        {{u"new"_s, u""_s}, u"Choose the folder"_s},
-        {{u"new"_s, u"relative"_s}, u"Choose the folder"_s},
+        {{u"new"_s, u""_s}, u"Choose a folder"_s},
+        {{u"new"_s, u"relative"_s}, u"Choose a folder"_s},
         {{u"new"_s, folder.filePath(u"file"_s)},
          QDir::toNativeSeparators(folder.filePath(u"file"_s)) + u" is no"_s},
         {{u"new"_s, folder.filePath(u"other"_s)},
          QDir::toNativeSeparators(folder.filePath(u"other"_s)) + u" is the folder of another"_s},
-        {place(u"taken"_s, ProjectForm::SingleFile), u"There is something at"_s},
-        {place(u"empty"_s, ProjectForm::Folder), u"There is something at"_s},
+        {place(u"taken"_s, ProjectForm::SingleFile), u"There is already something at"_s},
+        {place(u"empty"_s, ProjectForm::Folder), u"There is already something at"_s},
     };
     for (const Case& each : cases) {
         const QString message = checkPlace(each.place).message();

@@ -131,7 +131,8 @@ TEST_F(ProjectLifeTest, aNewProjectNeverTakesThePlaceOfAnything)
         shown.findChild<QLineEdit*>(u"projectFolder"_s)->setText(QDir::toNativeSeparators(folder.path()));
         shown.findChild<QLineEdit*>(u"projectName"_s)->setText(u"Taken"_s);
         EXPECT_FALSE(shown.findChild<QPushButton*>(u"createProject"_s)->isEnabled());
-        EXPECT_TRUE(shown.findChild<QLabel*>(u"placeNote"_s)->text().startsWith(u"There is something at"_s));
+        EXPECT_TRUE(
+            shown.findChild<QLabel*>(u"placeNote"_s)->text().startsWith(u"There is already something at"_s));
         shown.reject();
     });
     window.life().startNew();

@@ -77,7 +77,7 @@ TEST_F(BackupListTest, restoresIntoBothFormsAndOverNothing)
     ASSERT_TRUE(QDir(m_folder.path()).mkdir(u"taken"_s));
     for (const QString& place : {u"taken.vellory"_s, u"taken"_s, u"new/again"_s}) {
         const auto refused = restoreBackup(m_environment, backup, path(place));
-        EXPECT_TRUE(refused.message().startsWith(u"There is something at "_s)) << place.toStdString();
+        EXPECT_TRUE(refused.message().startsWith(u"There is already something at "_s)) << place.toStdString();
     }
     EXPECT_EQ(content(path(u"taken.vellory"_s)), "theirs");
     EXPECT_TRUE(content(backup) == archive);
