@@ -103,13 +103,6 @@
             <numerusform>Vellory wurde beim letzten Mal nicht ordnungsgemäß beendet. Änderungen an %n Teilen von „%1“ wurden festgehalten, aber nicht gespeichert. Möchten Sie sie zurückholen?</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%n of them were changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</source>
-        <translation>
-            <numerusform>%n davon hat sich seither auch auf der Festplatte geändert. Dort steht danach Ihre Fassung; das Projekt, wie es auf der Festplatte ist, wird zuvor gesichert.</numerusform>
-            <numerusform>%n davon haben sich seither auch auf der Festplatte geändert. Dort steht danach Ihre Fassung; das Projekt, wie es auf der Festplatte ist, wird zuvor gesichert.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Unsaved Changes Found</source>
         <translation>Ungespeicherte Änderungen gefunden</translation>
@@ -121,6 +114,13 @@
     <message>
         <source>Discard</source>
         <translation>Verwerfen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of them have changed on disk since then, too. Your version takes their place; the project as it is on disk is backed up first.</source>
+        <translation>
+            <numerusform>%n davon hat sich seither auch auf der Festplatte geändert. Ihre Fassung tritt an deren Stelle; das Projekt, wie es auf der Festplatte ist, wird zuvor gesichert.</numerusform>
+            <numerusform>%n davon haben sich seither auch auf der Festplatte geändert. Ihre Fassung tritt an deren Stelle; das Projekt, wie es auf der Festplatte ist, wird zuvor gesichert.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -11,10 +11,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n of them were changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</source>
+        <source>%n of them have changed on disk since then, too. Your version takes their place; the project as it is on disk is backed up first.</source>
         <translation>
-            <numerusform>%n of them was changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</numerusform>
-            <numerusform>%n of them were changed on disk as well since then. Your version will stand there, and the project as it is on disk is backed up first.</numerusform>
+            <numerusform>%n of them has changed on disk since then, too. Your version takes its place; the project as it is on disk is backed up first.</numerusform>
+            <numerusform>%n of them have changed on disk since then, too. Your version takes their place; the project as it is on disk is backed up first.</numerusform>
         </translation>
     </message>
 </context>

@@ -44,8 +44,8 @@ Choice askWhatToDo(const ProjectSession& session, const JournalRestore& restore,
             QStringLiteral("\n\n") +
             translated(
                 QT_TRANSLATE_N_NOOP(
-                    "CrashRecovery", "%n of them were changed on disk as well since then. Your version will "
-                                     "stand there, and the project as it is on disk is backed up first."),
+                    "CrashRecovery", "%n of them have changed on disk since then, too. Your version takes "
+                                     "their place; the project as it is on disk is backed up first."),
                 static_cast<int>(restore.overridden.size()));
     }
     const auto answer =
