@@ -58,7 +58,6 @@ InspectorPanel::InspectorPanel(const shell::DeskContext& desk, QWidget* parent)
     m_scroll->viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
     m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
