@@ -68,7 +68,8 @@ TEST(JournalFile, isReadUpToTheTornEndWhereverThatIs)
             ASSERT_EQ(journal.isOk(), size >= ends.first());
             if (!journal)
                 continue;
-            const auto whole = std::ranges::count_if(ends, [size](qsizetype end) { return end <= size; });
+            const auto whole =
+                std::ranges::count_if(ends, [size](qsizetype recordEnd) { return recordEnd <= size; });
             EXPECT_EQ(std::ssize(journal.value().files), whole - 1);
             EXPECT_EQ(journal.value().readableSize, ends.at(whole - 1));
         }
