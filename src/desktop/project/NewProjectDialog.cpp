@@ -42,13 +42,14 @@ Icon iconOf(ProjectTemplate chosen)
 
 NewProjectDialog::NewProjectDialog(const shell::DeskContext& desk, const NewProject& start, QWidget* parent)
     : QDialog(parent)
-    , m_templates(new QListWidget(this))
     , m_description(new fields::NoteLabel(desk.themes, this))
 {
     setWindowTitle(tr("New Project"));
     auto* const form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    // The keyboard goes from the name downwards: in the order in which the controls are made.
     m_place = new PlaceRows(desk, *form, this);
+    m_templates = new QListWidget(this);
     fillTemplates(start.chosen);
     for (int row = 0; row < m_templates->count(); ++row) {
         QListWidgetItem& item = *m_templates->item(row);

@@ -42,7 +42,7 @@ private:
     void describeTemplate();
 
     PlaceRows* m_place = nullptr;
-    QListWidget* m_templates;
+    QListWidget* m_templates = nullptr;
     fields::NoteLabel* m_description;
 };
 

@@ -2,7 +2,6 @@
 
 #include "app/persistence/bundle/BackupList.h"
 #include "app/persistence/bundle/ProjectBundle.h"
-#include "app/persistence/bundle/WorkingCopy.h"
 #include "app/workspace/ProjectPlace.h"
 #include "desktop/project/NewPlace.h"
 #include "desktop/shell/Questions.h"
@@ -63,7 +62,8 @@ QString askForSavePath(const QSettings& settings, const QString& name, QWidget* 
     const QString fileFilter = translated(QT_TRANSLATE_NOOP("ProjectFileDialogs", "One file (*.vellory)"));
     const QString folderFilter = translated(QT_TRANSLATE_NOOP("ProjectFileDialogs", "A folder (*)"));
     QString filter = preferredForm(settings) == ProjectForm::Folder ? folderFilter : fileFilter;
-    QString suggestion = usualFolder(settings) + u'/' + app::persistence::safeFileName(name);
+    // A dialog that is given the path of a folder goes into it instead of suggesting its name.
+    QString suggestion = pathOf(withFreeName({name, usualFolder(settings), ProjectForm::Folder}));
     for (;;) {
         // Whether something is replaced is known only when the ending is.
         const QString chosen = QFileDialog::getSaveFileName(

@@ -129,7 +129,9 @@ TEST_F(ProjectLifeTest, aNewProjectNeverTakesThePlaceOfAnything)
     taken.close();
     const NextDialog<project::NewProjectDialog> dialog([&](project::NewProjectDialog& shown) {
         shown.findChild<QLineEdit*>(u"projectFolder"_s)->setText(QDir::toNativeSeparators(folder.path()));
-        shown.findChild<QLineEdit*>(u"projectName"_s)->setText(u"Taken"_s);
+        auto* const name = shown.findChild<QLineEdit*>(u"projectName"_s);
+        EXPECT_EQ(shown.focusWidget(), name) << "the name is what one types first";
+        name->setText(u"Taken"_s);
         EXPECT_FALSE(shown.findChild<QPushButton*>(u"createProject"_s)->isEnabled());
         EXPECT_TRUE(
             shown.findChild<QLabel*>(u"placeNote"_s)->text().startsWith(u"There is already something at"_s));
