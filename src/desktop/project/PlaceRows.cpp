@@ -75,6 +75,7 @@ void PlaceRows::setPlace(const NewPlace& place)
     m_folder->setText(QDir::toNativeSeparators(place.folder));
     m_form->button(static_cast<int>(place.form))->setChecked(true);
     m_name->selectAll();
+    m_name->setFocus();
     check();
 }
 

@@ -39,6 +39,23 @@ namespace {
 constexpr QSize firstSize{1440, 900};
 constexpr int messageTime = 6000;
 
+/** The first document with text; in a new project, the first that holds no others. Null for none. */
+core::ContentId firstDocumentToWriteIn(const core::project::Project& project)
+{
+    const core::document::DocumentTree tree = core::document::documentTree(project);
+    const auto roots = tree.find({});
+    core::ContentId firstLeaf;
+    for (const core::ContentId& root : roots == tree.end() ? std::vector<core::ContentId>() : roots->second) {
+        for (const core::ContentId& id : core::document::documentSubtree(project, root)) {
+            if (!project.findAs<core::document::Document>(id)->body().text.isEmpty())
+                return id;
+            if (firstLeaf.isNull() && !tree.contains(id))
+                firstLeaf = id;
+        }
+    }
+    return firstLeaf;
+}
+
 } // namespace
 
 MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
@@ -183,19 +200,9 @@ void MainWindow::sayLibraryNotices()
 
 void MainWindow::openFirstDocument()
 {
-    const auto& project = m_desk.session.project();
-    const core::document::DocumentTree tree = core::document::documentTree(project);
-    const auto roots = tree.find({});
-    if (roots == tree.end())
-        return;
-    for (const core::ContentId& root : roots->second) {
-        for (const core::ContentId& id : core::document::documentSubtree(project, root)) {
-            if (project.findAs<core::document::Document>(id)->body().text.isEmpty())
-                continue;
-            m_desk.navigator.open(id);
-            return;
-        }
-    }
+    const core::ContentId id = firstDocumentToWriteIn(m_desk.session.project());
+    if (!id.isNull())
+        m_desk.navigator.open(id);
 }
 
 QString MainWindow::projectKey(QStringView what) const
