@@ -48,7 +48,7 @@ TEST_F(NewPlaceTest, namesBecomeFitForFiles)
         {u"a/b\\c:d"_s, ProjectForm::SingleFile, u"a-b-c-d.vellory"_s},
         {u"../../etc"_s, ProjectForm::Folder, u"-..-etc"_s},
         {u"..."_s, ProjectForm::SingleFile, u"project.vellory"_s},
-        {u"Part 1.5"_s, ProjectForm::SingleFile, u"Part 1.5.vellory"_s},
+        {u"Volume 1.5"_s, ProjectForm::SingleFile, u"Volume 1.5.vellory"_s},
         {u"Tide.vellory"_s, ProjectForm::Folder, u"Tide-vellory"_s},
         {u"CON"_s, ProjectForm::Folder, u"_CON"_s},
     };
@@ -105,7 +105,7 @@ TEST_F(NewPlaceTest, theEndingDecidesHowItIsSaved)
         {u"tide"_s, ProjectForm::Folder, u"tide"_s},
         {u"tide.VELLORY"_s, ProjectForm::Folder, u"tide.vellory"_s},
         {u"part 1.tarnwick"_s, ProjectForm::SingleFile, u"part 1.vellory"_s},
-        {u"part 1.5"_s, ProjectForm::SingleFile, u"part 1.5.vellory"_s},
+        {u"volume 1.5"_s, ProjectForm::SingleFile, u"volume 1.5.vellory"_s},
         {u"odd.vellory"_s, ProjectForm::Folder, u"odd.vellory"_s},
     };
     for (const Case& each : cases)
