@@ -1,5 +1,6 @@
 #include "app/workspace/ProjectPlace.h"
 
+#include "app/persistence/bundle/ProjectBundle.h"
 #include "app/persistence/files/FolderScan.h"
 #include "app/persistence/files/ProjectFiles.h"
 
@@ -16,6 +17,28 @@ using core::Result;
 Failure placeFailure(const char* text, const QString& path)
 {
     return {QCoreApplication::translate("Workspace", text).arg(QDir::toNativeSeparators(path))};
+}
+
+bool isSingleFile(const QString& path)
+{
+    return persistence::isBundlePath(path) && !QFileInfo(path).isDir();
+}
+
+QString baseOfRelativePaths(const QString& place)
+{
+    return isSingleFile(place) ? QFileInfo(place).path() : place;
+}
+
+std::vector<core::project::LibraryMount> movedMounts(
+    std::vector<core::project::LibraryMount> mounts, const QString& from, const QString& to)
+{
+    const QDir before(baseOfRelativePaths(from));
+    const QDir after(baseOfRelativePaths(to));
+    for (core::project::LibraryMount& mount : mounts) {
+        if (!mount.path.isEmpty() && QDir::isRelativePath(mount.path))
+            mount.path = after.relativeFilePath(QDir::cleanPath(before.absoluteFilePath(mount.path)));
+    }
+    return mounts;
 }
 
 bool holdsProject(const QString& folder)

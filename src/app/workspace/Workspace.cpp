@@ -29,12 +29,6 @@ QString cleanPath(const QString& path)
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
-/** Whether a project at the path is one file, now or when it is written there. */
-bool isSingleFile(const QString& path)
-{
-    return persistence::isBundlePath(path) && !QFileInfo(path).isDir();
-}
-
 QString nameOfPlace(const QString& path)
 {
     return isSingleFile(path) ? QFileInfo(path).completeBaseName() : QDir(path).dirName();
@@ -228,7 +222,16 @@ Result<void> Workspace::saveAs(const QString& path)
     const auto lock = persistence::ProjectLock::acquire(target, m_environment.dataFolder);
     if (!lock)
         return Failure{lock.message()};
-    return isSingleFile(target) ? saveAsSingleFile(target) : saveAsFolder(target);
+    // What lies beside the project is found from its new place as well.
+    const std::vector<core::project::LibraryMount> mounts = m_project->libraryMounts();
+    if (hasPath())
+        m_project->setLibraryMounts(movedMounts(mounts, displayPath(), target));
+    auto saved = isSingleFile(target) ? saveAsSingleFile(target) : saveAsFolder(target);
+    if (saved)
+        m_readMounts = m_project->libraryMounts();
+    else
+        m_project->setLibraryMounts(mounts);
+    return saved;
 }
 
 Result<void> Workspace::saveAsFolder(const QString& folder)
@@ -412,7 +415,7 @@ void Workspace::reloadLibraries()
     m_libraryNotices.clear();
     m_readMounts = m_project->libraryMounts();
     // Nobody knows where the working copy of a single file lies.
-    const QDir base = hasSingleFile() ? QFileInfo(displayPath()).dir() : QDir(m_folderPath);
+    const QDir base(baseOfRelativePaths(displayPath()));
     for (const core::project::LibraryMount& mount : m_project->libraryMounts()) {
         const QString path = QDir::cleanPath(base.absoluteFilePath(mount.path));
         auto loaded = loadLibrary(m_environment.fileSystem, path);

@@ -291,6 +291,33 @@ TEST_F(SingleFileWorkspace, isBackedUpUnderItsName)
     }
 }
 
+TEST_F(SingleFileWorkspace, librariesAreFoundFromTheNextPlaceAsWell)
+{
+    Workspace shared(environment);
+    ASSERT_TRUE(shared.saveAs(root.filePath(u"shared/library.vellory"_s)));
+    const QString absolute = root.filePath(u"shared/library.vellory"_s);
+    auto workspace = makeSaved(root.filePath(u"books/tide"_s));
+    using Mounts = std::vector<core::project::LibraryMount>;
+    workspace->undoStack().push(std::make_unique<core::project::SetLibraryMountsCommand>(
+        workspace->projectForEdit(), Mounts{{u"../../shared/library.vellory"_s, false}, {absolute, true}}));
+    ASSERT_TRUE(workspace->followLibraryMounts());
+
+    ASSERT_FALSE(workspace->saveAs(root.filePath(u"shared"_s) + u"/library.vellory/below"_s));
+    EXPECT_EQ(workspace->project().libraryMounts().front().path, u"../../shared/library.vellory"_s);
+    for (const auto& [place, path] :
+         {std::pair(u"books/deeper/still/tide.vellory"_s, u"../../../shared/library.vellory"_s),
+          std::pair(u"shared/tide"_s, u"../library.vellory"_s),
+          std::pair(u"shared/tide.vellory"_s, u"library.vellory"_s)}) {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(root.filePath(place)).path()));
+        const auto saved = workspace->saveAs(root.filePath(place));
+        ASSERT_TRUE(saved) << qPrintable(saved.message());
+        EXPECT_FALSE(workspace->isModified());
+        const auto opened = open(root.filePath(place));
+        EXPECT_EQ(opened->project().libraryMounts(), (Mounts{{path, false}, {absolute, true}}));
+        EXPECT_EQ(opened->libraries().size(), 2U) << qPrintable(place);
+    }
+}
+
 TEST_F(SingleFileWorkspace, librariesMayBeSingleFilesBesideIt)
 {
     Workspace shared(environment);

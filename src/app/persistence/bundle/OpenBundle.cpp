@@ -2,6 +2,7 @@
 
 #include "app/persistence/bundle/Backup.h"
 #include "app/persistence/files/ParallelFor.h"
+#include "app/persistence/files/SafeWriter.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -41,6 +42,9 @@ public:
     {
         if (auto read = readFromArchive(); !read)
             return Failure{read.message()};
+        // A program that was killed while it wrote the archive leaves one beside it.
+        removeAbandonedTemporaries(
+            m_environment.fileSystem, QFileInfo(m_copy.bundlePath).path(), m_environment.clock());
         const Result<std::vector<ListedFile>> listed = listCopy();
         if (!listed)
             return workingFolderFailure(listed.message());

@@ -1,12 +1,15 @@
 #include "app/persistence/files/SafeWriter.h"
 
 #include "app/persistence/files/ParallelFor.h"
+#include "app/persistence/files/PlatformFiles.h"
 
 #include <QCoreApplication>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QThreadPool>
 
 #include <algorithm>
+#include <chrono>
 #include <optional>
 #include <span>
 #include <vector>
@@ -20,8 +23,22 @@ constexpr qsizetype filesInAChunk = 1024;
 constexpr qsizetype filesOfAThread = 16;
 /** More than there are processors: they wait for the medium. */
 constexpr int syncingThreads = 4;
+/** No write takes this long. */
+constexpr std::chrono::nanoseconds abandonedAfter = std::chrono::hours(24);
 
 } // namespace
+
+void removeAbandonedTemporaries(FileSystem& fileSystem, const QString& folder, qint64 now)
+{
+    QDirIterator temporaries(
+        folder, {platform::temporaryPrefix + u'*'}, QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    while (temporaries.hasNext()) {
+        const QString path = temporaries.next();
+        const std::optional<FileStamp> stamp = fileSystem.stamp(path);
+        if (stamp && stamp->mtimeNs < now - abandonedAfter.count())
+            fileSystem.remove(path);
+    }
+}
 
 core::Failure writeFailure(const QString& path)
 {

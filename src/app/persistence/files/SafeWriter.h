@@ -70,6 +70,12 @@ private:
     QSet<QString> m_changedFolders;
 };
 
+/**
+ * Removes from a folder the temporary files of programs that ended half-way through a write: those older than
+ * a day before `now` (nanoseconds since 1970), so that no write under way loses its own.
+ */
+void removeAbandonedTemporaries(FileSystem& fileSystem, const QString& folder, qint64 now);
+
 /** The message of every write that failed. */
 [[nodiscard]] core::Failure writeFailure(const QString& path);
 

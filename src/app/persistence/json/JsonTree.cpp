@@ -36,7 +36,8 @@ public:
     bool parseQuickly(QByteArrayView bytes)
     {
         simdjson::dom::element root;
-        return m_parser.parse(bytes.data(), static_cast<std::size_t>(bytes.size())).get(root) ==
+        return !bytes.isEmpty() &&
+               m_parser.parse(bytes.data(), static_cast<std::size_t>(bytes.size())).get(root) ==
                    simdjson::SUCCESS &&
                root.is_object() && append(root);
     }

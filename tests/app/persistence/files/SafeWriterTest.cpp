@@ -259,3 +259,21 @@ TEST_F(SafeWriterTest, keepsLinksAndPermissions)
     EXPECT_TRUE(QFileInfo(link).isSymLink());
     EXPECT_EQ(QFile::permissions(target) & ~(QFile::ReadUser | QFile::WriteUser), permissions);
 }
+
+TEST_F(SafeWriterTest, whatAKilledProgramLeftGoesAfterADay)
+{
+    FaultyFileSystem files;
+    const auto temporary = files.writeTemporary(path(u"tide.vellory"_s), "half", Durability::Cached);
+    ASSERT_TRUE(temporary);
+    const QStringList others{u"tide.vellory"_s, u".vellory-save"_s, u"vellory-save-1"_s};
+    for (const QString& other : others)
+        store(path(other), "other");
+    const qint64 written = files.stamp(*temporary)->mtimeNs;
+    const auto later = [&](std::chrono::nanoseconds time) { return written + time.count(); };
+    removeAbandonedTemporaries(files, m_folder.path(), later(23h));
+    EXPECT_TRUE(QFile::exists(*temporary)) << "its program may be at work";
+    removeAbandonedTemporaries(files, m_folder.path(), later(25h));
+    EXPECT_FALSE(QFile::exists(*temporary));
+    for (const QString& other : others)
+        EXPECT_EQ(content(path(other)), "other");
+}

@@ -2,6 +2,7 @@
 
 #include "app/persistence/codec/ObjectCodec.h"
 #include "app/persistence/files/FaultyFileSystem.h"
+#include "app/persistence/journal/JournalRestore.h"
 #include "core/document/Document.h"
 
 #include <QDir>
@@ -88,6 +89,28 @@ TEST_F(CrashJournalTest, isThereFromTheFirstEditToTheSave)
     for (AbandonedJournal& abandoned : AbandonedJournal::find(environment, u"/books/tide"_s))
         abandoned.remove();
     EXPECT_TRUE(names().isEmpty());
+}
+
+TEST_F(CrashJournalTest, twoCrashesInARowAreRestoredTogether)
+{
+    // The second program saw the disk's version, not what the first had not saved.
+    const FileVersion base = QByteArray("{\n    \"a\": 0,\n    \"b\": 0\n}\n");
+    const QByteArray mine = "{\n    \"a\": 1,\n    \"b\": 0\n}\n";
+    const QByteArray later = "{\n    \"a\": 0,\n    \"b\": 2\n}\n";
+    const QByteArray latest = "{\n    \"a\": 3,\n    \"b\": 0\n}\n";
+    const QString merged = u"taxonomy/merged.json"_s;
+    const QString overridden = u"taxonomy/overridden.json"_s;
+    const QString first = u"taxonomy/first.json"_s;
+    begin()->append({{merged, base, mine, {}}, {overridden, base, mine, {}}, {first, base, mine, {}}});
+    begin()->append({{merged, base, later, {}}, {overridden, base, latest, {}}});
+
+    const auto journals = AbandonedJournal::find(environment, u"/books/tide"_s);
+    ASSERT_EQ(journals.size(), 2U);
+    const JournalRestore plan = planRestore(journals, [&](const QString&) { return base; });
+    EXPECT_EQ(plan.files.at(merged), QByteArray("{\n    \"a\": 1,\n    \"b\": 2\n}\n"));
+    EXPECT_EQ(plan.files.at(overridden), latest) << "the writer's last words";
+    EXPECT_EQ(plan.files.at(first), mine);
+    EXPECT_EQ(plan.overridden, QStringList{overridden});
 }
 
 TEST_F(CrashJournalTest, belongsToOneProjectAndOneProgram)
