@@ -33,7 +33,7 @@ constexpr int sheetStretch = 1000;
 } // namespace
 
 EntityPage::EntityPage(const shell::DeskContext& desk, const core::ContentId& id, QWidget* parent)
-    : WorkPage(id, parent)
+    : WorkPage({id, {}}, parent)
     , m_desk(desk)
     , m_scroll(new QScrollArea(this))
     , m_sheet(new QWidget)

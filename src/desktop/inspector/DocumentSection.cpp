@@ -4,6 +4,8 @@
 #include "desktop/fields/EditorKeys.h"
 #include "desktop/fields/GrowingTextEdit.h"
 #include "desktop/fields/StoryDateEdit.h"
+#include "desktop/manuscript/OutlineColumns.h"
+#include "desktop/manuscript/StatusColors.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QComboBox>
@@ -12,8 +14,6 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
-
-#include <set>
 
 namespace tw::desktop::inspector {
 
@@ -37,12 +37,11 @@ QComboBox* makeSuggestionBox(QWidget* parent)
     return box;
 }
 
-void setSuggestions(QComboBox& box, const std::set<QString>& texts, const QString& shown)
+void setSuggestions(QComboBox& box, const QStringList& texts, const QString& shown)
 {
     const QSignalBlocker blocker(box);
     box.clear();
-    for (const QString& text : texts)
-        box.addItem(text);
+    box.addItems(texts);
     box.setEditText(shown);
 }
 
@@ -200,16 +199,9 @@ void DocumentSection::showDocument(const core::ContentId& id)
 
 void DocumentSection::fillSuggestions()
 {
-    std::set<QString> statuses{tr("Idea"), tr("First draft"), tr("Revised"), tr("Final")};
-    std::set<QString> pointsOfView;
-    for (const Document* other : core::project::objectsOf<Document>(m_desk.session.project())) {
-        statuses.insert(other->status());
-        pointsOfView.insert(other->pointOfView());
-    }
-    statuses.erase(QString());
-    pointsOfView.erase(QString());
-    setSuggestions(*m_status, statuses, document()->status());
-    setSuggestions(*m_pointOfView, pointsOfView, document()->pointOfView());
+    const core::project::Project& project = m_desk.session.project();
+    setSuggestions(*m_status, manuscript::orderedStatuses(project), document()->status());
+    setSuggestions(*m_pointOfView, manuscript::knownPointsOfView(project), document()->pointOfView());
 }
 
 } // namespace tw::desktop::inspector

@@ -30,7 +30,7 @@ constexpr auto recountRest = 250ms;
 } // namespace
 
 DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId& id, QWidget* parent)
-    : WorkPage(id, parent)
+    : WorkPage({id, {}}, parent)
     , m_desk(desk)
     , m_lockNotice(new QLabel(tr("This document is locked. Unlock it in the inspector to write."), this))
     , m_page(new MarkdownPage(desk.themes, this))

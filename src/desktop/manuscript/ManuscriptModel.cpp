@@ -1,9 +1,9 @@
 #include "desktop/manuscript/ManuscriptModel.h"
 
-#include "core/document/DocumentCommands.h"
 #include "core/document/DocumentTree.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptEdits.h"
+#include "desktop/manuscript/StatusColors.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
@@ -30,6 +30,12 @@ std::vector<ContentId> draggedIds(const QMimeData& data)
          QString::fromUtf8(data.data(documentMimeType)).split(u'\n', Qt::SkipEmptyParts))
         ids.push_back(ContentId::fromString(text));
     return ids;
+}
+
+Qt::Alignment alignmentOf(OutlineColumn column)
+{
+    const bool isNumber = column == OutlineColumn::Words || column == OutlineColumn::Target;
+    return Qt::AlignVCenter | (isNumber ? Qt::AlignRight : Qt::AlignLeft);
 }
 
 } // namespace
@@ -77,7 +83,7 @@ void ManuscriptModel::followChanges(const core::project::ProjectChanges& changes
     for (const ContentId& id : changes.changed) {
         // Words count upwards, so the parents show something else as well.
         for (QModelIndex index = indexOf(id); index.isValid(); index = index.parent())
-            emit dataChanged(index, index);
+            emit dataChanged(index, index.siblingAtColumn(outlineColumnCount - 1));
     }
 }
 
@@ -126,9 +132,9 @@ const ManuscriptModel::Node* ManuscriptModel::nodeAt(const QModelIndex& index) c
     return index.isValid() ? static_cast<const Node*>(index.constInternalPointer()) : m_root.get();
 }
 
-QModelIndex ManuscriptModel::indexOfNode(const Node& node) const
+QModelIndex ManuscriptModel::indexOfNode(const Node& node, int column) const
 {
-    return node.parent ? createIndex(node.row, 0, &node) : QModelIndex();
+    return node.parent ? createIndex(node.row, column, &node) : QModelIndex();
 }
 
 ContentId ManuscriptModel::idAt(const QModelIndex& index) const
@@ -145,9 +151,10 @@ QModelIndex ManuscriptModel::indexOf(const ContentId& id) const
 QModelIndex ManuscriptModel::index(int row, int column, const QModelIndex& parent) const
 {
     const Node* const node = nodeAt(parent);
-    if (column != 0 || row < 0 || row >= static_cast<int>(node->children.size()))
+    if (column < 0 || column >= outlineColumnCount || row < 0 ||
+        row >= static_cast<int>(node->children.size()))
         return {};
-    return indexOfNode(*node->children[static_cast<std::size_t>(row)]);
+    return indexOfNode(*node->children[static_cast<std::size_t>(row)], column);
 }
 
 QModelIndex ManuscriptModel::parent(const QModelIndex& child) const
@@ -163,7 +170,17 @@ int ManuscriptModel::rowCount(const QModelIndex& parent) const
 
 int ManuscriptModel::columnCount(const QModelIndex&) const
 {
-    return 1;
+    return outlineColumnCount;
+}
+
+QVariant ManuscriptModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= outlineColumnCount)
+        return {};
+    const auto column = static_cast<OutlineColumn>(section);
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(alignmentOf(column));
+    return role == Qt::DisplayRole ? QVariant(outlineHeading(column)) : QVariant();
 }
 
 qint64 ManuscriptModel::wordsBeneath(const Node& node) const
@@ -180,46 +197,58 @@ QVariant ManuscriptModel::data(const QModelIndex& index, int role) const
     const auto* const document = m_desk.session.project().findAs<Document>(node->id);
     if (!index.isValid() || !document)
         return {};
+    const auto column = static_cast<OutlineColumn>(index.column());
     switch (role) {
     case Qt::DisplayRole:
-        return shell::objectTitle(*document);
+        return textAt(*node, column);
     case Qt::EditRole:
-        return document->title();
+        return outlineValue(*document, column);
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(alignmentOf(column));
     case Qt::ToolTipRole:
         return document->synopsis().isEmpty() ? document->title() : document->synopsis();
     case Qt::DecorationRole:
-        return m_desk.icons.icon(iconForDocument(*document, !node->children.empty()));
+        if (column == OutlineColumn::Title)
+            return m_desk.icons.icon(iconForDocument(*document, !node->children.empty()));
+        return column == OutlineColumn::Status
+                   ? QVariant(statusIcon(m_desk.themes.theme(), document->status()))
+                   : QVariant();
     case trees::IdRole:
         return node->id.toString();
     case trees::CountRole:
         return QLocale().toString(wordsBeneath(*node));
-    case trees::DotRole:
-        return dotColor(*document);
+    case trees::DotRole: {
+        const QColor color = statusColor(m_desk.themes.theme(), document->status());
+        return color.isValid() ? QVariant(color) : QVariant();
+    }
+    case StatusRole:
+        return document->status();
+    case SynopsisRole:
+        return document->synopsis();
     default:
         return {};
     }
 }
 
-QVariant ManuscriptModel::dotColor(const Document& document) const
+QVariant ManuscriptModel::textAt(const Node& node, OutlineColumn column) const
 {
-    if (document.status().isEmpty())
-        return {};
-    // Equal words, equal colour, whatever statuses the writer invents.
-    uint sum = 0;
-    for (const QChar character : document.status().toCaseFolded())
-        sum = sum * 31 + character.unicode();
-    return m_desk.themes.theme().threadColor(static_cast<int>(sum % theme::threadColorCount));
+    const auto& document = *m_desk.session.project().findAs<Document>(node.id);
+    switch (column) {
+    case OutlineColumn::Title:
+        return shell::objectTitle(document);
+    case OutlineColumn::Words:
+        return QLocale().toString(wordsBeneath(node));
+    default:
+        return outlineText(document, column, m_desk.session);
+    }
 }
 
 bool ManuscriptModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    auto& project = m_desk.session.projectForCommands();
-    auto* const document = project.findAsForEdit<Document>(idAt(index));
-    const QString title = value.toString().trimmed();
-    if (role != Qt::EditRole || !document || title.isEmpty() || title == document->title())
-        return false;
-    m_desk.session.apply(std::make_unique<core::document::SetDocumentTitleCommand>(*document, title));
-    return true;
+    if (role == SynopsisRole)
+        return setOutlineValue(m_desk.session, idAt(index), OutlineColumn::Synopsis, value);
+    return role == Qt::EditRole &&
+           setOutlineValue(m_desk.session, idAt(index), static_cast<OutlineColumn>(index.column()), value);
 }
 
 Qt::ItemFlags ManuscriptModel::flags(const QModelIndex& index) const
@@ -229,7 +258,9 @@ Qt::ItemFlags ManuscriptModel::flags(const QModelIndex& index) const
     const auto* const document = m_desk.session.project().findAs<Document>(idAt(index));
     const Qt::ItemFlags always =
         Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
-    return document && document->isLocked() ? always : always | Qt::ItemIsEditable;
+    const bool canEdit =
+        document && !document->isLocked() && isEditable(static_cast<OutlineColumn>(index.column()));
+    return canEdit ? always | Qt::ItemIsEditable : always;
 }
 
 Qt::DropActions ManuscriptModel::supportedDropActions() const
@@ -245,8 +276,10 @@ QStringList ManuscriptModel::mimeTypes() const
 QMimeData* ManuscriptModel::mimeData(const QModelIndexList& indexes) const
 {
     QStringList ids;
-    for (const QModelIndex& index : indexes)
-        ids.append(idAt(index).toString());
+    for (const QModelIndex& index : indexes) {
+        if (index.column() == 0)
+            ids.append(idAt(index).toString());
+    }
     auto* const data = new QMimeData;
     data->setData(documentMimeType, ids.join(u'\n').toUtf8());
     return data;

@@ -2,7 +2,9 @@
 
 #include "core/project/ProjectChanges.h"
 #include "desktop/icons/Icon.h"
+#include "desktop/manuscript/OutlineColumns.h"
 #include "desktop/shell/DeskContext.h"
+#include "desktop/trees/TreeRoles.h"
 
 #include <QAbstractItemModel>
 
@@ -18,8 +20,15 @@ namespace tw::desktop::manuscript {
 
 [[nodiscard]] icons::Icon iconForDocument(const core::document::Document& document, bool hasChildren);
 
+/** What the model gives beside the roles of every tree. */
+enum DocumentRole
+{
+    StatusRole = trees::FirstOwnRole,
+    SynopsisRole,
+};
+
 /**
- * The tree of documents for a NavigatorTree: titles to rename in place, rows to drag, words and status.
+ * The tree of documents with its OutlineColumns: titles to rename in place, rows to drag, words and status.
  * Follows the session; a change of structure resets it, and whoever shows it restores what was open by id.
  */
 class ManuscriptModel final : public QAbstractItemModel
@@ -38,6 +47,7 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
@@ -58,9 +68,9 @@ private:
     [[nodiscard]] bool isSameStructure() const;
     void rebuild();
     [[nodiscard]] const Node* nodeAt(const QModelIndex& index) const;
-    [[nodiscard]] QModelIndex indexOfNode(const Node& node) const;
+    [[nodiscard]] QModelIndex indexOfNode(const Node& node, int column = 0) const;
+    [[nodiscard]] QVariant textAt(const Node& node, OutlineColumn column) const;
     [[nodiscard]] qint64 wordsBeneath(const Node& node) const;
-    [[nodiscard]] QVariant dotColor(const core::document::Document& document) const;
 
     shell::DeskContext m_desk;
     std::unique_ptr<Node> m_root;

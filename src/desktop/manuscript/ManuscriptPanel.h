@@ -1,13 +1,9 @@
 #pragma once
 
-#include "core/document/Document.h"
-#include "desktop/icons/Icon.h"
+#include "core/foundation/Id.h"
 #include "desktop/shell/DeskContext.h"
 
-#include <QKeySequence>
 #include <QWidget>
-
-class QAction;
 
 namespace tw::desktop::shell {
 class PanelHeader;
@@ -18,6 +14,7 @@ class NavigatorTree;
 
 namespace tw::desktop::manuscript {
 
+class DocumentActions;
 class ManuscriptModel;
 
 /** The navigator of the manuscript: the tree of documents and everything that is done with it. */
@@ -29,35 +26,21 @@ public:
     ManuscriptPanel(const shell::DeskContext& desk, QWidget* parent);
     ~ManuscriptPanel() override;
 
-    /** For the Insert menu: ways to add a document. */
-    [[nodiscard]] const QList<QAction*>& insertActions() const { return m_insertActions; }
-    /** For the Edit menu: rename, move, remove. Their keys work while the tree has the focus. */
-    [[nodiscard]] const QList<QAction*>& editActions() const { return m_editActions; }
-
+    /** Shared with whatever else lists documents. */
+    [[nodiscard]] DocumentActions& actions() { return *m_actions; }
+    [[nodiscard]] ManuscriptModel& model() { return *m_model; }
     [[nodiscard]] trees::NavigatorTree& tree() { return *m_tree; }
 
 private:
-    enum class Place
-    {
-        AfterCurrent,
-        InsideCurrent,
-    };
-
-    QAction* makeAction(const QString& name, icons::Icon icon, const QString& text, const QKeySequence& keys);
-    void makeInsertActions();
-    void makeEditActions();
-    void addNew(core::document::DocumentKind kind, Place place, const QString& title);
-    void removeSelected();
-    void showContextMenu(const QPoint& position);
+    void attachActions();
     void showCurrent(const core::ContentId& id);
-    void refreshActions();
+    void refreshHint();
 
     shell::DeskContext m_desk;
+    DocumentActions* m_actions;
     ManuscriptModel* m_model;
     shell::PanelHeader* m_header;
     trees::NavigatorTree* m_tree;
-    QList<QAction*> m_insertActions;
-    QList<QAction*> m_editActions;
 };
 
 } // namespace tw::desktop::manuscript

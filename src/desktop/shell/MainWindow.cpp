@@ -94,6 +94,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     connect(&desk.navigator, &Navigator::said, this, &MainWindow::say);
     // The page may be there already, behind the ways to begin.
     connect(&desk.navigator, &Navigator::openRequested, this, &MainWindow::showCenter);
+    connect(&desk.navigator, &Navigator::viewRequested, this, &MainWindow::showCenter);
     desk.session.setAutosave(settings::autosaveFrom(desk.settings));
     connect(&desk.session, &ProjectSession::autosaveFailed, this, [this](const QString& message) {
         say(tr("Autosave failed: %1").arg(message));
@@ -182,7 +183,7 @@ void MainWindow::noteOpened()
         m_manuscript->tree().setCollapsedIds(
             m_desk.settings.value(projectKey(u"closedDocuments")).toStringList());
         m_codex->tree().setCollapsedIds(m_desk.settings.value(projectKey(u"closedEntries")).toStringList());
-        m_workArea->restoreIds(m_desk.settings.value(projectKey(u"pages")).toStringList());
+        m_workArea->restoreAddresses(m_desk.settings.value(projectKey(u"pages")).toStringList());
     }
     if (!m_workArea->hasPages())
         openFirstDocument();
@@ -217,7 +218,7 @@ void MainWindow::rememberPages()
 {
     if (!m_desk.session.workspace().hasPath())
         return;
-    m_desk.settings.setValue(projectKey(u"pages"), m_workArea->openIds());
+    m_desk.settings.setValue(projectKey(u"pages"), m_workArea->openAddresses());
     m_desk.settings.setValue(projectKey(u"closedDocuments"), m_manuscript->tree().collapsedIds());
     m_desk.settings.setValue(projectKey(u"closedEntries"), m_codex->tree().collapsedIds());
 }

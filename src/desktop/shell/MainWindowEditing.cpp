@@ -1,10 +1,13 @@
 #include "desktop/shell/MainWindow.h"
 
 #include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/DocumentActions.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/overview/OverviewPage.h"
 #include "desktop/settings/SettingsDialog.h"
+#include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/WorkArea.h"
 #include "desktop/theme/Theme.h"
@@ -95,14 +98,14 @@ void MainWindow::buildEditMenu()
         editFocused(ClipboardEdit::SelectAll);
     });
     menu.addSeparator();
-    for (QAction* const action : m_manuscript->editActions())
+    for (QAction* const action : m_manuscript->actions().editActions())
         menu.addAction(action);
 }
 
 void MainWindow::buildInsertMenu()
 {
     QMenu& menu = *menuBar()->addMenu(tr("&Insert"));
-    for (QAction* const action : m_manuscript->insertActions()) {
+    for (QAction* const action : m_manuscript->actions().insertActions()) {
         menu.addAction(action);
         m_projectActions.append(action);
     }
@@ -143,6 +146,17 @@ void MainWindow::buildViewMenu()
         addTheme(theme.name, theme.title());
     themes->addSeparator();
     addTheme(theme::ThemeManager::systemChoice, tr("Follow the System"));
+    menu.addSeparator();
+    const auto addOverview = [&](const QString& name, Icon icon, const QString& text, int key,
+                                 QLatin1StringView view) {
+        m_projectActions.append(
+            addAction(menu, name, icon, text, QKeySequence(Qt::CTRL | Qt::ALT | key), [this, view] {
+                m_desk.navigator.openView(
+                    overview::overviewRoot(m_desk.session.project(), m_desk.navigator.current()), view);
+            }));
+    };
+    addOverview(u"view.corkboard"_s, Icon::Layout, tr("&Corkboard"), Qt::Key_2, overview::corkboardView);
+    addOverview(u"view.outline"_s, Icon::Columns, tr("&Outline"), Qt::Key_3, overview::outlineView);
     menu.addSeparator();
     addAction(
         menu, u"view.zoomIn"_s, Icon::Add, tr("Zoom &In"), QKeySequence::ZoomIn, [this] { zoomPages(1); });

@@ -5,6 +5,8 @@
 #include "desktop/inspector/InspectorPanel.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
+#include "desktop/overview/CorkboardPage.h"
+#include "desktop/overview/OutlinePage.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/WorkArea.h"
 
@@ -27,6 +29,15 @@ void MainWindow::addPanels()
     m_workArea->setFactory(ContentKind::Document, [this](const core::ContentId& id, QWidget* parent) {
         return new manuscript::DocumentPage(m_desk, id, parent);
     });
+    const overview::OverviewContext overviews{m_desk, m_manuscript->model(), m_manuscript->actions()};
+    m_workArea->setViewFactory(
+        overview::corkboardView, [overviews](const core::ContentId& id, QWidget* parent) {
+            return new overview::CorkboardPage(overviews, id, parent);
+        });
+    m_workArea->setViewFactory(
+        overview::outlineView, [overviews](const core::ContentId& id, QWidget* parent) {
+            return new overview::OutlinePage(overviews, id, parent);
+        });
     m_workArea->setFactory(ContentKind::Entity, [this](const core::ContentId& id, QWidget* parent) {
         return new codex::EntityPage(m_desk, id, parent);
     });

@@ -20,6 +20,13 @@ void Navigator::open(const core::ContentId& id)
     emit openRequested(id);
 }
 
+void Navigator::openView(const core::ContentId& id, const QString& view)
+{
+    if (!id.isNull())
+        setCurrent(id);
+    emit viewRequested(id, view);
+}
+
 void Navigator::say(const QString& text)
 {
     emit said(text);

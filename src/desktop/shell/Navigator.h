@@ -21,12 +21,16 @@ public:
     /** Asks for the object's page or editor in the centre of the window. */
     void open(const core::ContentId& id);
 
+    /** Asks for a view of the object, or of all of its kind (null), as shell::PageAddress names it. */
+    void openView(const core::ContentId& id, const QString& view);
+
     /** A line for the status bar: something happened that needs no decision. */
     void say(const QString& text);
 
 signals:
     void currentChanged(const tw::core::ContentId& id);
     void openRequested(const tw::core::ContentId& id);
+    void viewRequested(const tw::core::ContentId& id, const QString& view);
     void said(const QString& text);
 
 private:

@@ -18,10 +18,26 @@ constexpr int maximumPanes = 2;
 /** Separates the panes in the list of open pages; the page that a pane shows has the other mark before it. */
 constexpr QLatin1StringView paneMark{"|"};
 constexpr QChar shownMark = u'*';
+/** Between object and view. */
+constexpr QChar viewMark = u'/';
 
 WorkPage* pageAt(const QTabWidget* pane, int index)
 {
     return qobject_cast<WorkPage*>(pane->widget(index));
+}
+
+QString textOf(const PageAddress& address)
+{
+    const QString id = address.objectId.toString();
+    return address.view.isEmpty() ? id : id + viewMark + address.view;
+}
+
+PageAddress addressFrom(QStringView text)
+{
+    const qsizetype mark = text.indexOf(viewMark);
+    if (mark < 0)
+        return {core::ContentId::fromString(text), {}};
+    return {core::ContentId::fromString(text.first(mark)), text.sliced(mark + 1).toString()};
 }
 
 } // namespace
@@ -34,7 +50,14 @@ WorkArea::WorkArea(const DeskContext& desk, QWidget* parent)
     setChildrenCollapsible(false);
     m_activePane = addPane();
     connect(&desk.session, &ProjectSession::changed, this, &WorkArea::followChanges);
-    connect(&desk.navigator, &Navigator::openRequested, this, &WorkArea::openPage);
+    connect(&desk.navigator, &Navigator::openRequested, this, [this](const core::ContentId& id) {
+        openPage({id, {}});
+    });
+    connect(
+        &desk.navigator, &Navigator::viewRequested, this,
+        [this](const core::ContentId& id, const QString& view) {
+            openPage({id, view});
+        });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
 }
 
@@ -47,6 +70,27 @@ WorkArea::~WorkArea()
 void WorkArea::setFactory(core::content::ContentKind kind, PageFactory factory)
 {
     m_factories.insert_or_assign(kind, std::move(factory));
+}
+
+void WorkArea::setViewFactory(const QString& view, PageFactory factory)
+{
+    m_viewFactories.insert_or_assign(view, std::move(factory));
+}
+
+bool WorkArea::canShow(const core::ContentId& id) const
+{
+    return id.isNull() || m_desk.session.project().contains(id);
+}
+
+const WorkArea::PageFactory* WorkArea::factoryFor(const PageAddress& address) const
+{
+    if (!address.view.isEmpty()) {
+        const auto factory = m_viewFactories.find(address.view);
+        return factory != m_viewFactories.end() && canShow(address.objectId) ? &factory->second : nullptr;
+    }
+    const auto* const object = m_desk.session.project().find(address.objectId);
+    const auto factory = object ? m_factories.find(object->kind()) : m_factories.end();
+    return factory == m_factories.end() ? nullptr : &factory->second;
 }
 
 QTabWidget* WorkArea::addPane()
@@ -84,13 +128,12 @@ bool WorkArea::hasPages() const
     return false;
 }
 
-WorkPage* WorkArea::makePage(const core::ContentId& id, QTabWidget* pane)
+WorkPage* WorkArea::makePage(const PageAddress& address, QTabWidget* pane)
 {
-    const auto* const object = m_desk.session.project().find(id);
-    const auto factory = object ? m_factories.find(object->kind()) : m_factories.end();
-    if (factory == m_factories.end())
+    const PageFactory* const factory = factoryFor(address);
+    if (!factory)
         return nullptr;
-    WorkPage* const page = factory->second(id, pane);
+    WorkPage* const page = (*factory)(address.objectId, pane);
     const int index = pane->addTab(page, page->icon(), QString());
     connect(page, &WorkPage::titleChanged, this, [this, page] { refreshTab(page); });
     refreshTab(page);
@@ -98,17 +141,17 @@ WorkPage* WorkArea::makePage(const core::ContentId& id, QTabWidget* pane)
     return page;
 }
 
-void WorkArea::openPage(const core::ContentId& id)
+void WorkArea::openPage(const PageAddress& address)
 {
     QTabWidget* const pane = activePane();
     for (int index = 0; index < pane->count(); ++index) {
-        if (WorkPage* const page = pageAt(pane, index); page && page->objectId() == id) {
+        if (WorkPage* const page = pageAt(pane, index); page && page->address() == address) {
             pane->setCurrentIndex(index);
             page->takeFocus();
             return;
         }
     }
-    if (WorkPage* const page = makePage(id, pane))
+    if (WorkPage* const page = makePage(address, pane))
         page->takeFocus();
     announceCurrent();
 }
@@ -118,13 +161,13 @@ void WorkArea::splitCurrent()
     const WorkPage* const page = currentPage();
     if (!page)
         return;
-    const core::ContentId id = page->objectId();
+    const PageAddress address = page->address();
     if (count() < maximumPanes) {
         static_cast<void>(addPane());
         setSizes({width() / 2, width() / 2});
     }
     m_activePane = static_cast<QTabWidget*>(widget(activePane() == widget(0) ? 1 : 0));
-    openPage(id);
+    openPage(address);
 }
 
 void WorkArea::closeCurrent()
@@ -183,7 +226,7 @@ void WorkArea::announceCurrent()
     if (page == m_announcedPage)
         return;
     m_announcedPage = page;
-    if (page)
+    if (page && !page->objectId().isNull())
         m_desk.navigator.setCurrent(page->objectId());
     emit currentPageChanged(page);
 }
@@ -209,44 +252,44 @@ void WorkArea::followChanges(const core::project::ProjectChanges& changes)
         auto* const pane = static_cast<QTabWidget*>(widget(paneIndex));
         for (int index = pane->count() - 1; index >= 0; --index) {
             const WorkPage* const page = pageAt(pane, index);
-            if (page && !m_desk.session.project().contains(page->objectId()))
+            if (page && !canShow(page->objectId()))
                 closeTab(pane, index);
         }
     }
 }
 
-QStringList WorkArea::openIds() const
+QStringList WorkArea::openAddresses() const
 {
-    QStringList ids;
+    QStringList addresses;
     for (int paneIndex = 0; paneIndex < count(); ++paneIndex) {
         const auto* const pane = static_cast<QTabWidget*>(widget(paneIndex));
         if (paneIndex > 0)
-            ids.append(paneMark);
+            addresses.append(paneMark);
         for (int index = 0; index < pane->count(); ++index) {
             const WorkPage* const page = pageAt(pane, index);
             if (!page)
                 continue;
-            const QString id = page->objectId().toString();
-            ids.append(index == pane->currentIndex() ? shownMark + id : id);
+            const QString text = textOf(page->address());
+            addresses.append(index == pane->currentIndex() ? shownMark + text : text);
         }
     }
-    return ids;
+    return addresses;
 }
 
-void WorkArea::restoreIds(const QStringList& ids)
+void WorkArea::restoreAddresses(const QStringList& addresses)
 {
     std::vector<std::pair<QTabWidget*, int>> shown;
-    for (const QString& id : ids) {
-        if (id == paneMark) {
+    for (const QString& text : addresses) {
+        if (text == paneMark) {
             if (count() < maximumPanes && hasPages())
                 m_activePane = addPane();
             continue;
         }
-        const bool isShown = id.startsWith(shownMark);
-        const auto objectId = core::ContentId::fromString(isShown ? QStringView(id).mid(1) : QStringView(id));
-        if (!m_desk.session.project().contains(objectId))
+        const bool isShown = text.startsWith(shownMark);
+        const PageAddress address = addressFrom(isShown ? QStringView(text).sliced(1) : QStringView(text));
+        if (!factoryFor(address))
             continue;
-        openPage(objectId);
+        openPage(address);
         if (isShown)
             shown.emplace_back(activePane(), activePane()->currentIndex());
     }

@@ -30,9 +30,11 @@ public:
     ~WorkArea() override;
 
     void setFactory(core::content::ContentKind kind, PageFactory factory);
+    /** For pages that show an object, or all of a kind, in a way of their own. */
+    void setViewFactory(const QString& view, PageFactory factory);
 
-    /** Shows the object's page in the active pane, making it when it is not there. */
-    void openPage(const core::ContentId& id);
+    /** Shows a page in the active pane, making it when it is not there. */
+    void openPage(const PageAddress& address);
     /** Shows the present page in the other pane as well. */
     void splitCurrent();
     void closeCurrent();
@@ -43,9 +45,9 @@ public:
     [[nodiscard]] WorkPage* currentPage() const;
     [[nodiscard]] bool hasPages() const;
 
-    /** The open pages, for the next start: object ids by pane, and which is shown. */
-    [[nodiscard]] QStringList openIds() const;
-    void restoreIds(const QStringList& ids);
+    /** The open pages, for the next start: addresses by pane, and which is shown. */
+    [[nodiscard]] QStringList openAddresses() const;
+    void restoreAddresses(const QStringList& addresses);
 
 signals:
     void currentPageChanged(tw::desktop::shell::WorkPage* page);
@@ -53,7 +55,9 @@ signals:
 private:
     [[nodiscard]] QTabWidget* addPane();
     [[nodiscard]] QTabWidget* activePane() const;
-    [[nodiscard]] WorkPage* makePage(const core::ContentId& id, QTabWidget* pane);
+    [[nodiscard]] const PageFactory* factoryFor(const PageAddress& address) const;
+    [[nodiscard]] bool canShow(const core::ContentId& id) const;
+    [[nodiscard]] WorkPage* makePage(const PageAddress& address, QTabWidget* pane);
     void closeTab(QTabWidget* pane, int index);
     void followFocus(QWidget* focused);
     void showPane(QTabWidget* pane);
@@ -63,6 +67,7 @@ private:
 
     DeskContext m_desk;
     std::map<core::content::ContentKind, PageFactory> m_factories;
+    std::map<QString, PageFactory> m_viewFactories;
     QTabWidget* m_activePane = nullptr;
     WorkPage* m_announcedPage = nullptr;
 };

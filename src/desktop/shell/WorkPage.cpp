@@ -2,9 +2,9 @@
 
 namespace tw::desktop::shell {
 
-WorkPage::WorkPage(const core::ContentId& objectId, QWidget* parent)
+WorkPage::WorkPage(PageAddress address, QWidget* parent)
     : QWidget(parent)
-    , m_objectId(objectId)
+    , m_address(std::move(address))
 {}
 
 QString WorkPage::statusText() const

@@ -6,15 +6,27 @@
 
 namespace tw::desktop::shell {
 
+/** What a page shows. */
+struct PageAddress
+{
+    /** Null for all of a kind, where a view takes that. */
+    core::ContentId objectId;
+    /** One of several ways to look at it; empty for the object's own page. */
+    QString view;
+
+    friend bool operator==(const PageAddress&, const PageAddress&) = default;
+};
+
 /** One tab in the centre of the window: the editor or page of one object. Owned by the work area. */
 class WorkPage : public QWidget
 {
     Q_OBJECT
 
 public:
-    WorkPage(const core::ContentId& objectId, QWidget* parent);
+    WorkPage(PageAddress address, QWidget* parent);
 
-    [[nodiscard]] const core::ContentId& objectId() const { return m_objectId; }
+    [[nodiscard]] const PageAddress& address() const { return m_address; }
+    [[nodiscard]] const core::ContentId& objectId() const { return m_address.objectId; }
 
     /** The object's name as the tab shows it. */
     [[nodiscard]] virtual QString title() const = 0;
@@ -29,7 +41,7 @@ signals:
     void statusTextChanged();
 
 private:
-    core::ContentId m_objectId;
+    PageAddress m_address;
 };
 
 } // namespace tw::desktop::shell

@@ -61,7 +61,14 @@ private:
     void restoreExpansion(const QModelIndex& parent);
     void showHint();
 
-    QSortFilterProxyModel m_filter;
+    /** Rows that match, and of each the first column. */
+    class Filter final : public QSortFilterProxyModel
+    {
+    protected:
+        bool filterAcceptsColumn(int column, const QModelIndex&) const override { return column == 0; }
+    };
+
+    Filter m_filter;
     QLabel* m_hint;
     QSet<QString> m_collapsed;
     QStringList m_selectedIds;

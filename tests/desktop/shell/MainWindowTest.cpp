@@ -185,12 +185,12 @@ TEST_F(MainWindowTest, splittingShowsOnePageTwice)
     auto* const area = window->findChild<WorkArea*>(u"workArea"_s);
     area->splitCurrent();
     EXPECT_EQ(area->count(), 2);
-    const QStringList ids = area->openIds();
+    const QStringList addresses = area->openAddresses();
     area->closeAll();
     EXPECT_FALSE(area->hasPages());
     EXPECT_EQ(area->count(), 1);
-    area->restoreIds(ids);
-    EXPECT_EQ(area->openIds(), ids);
+    area->restoreAddresses(addresses);
+    EXPECT_EQ(area->openAddresses(), addresses);
 }
 
 TEST_F(MainWindowTest, anotherTextSizeReachesTheOpenWindowAtOnce)
