@@ -4,10 +4,15 @@
 #include "desktop/shell/DeskContext.h"
 #include "desktop/shell/WorkPage.h"
 
+#include <functional>
+
 class QAbstractItemView;
 class QLabel;
 class QVBoxLayout;
 
+namespace tw::core::project {
+class Project;
+}
 namespace tw::desktop::manuscript {
 class DocumentActions;
 class ManuscriptModel;

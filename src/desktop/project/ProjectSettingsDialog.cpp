@@ -1,5 +1,6 @@
 #include "desktop/project/ProjectSettingsDialog.h"
 
+#include "app/workspace/ProjectPlace.h"
 #include "desktop/fields/NoteLabel.h"
 #include "desktop/project/ListEditor.h"
 #include "desktop/project/ProjectFileDialogs.h"
@@ -30,12 +31,6 @@ constexpr int originalRole = Qt::UserRole;
 /** Of a library's row: what the project keeps. */
 constexpr int pathRole = Qt::UserRole;
 constexpr int writableRole = Qt::UserRole + 1;
-
-/** What relative paths of libraries start from; empty while the project has no place. */
-QString folderOf(const app::workspace::Workspace& workspace)
-{
-    return workspace.hasSingleFile() ? QFileInfo(workspace.displayPath()).path() : workspace.folderPath();
-}
 
 } // namespace
 
@@ -150,7 +145,7 @@ void ProjectSettingsDialog::chooseLibrary(const QString& path)
     if (path.isEmpty())
         return;
     const app::workspace::Workspace& workspace = m_desk.session.workspace();
-    const QString kept = mountPath(folderOf(workspace), path);
+    const QString kept = mountPath(app::workspace::baseOfRelativePaths(workspace.displayPath()), path);
     if (QDir::cleanPath(path) == workspace.displayPath()) {
         m_note->setNote(
             tr("A project is no library of itself. Choose another one."), fields::NoteLabel::Tone::Error);

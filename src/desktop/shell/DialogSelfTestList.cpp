@@ -1,6 +1,7 @@
 #include "desktop/codex/CategoryPropertiesDialog.h"
 #include "desktop/codex/FieldDialog.h"
 #include "desktop/codex/TimedValueDialog.h"
+#include "desktop/goals/GoalsDialog.h"
 #include "desktop/project/ExportPackDialog.h"
 #include "desktop/project/NewProjectDialog.h"
 #include "desktop/project/ProjectSettingsDialog.h"
@@ -148,6 +149,20 @@ std::unique_ptr<QDialog> makeExportPackDialog(const DeskContext& desk)
         desk, project::PackExport{{u"Selftest"_s, {}, {}, u"1.0"_s}, {}}, nullptr);
 }
 
+std::unique_ptr<QDialog> makeGoalsDialog(const DeskContext& desk)
+{
+    const QDate today(2000, 1, 10);
+    return std::make_unique<goals::GoalsDialog>(
+        desk,
+        goals::GoalsState{
+            {500, 80'000, u"2000-06-30"_s},
+            {{u"2000-01-08"_s, 700}, {u"2000-01-09"_s, 300}},
+            12'345,
+            400,
+            today},
+        nullptr);
+}
+
 /** With an action of its own, since those of the window are none of the dialog's business. */
 std::unique_ptr<QDialog> makeSettingsDialog(const DeskContext& desk)
 {
@@ -177,6 +192,7 @@ std::vector<SelfTestDialog> selfTestDialogs()
         {u"new project"_s, makeNewProjectDialog, {}},
         {u"restore from a backup"_s, makeRestoreDialog, {}},
         {u"project settings"_s, makeProjectSettingsDialog, checkProjectSettingsDialog},
+        {u"writing goals"_s, makeGoalsDialog, {}},
         {u"export content pack"_s, makeExportPackDialog, {}},
         {u"settings"_s, makeSettingsDialog, {}},
         {u"about"_s, makeAboutDialog, {}},

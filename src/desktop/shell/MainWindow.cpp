@@ -2,6 +2,7 @@
 
 #include "core/document/DocumentTree.h"
 #include "desktop/codex/CodexPanel.h"
+#include "desktop/goals/WritingSession.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/project/ProjectFileDialogs.h"
@@ -67,7 +68,8 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entity in the codex."), m_center))
     , m_docks(nullptr)
     , m_shortcuts(new settings::Shortcuts(desk.settings, this))
-    , m_status(new StatusStrip(desk, *statusBar()))
+    , m_writing(new goals::WritingSession(desk.session, &QDate::currentDate, this))
+    , m_status(new StatusStrip(desk, *m_writing, *statusBar()))
 {
     setObjectName(u"mainWindow"_s);
     setAcceptDrops(true);

@@ -14,6 +14,9 @@ class QStackedWidget;
 namespace tw::desktop::codex {
 class CodexPanel;
 }
+namespace tw::desktop::goals {
+class WritingSession;
+}
 namespace tw::desktop::manuscript {
 class ManuscriptPanel;
 }
@@ -102,6 +105,7 @@ private:
     QLabel* m_emptyHint;
     DockLayout* m_docks;
     settings::Shortcuts* m_shortcuts;
+    goals::WritingSession* m_writing;
     StatusStrip* m_status;
     QMenu* m_recentMenu = nullptr;
     QAction* m_undoAction = nullptr;

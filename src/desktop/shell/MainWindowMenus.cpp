@@ -1,6 +1,7 @@
 #include "desktop/shell/MainWindow.h"
 
 #include "desktop/codex/CodexPanel.h"
+#include "desktop/goals/GoalsDialog.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/project/PackTransfer.h"
@@ -104,6 +105,9 @@ void MainWindow::buildProjectMenu()
     m_projectActions.append(addAction(
         menu, u"project.settings"_s, Icon::Settings, tr("Project &Settings…"), {},
         [this] { project::editProjectSettings(m_desk, this); }));
+    m_projectActions.append(addAction(
+        menu, u"project.goals"_s, Icon::Target, tr("Writing &Goals…"), {},
+        [this] { goals::editGoals(m_desk, *m_writing, this); }));
     menu.addSeparator();
     m_projectActions.append(addAction(
         menu, u"project.backUp"_s, Icon::Snapshot, tr("&Back Up Project"), {},

@@ -1,6 +1,7 @@
 #include "desktop/shell/StatusStrip.h"
 
 #include "core/document/Document.h"
+#include "desktop/goals/WritingSession.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/WorkPage.h"
 #include "desktop/theme/ThemeManager.h"
@@ -31,9 +32,10 @@ QLabel* addLabel(QStatusBar& bar)
 
 } // namespace
 
-StatusStrip::StatusStrip(const DeskContext& desk, QStatusBar& bar)
+StatusStrip::StatusStrip(const DeskContext& desk, const goals::WritingSession& writing, QStatusBar& bar)
     : QObject(&bar)
     , m_desk(desk)
+    , m_writing(writing)
     , m_pageText(addLabel(bar))
     , m_storyDate(addLabel(bar))
     , m_projectWords(addLabel(bar))
@@ -49,7 +51,8 @@ StatusStrip::StatusStrip(const DeskContext& desk, QStatusBar& bar)
     bar.addPermanentWidget(m_dailyTarget);
     m_saveIcon = addLabel(bar);
     m_saveText = addLabel(bar);
-    connect(&desk.session, &ProjectSession::changed, this, &StatusStrip::followChanges);
+    // It hears of changes of the project first.
+    connect(&writing, &goals::WritingSession::changed, this, &StatusStrip::followChanges);
     connect(&desk.session, &ProjectSession::saveStateChanged, this, &StatusStrip::refreshSaveState);
     connect(&desk.themes, &theme::ThemeManager::themeChanged, this, &StatusStrip::refreshSaveState);
     refreshWords();
@@ -66,10 +69,8 @@ void StatusStrip::setPage(WorkPage* page)
     refreshPage();
 }
 
-void StatusStrip::followChanges(const core::project::ProjectChanges& changes)
+void StatusStrip::followChanges()
 {
-    if (changes.isEverything)
-        m_wordsAtOpening = m_desk.session.words().total();
     refreshWords();
     refreshPage();
     refreshSaveState();
@@ -95,7 +96,7 @@ void StatusStrip::refreshWords()
          {static_cast<QWidget*>(m_projectWords), static_cast<QWidget*>(m_sessionWords)})
         widget->setVisible(isOpen);
     const qint64 total = m_desk.session.words().total();
-    const qint64 session = total - m_wordsAtOpening;
+    const qint64 session = m_writing.sessionWords();
     m_projectWords->setText(tr("Manuscript: %Ln words", nullptr, static_cast<int>(total)));
     m_sessionWords->setText(
         session >= 0 ? tr("Session: +%1").arg(grouped(session)) : tr("Session: −%1").arg(grouped(-session)));
@@ -105,9 +106,10 @@ void StatusStrip::refreshWords()
     if (target > 0) {
         constexpr int steps = 1000;
         m_dailyTarget->setRange(0, steps);
-        m_dailyTarget->setValue(static_cast<int>(std::clamp<qint64>(session, 0, target) * steps / target));
+        const qint64 today = m_writing.wordsToday();
+        m_dailyTarget->setValue(static_cast<int>(std::clamp<qint64>(today, 0, target) * steps / target));
         m_dailyTarget->setToolTip(
-            tr("%1 of %2 words of the daily target").arg(grouped(session), grouped(target)));
+            tr("%1 of %2 words of the daily target").arg(grouped(today), grouped(target)));
     }
 }
 

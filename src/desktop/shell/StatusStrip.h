@@ -10,6 +10,10 @@ class QLabel;
 class QProgressBar;
 class QStatusBar;
 
+namespace tw::desktop::goals {
+class WritingSession;
+}
+
 namespace tw::desktop::shell {
 
 class WorkPage;
@@ -21,19 +25,19 @@ class StatusStrip final : public QObject
     Q_OBJECT
 
 public:
-    /** Adds its labels to the bar, which owns them. */
-    StatusStrip(const DeskContext& desk, QStatusBar& bar);
+    /** Adds its labels to the bar, which owns them. The writing session must outlive the bar. */
+    StatusStrip(const DeskContext& desk, const goals::WritingSession& writing, QStatusBar& bar);
 
     void setPage(WorkPage* page);
 
 private:
-    void followChanges(const core::project::ProjectChanges& changes);
+    void followChanges();
     void refreshWords();
     void refreshPage();
     void refreshSaveState();
 
     DeskContext m_desk;
-    qint64 m_wordsAtOpening = 0;
+    const goals::WritingSession& m_writing;
     QPointer<WorkPage> m_page;
     QLabel* m_pageText;
     QLabel* m_storyDate;
