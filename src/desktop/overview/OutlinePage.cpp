@@ -26,19 +26,19 @@ int widthIn(OutlineColumn column, const QFontMetrics& metrics)
     const auto ofCharacters = [&metrics](int count) { return metrics.averageCharWidth() * count; };
     switch (column) {
     case OutlineColumn::Title:
-        return ofCharacters(36);
+        return ofCharacters(28);
     case OutlineColumn::Synopsis:
-        return ofCharacters(48);
+        return ofCharacters(32);
     case OutlineColumn::StoryDate:
-        return ofCharacters(26);
+        return ofCharacters(22);
     case OutlineColumn::Status:
     case OutlineColumn::PointOfView:
-        return ofCharacters(18);
+        return ofCharacters(14);
     case OutlineColumn::Words:
     case OutlineColumn::Target:
         break;
     }
-    return ofCharacters(11);
+    return ofCharacters(9);
 }
 
 } // namespace

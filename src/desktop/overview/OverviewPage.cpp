@@ -152,7 +152,8 @@ void OverviewPage::selectCurrent(const ContentId& id)
     for (QModelIndex above = index.parent(); above.isValid() && !isBelow; above = above.parent())
         isBelow = m_filter->idAt(above) == objectId();
     if (isBelow && m_filter->idAt(m_list->currentIndex()) != id)
-        m_list->setCurrentIndex(index);
+        m_list->selectionModel()->setCurrentIndex(
+            index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void OverviewPage::activate(const ContentId& id)

@@ -115,7 +115,8 @@ void NavigatorTree::selectSource(const QModelIndex& source)
     const QModelIndex index = m_filter.mapFromSource(source);
     if (!index.isValid() || index == currentIndex())
         return;
-    setCurrentIndex(index);
+    // Not by setCurrentIndex(), which looks at the keys that happen to be held.
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(index);
 }
 

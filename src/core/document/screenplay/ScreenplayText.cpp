@@ -144,12 +144,15 @@ qsizetype markLength(QStringView line, Element element)
 QString rewrittenAs(QStringView line, Element present, Element wanted)
 {
     QString text = line.sliced(markLength(line, present)).trimmed().toString();
-    if (present == Element::Parenthetical && isInParentheses(text))
+    if (wanted != Element::Parenthetical && isInParentheses(text))
         text = text.sliced(1, text.size() - 2);
     if (isCapitalised(wanted))
         text = text.toUpper();
     switch (wanted) {
     case Element::SceneHeading:
+        // Behind the mark no other dot may follow: an ellipsis begins no scene.
+        while (text.startsWith(u'.'))
+            text.remove(0, 1);
         return startsLikeHeading(text) ? text : u'.' + text;
     case Element::Action: {
         const bool misleads = forcedElement(text) != Element::Blank || startsLikeHeading(text) ||
