@@ -30,8 +30,16 @@ CardEditor::CardEditor(QWidget* parent)
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* before, const QWidget* now) {
         const bool wasHere = before && isAncestorOf(before);
         if (wasHere && now && now != this && !isAncestorOf(now))
-            emit finished();
+            finish();
     });
+}
+
+void CardEditor::finish()
+{
+    // The keyboard leaves once more while the editor is taken away.
+    if (std::exchange(m_isDone, true))
+        return;
+    emit finished();
 }
 
 QString CardEditor::title() const
@@ -64,10 +72,11 @@ bool CardEditor::eventFilter(QObject* watched, QEvent* event)
     const auto* const key = static_cast<QKeyEvent*>(event);
     const bool isReturn = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
     if (isReturn && (watched == m_title || key->modifiers().testFlag(Qt::ControlModifier))) {
-        emit finished();
+        finish();
         return true;
     }
     if (key->key() == Qt::Key_Escape) {
+        m_isDone = true;
         emit cancelled();
         return true;
     }

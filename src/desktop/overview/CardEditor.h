@@ -29,6 +29,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void finish();
+
+    bool m_isDone = false;
     QLineEdit* m_title;
     QPlainTextEdit* m_synopsis;
 };

@@ -53,8 +53,8 @@ TEST(ScreenplayText, linesAreReadByHowTheyAreWritten)
 
 TEST(ScreenplayText, aRewrittenLineIsReadAsWhatItWasMadeInto)
 {
-    const QStringList texts{u"the pier"_s, u"INT. PIER"_s, u"MARA"_s, u"mara"_s, u"(softly)"_s,
-                            u"CUT TO:"_s,  u"...so"_s,     u"!bang"_s,    u"ß 1"_s};
+    const QStringList texts{u"the pier"_s, u"INT. PIER"_s, u"MARA"_s,  u"mara"_s, u"(softly)"_s,
+                            u"CUT TO:"_s,  u"...so"_s,     u"!bang"_s, u"ß 1"_s};
     for (const QString& text : texts) {
         for (const Element wanted : chosenElements()) {
             SCOPED_TRACE(text.toStdString() + " as " + std::to_string(static_cast<int>(wanted)));

@@ -1,0 +1,209 @@
+#include "core/document/DocumentTree.h"
+#include "desktop/manuscript/DocumentActions.h"
+#include "desktop/manuscript/ManuscriptModel.h"
+#include "desktop/overview/CorkboardPage.h"
+#include "desktop/overview/OutlinePage.h"
+#include "desktop/support/TestDesk.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListView>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <QTreeView>
+
+#include <gtest/gtest.h>
+
+namespace tw::desktop::overview {
+
+using namespace Qt::Literals::StringLiterals;
+using core::ContentId;
+using manuscript::OutlineColumn;
+
+namespace {
+
+class OverviewTest : public testing::Test
+{
+protected:
+    OverviewTest()
+    {
+        part = desk.addDocument(u"Part"_s, {}, 0);
+        one = desk.addDocument(u"One"_s, part, 0);
+        two = desk.addDocument(u"Two"_s, part, 1);
+        below = desk.addDocument(u"Below"_s, two, 0);
+        notes = desk.addDocument(u"Notes"_s, {}, 1);
+        desk.document(one).setSynopsis(u"A lighthouse\nat night."_s);
+        desk.document(two).setWordCountTarget(1200);
+        desk.announce();
+    }
+
+    QString titlesBelow(const ContentId& parent) const
+    {
+        QStringList titles;
+        for (const ContentId& id : core::document::childDocuments(desk.session.project(), parent))
+            titles.append(desk.session.project().findAs<core::document::Document>(id)->title());
+        return titles.join(u' ');
+    }
+
+    template <class Page>
+    std::unique_ptr<Page> show(const ContentId& root)
+    {
+        auto page = std::make_unique<Page>(OverviewContext{desk.context, model, actions}, root, nullptr);
+        page->resize(900, 600);
+        page->show();
+        QApplication::setActiveWindow(page.get());
+        page->takeFocus();
+        return page;
+    }
+
+    QAction* action(const QString& name)
+    {
+        for (QAction* const candidate : actions.insertActions() + actions.editActions()) {
+            if (candidate->objectName() == name)
+                return candidate;
+        }
+        return nullptr;
+    }
+
+    test::TestDesk desk;
+    manuscript::ManuscriptModel model{desk.context};
+    manuscript::DocumentActions actions{desk.context, nullptr};
+    ContentId part, one, two, below, notes;
+};
+
+} // namespace
+
+TEST_F(OverviewTest, anOverviewIsOfWhatLiesBelowOrAround)
+{
+    const auto& project = desk.session.project();
+    EXPECT_EQ(overviewRoot(project, part), part);
+    EXPECT_EQ(overviewRoot(project, one), part);
+    EXPECT_EQ(overviewRoot(project, two), two);
+    EXPECT_EQ(overviewRoot(project, notes), ContentId());
+    EXPECT_EQ(overviewRoot(project, ContentId::create()), ContentId());
+}
+
+TEST_F(OverviewTest, theFilterKeepsItsRootAndWhatMatchesInAnyColumn)
+{
+    DocumentFilter filter(model, part, nullptr);
+    const QAbstractItemModelTester tester(&filter);
+    EXPECT_EQ(filter.rowCount(filter.rootIndex()), 2);
+    filter.setFilterFixedString(u"lighthouse"_s);
+    ASSERT_EQ(filter.rowCount(filter.rootIndex()), 1);
+    EXPECT_EQ(filter.idAt(filter.index(0, 0, filter.rootIndex())), one);
+    filter.setFilterFixedString(u"below"_s);
+    ASSERT_EQ(filter.rowCount(filter.rootIndex()), 1) << "the way to what matches";
+    filter.setFilterFixedString(u"nowhere"_s);
+    EXPECT_TRUE(filter.rootIndex().isValid());
+    EXPECT_EQ(filter.rowCount(filter.rootIndex()), 0);
+}
+
+TEST_F(OverviewTest, cellsOfTheOutlineAreEditedAsOneStepEach)
+{
+    const auto page = show<OutlinePage>(part);
+    QTreeView& tree = page->tree();
+    const auto edit = [&](const ContentId& id, OutlineColumn column, const QString& text) {
+        const QModelIndex row = static_cast<DocumentFilter*>(tree.model())->indexOf(id);
+        const QModelIndex cell = row.siblingAtColumn(static_cast<int>(column));
+        tree.setCurrentIndex(cell);
+        action(u"manuscript.rename"_s)->trigger();
+        auto* const editor = tree.indexWidget(cell);
+        if (!editor)
+            return false;
+        if (auto* const box = qobject_cast<QComboBox*>(editor))
+            box->setEditText(text);
+        else
+            QTest::keyClicks(editor, text);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        return true;
+    };
+    ASSERT_TRUE(edit(one, OutlineColumn::Title, u"First"_s));
+    ASSERT_TRUE(edit(one, OutlineColumn::Status, u"Revised"_s));
+    ASSERT_TRUE(edit(one, OutlineColumn::PointOfView, u"Mara"_s));
+    EXPECT_EQ(desk.document(one).title(), u"First"_s);
+    EXPECT_EQ(desk.document(one).status(), u"Revised"_s);
+    EXPECT_EQ(desk.document(one).pointOfView(), u"Mara"_s);
+    desk.session.undo();
+    EXPECT_EQ(desk.document(one).pointOfView(), QString());
+    EXPECT_EQ(desk.document(one).status(), u"Revised"_s);
+    EXPECT_EQ(desk.document(two).wordCountTarget(), 1200);
+
+    desk.document(one).setLocked(true);
+    EXPECT_FALSE(manuscript::setOutlineValue(desk.session, one, OutlineColumn::Synopsis, u"x"_s));
+    EXPECT_FALSE(manuscript::setOutlineValue(desk.session, two, OutlineColumn::Target, u"many"_s));
+    EXPECT_FALSE(manuscript::setOutlineValue(desk.session, two, OutlineColumn::Target, -5));
+    EXPECT_FALSE(manuscript::setOutlineValue(desk.session, two, OutlineColumn::Title, u"  "_s));
+}
+
+TEST_F(OverviewTest, cardsAreWrittenAddedMovedAndRemovedFromTheKeyboard)
+{
+    const auto page = show<CorkboardPage>(part);
+    QListView& cards = page->cards();
+    ASSERT_EQ(desk.navigator.current(), one) << "the first card has the keyboard";
+    action(u"manuscript.rename"_s)->trigger();
+    QWidget* const editor = cards.indexWidget(cards.currentIndex());
+    ASSERT_TRUE(editor);
+    QTest::keyClicks(editor->findChild<QLineEdit*>(), u"First"_s);
+    auto* const synopsis = editor->findChild<QPlainTextEdit*>();
+    synopsis->setPlainText(u"Dawn."_s);
+    QTest::keyClick(synopsis, Qt::Key_Return, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(desk.document(one).title(), u"First"_s);
+    EXPECT_EQ(desk.document(one).synopsis(), u"Dawn."_s);
+    EXPECT_EQ(desk.session.undoText(), u"Edit card"_s);
+
+    cards.setFocus();
+    action(u"manuscript.moveDown"_s)->trigger();
+    EXPECT_EQ(titlesBelow(part), u"Two First"_s);
+    EXPECT_EQ(desk.navigator.current(), one);
+    action(u"insert.note"_s)->trigger();
+    EXPECT_EQ(titlesBelow(part), u"Two First New note"_s);
+    QTest::keyClick(cards.indexWidget(cards.currentIndex())->findChild<QLineEdit*>(), Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    cards.setFocus();
+    action(u"manuscript.remove"_s)->trigger();
+    EXPECT_EQ(titlesBelow(part), u"Two First"_s);
+    desk.session.undo();
+    EXPECT_EQ(titlesBelow(part), u"Two First New note"_s);
+}
+
+TEST_F(OverviewTest, aCardDroppedBetweenOthersTakesThatPlace)
+{
+    const auto page = show<CorkboardPage>(part);
+    QAbstractItemModel& shown = *page->cards().model();
+    const QModelIndex root = page->cards().rootIndex();
+    const std::unique_ptr<QMimeData> card(shown.mimeData({shown.index(1, 0, root)}));
+    shown.dropMimeData(card.get(), Qt::MoveAction, 0, 0, root);
+    EXPECT_EQ(titlesBelow(part), u"Two One"_s);
+    EXPECT_EQ(shown.rowCount(page->cards().rootIndex()), 2);
+    desk.session.undo();
+    EXPECT_EQ(titlesBelow(part), u"One Two"_s);
+}
+
+TEST_F(OverviewTest, aGroupOpensItsOwnBoardAndALeafItsText)
+{
+    const auto page = show<CorkboardPage>(part);
+    ContentId opened;
+    QString view;
+    QObject::connect(
+        &desk.navigator, &shell::Navigator::viewRequested, page.get(),
+        [&](const ContentId& id, const QString& asked) { opened = id, view = asked; });
+    QObject::connect(&desk.navigator, &shell::Navigator::openRequested, page.get(), [&](const ContentId& id) {
+        opened = id;
+        view.clear();
+    });
+    QTest::keyClick(&page->cards(), Qt::Key_Return);
+    EXPECT_EQ(opened, one);
+    EXPECT_TRUE(view.isEmpty());
+    QTest::keyClick(&page->cards(), Qt::Key_Right);
+    QTest::keyClick(&page->cards(), Qt::Key_Return);
+    EXPECT_EQ(opened, two);
+    EXPECT_EQ(view, corkboardView);
+}
+
+} // namespace tw::desktop::overview
