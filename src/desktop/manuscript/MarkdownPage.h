@@ -1,30 +1,19 @@
 #pragma once
 
-#include "desktop/manuscript/BodyEditor.h"
+#include "desktop/manuscript/PlainBodyEditor.h"
 
 namespace tw::desktop::manuscript {
 
 /** A body as the Markdown text it is, with the marks of the markup shown quietly. */
-class MarkdownPage final : public BodyEditor
+class MarkdownPage final : public PlainBodyEditor
 {
     Q_OBJECT
 
 public:
     MarkdownPage(theme::ThemeManager& themes, QWidget* parent);
 
-    void applyBody(const core::document::DocumentBody& body) override;
-    [[nodiscard]] core::document::DocumentBody currentBody() override;
-    [[nodiscard]] qint64 words() override;
-
 protected:
     void takeUpStyle() override;
-    bool canInsertFromMimeData(const QMimeData* source) const override;
-    void insertFromMimeData(const QMimeData* source) override;
-
-private:
-    void applyText(const QString& text);
-
-    core::document::BodyFormat m_format = core::document::BodyFormat::Markdown;
 };
 
 } // namespace tw::desktop::manuscript

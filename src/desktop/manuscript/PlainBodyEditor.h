@@ -1,0 +1,33 @@
+#pragma once
+
+#include "desktop/manuscript/BodyEditor.h"
+
+namespace tw::desktop::manuscript {
+
+/** A body as the plain text it is, character by character. Subclasses say how it looks. */
+class PlainBodyEditor : public BodyEditor
+{
+    Q_OBJECT
+
+public:
+    PlainBodyEditor(theme::ThemeManager& themes, QWidget* parent);
+
+    void applyBody(const core::document::DocumentBody& body) override;
+    [[nodiscard]] core::document::DocumentBody currentBody() override;
+    [[nodiscard]] qint64 words() override;
+
+protected:
+    bool canInsertFromMimeData(const QMimeData* source) const override;
+    void insertFromMimeData(const QMimeData* source) override;
+
+    [[nodiscard]] QString plainText() const;
+
+private:
+    void applyText(const QString& text);
+
+    core::document::BodyFormat m_format = core::document::BodyFormat::Markdown;
+    /** Lines of the body end as on another system; the document knows one line end alone. */
+    bool m_hasCarriageReturns = false;
+};
+
+} // namespace tw::desktop::manuscript

@@ -1,0 +1,84 @@
+#include "desktop/screenplay/ScreenplayFormats.h"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+
+namespace tw::desktop::screenplay {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/** In characters, from the left edge of a full line. */
+struct Column
+{
+    int indent = 0;
+    int width = lineCharacters;
+};
+
+Column columnOf(Element element)
+{
+    switch (element) {
+    case Element::Character:
+        return {22, lineCharacters - 22};
+    case Element::Dialogue:
+        return {10, 35};
+    case Element::Parenthetical:
+        return {16, 25};
+    case Element::Blank:
+    case Element::SceneHeading:
+    case Element::Action:
+    case Element::Transition:
+        break;
+    }
+    return {};
+}
+
+} // namespace
+
+QString typewriterFamily()
+{
+    const QStringList installed = QFontDatabase::families();
+    for (const QString& family :
+         {u"Courier Prime"_s, u"Courier New"_s, u"Nimbus Mono PS"_s, u"FreeMono"_s, u"Liberation Mono"_s}) {
+        if (installed.contains(family))
+            return family;
+    }
+    return QFontInfo(QFontDatabase::systemFont(QFontDatabase::FixedFont)).family();
+}
+
+QTextBlockFormat formatOf(Element element, qreal characterWidth)
+{
+    const Column column = columnOf(element);
+    QTextBlockFormat format;
+    format.setLeftMargin(column.indent * characterWidth);
+    format.setRightMargin((lineCharacters - column.indent - column.width) * characterWidth);
+    format.setAlignment(element == Element::Transition ? Qt::AlignRight : Qt::AlignLeft);
+    return format;
+}
+
+QString elementName(Element element)
+{
+    const auto translated = [](const char* text) {
+        return QCoreApplication::translate("ScreenplayElement", text);
+    };
+    switch (element) {
+    case Element::SceneHeading:
+        return translated(QT_TRANSLATE_NOOP("ScreenplayElement", "Scene heading"));
+    case Element::Action:
+        return translated(QT_TRANSLATE_NOOP("ScreenplayElement", "Action"));
+    case Element::Character:
+        return translated(QT_TRANSLATE_NOOP("ScreenplayElement", "Character"));
+    case Element::Dialogue:
+        return translated(QT_TRANSLATE_NOOP("ScreenplayElement", "Dialogue"));
+    case Element::Parenthetical:
+        return translated(QT_TRANSLATE_NOOP("ScreenplayElement", "Parenthetical"));
+    case Element::Transition:
+        return translated(QT_TRANSLATE_NOOP("ScreenplayElement", "Transition"));
+    case Element::Blank:
+        break;
+    }
+    return {};
+}
+
+} // namespace tw::desktop::screenplay

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/document/screenplay/ScreenplayText.h"
+
+#include <QCoreApplication>
+#include <QFont>
+#include <QTextBlockFormat>
+
+namespace tw::desktop::screenplay {
+
+using core::document::screenplay::Element;
+
+/** The typewriter's font that screenplays are set in, of those that are installed. */
+[[nodiscard]] QString typewriterFamily();
+
+/** Characters in a full line of the page. */
+inline constexpr int lineCharacters = 61;
+
+/**
+ * Where an element stands on the page, as the industry sets it: indents and widths in characters of the
+ * typewriter's font, ten to the inch.
+ */
+[[nodiscard]] QTextBlockFormat formatOf(Element element, qreal characterWidth);
+
+/** The name as a writer knows it. */
+[[nodiscard]] QString elementName(Element element);
+
+} // namespace tw::desktop::screenplay

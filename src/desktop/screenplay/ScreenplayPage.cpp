@@ -1,0 +1,343 @@
+#include "desktop/screenplay/ScreenplayPage.h"
+
+#include "desktop/screenplay/RevisedLines.h"
+#include "desktop/theme/ThemeManager.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextLayout>
+
+#include <chrono>
+
+namespace tw::desktop::screenplay {
+
+namespace fountain = core::document::screenplay;
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto revisionRest = 400ms;
+constexpr int markDistance = 24;
+
+// The state of a line: what it is, and what the writer chose for it where the text does not say so yet.
+constexpr int elementMask = 0xF;
+constexpr int chosenShift = 4;
+
+bool isBlank(const QTextBlock& block)
+{
+    return block.text().trimmed().isEmpty();
+}
+
+int stateOf(Element element, Element chosen)
+{
+    return static_cast<int>(element) | static_cast<int>(chosen) << chosenShift;
+}
+
+Element elementIn(const QTextBlock& block)
+{
+    return block.isValid() && block.userState() >= 0 ? static_cast<Element>(block.userState() & elementMask)
+                                                     : Element::Blank;
+}
+
+/** Blank for no choice. */
+Element chosenIn(const QTextBlock& block)
+{
+    return block.userState() >= 0 ? static_cast<Element>(block.userState() >> chosenShift & elementMask)
+                                  : Element::Blank;
+}
+
+Element shownIn(const QTextBlock& block)
+{
+    const Element element = elementIn(block);
+    return element == Element::Blank ? chosenIn(block) : element;
+}
+
+bool belongsToSpeech(Element element)
+{
+    return element == Element::Character || element == Element::Dialogue || element == Element::Parenthetical;
+}
+
+} // namespace
+
+manuscript::PageStyle screenplayStyle(manuscript::PageStyle style)
+{
+    constexpr qreal pointSize = 12;
+    constexpr qreal lineHeight = 1.2;
+    style.fontFamily = typewriterFamily();
+    style.fontPointSize = pointSize;
+    style.columnCharacters = lineCharacters;
+    style.lineHeight = lineHeight;
+    style.hasFirstLineIndents = false;
+    return style;
+}
+
+ScreenplayPage::ScreenplayPage(theme::ThemeManager& themes, QWidget* parent)
+    : PlainBodyEditor(themes, parent)
+{
+    setAccessibleName(tr("Text of the screenplay"));
+    m_revisionRest.setSingleShot(true);
+    m_revisionRest.setInterval(revisionRest);
+    connect(&m_revisionRest, &QTimer::timeout, this, &ScreenplayPage::markRevisedLines);
+    connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int added) {
+        noteLines(position, added);
+    });
+    // The document must not be changed before it is through with its own change.
+    connect(document(), &QTextDocument::contentsChanged, this, &ScreenplayPage::refreshNotedLines);
+    connect(this, &QTextEdit::cursorPositionChanged, this, &ScreenplayPage::announceElement);
+}
+
+void ScreenplayPage::takeUpStyle()
+{
+    m_characterWidth = QFontMetricsF(document()->defaultFont()).averageCharWidth();
+    noteLines(0, document()->characterCount() - 1);
+    refreshNotedLines();
+}
+
+void ScreenplayPage::takeUpTheme()
+{
+    PlainBodyEditor::takeUpTheme();
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        showLine(block, shownIn(block));
+}
+
+void ScreenplayPage::noteLines(int position, int added)
+{
+    if (m_isRefreshing)
+        return;
+    const int first = document()->findBlock(position).blockNumber();
+    const QTextBlock end = document()->findBlock(position + added);
+    const int last = end.isValid() ? end.blockNumber() : document()->blockCount() - 1;
+    m_firstNoted = m_firstNoted < 0 ? first : std::min(m_firstNoted, first);
+    m_lastNoted = std::max(m_lastNoted, last);
+    if (!m_baseline.isEmpty())
+        m_revisionRest.start();
+}
+
+void ScreenplayPage::refreshNotedLines()
+{
+    if (m_firstNoted < 0 || m_isRefreshing)
+        return;
+    const QScopedValueRollback refreshing(m_isRefreshing, true);
+    const Applying guard(*this);
+    const int last = std::exchange(m_lastNoted, -1);
+    // What a line is depends on whether something stands below it.
+    QTextBlock block = document()->findBlockByNumber(std::max(0, std::exchange(m_firstNoted, -1) - 1));
+    QTextCursor edit(document());
+    edit.beginEditBlock();
+    for (; block.isValid(); block = block.next()) {
+        const int before = block.userState();
+        refreshLine(block, block.blockNumber() <= last);
+        if (block.blockNumber() > last && block.userState() == before)
+            break;
+    }
+    edit.endEditBlock();
+    announceElement();
+}
+
+Element ScreenplayPage::naturalElement(const QTextBlock& block) const
+{
+    const QTextBlock below = block.next();
+    return fountain::elementOf(block.text(), elementIn(block.previous()), !below.isValid() || isBlank(below));
+}
+
+void ScreenplayPage::refreshLine(QTextBlock block, bool isForced)
+{
+    const int before = block.userState();
+    Element element = naturalElement(block);
+    Element chosen = chosenIn(block);
+    if (element != Element::Blank && chosen == Element::Character &&
+        fountain::elementOf(block.text(), elementIn(block.previous()), false) == Element::Character)
+        element = Element::Character; // nothing is said yet
+    else if (element != Element::Blank)
+        chosen = Element::Blank;
+    const int state = stateOf(element, chosen);
+    if (state == before && !isForced)
+        return;
+    block.setUserState(state);
+    showLine(block, shownIn(block));
+}
+
+void ScreenplayPage::showLine(const QTextBlock& block, Element element)
+{
+    const Applying guard(*this);
+    QTextBlockFormat format = formatOf(element, m_characterWidth);
+    format.setLineHeight(lineHeightPercent(), QTextBlockFormat::ProportionalHeight);
+    if (QTextBlockFormat merged = block.blockFormat(); merged.merge(format), merged != block.blockFormat())
+        QTextCursor(block).setBlockFormat(merged);
+    QList<QTextLayout::FormatRange> ranges;
+    QTextCharFormat look;
+    if (element == Element::SceneHeading) {
+        look.setFontWeight(QFont::Bold);
+        ranges.append({0, static_cast<int>(block.text().size()), look});
+    }
+    if (const auto mark = static_cast<int>(fountain::markLength(block.text(), element)); mark > 0) {
+        QTextCharFormat quiet;
+        quiet.setForeground(themes().theme().color(theme::Role::FaintInk));
+        ranges.append({0, mark, quiet});
+    }
+    if (ranges != block.layout()->formats()) {
+        block.layout()->setFormats(ranges);
+        document()->markContentsDirty(block.position(), block.length());
+    }
+}
+
+Element ScreenplayPage::elementAtCursor() const
+{
+    const Element shown = shownIn(textCursor().block());
+    return shown == Element::Blank ? Element::Action : shown;
+}
+
+void ScreenplayPage::choose(const QTextBlock& block, Element element)
+{
+    QTextBlock line = block;
+    line.setUserState(stateOf(elementIn(line), element));
+    showLine(line, shownIn(line));
+    announceElement();
+}
+
+bool ScreenplayPage::setElement(Element element)
+{
+    QTextCursor cursor = textCursor();
+    QTextBlock block = cursor.block();
+    const Element above = elementIn(block.previous());
+    const bool needsSpeaker = element == Element::Dialogue || element == Element::Parenthetical;
+    if (isReadOnly() || (needsSpeaker && !belongsToSpeech(above)))
+        return false;
+    if (isBlank(block)) {
+        choose(block, element);
+        return true;
+    }
+    const QString before = block.text();
+    const QString after = fountain::rewrittenAs(before, elementIn(block), element);
+    const int fromEnd = static_cast<int>(before.size()) - cursor.positionInBlock();
+    const bool isCrowdedAbove = above != Element::Blank && fountain::isPartedFrom(above, element);
+    const bool isCrowdedBelow =
+        element == Element::Transition && block.next().isValid() && !isBlank(block.next());
+    cursor.beginEditBlock();
+    cursor.movePosition(QTextCursor::StartOfBlock);
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    cursor.insertText(
+        (isCrowdedAbove ? u"\n"_s : QString()) + after + (isCrowdedBelow ? u"\n"_s : QString()));
+    if (isCrowdedBelow)
+        cursor.movePosition(QTextCursor::PreviousBlock);
+    block = cursor.block();
+    cursor.setPosition(block.position() + std::max(0, static_cast<int>(after.size()) - fromEnd));
+    cursor.endEditBlock();
+    setTextCursor(cursor);
+    if (elementIn(block) != element && element == Element::Character) {
+        choose(block, element);
+        noteLines(block.position(), 0);
+        refreshNotedLines();
+    }
+    return true;
+}
+
+void ScreenplayPage::stepElement(int step)
+{
+    const std::vector<Element>& elements = fountain::chosenElements();
+    const auto count = static_cast<int>(elements.size());
+    auto index = static_cast<int>(std::ranges::find(elements, elementAtCursor()) - elements.begin());
+    for (int tried = 1; tried < count; ++tried) {
+        index = (index + step + count) % count;
+        if (setElement(elements[static_cast<std::size_t>(index)]))
+            return;
+    }
+}
+
+bool ScreenplayPage::beginNextLine()
+{
+    QTextCursor cursor = textCursor();
+    const QTextBlock block = cursor.block();
+    const Element element = elementAtCursor();
+    if (isBlank(block)) {
+        if (element == Element::Action)
+            return false;
+        // Return in an empty line: not this, then.
+        choose(block, Element::Action);
+        return true;
+    }
+    if (cursor.hasSelection() || !cursor.atBlockEnd())
+        return false;
+    const Element next = fountain::elementAfter(element);
+    cursor.insertText(fountain::isPartedFrom(element, next) ? u"\n\n"_s : u"\n"_s);
+    setTextCursor(cursor);
+    choose(cursor.block(), next);
+    ensureCursorVisible();
+    return true;
+}
+
+void ScreenplayPage::keyPressEvent(QKeyEvent* event)
+{
+    const bool isPlain = !(event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReadOnly() || !isPlain) {
+        PlainBodyEditor::keyPressEvent(event);
+        return;
+    }
+    if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {
+        stepElement(event->key() == Qt::Key_Tab ? 1 : -1);
+        return;
+    }
+    if (isReturn && !event->modifiers().testFlag(Qt::ShiftModifier) && beginNextLine())
+        return;
+    const QString text = event->text();
+    if (!isReturn && !text.isEmpty() && text.front().isPrint() &&
+        fountain::isCapitalised(elementAtCursor())) {
+        QKeyEvent capital(
+            event->type(), event->key(), event->modifiers(), text.toUpper(), event->isAutoRepeat());
+        PlainBodyEditor::keyPressEvent(&capital);
+        return;
+    }
+    PlainBodyEditor::keyPressEvent(event);
+}
+
+void ScreenplayPage::announceElement()
+{
+    const Element element = elementAtCursor();
+    if (std::exchange(m_announced, element) != element)
+        emit elementChanged(element);
+}
+
+void ScreenplayPage::setRevisionBaseline(const QString& text)
+{
+    if (text == m_baseline)
+        return;
+    m_baseline = text;
+    markRevisedLines();
+}
+
+void ScreenplayPage::markRevisedLines()
+{
+    m_revisionRest.stop();
+    m_revisedLines = m_baseline.isEmpty() ? std::set<int>() : revisedLinesOf(m_baseline, plainText());
+    viewport()->update();
+}
+
+void ScreenplayPage::paintEvent(QPaintEvent* event)
+{
+    PlainBodyEditor::paintEvent(event);
+    if (m_revisedLines.empty())
+        return;
+    QPainter painter(viewport());
+    painter.setFont(document()->defaultFont());
+    painter.setPen(themes().theme().color(theme::Role::Accent));
+    const int scrolled = verticalScrollBar()->value();
+    const auto right = static_cast<int>(document()->rootFrame()->frameFormat().leftMargin() + columnWidth());
+    const QAbstractTextDocumentLayout& layout = *document()->documentLayout();
+    QTextBlock block = cursorForPosition(event->rect().topLeft()).block();
+    for (; block.isValid(); block = block.next()) {
+        const QRectF place = layout.blockBoundingRect(block).translated(0, -scrolled);
+        if (place.top() > event->rect().bottom())
+            break;
+        if (m_revisedLines.contains(block.blockNumber())) {
+            const QRectF mark(right + markDistance, place.top(), markDistance, place.height());
+            painter.drawText(mark, Qt::AlignHCenter | Qt::AlignTop, u"*"_s);
+        }
+    }
+}
+
+} // namespace tw::desktop::screenplay

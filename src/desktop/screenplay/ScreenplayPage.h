@@ -1,0 +1,73 @@
+#pragma once
+
+#include "desktop/manuscript/PlainBodyEditor.h"
+#include "desktop/screenplay/ScreenplayFormats.h"
+
+#include <QTextBlock>
+#include <QTimer>
+
+#include <set>
+
+namespace tw::desktop::screenplay {
+
+/** How pages of screenplays are set, whatever the writer chose for prose; the zoom is the same. */
+[[nodiscard]] manuscript::PageStyle screenplayStyle(manuscript::PageStyle style);
+
+/**
+ * A screenplay as the plain text it is, each line where its element belongs on the page. Tab goes through the
+ * elements of a line, Return begins the element that usually follows. Lines that differ from the revision
+ * baseline carry an asterisk in the margin.
+ */
+class ScreenplayPage final : public manuscript::PlainBodyEditor
+{
+    Q_OBJECT
+
+public:
+    ScreenplayPage(theme::ThemeManager& themes, QWidget* parent);
+
+    /** What the cursor's line is, or will be once something stands in it. */
+    [[nodiscard]] Element elementAtCursor() const;
+    /**
+     * Makes the cursor's line this element, rewriting it as far as that takes. False when it cannot be:
+     * nobody speaks above.
+     */
+    bool setElement(Element element);
+
+    /** The text as it was when the last revision was marked; empty for no marks. */
+    void setRevisionBaseline(const QString& text);
+    /** Numbers of the lines that carry a mark, from 0. */
+    [[nodiscard]] const std::set<int>& revisedLines() const { return m_revisedLines; }
+    /** Brings the marks up to the text at once; otherwise that happens in a rest. */
+    void markRevisedLines();
+
+signals:
+    void elementChanged(tw::core::document::screenplay::Element element);
+
+protected:
+    void takeUpStyle() override;
+    void takeUpTheme() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void noteLines(int position, int added);
+    void refreshNotedLines();
+    void refreshLine(QTextBlock block, bool isForced);
+    void showLine(const QTextBlock& block, Element element);
+    void choose(const QTextBlock& block, Element element);
+    [[nodiscard]] Element naturalElement(const QTextBlock& block) const;
+    void stepElement(int step);
+    bool beginNextLine();
+    void announceElement();
+
+    qreal m_characterWidth = 1;
+    int m_firstNoted = -1;
+    int m_lastNoted = -1;
+    bool m_isRefreshing = false;
+    Element m_announced = Element::Blank;
+    QString m_baseline;
+    std::set<int> m_revisedLines;
+    QTimer m_revisionRest;
+};
+
+} // namespace tw::desktop::screenplay
