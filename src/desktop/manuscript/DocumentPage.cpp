@@ -164,7 +164,7 @@ void DocumentPage::showDocument()
     if (!document)
         return;
     const QScopedValueRollback guard(m_showing, true);
-    m_page->applyText(document->body().text);
+    m_page->applyBody(document->body());
     m_page->setReadOnly(document->isLocked());
     m_lockNotice->setVisible(document->isLocked());
 }

@@ -3,6 +3,7 @@
 #include "core/document/WordCount.h"
 
 #include <QMimeData>
+#include <QTextBlock>
 #include <QUrl>
 
 #include <algorithm>
@@ -11,6 +12,21 @@ namespace tw::desktop::manuscript {
 
 using namespace Qt::Literals::StringLiterals;
 using core::document::DocumentBody;
+
+namespace {
+
+/** How the line of a block ends in the body. */
+class LineEnd final : public QTextBlockUserData
+{
+public:
+    explicit LineEnd(QString end)
+        : text(std::move(end))
+    {}
+
+    const QString text;
+};
+
+} // namespace
 
 PlainBodyEditor::PlainBodyEditor(theme::ThemeManager& themes, QWidget* parent)
     : BodyEditor(themes, parent)
@@ -21,18 +37,43 @@ PlainBodyEditor::PlainBodyEditor(theme::ThemeManager& themes, QWidget* parent)
 void PlainBodyEditor::applyBody(const DocumentBody& body)
 {
     m_format = body.format;
-    m_hasCarriageReturns = body.text.contains("\r\n"_L1);
     QString text = body.text;
-    if (m_hasCarriageReturns)
-        text.replace("\r\n"_L1, "\n"_L1);
+    text.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
     applyText(text);
+    keepLineEnds(body.text);
+}
+
+void PlainBodyEditor::keepLineEnds(const QString& body)
+{
+    const qsizetype returns = body.count(u'\r');
+    const qsizetype pairs = body.count("\r\n"_L1);
+    m_lineEnd = pairs > 0 ? u"\r\n"_s : u"\n"_s;
+    m_hasMixedLineEnds = returns != pairs || (pairs > 0 && body.count(u'\n') != pairs);
+    if (!m_hasMixedLineEnds)
+        return;
+    qsizetype position = 0;
+    for (QTextBlock block = document()->begin(); block.isValid() && position < body.size();
+         block = block.next()) {
+        while (position < body.size() && body[position] != u'\n' && body[position] != u'\r')
+            ++position;
+        const bool isPair = QStringView(body).sliced(position).startsWith("\r\n"_L1);
+        block.setUserData(new LineEnd(body.mid(position, isPair ? 2 : 1)));
+        position += isPair ? 2 : 1;
+    }
 }
 
 DocumentBody PlainBodyEditor::currentBody()
 {
     QString text = plainText();
-    if (m_hasCarriageReturns)
-        text.replace("\n"_L1, "\r\n"_L1);
+    if (!m_hasMixedLineEnds)
+        return {m_lineEnd == u"\n" ? text : text.replace(u'\n', m_lineEnd), m_format};
+    text.clear();
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        text += block.text();
+        const auto* const end = static_cast<const LineEnd*>(block.userData());
+        if (block.next().isValid())
+            text += end ? end->text : m_lineEnd;
+    }
     return {text, m_format};
 }
 

@@ -24,10 +24,13 @@ protected:
 
 private:
     void applyText(const QString& text);
+    void keepLineEnds(const QString& body);
 
     core::document::BodyFormat m_format = core::document::BodyFormat::Markdown;
-    /** Lines of the body end as on another system; the document knows one line end alone. */
-    bool m_hasCarriageReturns = false;
+    /** Of lines that have none of their own; the document knows one line end alone. */
+    QString m_lineEnd{u'\n'};
+    /** Lines end in several ways: each keeps its own. */
+    bool m_hasMixedLineEnds = false;
 };
 
 } // namespace tw::desktop::manuscript

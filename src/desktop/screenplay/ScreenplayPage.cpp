@@ -87,7 +87,7 @@ ScreenplayPage::ScreenplayPage(theme::ThemeManager& themes, QWidget* parent)
     });
     // The document must not be changed before it is through with its own change.
     connect(document(), &QTextDocument::contentsChanged, this, &ScreenplayPage::refreshNotedLines);
-    connect(this, &QTextEdit::cursorPositionChanged, this, &ScreenplayPage::announceElement);
+    connect(this, &QTextEdit::cursorPositionChanged, this, &ScreenplayPage::followCursor);
 }
 
 void ScreenplayPage::takeUpStyle()
@@ -149,9 +149,10 @@ void ScreenplayPage::refreshLine(QTextBlock block, bool isForced)
     const int before = block.userState();
     Element element = naturalElement(block);
     Element chosen = chosenIn(block);
-    if (element != Element::Blank && chosen == Element::Character &&
-        fountain::elementOf(block.text(), elementIn(block.previous()), false) == Element::Character)
-        element = Element::Character; // nothing is said yet
+    const bool isChosen = chosen != Element::Blank && element != Element::Blank && element != chosen;
+    // What the writer chose holds while they are at it, and a name also before anything is said below.
+    if (isChosen && (block == textCursor().block() || isNameWithoutSpeech(block, chosen)))
+        element = chosen;
     else if (element != Element::Blank)
         chosen = Element::Blank;
     const int state = stateOf(element, chosen);
@@ -159,6 +160,12 @@ void ScreenplayPage::refreshLine(QTextBlock block, bool isForced)
         return;
     block.setUserState(state);
     showLine(block, shownIn(block));
+}
+
+bool ScreenplayPage::isNameWithoutSpeech(const QTextBlock& block, Element chosen) const
+{
+    return chosen == Element::Character &&
+           fountain::elementOf(block.text(), elementIn(block.previous()), false) == Element::Character;
 }
 
 void ScreenplayPage::showLine(const QTextBlock& block, Element element)
@@ -201,8 +208,7 @@ void ScreenplayPage::choose(const QTextBlock& block, Element element)
 
 bool ScreenplayPage::setElement(Element element)
 {
-    QTextCursor cursor = textCursor();
-    QTextBlock block = cursor.block();
+    const QTextBlock block = textCursor().block();
     const Element above = elementIn(block.previous());
     const bool needsSpeaker = element == Element::Dialogue || element == Element::Parenthetical;
     if (isReadOnly() || (needsSpeaker && !belongsToSpeech(above)))
@@ -211,29 +217,60 @@ bool ScreenplayPage::setElement(Element element)
         choose(block, element);
         return true;
     }
+    rewrite(block, element);
+    return true;
+}
+
+void ScreenplayPage::rewrite(QTextBlock block, Element element)
+{
+    const Element above = elementIn(block.previous());
     const QString before = block.text();
-    const QString after = fountain::rewrittenAs(before, elementIn(block), element);
-    const int fromEnd = static_cast<int>(before.size()) - cursor.positionInBlock();
+    const QString after = fountain::rewrittenAs(before, naturalElement(block), element);
+    const QTextCursor writer = textCursor();
+    const bool isWritersLine = writer.block() == block;
+    const int fromEnd = static_cast<int>(before.size()) - writer.positionInBlock();
     const bool isCrowdedAbove = above != Element::Blank && fountain::isPartedFrom(above, element);
     const bool isCrowdedBelow =
         element == Element::Transition && block.next().isValid() && !isBlank(block.next());
+    QTextCursor cursor(block);
     cursor.beginEditBlock();
-    cursor.movePosition(QTextCursor::StartOfBlock);
     cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-    cursor.insertText(
-        (isCrowdedAbove ? u"\n"_s : QString()) + after + (isCrowdedBelow ? u"\n"_s : QString()));
+    if (isCrowdedAbove || isCrowdedBelow || after != before)
+        cursor.insertText(
+            (isCrowdedAbove ? u"\n"_s : QString()) + after + (isCrowdedBelow ? u"\n"_s : QString()));
     if (isCrowdedBelow)
         cursor.movePosition(QTextCursor::PreviousBlock);
     block = cursor.block();
-    cursor.setPosition(block.position() + std::max(0, static_cast<int>(after.size()) - fromEnd));
     cursor.endEditBlock();
-    setTextCursor(cursor);
-    if (elementIn(block) != element && element == Element::Character) {
+    if (isWritersLine) {
+        cursor.setPosition(block.position() + std::max(0, static_cast<int>(after.size()) - fromEnd));
+        setTextCursor(cursor);
+    }
+    if (isNameWithoutSpeech(block, element)) {
         choose(block, element);
         noteLines(block.position(), 0);
         refreshNotedLines();
     }
-    return true;
+}
+
+void ScreenplayPage::followCursor()
+{
+    const int line = textCursor().blockNumber();
+    const int left = std::exchange(m_cursorLine, line);
+    if (left != line && !isApplying() && !isReadOnly())
+        settleChoice(document()->findBlockByNumber(left));
+    announceElement();
+}
+
+void ScreenplayPage::settleChoice(const QTextBlock& block)
+{
+    const Element chosen = chosenIn(block);
+    if (!block.isValid() || isBlank(block) || chosen == Element::Blank || chosen == naturalElement(block) ||
+        isNameWithoutSpeech(block, chosen))
+        return;
+    rewrite(block, chosen);
+    noteLines(block.position(), 0);
+    refreshNotedLines();
 }
 
 void ScreenplayPage::stepElement(int step)
@@ -292,7 +329,11 @@ void ScreenplayPage::keyPressEvent(QKeyEvent* event)
         PlainBodyEditor::keyPressEvent(&capital);
         return;
     }
+    const Element before = elementAtCursor();
     PlainBodyEditor::keyPressEvent(event);
+    // "int. " has just become a scene: what was typed of it is brought to capitals as well.
+    if (before != Element::SceneHeading && elementAtCursor() == Element::SceneHeading && !text.isEmpty())
+        rewrite(textCursor().block(), Element::SceneHeading);
 }
 
 void ScreenplayPage::announceElement()

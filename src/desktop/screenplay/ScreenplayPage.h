@@ -55,7 +55,11 @@ private:
     void refreshLine(QTextBlock block, bool isForced);
     void showLine(const QTextBlock& block, Element element);
     void choose(const QTextBlock& block, Element element);
+    void rewrite(QTextBlock block, Element element);
+    void followCursor();
+    void settleChoice(const QTextBlock& block);
     [[nodiscard]] Element naturalElement(const QTextBlock& block) const;
+    [[nodiscard]] bool isNameWithoutSpeech(const QTextBlock& block, Element chosen) const;
     void stepElement(int step);
     bool beginNextLine();
     void announceElement();
@@ -65,6 +69,8 @@ private:
     int m_lastNoted = -1;
     bool m_isRefreshing = false;
     Element m_announced = Element::Blank;
+    /** The number of the line that the cursor was in. */
+    int m_cursorLine = 0;
     QString m_baseline;
     std::set<int> m_revisedLines;
     QTimer m_revisionRest;

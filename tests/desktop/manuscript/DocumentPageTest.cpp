@@ -121,7 +121,7 @@ TEST(MarkdownPageTest, applyTextMakesAnyTextOfAnyOther)
         for (auto count = random() % 6; count > 0; --count)
             piece += letters[static_cast<qsizetype>(random() % static_cast<std::size_t>(letters.size()))];
         text.replace(start, length, piece);
-        page.applyText(text);
+        page.applyBody({text, {}});
         ASSERT_EQ(page.toPlainText(), text);
     }
 }

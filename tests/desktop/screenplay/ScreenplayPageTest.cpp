@@ -54,7 +54,7 @@ TEST_F(ScreenplayPageTest, aSceneIsTypedWithTabAndReturnAlone)
     EXPECT_EQ(page.elementAtCursor(), Element::Dialogue);
     QTest::keyClick(&page, Qt::Key_Tab);
     EXPECT_EQ(page.elementAtCursor(), Element::Parenthetical);
-    QTest::keyClicks(&page, u"(quietly)"_s);
+    QTest::keyClicks(&page, u"quietly"_s);
     QTest::keyClick(&page, Qt::Key_Return);
     QTest::keyClicks(&page, u"It is late."_s);
     QTest::keyClick(&page, Qt::Key_Return);
@@ -66,7 +66,7 @@ TEST_F(ScreenplayPageTest, aSceneIsTypedWithTabAndReturnAlone)
     QTest::keyClicks(&page, u"ext. quay"_s);
     EXPECT_EQ(
         text(),
-        u"int. lighthouse - night\n\nRain on the glass.\n\nMARA\n(quietly)\nIt is late.\n\nEXT. QUAY"_s);
+        u"INT. LIGHTHOUSE - NIGHT\n\nRain on the glass.\n\nMARA\n(quietly)\nIt is late.\n\nEXT. QUAY"_s);
     EXPECT_EQ(indents(), (std::vector<int>{0, 0, 0, 0, 22, 16, 10, 0, 0}));
 }
 
