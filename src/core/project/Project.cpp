@@ -69,8 +69,9 @@ void Project::insert(std::unique_ptr<ContentObject> object)
     m_changes.added.insert(m_changes.added.end(), inserted->id());
 }
 
-std::unique_ptr<ContentObject> Project::take(const ContentId& id)
+std::unique_ptr<ContentObject> Project::take(ContentId id)
 {
+    // A copy: the caller may well have found the id among the objects.
     const auto entry = m_objects.find(id);
     if (entry == m_objects.end())
         return nullptr;

@@ -66,7 +66,7 @@ public:
     /** Inserts an object as it is: for the loader and for the undo of a removal. The id must be free. */
     void insert(std::unique_ptr<content::ContentObject> object);
     /** Hands the object back to the caller; none when the id is absent. */
-    [[nodiscard]] std::unique_ptr<content::ContentObject> take(const ContentId& id);
+    [[nodiscard]] std::unique_ptr<content::ContentObject> take(ContentId id);
 
     // Codex schema
 

@@ -294,6 +294,7 @@ TEST_F(SingleFileWorkspace, isBackedUpUnderItsName)
 TEST_F(SingleFileWorkspace, librariesAreFoundFromTheNextPlaceAsWell)
 {
     Workspace shared(environment);
+    ASSERT_TRUE(QDir().mkpath(root.filePath(u"shared"_s)));
     ASSERT_TRUE(shared.saveAs(root.filePath(u"shared/library.vellory"_s)));
     const QString absolute = root.filePath(u"shared/library.vellory"_s);
     auto workspace = makeSaved(root.filePath(u"books/tide"_s));

@@ -71,6 +71,15 @@ QByteArray withBody(const QByteArray& bytes, const QString& path, const QString&
     return serializeObject(*document);
 }
 
+/** A journal that came back after a power cut would put its old text over what was saved since. */
+void removeForGood(FileSystem& fileSystem, const QString& path)
+{
+    // An empty file is no journal, and tells of no crash.
+    if (!fileSystem.remove(path))
+        QFile::resize(path, 0);
+    static_cast<void>(fileSystem.syncFolder(QFileInfo(path).path()));
+}
+
 } // namespace
 
 CrashJournal::CrashJournal(const StorageEnvironment& environment, QString projectPath)
@@ -219,16 +228,17 @@ void CrashJournal::removeFile()
     m_recordSizes.clear();
     m_size = 0;
     m_isNameOnMedium = false;
-    // An empty file is no journal, and tells of no crash.
-    if (m_lock && !m_environment.fileSystem.remove(m_filePath))
-        QFile::resize(m_filePath, 0);
+    if (m_lock)
+        removeForGood(m_environment.fileSystem, m_filePath);
     m_lock.reset();
     const QMutexLocker lock(&m_mutex);
     m_lastWrite = {};
 }
 
-AbandonedJournal::AbandonedJournal(QString path, Journal content, std::unique_ptr<QLockFile> lock)
-    : m_path(std::move(path))
+AbandonedJournal::AbandonedJournal(
+    FileSystem& fileSystem, QString path, Journal content, std::unique_ptr<QLockFile> lock)
+    : m_fileSystem(&fileSystem)
+    , m_path(std::move(path))
     , m_content(std::move(content))
     , m_lock(std::move(lock))
 {}
@@ -250,14 +260,15 @@ std::vector<AbandonedJournal> AbandonedJournal::find(
             continue;
         auto journal = parseJournal(content->bytes);
         if (journal && journal.value().projectPath == projectPath)
-            found.push_back(AbandonedJournal(path, std::move(journal).value(), std::move(lock)));
+            found.push_back(
+                AbandonedJournal(environment.fileSystem, path, std::move(journal).value(), std::move(lock)));
     }
     return found;
 }
 
 void AbandonedJournal::remove()
 {
-    QFile::remove(m_path);
+    removeForGood(*m_fileSystem, m_path);
     m_lock.reset();
 }
 

@@ -87,16 +87,21 @@ private:
 class AbandonedJournal
 {
 public:
-    /** The journals of this project, the oldest first; unreadable ones are left out. */
+    /**
+     * The journals of this project, the oldest first; unreadable ones are left out. The environment must
+     * outlive them.
+     */
     [[nodiscard]] static std::vector<AbandonedJournal> find(
         const StorageEnvironment& environment, const QString& projectPath);
 
     [[nodiscard]] const Journal& content() const { return m_content; }
+    /** For good, also should the power fail right now. */
     void remove();
 
 private:
-    AbandonedJournal(QString path, Journal content, std::unique_ptr<QLockFile> lock);
+    AbandonedJournal(FileSystem& fileSystem, QString path, Journal content, std::unique_ptr<QLockFile> lock);
 
+    FileSystem* m_fileSystem; // never null; a pointer, so that journals can be kept in a list
     QString m_path;
     Journal m_content;
     std::unique_ptr<QLockFile> m_lock;
