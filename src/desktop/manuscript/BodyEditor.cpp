@@ -6,6 +6,7 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextFrame>
@@ -147,9 +148,12 @@ void BodyEditor::paintEvent(QPaintEvent* event)
     painter.fillRect(
         viewport()->rect().adjusted(m_sheetMargin, 0, -m_sheetMargin, 0),
         m_themes.theme().color(theme::Role::Page));
+    paintSheet(painter, event->rect());
     painter.end();
     QTextEdit::paintEvent(event);
 }
+
+void BodyEditor::paintSheet(QPainter&, const QRect&) {}
 
 bool BodyEditor::event(QEvent* event)
 {

@@ -12,9 +12,9 @@ class ThemeManager;
 namespace tw::desktop::manuscript {
 
 /**
- * A sheet of paper on which the body of one document is edited: a column of text in the middle of the desk, generous
- * lines, a zoom apart from the font. How the body is shown is the subclasses' matter. Undo belongs to the
- * project, not to this widget; whoever uses it carries edits to the project (see TypingBursts).
+ * A sheet of paper on which the body of one document is edited: a column of text in the middle of the desk,
+ * generous lines, a zoom apart from the font. How the body is shown is the subclasses' matter. Undo belongs
+ * to the project, not to this widget; whoever uses it carries edits to the project (see TypingBursts).
  */
 class BodyEditor : public QTextEdit
 {
@@ -78,6 +78,8 @@ protected:
     /** Sets everything that depends on the page's style; the font is set already. */
     virtual void takeUpStyle() = 0;
     virtual void takeUpTheme();
+    /** What lies on the sheet below the text; `clip` in the viewport's coordinates. */
+    virtual void paintSheet(QPainter& painter, const QRect& clip);
     void layOutColumn();
 
     bool event(QEvent* event) override;

@@ -11,6 +11,7 @@
 
 namespace tw::desktop::manuscript {
 
+using namespace Qt::Literals::StringLiterals;
 using core::document::DocumentBody;
 
 MarkdownPage::MarkdownPage(theme::ThemeManager& themes, QWidget* parent)
@@ -33,23 +34,38 @@ void MarkdownPage::takeUpStyle()
 void MarkdownPage::applyBody(const DocumentBody& body)
 {
     m_format = body.format;
-    applyText(body.text);
+    m_hasCarriageReturns = body.text.contains("\r\n"_L1);
+    QString text = body.text;
+    if (m_hasCarriageReturns)
+        text.replace("\r\n"_L1, "\n"_L1);
+    applyText(text);
 }
 
 DocumentBody MarkdownPage::currentBody()
 {
-    return {toPlainText(), m_format};
+    QString text = plainText();
+    if (m_hasCarriageReturns)
+        text.replace("\n"_L1, "\r\n"_L1);
+    return {text, m_format};
+}
+
+QString MarkdownPage::plainText() const
+{
+    // toPlainText() would make blanks of the spaces that do not break.
+    QString text = document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    return text;
 }
 
 qint64 MarkdownPage::words()
 {
-    return core::document::countWords(toPlainText());
+    return core::document::countWords(plainText());
 }
 
 void MarkdownPage::applyText(const QString& text)
 {
     const Applying guard(*this);
-    const QString present = toPlainText();
+    const QString present = plainText();
     if (present == text)
         return;
     if (present.isEmpty() || text.isEmpty()) {

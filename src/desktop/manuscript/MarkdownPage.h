@@ -23,8 +23,11 @@ protected:
 
 private:
     void applyText(const QString& text);
+    [[nodiscard]] QString plainText() const;
 
     core::document::BodyFormat m_format = core::document::BodyFormat::Markdown;
+    /** Lines of the body end as on another system; the document knows one line end alone. */
+    bool m_hasCarriageReturns = false;
 };
 
 } // namespace tw::desktop::manuscript

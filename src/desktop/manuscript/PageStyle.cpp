@@ -17,6 +17,7 @@ constexpr QLatin1StringView familyKey = "editor/fontFamily"_L1;
 constexpr QLatin1StringView sizeKey = "editor/fontSize"_L1;
 constexpr QLatin1StringView widthKey = "editor/pageWidth"_L1;
 constexpr QLatin1StringView lineHeightKey = "editor/lineHeight"_L1;
+constexpr QLatin1StringView indentsKey = "editor/firstLineIndents"_L1;
 constexpr qreal smallestZoom = 0.5;
 constexpr qreal largestZoom = 3.0;
 constexpr qreal zoomStep = 0.1;
@@ -34,6 +35,7 @@ PageStyle pageStyleFrom(const QSettings& settings)
         settings.value(widthKey, style.columnCharacters).toInt(), PageLimits::narrowest, PageLimits::widest);
     style.lineHeight = std::clamp(
         settings.value(lineHeightKey, style.lineHeight).toReal(), PageLimits::tightest, PageLimits::loosest);
+    style.hasFirstLineIndents = settings.value(indentsKey, style.hasFirstLineIndents).toBool();
     style.zoom = std::clamp(settings.value("editor/zoom", style.zoom).toReal(), smallestZoom, largestZoom);
     return style;
 }
@@ -44,11 +46,12 @@ void storePageStyle(QSettings& settings, const PageStyle& style)
     settings.setValue(sizeKey, style.fontPointSize);
     settings.setValue(widthKey, style.columnCharacters);
     settings.setValue(lineHeightKey, style.lineHeight);
+    settings.setValue(indentsKey, style.hasFirstLineIndents);
 }
 
 void forgetPageStyle(QSettings& settings)
 {
-    for (const QLatin1StringView key : {familyKey, sizeKey, widthKey, lineHeightKey})
+    for (const QLatin1StringView key : {familyKey, sizeKey, widthKey, lineHeightKey, indentsKey})
         settings.remove(key);
 }
 

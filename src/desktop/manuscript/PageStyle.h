@@ -18,6 +18,8 @@ struct PageStyle
     int columnCharacters = 66;
     /** Of the font's size. */
     qreal lineHeight = 1.5;
+    /** Paragraphs begin with an indented line rather than after a gap, as in a printed novel. */
+    bool hasFirstLineIndents = false;
 
     friend bool operator==(const PageStyle&, const PageStyle&) = default;
 };
@@ -35,7 +37,7 @@ struct PageLimits
 
 /**
  * How the user wants pages set: "editor/fontFamily", "editor/fontSize", "editor/pageWidth",
- * "editor/lineHeight", "editor/zoom".
+ * "editor/lineHeight", "editor/firstLineIndents", "editor/zoom".
  */
 [[nodiscard]] PageStyle pageStyleFrom(const QSettings& settings);
 /** Keeps all of it but the zoom, which has its own keys. */

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/PageStyle.h"
 #include "desktop/shell/DeskContext.h"
 
 #include <QWidget>

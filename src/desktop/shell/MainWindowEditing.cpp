@@ -3,7 +3,7 @@
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
-#include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/PageStyle.h"
 #include "desktop/settings/SettingsDialog.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/WorkArea.h"
