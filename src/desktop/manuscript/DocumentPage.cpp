@@ -4,14 +4,22 @@
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptModel.h"
 #include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/NotesPane.h"
 #include "desktop/manuscript/TypingBursts.h"
+#include "desktop/manuscript/TypingSettings.h"
 #include "desktop/manuscript/rich/RichPage.h"
+#include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 
+#include <QDesktopServices>
 #include <QLabel>
 #include <QLocale>
+#include <QImage>
+#include <QScrollBar>
 #include <QSettings>
+#include <QTemporaryDir>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -27,12 +35,14 @@ namespace {
 /** A selection that is being drawn is not counted at every step. */
 constexpr auto selectionRest = 150ms;
 constexpr QLatin1StringView sourceKey = "editor/markdownSource"_L1;
+constexpr QLatin1StringView typewriterKey = "editor/typewriterScrolling"_L1;
 
 } // namespace
 
 DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId& id, QWidget* parent)
     : WorkPage(id, parent)
     , m_desk(desk)
+    , m_places(desk.settings, desk.session.workspace().displayPath())
     , m_layout(new QVBoxLayout(this))
     , m_lockNotice(new QLabel(tr("This document is locked. Unlock it in the inspector to write."), this))
 {
@@ -41,16 +51,24 @@ DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId
     m_layout->addWidget(m_lockNotice);
     m_lockNotice->setAlignment(Qt::AlignCenter);
     m_lockNotice->setContentsMargins(8, 8, 8, 8);
+    m_notes = new NotesPane(desk, id, this);
+    m_layout->addWidget(m_notes);
+    connect(m_notes, &NotesPane::referenceRequested, this, [this](const QString& label) {
+        if (m_richPage && !m_richPage->showFootnoteReference(label))
+            m_desk.navigator.say(tr("Nothing in the text refers to note %1.").arg(label));
+    });
     m_selectionRest.setSingleShot(true);
     m_selectionRest.setInterval(selectionRest);
     connect(&m_selectionRest, &QTimer::timeout, this, &DocumentPage::recountSelection);
     makeEditor(desk.settings.value(sourceKey).toBool() ? TextView::MarkdownSource : TextView::Rich);
     connect(&desk.session, &shell::ProjectSession::changed, this, &DocumentPage::followChanges);
     showLock();
+    showNotes();
 }
 
 DocumentPage::~DocumentPage()
 {
+    rememberPlace();
     // The editor loses the focus while it dies; nobody is left to hear of it.
     m_editor->blockSignals(true);
 }
@@ -62,6 +80,9 @@ void DocumentPage::makeEditor(TextView view)
         m_richPage = new rich::RichPage(m_desk, objectId(), this);
         m_editor = m_richPage;
         bursts = &m_richPage->bursts();
+        connect(m_richPage, &rich::RichPage::footnoteActivated, this, &DocumentPage::showNote);
+        connect(m_richPage, &rich::RichPage::linkActivated, this, &DocumentPage::openLink);
+        connect(m_richPage, &rich::RichPage::imagePasted, this, &DocumentPage::keepImage);
     } else {
         auto* const page = new MarkdownPage(m_desk.themes, this);
         page->setPageStyle(pageStyleFrom(m_desk.settings));
@@ -74,6 +95,46 @@ void DocumentPage::makeEditor(TextView view)
     connect(bursts, &TypingBursts::settled, this, &DocumentPage::recount);
     connect(m_editor, &QTextEdit::selectionChanged, &m_selectionRest, qOverload<>(&QTimer::start));
     m_words = m_editor->words();
+    setFocusMode(m_isFocusMode);
+}
+
+void DocumentPage::showEvent(QShowEvent* event)
+{
+    WorkPage::showEvent(event);
+    // Once the page has its size, so that the line comes back to its height in the window.
+    if (!m_isPlaceRestored)
+        QTimer::singleShot(0ms, this, &DocumentPage::restorePlace);
+}
+
+void DocumentPage::hideEvent(QHideEvent* event)
+{
+    rememberPlace();
+    WorkPage::hideEvent(event);
+}
+
+void DocumentPage::rememberPlace()
+{
+    if (!m_isPlaceRestored)
+        return;
+    const QTextCursor cursor = m_editor->textCursor();
+    m_places.remember(
+        objectId(),
+        {cursor.position(), m_editor->document()->characterCount(), m_editor->cursorRect().top()});
+}
+
+void DocumentPage::restorePlace()
+{
+    m_isPlaceRestored = true;
+    const auto place = m_places.find(objectId());
+    // Somebody was faster: what is typed or chosen already stays.
+    if (!place || m_editor->textCursor().position() != 0)
+        return;
+    QTextCursor cursor = m_editor->textCursor();
+    cursor.setPosition(place->positionIn(m_editor->document()->characterCount()));
+    m_editor->setTextCursor(cursor);
+    m_editor->ensureCursorVisible();
+    QScrollBar& bar = *m_editor->verticalScrollBar();
+    bar.setValue(bar.value() + m_editor->cursorRect().top() - place->top);
 }
 
 TextView DocumentPage::textView() const
@@ -109,6 +170,18 @@ void DocumentPage::setTextView(TextView view)
 void DocumentPage::applyStyle()
 {
     m_editor->setPageStyle(pageStyleFrom(m_desk.settings));
+    if (m_richPage)
+        m_richPage->setTypingRules(typingRulesFrom(m_desk.settings));
+    m_editor->setTypewriterScrolling(m_isFocusMode || m_desk.settings.value(typewriterKey).toBool());
+}
+
+void DocumentPage::setFocusMode(bool isOn)
+{
+    m_isFocusMode = isOn;
+    if (m_richPage)
+        m_richPage->setFocusedOnParagraph(isOn);
+    applyStyle();
+    showNotes();
 }
 
 void DocumentPage::stepZoom(int step)
@@ -151,7 +224,50 @@ void DocumentPage::followChanges(const core::project::ProjectChanges& changes)
     if (!changes.concerns(objectId()) || !m_desk.session.project().contains(objectId()))
         return;
     showLock();
+    showNotes();
     emit titleChanged();
+}
+
+void DocumentPage::showNotes()
+{
+    const auto* const document = m_desk.session.project().findAs<Document>(objectId());
+    if (!document)
+        return;
+    const auto& notes = document->footnotes();
+    m_notes->showNotes(
+        notes, m_richPage && !notes.empty() ? m_richPage->footnoteReferences() : QStringList());
+    m_notes->setVisible(!notes.empty() && !m_isFocusMode);
+}
+
+void DocumentPage::showNote(const QString& label)
+{
+    if (m_notes->focusNote(label) || (m_richPage && m_richPage->showFootnoteDefinition(label)))
+        return;
+    m_desk.navigator.say(tr("Note %1 has no text anywhere in this document.").arg(label));
+}
+
+void DocumentPage::keepImage(const QImage& image)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(tr("pasted image") + u".png"_s);
+    if (!image.save(file)) {
+        m_desk.navigator.say(tr("The pasted image could not be written. Save it as a file and insert that."));
+        return;
+    }
+    const auto imported = m_desk.session.importAsset(file);
+    if (imported)
+        m_richPage->insertImage(imported.value(), QString());
+    else
+        m_desk.navigator.say(imported.message());
+}
+
+void DocumentPage::openLink(const QString& target)
+{
+    // A text may come from anybody: it leads to pages and mail, never to files or programs.
+    static const QStringList harmlessSchemes{u"http"_s, u"https"_s, u"mailto"_s};
+    const QUrl url(target);
+    if (!harmlessSchemes.contains(url.scheme()) || !QDesktopServices::openUrl(url))
+        m_desk.navigator.say(tr("The link “%1” cannot be opened from here.").arg(target));
 }
 
 void DocumentPage::showLock()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/project/ProjectChanges.h"
+#include "desktop/manuscript/ReadingPlaces.h"
 #include "desktop/shell/DeskContext.h"
 #include "desktop/shell/WorkPage.h"
 
@@ -12,6 +13,7 @@ class QVBoxLayout;
 namespace tw::desktop::manuscript {
 
 class BodyEditor;
+class NotesPane;
 class TypingBursts;
 
 namespace rich {
@@ -47,6 +49,12 @@ public:
     /** Shows the text the other way, the cursor in the same paragraph as far as that can be told. */
     void setTextView(TextView view);
 
+    /** Goes to the text of a note, in the pane below or in the text itself. */
+    void showNote(const QString& label);
+
+    /** Nothing but the text, and of that the present paragraph before all. */
+    void setFocusMode(bool isOn);
+
     /** Takes up the font and the zoom of the settings. */
     void applyStyle();
 
@@ -54,20 +62,33 @@ signals:
     /** Another editor shows the text now. */
     void editorChanged();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
 private:
+    void rememberPlace();
+    void restorePlace();
     void makeEditor(TextView view);
     void stepZoom(int step);
     void followChanges(const core::project::ProjectChanges& changes);
     void showLock();
+    void showNotes();
+    void keepImage(const QImage& image);
+    void openLink(const QString& target);
     void recount();
     void recountSelection();
 
     shell::DeskContext m_desk;
+    ReadingPlaces m_places;
     QVBoxLayout* m_layout;
     QLabel* m_lockNotice;
     BodyEditor* m_editor = nullptr;
     rich::RichPage* m_richPage = nullptr;
+    NotesPane* m_notes;
     QTimer m_selectionRest;
+    bool m_isFocusMode = false;
+    bool m_isPlaceRestored = false;
     qint64 m_words = 0;
     qint64 m_selectedWords = 0;
 };

@@ -177,15 +177,32 @@ bool RichPage::showFootnoteReference(const QString& label)
             if (runKindOf(fragment.charFormat()) != RunKind::FootnoteReference ||
                 objectText(fragment.charFormat()) != label)
                 continue;
-            QTextCursor cursor(document());
-            cursor.setPosition(fragment.position() + 1);
-            setTextCursor(cursor);
-            ensureCursorVisible();
-            setFocus(Qt::OtherFocusReason);
+            showPlace(fragment.position() + 1);
             return true;
         }
     }
     return false;
+}
+
+bool RichPage::showFootnoteDefinition(const QString& label)
+{
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+        const QTextBlockFormat format = block.blockFormat();
+        if (kindOf(format) == markup::BlockKind::FootnoteDefinition && shapeOf(format).label == label) {
+            showPlace(block.position());
+            return true;
+        }
+    }
+    return false;
+}
+
+void RichPage::showPlace(int position)
+{
+    QTextCursor cursor(document());
+    cursor.setPosition(position);
+    setTextCursor(cursor);
+    ensureCursorVisible();
+    setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace tw::desktop::manuscript::rich

@@ -5,6 +5,7 @@
 #include "desktop/manuscript/rich/RichFormats.h"
 #include "desktop/shell/DeskContext.h"
 
+#include "app/typing/TypingCorrection.h"
 #include "core/foundation/Id.h"
 
 #include <functional>
@@ -70,6 +71,7 @@ public:
     // Inserting at the cursor
 
     void insertRule();
+    void insertPageBreak();
     void insertTable(int rows, int columns);
     /** An image of the project's assets. */
     void insertImage(const QString& assetPath, const QString& description);
@@ -93,18 +95,25 @@ public:
 
     /** Puts the cursor behind the first reference to the footnote; false when there is none. */
     bool showFootnoteReference(const QString& label);
+    /** The same for a definition that stands in the text. */
+    bool showFootnoteDefinition(const QString& label);
     /** Labels of the references, in the order of the text. */
     [[nodiscard]] QStringList footnoteReferences() const;
+
+    void setTypingRules(const app::typing::TypingRules& rules) { m_typingRules = rules; }
 
     /** Paragraphs other than the cursor's become quiet. */
     void setFocusedOnParagraph(bool isOn);
 
     void pastePlainText();
+    [[nodiscard]] QString selectedMarkdown() const;
 
 signals:
     /** The reference was clicked or chosen by the keyboard. */
     void footnoteActivated(const QString& label);
     void linkActivated(const QString& target);
+    /** A picture without a file was pasted; whoever keeps the project's assets inserts it. */
+    void imagePasted(const QImage& image);
 
 protected:
     void takeUpStyle() override;
@@ -122,6 +131,7 @@ private:
     void restyle();
     void refreshFormats();
     void markPlace();
+    void showPlace(int position);
     /** Runs an edit as one step of the history and one change of the text document. */
     void asStep(const QString& label, const std::function<void(QTextCursor& cursor)>& edit);
 
@@ -131,9 +141,11 @@ private:
     bool handleBackspace();
     bool handleTab(int step);
     void prepareTyping();
+    void correctTyped(QStringView typed);
     void breakParagraph(QTextCursor& cursor);
 
     void insertBlocks(QTextCursor& cursor, const std::vector<markup::Block>& blocks);
+    void insertPlainText(const QString& text);
     /** Gives the numbered items of the list around the block their numbers. */
     void renumber(const QTextBlock& block);
     [[nodiscard]] std::vector<QTextBlock> selectedBlocks() const;
@@ -149,6 +161,7 @@ private:
     PageImages* m_images;
     FootnoteMarks* m_footnotes;
     TypingBursts* m_bursts = nullptr;
+    app::typing::TypingRules m_typingRules;
     bool m_isFocusedOnParagraph = false;
 };
 

@@ -125,6 +125,19 @@ void RichPage::insertRule()
     });
 }
 
+void RichPage::insertPageBreak()
+{
+    asStep(tr("Page break"), [this](QTextCursor& cursor) {
+        if (cursor.currentTable())
+            return;
+        if (cursor.block().length() > 1)
+            breakParagraph(cursor);
+        BlockShape shape = shapeOf(cursor.blockFormat());
+        shape.attributes.pageBreak = true;
+        reshapeBlock(cursor.block(), shape, m_formats);
+    });
+}
+
 void RichPage::insertTable(int rows, int columns)
 {
     asStep(tr("Insert table"), [&](QTextCursor& cursor) {

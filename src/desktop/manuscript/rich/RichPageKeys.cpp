@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QTextBlock>
 #include <QTextTable>
+#include <QTimer>
 
 namespace tw::desktop::manuscript::rich {
 
@@ -77,6 +78,7 @@ void RichPage::keyPressEvent(QKeyEvent* event)
     if (!event->text().isEmpty())
         prepareTyping();
     BodyEditor::keyPressEvent(event);
+    correctTyped(event->text());
 }
 
 void RichPage::inputMethodEvent(QInputMethodEvent* event)
@@ -84,6 +86,7 @@ void RichPage::inputMethodEvent(QInputMethodEvent* event)
     if (!event->commitString().isEmpty() && !isReadOnly())
         prepareTyping();
     BodyEditor::inputMethodEvent(event);
+    correctTyped(event->commitString());
 }
 
 bool RichPage::handleKey(QKeyEvent& event)
@@ -128,6 +131,34 @@ void RichPage::prepareTyping()
     }
     if (isInherited)
         setCurrentCharFormat(m_formats.text(style, shapeOf(cursor.blockFormat())));
+}
+
+void RichPage::correctTyped(QStringView typed)
+{
+    if (typed.size() != 1 || m_typingRules.isEmpty())
+        return;
+    const QTextCursor cursor = textCursor();
+    if (kindOf(cursor.blockFormat()) == BlockKind::Code || styleOf(cursor.charFormat()).code)
+        return;
+    const QString text = cursor.block().text().first(cursor.positionInBlock());
+    const auto correction = app::typing::correctTyping(text, m_typingRules);
+    if (!correction || !text.endsWith(typed))
+        return;
+    // A step of its own, so that one undo brings back what was typed; once the key is through.
+    QTimer::singleShot(0, this, [this, place = cursor, before = text, correction = *correction] {
+        if (isReadOnly() || place.block().text().first(place.positionInBlock()) != before)
+            return;
+        asStep(tr("Typographic correction"), [&](QTextCursor& present) {
+            QTextCursor edit = place;
+            const QTextCharFormat format = edit.charFormat();
+            const bool isAtEnd = present.position() == edit.position();
+            edit.movePosition(
+                QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor, static_cast<int>(correction.removed));
+            edit.insertText(correction.inserted, format);
+            if (isAtEnd)
+                present.setPosition(edit.position());
+        });
+    });
 }
 
 void RichPage::breakParagraph(QTextCursor& cursor)
