@@ -2,6 +2,7 @@
 
 #include "core/document/Document.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/FindBar.h"
 #include "desktop/manuscript/ManuscriptModel.h"
 #include "desktop/manuscript/MarkdownPage.h"
 #include "desktop/manuscript/NotesPane.h"
@@ -53,6 +54,8 @@ DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId
     m_lockNotice->setContentsMargins(8, 8, 8, 8);
     m_notes = new NotesPane(desk, id, this);
     m_layout->addWidget(m_notes);
+    m_findBar = new FindBar(desk, this);
+    m_layout->addWidget(m_findBar);
     connect(m_notes, &NotesPane::referenceRequested, this, [this](const QString& label) {
         if (m_richPage && !m_richPage->showFootnoteReference(label))
             m_desk.navigator.say(tr("Nothing in the text refers to note %1.").arg(label));
@@ -94,6 +97,7 @@ void DocumentPage::makeEditor(TextView view)
     connect(m_editor, &BodyEditor::zoomStepRequested, this, &DocumentPage::stepZoom);
     connect(bursts, &TypingBursts::settled, this, &DocumentPage::recount);
     connect(m_editor, &QTextEdit::selectionChanged, &m_selectionRest, qOverload<>(&QTimer::start));
+    m_findBar->setEditor(m_editor, bursts);
     m_words = m_editor->words();
     setFocusMode(m_isFocusMode);
 }

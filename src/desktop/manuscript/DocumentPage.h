@@ -13,6 +13,7 @@ class QVBoxLayout;
 namespace tw::desktop::manuscript {
 
 class BodyEditor;
+class FindBar;
 class NotesPane;
 class TypingBursts;
 
@@ -52,6 +53,8 @@ public:
     /** Goes to the text of a note, in the pane below or in the text itself. */
     void showNote(const QString& label);
 
+    [[nodiscard]] FindBar& findBar() { return *m_findBar; }
+
     /** Nothing but the text, and of that the present paragraph before all. */
     void setFocusMode(bool isOn);
 
@@ -86,6 +89,7 @@ private:
     BodyEditor* m_editor = nullptr;
     rich::RichPage* m_richPage = nullptr;
     NotesPane* m_notes;
+    FindBar* m_findBar;
     QTimer m_selectionRest;
     bool m_isFocusMode = false;
     bool m_isPlaceRestored = false;

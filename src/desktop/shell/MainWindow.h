@@ -74,6 +74,7 @@ private:
         std::function<void()> handler);
     void buildFileMenu();
     void buildEditMenu();
+    void addFindActions(QMenu& menu);
     void buildInsertMenu();
     void buildFormatMenu();
     void buildViewMenu();

@@ -2,6 +2,7 @@
 
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/DocumentPage.h"
+#include "desktop/manuscript/FindBar.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/manuscript/PageStyle.h"
 #include "desktop/manuscript/TextActions.h"
@@ -75,6 +76,14 @@ void editFocused(ClipboardEdit edit)
         view->selectAll();
 }
 
+void pastePlainText(QWidget* focused)
+{
+    if (auto* const page = qobject_cast<manuscript::rich::RichPage*>(focused))
+        page->pastePlainText();
+    else
+        editFocused(ClipboardEdit::Paste);
+}
+
 } // namespace
 
 void MainWindow::buildEditMenu()
@@ -99,9 +108,37 @@ void MainWindow::buildEditMenu()
     addAction(menu, u"edit.selectAll"_s, Icon::Check, tr("Select &All"), QKeySequence::SelectAll, [] {
         editFocused(ClipboardEdit::SelectAll);
     });
+    addAction(
+        menu, u"edit.pastePlain"_s, Icon::Paste, tr("Paste as Plain &Text"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), [] { pastePlainText(QApplication::focusWidget()); });
+    menu.addSeparator();
+    addFindActions(menu);
     menu.addSeparator();
     for (QAction* const action : m_manuscript->editActions())
         menu.addAction(action);
+}
+
+void MainWindow::addFindActions(QMenu& menu)
+{
+    using manuscript::FindBar;
+    const auto inText = [this](auto handler) {
+        return [this, handler] {
+            if (auto* const page = qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage()))
+                handler(page->findBar());
+        };
+    };
+    addAction(
+        menu, u"edit.find"_s, Icon::Search, tr("&Find…"), QKeySequence::Find,
+        inText([](FindBar& bar) { bar.open(FindBar::Row::Find); }));
+    addAction(
+        menu, u"edit.findNext"_s, Icon::ChevronDown, tr("Find &Next"), QKeySequence(Qt::Key_F3),
+        inText([](FindBar& bar) { bar.step(true); }));
+    addAction(
+        menu, u"edit.findPrevious"_s, Icon::ChevronUp, tr("Find Pre&vious"),
+        QKeySequence(Qt::SHIFT | Qt::Key_F3), inText([](FindBar& bar) { bar.step(false); }));
+    addAction(
+        menu, u"edit.replace"_s, Icon::Refresh, tr("&Replace…"), QKeySequence(Qt::CTRL | Qt::Key_H),
+        inText([](FindBar& bar) { bar.open(FindBar::Row::FindAndReplace); }));
 }
 
 void MainWindow::buildInsertMenu()

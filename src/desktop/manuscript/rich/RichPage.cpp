@@ -116,8 +116,9 @@ void RichPage::setFocusedOnParagraph(bool isOn)
 void RichPage::markPlace()
 {
     if (!m_isFocusedOnParagraph) {
-        if (!extraSelections().isEmpty())
-            setExtraSelections({});
+        if (m_hasQuietRanges)
+            setQuietRanges({});
+        m_hasQuietRanges = false;
         return;
     }
     const QTextBlock block = textCursor().block();
@@ -129,7 +130,8 @@ void RichPage::markPlace()
         selection.format.setForeground(themes().theme().color(theme::Role::FaintInk));
         return selection;
     };
-    setExtraSelections({
+    m_hasQuietRanges = true;
+    setQuietRanges({
         quiet(0, block.position()),
         quiet(block.position() + block.length() - 1, document()->characterCount() - 1),
     });

@@ -163,6 +163,7 @@ private:
     TypingBursts* m_bursts = nullptr;
     app::typing::TypingRules m_typingRules;
     bool m_isFocusedOnParagraph = false;
+    bool m_hasQuietRanges = false;
 };
 
 } // namespace tw::desktop::manuscript::rich
