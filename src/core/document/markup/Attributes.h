@@ -9,7 +9,7 @@ namespace tw::core::document::markup {
 struct BlockAttributes
 {
     /** "left", "center", "right" or "justify"; other names are kept. Empty for the default. */
-    QString align;
+    QString align = {};
     /** Factor of the line height; 0 for the default. */
     double spacing = 0;
     /** Levels of indentation. */
@@ -17,7 +17,7 @@ struct BlockAttributes
     /** Whether the block starts a new page. */
     bool pageBreak = false;
     /** The name of a paragraph style; empty for none. */
-    QString style;
+    QString style = {};
 
     [[nodiscard]] bool isEmpty() const { return *this == BlockAttributes(); }
     friend bool operator==(const BlockAttributes&, const BlockAttributes&) = default;
@@ -27,9 +27,9 @@ struct BlockAttributes
 struct InlineAttributes
 {
     /** Colours as text: "#rrggbb" or a name. Empty for none. */
-    QString color;
-    QString background;
-    QString font;
+    QString color = {};
+    QString background = {};
+    QString font = {};
     /** In points; 0 for none. */
     qint32 size = 0;
     bool underline = false;

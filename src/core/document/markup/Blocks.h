@@ -33,9 +33,9 @@ enum class ColumnAlignment
 struct Table
 {
     /** One a column of the header. */
-    std::vector<ColumnAlignment> columns;
+    std::vector<ColumnAlignment> columns = {};
     /** Cells as inline Markdown; the first row is the header. Rows may be shorter or longer than it. */
-    std::vector<std::vector<QString>> rows;
+    std::vector<std::vector<QString>> rows = {};
 
     friend bool operator==(const Table&, const Table&) = default;
 };
@@ -64,19 +64,19 @@ struct Block
      */
     int indent = -1;
     /** Items: as written ("-", "*", "3."). Code: the fence as written. */
-    QString marker;
+    QString marker = {};
     /** Footnote definitions: the label. Code: the language. */
-    QString label;
+    QString label = {};
     /**
      * Inline Markdown without the block's own marks and without its attribute group, lines parted by \n.
      * White space at its ends is kept as it stands. Code: the raw lines. Rules and tables: empty.
      */
-    QString text;
+    QString text = {};
     /** Where each line of `text` stands in the body. */
-    std::vector<BlockLine> lines;
+    std::vector<BlockLine> lines = {};
     /** None for rules, code and tables. */
-    BlockAttributes attributes;
-    Table table;
+    BlockAttributes attributes = {};
+    Table table = {};
     /** The content in the body, without its last line end. */
     qsizetype start = 0;
     qsizetype length = 0;
@@ -94,7 +94,7 @@ struct Blocks
 {
     /** Blank lines before the first block. */
     qsizetype leadLength = 0;
-    std::vector<Block> list;
+    std::vector<Block> list = {};
 };
 
 /** Reads any text, in time linear in its length. Line ends are \n, \r\n and \r. Any thread. */

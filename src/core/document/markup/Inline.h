@@ -27,9 +27,9 @@ struct RunStyle
     bool strikethrough = false;
     bool code = false;
     /** The target as written; empty for none. It may be hostile: see safeLinkTarget() before following it. */
-    QString link;
-    QString linkTitle;
-    InlineAttributes attributes;
+    QString link = {};
+    QString linkTitle = {};
+    InlineAttributes attributes = {};
 
     friend bool operator==(const RunStyle&, const RunStyle&) = default;
 };
@@ -39,10 +39,10 @@ struct Run
 {
     RunKind kind = RunKind::Text;
     /** The text, an image's description, or a footnote's label. */
-    QString text;
+    QString text = {};
     /** An image's source; its title is linkTitle when the image is no link. */
-    QString target;
-    RunStyle style;
+    QString target = {};
+    RunStyle style = {};
 
     friend bool operator==(const Run&, const Run&) = default;
 };
