@@ -14,9 +14,9 @@
 #include "desktop/shell/ProjectSession.h"
 
 #include <QDesktopServices>
+#include <QImage>
 #include <QLabel>
 #include <QLocale>
-#include <QImage>
 #include <QScrollBar>
 #include <QSettings>
 #include <QTemporaryDir>

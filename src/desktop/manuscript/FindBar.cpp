@@ -272,7 +272,8 @@ void FindBar::replaceAll()
             for (auto place = places.rbegin(); place != places.rend(); ++place) {
                 edit.setPosition(place->position);
                 edit.setPosition(place->position + place->length, QTextCursor::KeepAnchor);
-                m_editor->replaceText(edit, m_finder.replacementFor(edit.selectedText(), m_replacement->text()));
+                m_editor->replaceText(
+                    edit, m_finder.replacementFor(edit.selectedText(), m_replacement->text()));
             }
             edit.endEditBlock();
         });

@@ -36,7 +36,8 @@ void TextFinder::eachIn(
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
         const FoundPlace place{
-            block.position() + static_cast<int>(match.capturedStart()), static_cast<int>(match.capturedLength())};
+            block.position() + static_cast<int>(match.capturedStart()),
+            static_cast<int>(match.capturedLength())};
         if (place.length > 0 && !take(place))
             return;
     }
@@ -70,7 +71,8 @@ std::optional<FoundPlace> TextFinder::findFrom(const QTextDocument& document, in
 std::optional<FoundPlace> TextFinder::findBefore(const QTextDocument& document, int position) const
 {
     std::optional<FoundPlace> found;
-    for (QTextBlock block = document.findBlock(position); block.isValid() && !found; block = block.previous()) {
+    for (QTextBlock block = document.findBlock(position); block.isValid() && !found;
+         block = block.previous()) {
         eachIn(block, [&](const FoundPlace& place) {
             if (place.position < position)
                 found = place;

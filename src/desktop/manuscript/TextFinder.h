@@ -51,8 +51,7 @@ public:
     [[nodiscard]] QString replacementFor(const QString& found, const QString& replacement) const;
 
 private:
-    void eachIn(
-        const QTextBlock& block, const std::function<bool(const FoundPlace& place)>& take) const;
+    void eachIn(const QTextBlock& block, const std::function<bool(const FoundPlace& place)>& take) const;
 
     QRegularExpression m_pattern;
     bool m_isRegularExpression = false;

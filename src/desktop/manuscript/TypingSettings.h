@@ -7,8 +7,8 @@ class QSettings;
 namespace tw::desktop::manuscript {
 
 /**
- * What is corrected while one types: "typing/quotes" is a language ("de-CH"), "off", or unset for the language of the
- * program; "typing/dashes" and "typing/ellipsis" are switches, on until set.
+ * What is corrected while one types: "typing/quotes" is a language ("de-CH"), "off", or unset for the
+ * language of the program; "typing/dashes" and "typing/ellipsis" are switches, on until set.
  */
 [[nodiscard]] app::typing::TypingRules typingRulesFrom(const QSettings& settings);
 

@@ -127,9 +127,9 @@ void MainWindow::addFindActions(QMenu& menu)
                 handler(page->findBar());
         };
     };
-    addAction(
-        menu, u"edit.find"_s, Icon::Search, tr("&Find…"), QKeySequence::Find,
-        inText([](FindBar& bar) { bar.open(FindBar::Row::Find); }));
+    addAction(menu, u"edit.find"_s, Icon::Search, tr("&Find…"), QKeySequence::Find, inText([](FindBar& bar) {
+                  bar.open(FindBar::Row::Find);
+              }));
     addAction(
         menu, u"edit.findNext"_s, Icon::ChevronDown, tr("Find &Next"), QKeySequence(Qt::Key_F3),
         inText([](FindBar& bar) { bar.step(true); }));

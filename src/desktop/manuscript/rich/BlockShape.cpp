@@ -34,6 +34,7 @@ enum Property : int
     SizeProperty,
     ObjectTextProperty,
     ObjectTargetProperty,
+    StandsForProperty,
 };
 
 enum RunFlag : int
@@ -145,6 +146,16 @@ QString objectText(const QTextCharFormat& format)
 QString objectTarget(const QTextCharFormat& format)
 {
     return format.stringProperty(ObjectTargetProperty);
+}
+
+QString standsFor(const QTextCharFormat& format)
+{
+    return format.stringProperty(StandsForProperty);
+}
+
+void storeStandsFor(QTextCharFormat& format, const QString& character)
+{
+    store(format, StandsForProperty, character);
 }
 
 void storeStyle(QTextCharFormat& format, const RunStyle& style)

@@ -47,6 +47,9 @@ void storeShape(QTextBlockFormat& format, const BlockShape& shape);
 [[nodiscard]] QString objectText(const QTextCharFormat& format);
 /** An image's source as written. */
 [[nodiscard]] QString objectTarget(const QTextCharFormat& format);
+/** The character that a blank stands for, because a text document cannot hold it; empty for ordinary text. */
+[[nodiscard]] QString standsFor(const QTextCharFormat& format);
+void storeStandsFor(QTextCharFormat& format, const QString& character);
 void storeStyle(QTextCharFormat& format, const markup::RunStyle& style);
 /** For everything but plain text. */
 void storeKind(QTextCharFormat& format, const markup::Run& run);

@@ -58,8 +58,9 @@ RichBody::Update RichBody::apply(const QString& body)
     const bool isAdjusted = !m_document.isEmpty() && adjust(target);
     if (!isAdjusted)
         fill(target);
-    setOrigins(target);
     edit.endEditBlock();
+    // The document knows its tables as frames only once the edit is through.
+    setOrigins(target);
     m_text = body;
     m_isChanged = false;
     return isAdjusted ? Update::InPlace : Update::Whole;

@@ -268,7 +268,10 @@ QTextCharFormat RichFormats::run(const markup::Run& run, const BlockShape& shape
 
 QTextCharFormat RichFormats::restyled(const QTextCharFormat& format, const BlockShape& shape) const
 {
-    return run({runKindOf(format), objectText(format), objectTarget(format), styleOf(format)}, shape);
+    QTextCharFormat restyled =
+        run({runKindOf(format), objectText(format), objectTarget(format), styleOf(format)}, shape);
+    storeStandsFor(restyled, standsFor(format));
+    return restyled;
 }
 
 QTextTableFormat RichFormats::table(const std::vector<ColumnAlignment>& columns) const

@@ -140,21 +140,21 @@ void RichPage::insertPageBreak()
 
 void RichPage::insertTable(int rows, int columns)
 {
+    if (isInTable())
+        return;
+    const int before = textCursor().selectionStart();
     asStep(tr("Insert table"), [&](QTextCursor& cursor) {
-        if (cursor.currentTable())
-            return;
         Block block;
         block.kind = BlockKind::Table;
         block.table = emptyTable(rows, columns);
-        const int before = cursor.selectionStart();
         insertBlocks(cursor, {block});
-        for (QTextBlock cell = document()->findBlock(before); cell.isValid(); cell = cell.next()) {
-            if (const auto* const table = QTextCursor(cell).currentTable()) {
-                cursor = table->cellAt(0, 0).firstCursorPosition();
-                break;
-            }
-        }
     });
+    for (QTextBlock cell = document()->findBlock(before); cell.isValid(); cell = cell.next()) {
+        if (const auto* const table = QTextCursor(cell).currentTable()) {
+            setTextCursor(table->cellAt(0, 0).firstCursorPosition());
+            return;
+        }
+    }
 }
 
 void RichPage::insertImage(const QString& assetPath, const QString& description)

@@ -118,7 +118,7 @@ void RichPage::prepareTyping()
     }
     const QTextCharFormat present = currentCharFormat();
     RunStyle style = styleOf(present);
-    bool isInherited = runKindOf(present) != RunKind::Text;
+    bool isInherited = runKindOf(present) != RunKind::Text || !standsFor(present).isEmpty();
     if (!style.link.isEmpty() && !cursor.hasSelection()) {
         QTextCursor next(cursor);
         const bool isInside = next.movePosition(QTextCursor::NextCharacter) && !cursor.atBlockEnd() &&
@@ -153,7 +153,8 @@ void RichPage::correctTyped(QStringView typed)
             const QTextCharFormat format = edit.charFormat();
             const bool isAtEnd = present.position() == edit.position();
             edit.movePosition(
-                QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor, static_cast<int>(correction.removed));
+                QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor,
+                static_cast<int>(correction.removed));
             edit.insertText(correction.inserted, format);
             if (isAtEnd)
                 present.setPosition(edit.position());

@@ -14,19 +14,29 @@ using markup::RunKind;
 
 namespace {
 
-/** Characters that part blocks and frames in a text document cannot be text in one. */
-QString shownText(const QString& text)
+/** Characters that part blocks, lines and frames in a text document cannot be text in one. */
+bool isSpecial(QChar character)
 {
-    const auto isSpecial = [](QChar character) {
-        const char16_t code = character.unicode();
-        return code == u'\u2028' || code == u'\u2029' || code == u'\ufdd0' || code == u'\ufdd1' ||
-               code == u'\n' || code == u'\r';
-    };
-    if (std::ranges::none_of(text, isSpecial))
-        return text;
-    QString shown = text;
-    std::ranges::replace_if(shown, isSpecial, u' ');
-    return shown;
+    const char16_t code = character.unicode();
+    return code == u'\u2028' || code == u'\u2029' || code == u'\ufdd0' || code == u'\ufdd1' ||
+           code == u'\n' || code == u'\r' || code == u'\ufffc';
+}
+
+void appendText(std::vector<TextPiece>& pieces, const QString& text, const QTextCharFormat& format)
+{
+    qsizetype start = 0;
+    for (qsizetype index = 0; index < text.size(); ++index) {
+        if (!isSpecial(text[index]))
+            continue;
+        if (index > start)
+            pieces.push_back({text.mid(start, index - start), format});
+        QTextCharFormat substitute = format;
+        storeStandsFor(substitute, text[index]);
+        pieces.push_back({QStringLiteral(" "), substitute});
+        start = index + 1;
+    }
+    if (start < text.size())
+        pieces.push_back({start == 0 ? text : text.mid(start), format});
 }
 
 QString codeText(QString text)
@@ -48,7 +58,7 @@ std::vector<TextPiece> readRuns(
     for (const Run& run : runs) {
         switch (run.kind) {
         case RunKind::Text:
-            pieces.push_back({shownText(run.text), formats.text(run.style, shape)});
+            appendText(pieces, run.text, formats.text(run.style, shape));
             break;
         case RunKind::SoftBreak:
             pieces.push_back({QStringLiteral(" "), formats.run(run, shape)});

@@ -19,6 +19,10 @@ namespace {
 void appendText(std::vector<Run>& runs, QStringView text, const QTextCharFormat& format)
 {
     const markup::RunStyle style = styleOf(format);
+    if (const QString character = standsFor(format); !character.isEmpty()) {
+        runs.push_back({RunKind::Text, text.toString().replace(u' ', character), {}, style});
+        return;
+    }
     for (const QStringView line : text.split(QChar::LineSeparator)) {
         if (line.data() != text.data())
             runs.push_back({RunKind::HardBreak, {}, {}, {}});
@@ -52,6 +56,21 @@ void appendFragment(std::vector<Run>& runs, QStringView text, const QTextCharFor
     case RunKind::HardBreak:
         appendText(runs, text, format);
     }
+}
+
+/** Code knows no styles; a note or an image in it is what it is written as. */
+QString codeText(const QTextBlock& block)
+{
+    QString text;
+    for (const Run& run : writeRuns(block)) {
+        if (run.kind == RunKind::Text)
+            text += run.text;
+        else if (run.kind == RunKind::HardBreak)
+            text += u'\n';
+        else
+            text += run.kind == RunKind::SoftBreak ? QStringLiteral("\n") : markup::writeInline({&run, 1});
+    }
+    return text;
 }
 
 /** What stands on one line in Markdown cannot hold breaks. */
@@ -142,7 +161,7 @@ Block writeParagraph(const QTextBlock& textBlock)
         block.level = 0;
     }
     if (block.kind == BlockKind::Code) {
-        block.text = textBlock.text().replace(QChar::LineSeparator, u'\n');
+        block.text = codeText(textBlock);
         return block;
     }
     std::vector<Run> runs = writeRuns(textBlock);
