@@ -125,6 +125,41 @@ qint64 BodyEditor::selectedWords() const
     return cursor.hasSelection() ? core::document::countWords(cursor.selectedText()) : 0;
 }
 
+void BodyEditor::setFoundPlaces(const std::vector<FoundPlace>& places)
+{
+    // A mark a place costs at every painting; more than fill a few windows help nobody.
+    constexpr qsizetype mostMarks = 500;
+    m_foundPlaces.clear();
+    for (const FoundPlace& place : places) {
+        if (m_foundPlaces.size() >= mostMarks)
+            break;
+        ExtraSelection& mark = m_foundPlaces.emplaceBack();
+        mark.cursor = QTextCursor(document());
+        mark.cursor.setPosition(place.position);
+        mark.cursor.setPosition(place.position + place.length, QTextCursor::KeepAnchor);
+        mark.format.setBackground(m_themes.theme().color(theme::Role::Insertion));
+    }
+    showMarks();
+}
+
+void BodyEditor::setQuietRanges(const QList<ExtraSelection>& ranges)
+{
+    m_quietRanges = ranges;
+    showMarks();
+}
+
+void BodyEditor::showMarks()
+{
+    setExtraSelections(m_quietRanges + m_foundPlaces);
+}
+
+void BodyEditor::replaceText(QTextCursor& selection, const QString& text)
+{
+    QTextCursor first(selection);
+    first.setPosition(std::min(selection.selectionStart() + 1, document()->characterCount() - 1));
+    selection.insertText(text, first.charFormat());
+}
+
 void BodyEditor::setTypewriterScrolling(bool isOn)
 {
     m_isTypewriter = isOn;

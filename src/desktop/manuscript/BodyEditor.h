@@ -2,6 +2,7 @@
 
 #include "core/document/Document.h"
 #include "desktop/manuscript/PageStyle.h"
+#include "desktop/manuscript/TextFinder.h"
 
 #include <QTextEdit>
 
@@ -41,6 +42,11 @@ public:
     /** The cursor's line keeps its place in the window, and the text moves. */
     void setTypewriterScrolling(bool isOn);
 
+    /** Marks what a search found; empty for none. */
+    void setFoundPlaces(const std::vector<FoundPlace>& places);
+    /** Replaces the selected text, which keeps the style of its first character. */
+    void replaceText(QTextCursor& selection, const QString& text);
+
 signals:
     /** The writer changed something. */
     void edited();
@@ -78,6 +84,8 @@ protected:
     /** Sets everything that depends on the page's style; the font is set already. */
     virtual void takeUpStyle() = 0;
     virtual void takeUpTheme();
+    /** Selections that are drawn beside the found places. */
+    void setQuietRanges(const QList<ExtraSelection>& ranges);
     /** What lies on the sheet below the text; `clip` in the viewport's coordinates. */
     virtual void paintSheet(QPainter& painter, const QRect& clip);
     void layOutColumn();
@@ -91,10 +99,13 @@ protected:
 private:
     void noteChange(int position, int removed, int added);
     void holdCursorLine();
+    void showMarks();
 
     theme::ThemeManager& m_themes;
     PageStyle m_style;
     int m_applying = 0;
+    QList<ExtraSelection> m_quietRanges;
+    QList<ExtraSelection> m_foundPlaces;
     bool m_isTypewriter = false;
     /** The desk to the left and right of the sheet, in pixels. */
     int m_sheetMargin = 0;

@@ -42,6 +42,8 @@ public:
     /** Steps through the tabs of the active pane: 1 forward, -1 back. */
     void stepTab(int step);
 
+    void setTabsVisible(bool areVisible);
+
     [[nodiscard]] WorkPage* currentPage() const;
     [[nodiscard]] bool hasPages() const;
 
@@ -70,6 +72,7 @@ private:
     std::map<QString, PageFactory> m_viewFactories;
     QTabWidget* m_activePane = nullptr;
     WorkPage* m_announcedPage = nullptr;
+    bool m_areTabsVisible = true;
 };
 
 } // namespace tw::desktop::shell
