@@ -24,8 +24,12 @@ StyleFinding findingBetween(IssueKind kind, const Word& first, const Word& last,
  */
 bool endsAfter(QStringView word, qsizetype charactersBefore, QStringView ending)
 {
-    if (word.size() < charactersBefore + ending.size() || !word.endsWith(ending, Qt::CaseInsensitive))
+    if (word.size() < charactersBefore + ending.size())
         return false;
+    for (qsizetype index = 1; index <= ending.size(); ++index) {
+        if (WordHash::folded(word[word.size() - index].unicode()) != ending[ending.size() - index])
+            return false;
+    }
     const QStringView before = word.chopped(ending.size());
     const auto secondHalves = std::ranges::count_if(before, [](QChar unit) { return unit.isLowSurrogate(); });
     return before.size() - secondHalves >= charactersBefore;
