@@ -9,6 +9,7 @@
 #include "desktop/manuscript/TypingBursts.h"
 #include "desktop/manuscript/TypingSettings.h"
 #include "desktop/manuscript/rich/RichPage.h"
+#include "desktop/screenplay/ScreenplayPage.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
@@ -63,7 +64,7 @@ DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId
     m_selectionRest.setSingleShot(true);
     m_selectionRest.setInterval(selectionRest);
     connect(&m_selectionRest, &QTimer::timeout, this, &DocumentPage::recountSelection);
-    makeEditor(desk.settings.value(sourceKey).toBool() ? TextView::MarkdownSource : TextView::Rich);
+    makeEditor(desk.settings.value(sourceKey).toBool() ? TextView::MarkdownSource : styledView());
     connect(&desk.session, &shell::ProjectSession::changed, this, &DocumentPage::followChanges);
     showLock();
     showNotes();
@@ -86,6 +87,15 @@ void DocumentPage::makeEditor(TextView view)
         connect(m_richPage, &rich::RichPage::footnoteActivated, this, &DocumentPage::showNote);
         connect(m_richPage, &rich::RichPage::linkActivated, this, &DocumentPage::openLink);
         connect(m_richPage, &rich::RichPage::imagePasted, this, &DocumentPage::keepImage);
+    } else if (view == TextView::Screenplay) {
+        m_screenplay = new screenplay::ScreenplayPage(m_desk.themes, this);
+        m_editor = m_screenplay;
+        m_screenplay->setPageStyle(screenplay::screenplayStyle(pageStyleFrom(m_desk.settings)));
+        bursts = new TypingBursts(m_desk.session, objectId(), *m_screenplay);
+        connect(
+            m_screenplay, &screenplay::ScreenplayPage::elementChanged, this,
+            &DocumentPage::statusTextChanged);
+        showRevision();
     } else {
         auto* const page = new MarkdownPage(m_desk.themes, this);
         page->setPageStyle(pageStyleFrom(m_desk.settings));
@@ -143,10 +153,33 @@ void DocumentPage::restorePlace()
 
 TextView DocumentPage::textView() const
 {
+    if (m_screenplay)
+        return TextView::Screenplay;
     return m_richPage ? TextView::Rich : TextView::MarkdownSource;
 }
 
-void DocumentPage::setTextView(TextView view)
+TextView DocumentPage::styledView() const
+{
+    const auto* const document = m_desk.session.project().findAs<Document>(objectId());
+    const bool isScreenplay =
+        document && document->documentKind() == core::document::DocumentKind::Screenplay;
+    return isScreenplay ? TextView::Screenplay : TextView::Rich;
+}
+
+void DocumentPage::setSourceShown(bool isShown)
+{
+    m_desk.settings.setValue(sourceKey, isShown);
+    replaceEditor(isShown ? TextView::MarkdownSource : styledView());
+}
+
+void DocumentPage::showRevision()
+{
+    const auto* const document = m_desk.session.project().findAs<Document>(objectId());
+    if (m_screenplay && document)
+        m_screenplay->setRevisionBaseline(document->revisionBaseline());
+}
+
+void DocumentPage::replaceEditor(TextView view)
 {
     if (view == textView())
         return;
@@ -157,6 +190,7 @@ void DocumentPage::setTextView(TextView view)
     m_editor->blockSignals(true);
     delete m_editor;
     m_richPage = nullptr;
+    m_screenplay = nullptr;
     makeEditor(view);
     QTextCursor cursor = m_editor->textCursor();
     cursor.setPosition(static_cast<int>(place * (m_editor->document()->characterCount() - 1)));
@@ -166,14 +200,14 @@ void DocumentPage::setTextView(TextView view)
     m_editor->ensureCursorVisible();
     if (hadFocus)
         takeFocus();
-    m_desk.settings.setValue(sourceKey, view == TextView::MarkdownSource);
     showLock();
     emit editorChanged();
 }
 
 void DocumentPage::applyStyle()
 {
-    m_editor->setPageStyle(pageStyleFrom(m_desk.settings));
+    const PageStyle style = pageStyleFrom(m_desk.settings);
+    m_editor->setPageStyle(m_screenplay ? screenplay::screenplayStyle(style) : style);
     if (m_richPage)
         m_richPage->setTypingRules(typingRulesFrom(m_desk.settings));
     m_editor->setTypewriterScrolling(m_isFocusMode || m_desk.settings.value(typewriterKey).toBool());
@@ -220,15 +254,21 @@ QString DocumentPage::statusText() const
     const auto* const document = m_desk.session.project().findAs<Document>(objectId());
     if (document && document->wordCountTarget() > 0)
         return tr("%1 of %Ln words", nullptr, document->wordCountTarget()).arg(QLocale().toString(m_words));
-    return tr("%Ln words", nullptr, static_cast<int>(m_words));
+    const QString words = tr("%Ln words", nullptr, static_cast<int>(m_words));
+    return m_screenplay ? tr("%1 · %2").arg(screenplay::elementName(m_screenplay->elementAtCursor()), words)
+                        : words;
 }
 
 void DocumentPage::followChanges(const core::project::ProjectChanges& changes)
 {
     if (!changes.concerns(objectId()) || !m_desk.session.project().contains(objectId()))
         return;
+    // The document may have become a screenplay, or none any more.
+    if (textView() != TextView::MarkdownSource)
+        replaceEditor(styledView());
     showLock();
     showNotes();
+    showRevision();
     emit titleChanged();
 }
 

@@ -20,12 +20,21 @@ class TypingBursts;
 namespace rich {
 class RichPage;
 }
+} // namespace tw::desktop::manuscript
+
+namespace tw::desktop::screenplay {
+class ScreenplayPage;
+}
+
+namespace tw::desktop::manuscript {
 
 /** How the text of a document is shown. */
 enum class TextView
 {
     Rich,
     MarkdownSource,
+    /** Screenplays are shown so unless their source is. */
+    Screenplay,
 };
 
 /** The page of one document in the work area: its text, and what belongs around it. */
@@ -43,12 +52,12 @@ public:
     [[nodiscard]] QString statusText() const override;
 
     [[nodiscard]] BodyEditor& editor() { return *m_editor; }
-    /** Null while the source is shown. */
+    /** Null while the text is shown another way. */
     [[nodiscard]] rich::RichPage* richPage() const { return m_richPage; }
 
     [[nodiscard]] TextView textView() const;
-    /** Shows the text the other way, the cursor in the same paragraph as far as that can be told. */
-    void setTextView(TextView view);
+    /** Shows the source or not, the cursor in the same paragraph as far as that can be told. */
+    void setSourceShown(bool isShown);
 
     /** Goes to the text of a note, in the pane below or in the text itself. */
     void showNote(const QString& label);
@@ -73,10 +82,14 @@ private:
     void rememberPlace();
     void restorePlace();
     void makeEditor(TextView view);
+    void replaceEditor(TextView view);
+    /** How the document is shown unless its source is. */
+    [[nodiscard]] TextView styledView() const;
     void stepZoom(int step);
     void followChanges(const core::project::ProjectChanges& changes);
     void showLock();
     void showNotes();
+    void showRevision();
     void keepImage(const QImage& image);
     void openLink(const QString& target);
     void recount();
@@ -88,6 +101,7 @@ private:
     QLabel* m_lockNotice;
     BodyEditor* m_editor = nullptr;
     rich::RichPage* m_richPage = nullptr;
+    screenplay::ScreenplayPage* m_screenplay = nullptr;
     NotesPane* m_notes;
     FindBar* m_findBar;
     QTimer m_selectionRest;

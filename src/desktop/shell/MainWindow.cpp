@@ -9,6 +9,7 @@
 #include "desktop/project/ProjectFileDialogs.h"
 #include "desktop/review/ExternalChanges.h"
 #include "desktop/review/ReviewNotice.h"
+#include "desktop/screenplay/ScreenplayActions.h"
 #include "desktop/settings/AutosaveChoice.h"
 #include "desktop/settings/Shortcuts.h"
 #include "desktop/shell/DockLayout.h"
@@ -76,6 +77,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_writing(new goals::WritingSession(desk.session, &QDate::currentDate, this))
     , m_status(new StatusStrip(desk, *m_writing, *statusBar()))
     , m_textActions(new manuscript::TextActions(desk, this))
+    , m_screenplayActions(new screenplay::ScreenplayActions(desk, this))
     , m_focusMode(nullptr)
 {
     setObjectName(u"mainWindow"_s);

@@ -24,6 +24,9 @@ class ManuscriptPanel;
 class TextActions;
 } // namespace tw::desktop::manuscript
 
+namespace tw::desktop::screenplay {
+class ScreenplayActions;
+}
 namespace tw::desktop::settings {
 class Shortcuts;
 }
@@ -120,6 +123,7 @@ private:
     goals::WritingSession* m_writing;
     StatusStrip* m_status;
     manuscript::TextActions* m_textActions;
+    screenplay::ScreenplayActions* m_screenplayActions;
     FocusMode* m_focusMode;
     QMenu* m_recentMenu = nullptr;
     QAction* m_undoAction = nullptr;

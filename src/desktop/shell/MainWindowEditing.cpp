@@ -9,6 +9,7 @@
 #include "desktop/manuscript/TextActions.h"
 #include "desktop/manuscript/rich/RichPage.h"
 #include "desktop/overview/OverviewPage.h"
+#include "desktop/screenplay/ScreenplayActions.h"
 #include "desktop/settings/SettingsDialog.h"
 #include "desktop/shell/FocusMode.h"
 #include "desktop/shell/Navigator.h"
@@ -160,6 +161,8 @@ void MainWindow::buildFormatMenu()
     QMenu& menu = *menuBar()->addMenu(tr("F&ormat"));
     m_textActions->fillFormatMenu(menu);
     menu.addSeparator();
+    m_screenplayActions->fillMenu(*menu.addMenu(m_desk.icons.icon(Icon::Screenplay), tr("Screen&play")));
+    menu.addSeparator();
     addAction(menu, u"format.pageFont"_s, Icon::Text, tr("Page &Font…"), {}, [this] {
         showSettings(settings::SettingsPage::Editor);
     });
@@ -244,11 +247,8 @@ void MainWindow::addWritingViews(QMenu& menu)
     m_sourceAction = addAction(
         menu, u"view.markdownSource"_s, Icon::Number, tr("Markdown So&urce"),
         QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_M), [this, currentDocument] {
-            if (auto* const page = currentDocument()) {
-                page->setTextView(
-                    m_sourceAction->isChecked() ? manuscript::TextView::MarkdownSource
-                                                : manuscript::TextView::Rich);
-            }
+            if (auto* const page = currentDocument())
+                page->setSourceShown(m_sourceAction->isChecked());
         });
     m_sourceAction->setCheckable(true);
     m_formatBarAction = addAction(menu, u"view.formatBar"_s, Icon::Text, tr("Format &Bar"), {}, [this] {
@@ -295,11 +295,12 @@ void MainWindow::followPage(WorkPage* page)
 {
     auto* const document = qobject_cast<manuscript::DocumentPage*>(page);
     m_textActions->setPage(document);
+    m_screenplayActions->setPage(document);
     m_focusMode->setPage(document);
     const bool isRich = document && document->richPage();
     m_formatBar->setVisible(isRich && m_formatBarAction->isChecked() && !m_focusMode->isOn());
     m_sourceAction->setEnabled(document != nullptr);
-    m_sourceAction->setChecked(document && !isRich);
+    m_sourceAction->setChecked(document && document->textView() == manuscript::TextView::MarkdownSource);
     m_focusAction->setEnabled(document != nullptr);
 }
 

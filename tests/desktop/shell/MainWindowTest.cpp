@@ -1,8 +1,8 @@
 #include "desktop/shell/MainWindow.h"
 
 #include "core/entity/EntityCommands.h"
-#include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/BodyEditor.h"
+#include "desktop/manuscript/DocumentPage.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
