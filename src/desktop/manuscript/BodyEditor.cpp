@@ -3,6 +3,7 @@
 #include "core/document/WordCount.h"
 #include "desktop/theme/ThemeManager.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -13,6 +14,7 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tw::desktop::manuscript {
 
@@ -101,19 +103,34 @@ qreal BodyEditor::columnWidth() const
     return std::max(1.0, viewport()->width() - frame.leftMargin() - frame.rightMargin());
 }
 
+SheetMargins sheetMargins(const PageStyle& style, int available)
+{
+    const int column = static_cast<int>(characterWidth(pageFont(style)) * style.columnCharacters);
+    const int side = std::clamp((available - column) / 2, std::min(narrowMargin, available / 12), available);
+    return {std::max(0, side - sideMargin), side};
+}
+
+void BodyEditor::setPartOfLongerText()
+{
+    m_isPart = true;
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    layOutColumn();
+    const auto fit = [this] { setFixedHeight(static_cast<int>(std::ceil(document()->size().height()))); };
+    connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this, fit);
+    fit();
+}
+
 void BodyEditor::layOutColumn()
 {
     const Applying guard(*this);
-    const int column = static_cast<int>(characterWidth(document()->defaultFont()) * m_style.columnCharacters);
-    const int available = viewport()->width();
-    const int side = std::clamp((available - column) / 2, std::min(narrowMargin, available / 12), available);
-    m_sheetMargin = std::max(0, side - sideMargin);
+    const SheetMargins margins = sheetMargins(m_style, viewport()->width());
+    m_sheetMargin = margins.sheet;
     QTextFrameFormat frame = document()->rootFrame()->frameFormat();
-    frame.setLeftMargin(side);
-    frame.setRightMargin(side);
-    frame.setTopMargin(topMargin);
+    frame.setLeftMargin(margins.text);
+    frame.setRightMargin(margins.text);
+    frame.setTopMargin(m_isPart ? 0 : topMargin);
     // The last lines can be scrolled to the middle of the window.
-    frame.setBottomMargin(std::max(topMargin, height() / 2));
+    frame.setBottomMargin(m_isPart ? 0 : std::max(topMargin, height() / 2));
     if (frame != document()->rootFrame()->frameFormat())
         document()->rootFrame()->setFrameFormat(frame);
     viewport()->update();

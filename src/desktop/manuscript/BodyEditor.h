@@ -12,6 +12,14 @@ class ThemeManager;
 
 namespace tw::desktop::manuscript {
 
+/** To the left and to the right alike, in pixels. */
+struct SheetMargins
+{
+    int sheet = 0; ///< Of desk beside the sheet.
+    int text = 0;  ///< Beside the text.
+};
+[[nodiscard]] SheetMargins sheetMargins(const PageStyle& style, int available);
+
 /**
  * A sheet of paper on which the body of one document is edited: a column of text in the middle of the desk,
  * generous lines, a zoom apart from the font. How the body is shown is the subclasses' matter. Undo belongs
@@ -24,6 +32,9 @@ class BodyEditor : public QTextEdit
 public:
     BodyEditor(theme::ThemeManager& themes, QWidget* parent);
     ~BodyEditor() override;
+
+    /** As high as its text from now on, without margins above and below: whoever holds it scrolls. */
+    void setPartOfLongerText();
 
     [[nodiscard]] const PageStyle& pageStyle() const { return m_style; }
     void setPageStyle(const PageStyle& style);
@@ -104,6 +115,7 @@ private:
     theme::ThemeManager& m_themes;
     PageStyle m_style;
     int m_applying = 0;
+    bool m_isPart = false;
     QList<ExtraSelection> m_quietRanges;
     QList<ExtraSelection> m_foundPlaces;
     bool m_isTypewriter = false;

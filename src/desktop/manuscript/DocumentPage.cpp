@@ -42,7 +42,7 @@ constexpr QLatin1StringView typewriterKey = "editor/typewriterScrolling"_L1;
 } // namespace
 
 DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId& id, QWidget* parent)
-    : WorkPage({id, {}}, parent)
+    : TextPage({id, {}}, parent)
     , m_desk(desk)
     , m_places(desk.settings, desk.session.workspace().displayPath())
     , m_layout(new QVBoxLayout(this))
@@ -114,7 +114,7 @@ void DocumentPage::makeEditor(TextView view)
 
 void DocumentPage::showEvent(QShowEvent* event)
 {
-    WorkPage::showEvent(event);
+    TextPage::showEvent(event);
     // Once the page has its size, so that the line comes back to its height in the window.
     if (!m_isPlaceRestored)
         QTimer::singleShot(0ms, this, &DocumentPage::restorePlace);
@@ -123,7 +123,7 @@ void DocumentPage::showEvent(QShowEvent* event)
 void DocumentPage::hideEvent(QHideEvent* event)
 {
     rememberPlace();
-    WorkPage::hideEvent(event);
+    TextPage::hideEvent(event);
 }
 
 void DocumentPage::rememberPlace()

@@ -2,8 +2,8 @@
 
 #include "core/project/ProjectChanges.h"
 #include "desktop/manuscript/ReadingPlaces.h"
+#include "desktop/manuscript/TextPage.h"
 #include "desktop/shell/DeskContext.h"
-#include "desktop/shell/WorkPage.h"
 
 #include <QTimer>
 
@@ -12,14 +12,10 @@ class QVBoxLayout;
 
 namespace tw::desktop::manuscript {
 
-class BodyEditor;
 class FindBar;
 class NotesPane;
 class TypingBursts;
 
-namespace rich {
-class RichPage;
-}
 } // namespace tw::desktop::manuscript
 
 namespace tw::desktop::screenplay {
@@ -38,7 +34,7 @@ enum class TextView
 };
 
 /** The page of one document in the work area: its text, and what belongs around it. */
-class DocumentPage final : public shell::WorkPage
+class DocumentPage final : public TextPage
 {
     Q_OBJECT
 
@@ -52,8 +48,9 @@ public:
     [[nodiscard]] QString statusText() const override;
 
     [[nodiscard]] BodyEditor& editor() { return *m_editor; }
-    /** Null while the text is shown another way. */
-    [[nodiscard]] rich::RichPage* richPage() const { return m_richPage; }
+    [[nodiscard]] BodyEditor* currentEditor() const override { return m_editor; }
+    [[nodiscard]] rich::RichPage* richPage() const override { return m_richPage; }
+    [[nodiscard]] core::ContentId editedDocument() const override { return objectId(); }
 
     [[nodiscard]] TextView textView() const;
     /** Shows the source or not, the cursor in the same paragraph as far as that can be told. */
@@ -67,12 +64,7 @@ public:
     /** Nothing but the text, and of that the present paragraph before all. */
     void setFocusMode(bool isOn);
 
-    /** Takes up the font and the zoom of the settings. */
-    void applyStyle();
-
-signals:
-    /** Another editor shows the text now. */
-    void editorChanged();
+    void applyStyle() override;
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -1,7 +1,7 @@
 #include "desktop/manuscript/TextActions.h"
 
 #include "desktop/icons/IconSet.h"
-#include "desktop/manuscript/DocumentPage.h"
+#include "desktop/manuscript/TextPage.h"
 
 #include <QAction>
 #include <QMenu>
@@ -79,15 +79,15 @@ QAction* TextActions::add(
     return action;
 }
 
-void TextActions::setPage(DocumentPage* page)
+void TextActions::setPage(TextPage* page)
 {
-    if (page == m_document)
+    if (page == m_textPage)
         return;
-    if (m_document)
-        disconnect(m_document, nullptr, this, nullptr);
-    m_document = page;
+    if (m_textPage)
+        disconnect(m_textPage, nullptr, this, nullptr);
+    m_textPage = page;
     if (page)
-        connect(page, &DocumentPage::editorChanged, this, &TextActions::followEditor);
+        connect(page, &TextPage::editorChanged, this, &TextActions::followEditor);
     followEditor();
 }
 
@@ -95,7 +95,7 @@ void TextActions::followEditor()
 {
     if (m_page)
         disconnect(m_page, nullptr, this, nullptr);
-    m_page = m_document ? m_document->richPage() : nullptr;
+    m_page = m_textPage ? m_textPage->richPage() : nullptr;
     if (m_page) {
         const auto soon = [this] { m_refresh.start(); };
         connect(m_page, &QTextEdit::cursorPositionChanged, this, soon);

@@ -19,7 +19,7 @@ class QToolButton;
 
 namespace tw::desktop::manuscript {
 
-class DocumentPage;
+class TextPage;
 
 /** An action that works on a page of styled text. */
 struct TextAction
@@ -45,7 +45,7 @@ public:
     ~TextActions() override;
 
     /** Null when what is current is no text. */
-    void setPage(DocumentPage* page);
+    void setPage(TextPage* page);
 
     void fillFormatMenu(QMenu& menu);
     void fillInsertMenu(QMenu& menu);
@@ -96,7 +96,7 @@ private:
 
     shell::DeskContext m_desk;
     QWidget* m_window;
-    QPointer<DocumentPage> m_document;
+    QPointer<TextPage> m_textPage;
     QPointer<Page> m_page;
     std::vector<TextAction> m_entries;
     QTimer m_refresh;

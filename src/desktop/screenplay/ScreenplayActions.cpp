@@ -2,7 +2,7 @@
 
 #include "core/document/DocumentCommands.h"
 #include "desktop/icons/IconSet.h"
-#include "desktop/manuscript/DocumentPage.h"
+#include "desktop/manuscript/TextPage.h"
 #include "desktop/screenplay/ScreenplayPage.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
@@ -48,16 +48,16 @@ ScreenplayActions::ScreenplayActions(const shell::DeskContext& desk, QObject* pa
     refresh();
 }
 
-void ScreenplayActions::setPage(manuscript::DocumentPage* page)
+void ScreenplayActions::setPage(manuscript::TextPage* page)
 {
     if (m_page)
         disconnect(m_page, nullptr, this, nullptr);
-    if (m_document)
-        disconnect(m_document, nullptr, this, nullptr);
-    m_document = page;
+    if (m_textPage)
+        disconnect(m_textPage, nullptr, this, nullptr);
+    m_textPage = page;
     if (page)
-        connect(page, &manuscript::DocumentPage::editorChanged, this, [this] { setPage(m_document); });
-    m_page = page ? qobject_cast<ScreenplayPage*>(&page->editor()) : nullptr;
+        connect(page, &manuscript::TextPage::editorChanged, this, [this] { setPage(m_textPage); });
+    m_page = page ? qobject_cast<ScreenplayPage*>(page->currentEditor()) : nullptr;
     if (m_page)
         connect(m_page, &ScreenplayPage::elementChanged, this, &ScreenplayActions::refresh);
     refresh();
@@ -75,7 +75,7 @@ void ScreenplayActions::fillMenu(QMenu& menu)
 void ScreenplayActions::setBaseline(const QString& text)
 {
     auto* const document =
-        m_document ? m_desk.session.projectForCommands().findAsForEdit<Document>(m_document->objectId())
+        m_textPage ? m_desk.session.projectForCommands().findAsForEdit<Document>(m_textPage->editedDocument())
                    : nullptr;
     if (document && !document->isLocked() && document->revisionBaseline() != text)
         m_desk.session.apply(
@@ -90,7 +90,7 @@ void ScreenplayActions::refresh()
         entry.action->setChecked(canEdit && m_page->elementAtCursor() == entry.element);
     }
     const auto* const document =
-        m_document ? m_desk.session.project().findAs<Document>(m_document->objectId()) : nullptr;
+        m_textPage ? m_desk.session.project().findAs<Document>(m_textPage->editedDocument()) : nullptr;
     m_markRevision->setEnabled(canEdit);
     m_clearRevision->setEnabled(canEdit && document && !document->revisionBaseline().isEmpty());
 }

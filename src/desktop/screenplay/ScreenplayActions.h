@@ -12,7 +12,7 @@ class QAction;
 class QMenu;
 
 namespace tw::desktop::manuscript {
-class DocumentPage;
+class TextPage;
 }
 
 namespace tw::desktop::screenplay {
@@ -28,7 +28,7 @@ public:
     ScreenplayActions(const shell::DeskContext& desk, QObject* parent);
 
     /** Null when what is current is no document. */
-    void setPage(manuscript::DocumentPage* page);
+    void setPage(manuscript::TextPage* page);
     void fillMenu(QMenu& menu);
 
 private:
@@ -42,7 +42,7 @@ private:
     };
 
     shell::DeskContext m_desk;
-    QPointer<manuscript::DocumentPage> m_document;
+    QPointer<manuscript::TextPage> m_textPage;
     QPointer<ScreenplayPage> m_page;
     std::vector<ElementAction> m_elements;
     QAction* m_markRevision;

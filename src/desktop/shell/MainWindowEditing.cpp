@@ -1,5 +1,6 @@
 #include "desktop/shell/MainWindow.h"
 
+#include "desktop/composition/CompositionPage.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/DocumentActions.h"
 #include "desktop/manuscript/DocumentPage.h"
@@ -171,7 +172,7 @@ void MainWindow::buildFormatMenu()
 void MainWindow::zoomPages(int steps)
 {
     manuscript::stepPageZoom(m_desk.settings, steps);
-    for (manuscript::DocumentPage* const page : m_workArea->findChildren<manuscript::DocumentPage*>())
+    for (manuscript::TextPage* const page : m_workArea->findChildren<manuscript::TextPage*>())
         page->applyStyle();
 }
 
@@ -205,6 +206,9 @@ void MainWindow::buildViewMenu()
             }));
     };
     addOverview(u"view.corkboard"_s, Icon::Layout, tr("&Corkboard"), Qt::Key_2, overview::corkboardView);
+    addOverview(
+        u"view.composition"_s, Icon::Manuscript, tr("Continuous &Text"), Qt::Key_4,
+        composition::compositionView);
     addOverview(u"view.outline"_s, Icon::Columns, tr("&Outline"), Qt::Key_3, overview::outlineView);
     menu.addSeparator();
     addAction(
@@ -294,10 +298,11 @@ void MainWindow::buildFormatBar()
 void MainWindow::followPage(WorkPage* page)
 {
     auto* const document = qobject_cast<manuscript::DocumentPage*>(page);
-    m_textActions->setPage(document);
-    m_screenplayActions->setPage(document);
+    auto* const text = qobject_cast<manuscript::TextPage*>(page);
+    m_textActions->setPage(text);
+    m_screenplayActions->setPage(text);
     m_focusMode->setPage(document);
-    const bool isRich = document && document->richPage();
+    const bool isRich = text && text->richPage();
     m_formatBar->setVisible(isRich && m_formatBarAction->isChecked() && !m_focusMode->isOn());
     m_sourceAction->setEnabled(document != nullptr);
     m_sourceAction->setChecked(document && document->textView() == manuscript::TextView::MarkdownSource);

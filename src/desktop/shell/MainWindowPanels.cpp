@@ -2,6 +2,7 @@
 
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/codex/EntityPage.h"
+#include "desktop/composition/CompositionPage.h"
 #include "desktop/inspector/InspectorPanel.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
@@ -37,6 +38,10 @@ void MainWindow::addPanels()
     m_workArea->setViewFactory(
         overview::outlineView, [overviews](const core::ContentId& id, QWidget* parent) {
             return new overview::OutlinePage(overviews, id, parent);
+        });
+    m_workArea->setViewFactory(
+        composition::compositionView, [this](const core::ContentId& id, QWidget* parent) {
+            return new composition::CompositionPage(m_desk, id, parent);
         });
     m_workArea->setFactory(ContentKind::Entity, [this](const core::ContentId& id, QWidget* parent) {
         return new codex::EntityPage(m_desk, id, parent);

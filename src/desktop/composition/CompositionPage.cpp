@@ -1,0 +1,318 @@
+#include "desktop/composition/CompositionPage.h"
+
+#include "core/document/DocumentTree.h"
+#include "desktop/composition/SceneSlot.h"
+#include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/BodyEditor.h"
+#include "desktop/manuscript/PageStyle.h"
+#include "desktop/manuscript/rich/RichPage.h"
+#include "desktop/shell/Navigator.h"
+#include "desktop/shell/ObjectTitles.h"
+#include "desktop/shell/ProjectSession.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <map>
+
+namespace tw::desktop::composition {
+
+using core::ContentId;
+using core::document::Document;
+using manuscript::BodyEditor;
+
+namespace {
+
+/** Above and below the cursor when it is brought into view, in pixels. */
+constexpr int cursorMargin = 64;
+/** Of the window's height: so much beyond it is made ready. */
+constexpr double readyBeyond = 0.5;
+
+/** Whether the cursor can go no further up (or down) within its text. */
+bool isAtEdge(const BodyEditor& editor, QTextCursor::MoveOperation operation)
+{
+    QTextCursor cursor = editor.textCursor();
+    return !cursor.movePosition(operation);
+}
+
+} // namespace
+
+CompositionPage::CompositionPage(const shell::DeskContext& desk, const ContentId& rootId, QWidget* parent)
+    : TextPage({rootId, compositionView}, parent)
+    , m_desk(desk)
+    , m_area(new QScrollArea(this))
+    , m_text(new QWidget)
+    , m_layout(new QVBoxLayout(m_text))
+    , m_hint(new QLabel(tr("No documents in here yet. Press Ctrl+Shift+N to write the first one."), m_text))
+{
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_area);
+    m_area->setWidget(m_text);
+    m_area->setWidgetResizable(true);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Otherwise the first line would move sideways with the scroll bar.
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    m_area->setAccessibleName(tr("Continuous text"));
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_hint);
+    m_layout->addStretch();
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setForegroundRole(QPalette::PlaceholderText);
+    connect(m_area->verticalScrollBar(), &QScrollBar::valueChanged, this, &CompositionPage::wakeVisible);
+    connect(m_area->verticalScrollBar(), &QScrollBar::rangeChanged, this, &CompositionPage::wakeVisible);
+    connect(&desk.session, &shell::ProjectSession::changed, this, &CompositionPage::followChanges);
+    rebuild();
+}
+
+CompositionPage::~CompositionPage()
+{
+    m_desk.session.disconnect(this);
+    m_area->verticalScrollBar()->disconnect(this);
+}
+
+std::vector<ContentId> CompositionPage::documentsInOrder() const
+{
+    const core::project::Project& project = m_desk.session.project();
+    std::vector<ContentId> ids;
+    const auto addSubtree = [&](const ContentId& id) {
+        for (const ContentId& each : core::document::documentSubtree(project, id)) {
+            const auto& document = *project.findAs<Document>(each);
+            // Notes are beside the text; a part without words of its own shows as the title above its scenes.
+            if (document.documentKind() != core::document::DocumentKind::Note || each == objectId())
+                ids.push_back(each);
+        }
+    };
+    if (!objectId().isNull()) {
+        addSubtree(objectId());
+        return ids;
+    }
+    for (const ContentId& root : core::document::childDocuments(project, {}))
+        addSubtree(root);
+    return ids;
+}
+
+void CompositionPage::rebuild()
+{
+    std::map<ContentId, SceneSlot*> present;
+    for (SceneSlot* const slot : m_slots) {
+        present.emplace(slot->documentId(), slot);
+        m_layout->removeWidget(slot);
+    }
+    m_slots.clear();
+    for (const ContentId& id : documentsInOrder()) {
+        const auto known = present.extract(id);
+        SceneSlot* const slot = known ? known.mapped() : new SceneSlot(m_desk, id, m_text);
+        if (!known) {
+            connect(slot, &SceneSlot::editorMade, this, [this, slot](BodyEditor* editor) {
+                prepare(*slot, *editor);
+            });
+        }
+        m_layout->insertWidget(static_cast<int>(m_slots.size()), slot);
+        slot->show();
+        m_slots.push_back(slot);
+    }
+    for (const auto& [id, slot] : present)
+        slot->deleteLater();
+    m_hint->setVisible(m_slots.empty());
+}
+
+void CompositionPage::followChanges(const core::project::ProjectChanges& changes)
+{
+    std::vector<ContentId> shown;
+    for (const SceneSlot* const slot : m_slots)
+        shown.push_back(slot->documentId());
+    if (changes.isEverything || shown != documentsInOrder())
+        rebuild();
+    for (SceneSlot* const slot : m_slots) {
+        if (changes.concerns(slot->documentId()))
+            slot->refresh();
+    }
+    emit titleChanged();
+    emit statusTextChanged();
+}
+
+void CompositionPage::prepare(SceneSlot& slot, BodyEditor& editor)
+{
+    editor.installEventFilter(this);
+    connect(&editor, &QTextEdit::cursorPositionChanged, this, [this, &slot, &editor] {
+        if (editor.hasFocus()) {
+            setCurrentSlot(&slot);
+            showCursor(editor);
+        }
+    });
+    connect(&editor, &BodyEditor::zoomStepRequested, this, [this](int step) {
+        manuscript::stepPageZoom(m_desk.settings, step);
+        applyStyle();
+    });
+}
+
+void CompositionPage::wakeVisible()
+{
+    if (m_isWaking || !isVisible())
+        return;
+    const QScopedValueRollback guard(m_isWaking, true);
+    QScrollBar& bar = *m_area->verticalScrollBar();
+    const int window = m_area->viewport()->height();
+    const int beyond = static_cast<int>(window * readyBeyond);
+    for (SceneSlot* const slot : m_slots) {
+        const int top = slot->y() - bar.value();
+        if (slot->editor() || top > window + beyond || top + slot->height() < -beyond)
+            continue;
+        // What is in the window must not move when something above turns out to be of another height.
+        const int before = slot->height();
+        slot->wake();
+        m_layout->activate();
+        m_text->adjustSize();
+        if (top + before <= 0)
+            bar.setValue(bar.value() + slot->height() - before);
+    }
+}
+
+void CompositionPage::showCursor(const BodyEditor& editor)
+{
+    const QRect cursor = editor.cursorRect();
+    const QPoint place = editor.viewport()->mapTo(m_text, cursor.center());
+    m_area->ensureVisible(m_text->width() / 2, place.y(), 0, cursorMargin);
+}
+
+void CompositionPage::setCurrentSlot(SceneSlot* slot)
+{
+    if (m_current == slot)
+        return;
+    m_current = slot;
+    if (slot)
+        m_desk.navigator.setCurrent(slot->documentId());
+    emit editorChanged();
+    emit statusTextChanged();
+}
+
+bool CompositionPage::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::FocusIn)
+        return TextPage::eventFilter(watched, event);
+    for (SceneSlot* const slot : m_slots) {
+        if (slot->editor() != watched)
+            continue;
+        if (event->type() == QEvent::FocusIn)
+            setCurrentSlot(slot);
+        else if (const auto* const key = static_cast<QKeyEvent*>(event); key->modifiers() == Qt::NoModifier)
+            return leaveEditor(*slot, key->key());
+        break;
+    }
+    return TextPage::eventFilter(watched, event);
+}
+
+bool CompositionPage::leaveEditor(SceneSlot& slot, int key)
+{
+    const auto index = static_cast<std::size_t>(std::ranges::find(m_slots, &slot) - m_slots.begin());
+    const BodyEditor& editor = *slot.editor();
+    QScrollBar& bar = *m_area->verticalScrollBar();
+    switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Left:
+        if (index == 0 || !isAtEdge(editor, key == Qt::Key_Up ? QTextCursor::Up : QTextCursor::Left))
+            return false;
+        enter(index - 1, true);
+        return true;
+    case Qt::Key_Down:
+    case Qt::Key_Right:
+        if (index + 1 == m_slots.size() ||
+            !isAtEdge(editor, key == Qt::Key_Down ? QTextCursor::Down : QTextCursor::Right))
+            return false;
+        enter(index + 1, false);
+        return true;
+    case Qt::Key_PageUp:
+        bar.setValue(bar.value() - bar.pageStep());
+        return true;
+    case Qt::Key_PageDown:
+        bar.setValue(bar.value() + bar.pageStep());
+        return true;
+    default:
+        return false;
+    }
+}
+
+void CompositionPage::enter(std::size_t index, bool atEnd)
+{
+    BodyEditor& editor = m_slots[index]->wake();
+    editor.moveCursor(atEnd ? QTextCursor::End : QTextCursor::Start);
+    editor.setFocus(Qt::OtherFocusReason);
+    m_layout->activate();
+    m_text->adjustSize();
+    showCursor(editor);
+}
+
+void CompositionPage::resizeEvent(QResizeEvent* event)
+{
+    TextPage::resizeEvent(event);
+    QTimer::singleShot(0, this, &CompositionPage::wakeVisible);
+}
+
+void CompositionPage::showEvent(QShowEvent* event)
+{
+    TextPage::showEvent(event);
+    QTimer::singleShot(0, this, &CompositionPage::wakeVisible);
+}
+
+void CompositionPage::takeFocus()
+{
+    if (m_current && m_current->editor())
+        m_current->editor()->setFocus(Qt::OtherFocusReason);
+    else if (!m_slots.empty())
+        enter(0, false);
+}
+
+BodyEditor* CompositionPage::currentEditor() const
+{
+    return m_current ? m_current->editor() : nullptr;
+}
+
+manuscript::rich::RichPage* CompositionPage::richPage() const
+{
+    return qobject_cast<manuscript::rich::RichPage*>(currentEditor());
+}
+
+ContentId CompositionPage::editedDocument() const
+{
+    return m_current ? m_current->documentId() : ContentId();
+}
+
+void CompositionPage::applyStyle()
+{
+    for (SceneSlot* const slot : m_slots)
+        slot->applyStyle();
+}
+
+QString CompositionPage::title() const
+{
+    const auto* const object = m_desk.session.project().find(objectId());
+    return object ? shell::objectTitle(*object) : tr("Manuscript");
+}
+
+QIcon CompositionPage::icon() const
+{
+    return m_desk.icons.icon(icons::Icon::Manuscript);
+}
+
+QString CompositionPage::statusText() const
+{
+    qint64 words = 0;
+    for (const SceneSlot* const slot : m_slots)
+        words += m_desk.session.words().ofDocument(slot->documentId());
+    const QString total = tr("%Ln words", nullptr, static_cast<int>(words));
+    const auto* const object = m_desk.session.project().find(editedDocument());
+    return object ? tr("%1 · %2").arg(shell::objectTitle(*object), total) : total;
+}
+
+} // namespace tw::desktop::composition

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "core/project/ProjectChanges.h"
+#include "desktop/manuscript/TextPage.h"
+#include "desktop/shell/DeskContext.h"
+
+#include <QPointer>
+
+#include <vector>
+
+class QLabel;
+class QScrollArea;
+class QVBoxLayout;
+
+namespace tw::desktop::composition {
+
+class SceneSlot;
+
+/** The view, as page addresses name it. */
+inline constexpr QLatin1StringView compositionView("composition");
+
+/**
+ * All documents below one (null: the whole manuscript) as one continuous text. Each stays a document of its
+ * own, edited in place; the arrow keys lead from one into the next. Editors are made for what is about to be
+ * seen, so that a whole manuscript opens at once.
+ */
+class CompositionPage final : public manuscript::TextPage
+{
+    Q_OBJECT
+
+public:
+    CompositionPage(const shell::DeskContext& desk, const core::ContentId& rootId, QWidget* parent);
+    ~CompositionPage() override;
+
+    [[nodiscard]] QString title() const override;
+    [[nodiscard]] QIcon icon() const override;
+    void takeFocus() override;
+    [[nodiscard]] QString statusText() const override;
+
+    [[nodiscard]] manuscript::BodyEditor* currentEditor() const override;
+    [[nodiscard]] manuscript::rich::RichPage* richPage() const override;
+    [[nodiscard]] core::ContentId editedDocument() const override;
+    void applyStyle() override;
+
+    [[nodiscard]] const std::vector<SceneSlot*>& slotsInOrder() const { return m_slots; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    [[nodiscard]] std::vector<core::ContentId> documentsInOrder() const;
+    void rebuild();
+    void followChanges(const core::project::ProjectChanges& changes);
+    void prepare(SceneSlot& slot, manuscript::BodyEditor& editor);
+    void wakeVisible();
+    void showCursor(const manuscript::BodyEditor& editor);
+    void setCurrentSlot(SceneSlot* slot);
+    bool leaveEditor(SceneSlot& slot, int key);
+    void enter(std::size_t index, bool atEnd);
+
+    shell::DeskContext m_desk;
+    QScrollArea* m_area;
+    QWidget* m_text;
+    QVBoxLayout* m_layout;
+    QLabel* m_hint;
+    std::vector<SceneSlot*> m_slots;
+    QPointer<SceneSlot> m_current;
+    bool m_isWaking = false;
+};
+
+} // namespace tw::desktop::composition

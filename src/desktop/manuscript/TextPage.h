@@ -1,0 +1,35 @@
+#pragma once
+
+#include "desktop/shell/WorkPage.h"
+
+namespace tw::desktop::manuscript {
+
+class BodyEditor;
+
+namespace rich {
+class RichPage;
+}
+
+/** A page of the work area on which texts are written, in one editor or in several. */
+class TextPage : public shell::WorkPage
+{
+    Q_OBJECT
+
+public:
+    using WorkPage::WorkPage;
+
+    /** The editor that is written in, or was last; null while there is none. */
+    [[nodiscard]] virtual BodyEditor* currentEditor() const = 0;
+    /** The same, when it shows styled text; else null. */
+    [[nodiscard]] virtual rich::RichPage* richPage() const = 0;
+    /** The document whose text that is; null for none. */
+    [[nodiscard]] virtual core::ContentId editedDocument() const = 0;
+    /** Takes up how the settings want pages set. */
+    virtual void applyStyle() = 0;
+
+signals:
+    /** Another editor is the current one. */
+    void editorChanged();
+};
+
+} // namespace tw::desktop::manuscript
