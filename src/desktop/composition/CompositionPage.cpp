@@ -288,6 +288,11 @@ ContentId CompositionPage::editedDocument() const
     return m_current ? m_current->documentId() : ContentId();
 }
 
+void CompositionPage::showNote(const QString&)
+{
+    m_desk.navigator.open(editedDocument());
+}
+
 void CompositionPage::applyStyle()
 {
     for (SceneSlot* const slot : m_slots)

@@ -40,6 +40,8 @@ public:
     [[nodiscard]] manuscript::BodyEditor* currentEditor() const override;
     [[nodiscard]] manuscript::rich::RichPage* richPage() const override;
     [[nodiscard]] core::ContentId editedDocument() const override;
+    /** Notes are written where the document is by itself. */
+    void showNote(const QString& label) override;
     void applyStyle() override;
 
     [[nodiscard]] const std::vector<SceneSlot*>& slotsInOrder() const { return m_slots; }

@@ -57,7 +57,7 @@ public:
     void setSourceShown(bool isShown);
 
     /** Goes to the text of a note, in the pane below or in the text itself. */
-    void showNote(const QString& label);
+    void showNote(const QString& label) override;
 
     [[nodiscard]] FindBar& findBar() { return *m_findBar; }
 

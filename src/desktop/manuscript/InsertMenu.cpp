@@ -3,7 +3,7 @@
 
 #include "core/document/DocumentCommands.h"
 #include "desktop/icons/IconSet.h"
-#include "desktop/manuscript/DocumentPage.h"
+#include "desktop/manuscript/TextPage.h"
 #include "desktop/manuscript/Footnotes.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
@@ -133,11 +133,11 @@ void TextActions::chooseLink(Page& page)
 
 void TextActions::addNote(Page& page, bool isEndnote)
 {
-    if (!m_document)
+    if (!m_textPage)
         return;
     const QString label = insertNote(m_desk.session, page, isEndnote);
     if (!label.isEmpty())
-        m_document->showNote(label);
+        m_textPage->showNote(label);
 }
 
 } // namespace tw::desktop::manuscript

@@ -24,6 +24,8 @@ public:
     [[nodiscard]] virtual rich::RichPage* richPage() const = 0;
     /** The document whose text that is; null for none. */
     [[nodiscard]] virtual core::ContentId editedDocument() const = 0;
+    /** Goes to where the text of a note of that document is written. */
+    virtual void showNote(const QString& label) = 0;
     /** Takes up how the settings want pages set. */
     virtual void applyStyle() = 0;
 
