@@ -4,6 +4,8 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui LinguistTools Network Widgets Svg Test)
 find_package(Threads REQUIRED)
 find_package(simdjson REQUIRED)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(hunspell REQUIRED IMPORTED_TARGET hunspell)
 
 find_package(qtadvanceddocking 3.8 QUIET)
 if(NOT qtadvanceddocking_FOUND)

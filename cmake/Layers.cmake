@@ -4,7 +4,7 @@
 set(TW_LAYER_tw_core Qt6::Core)
 set(TW_LAYER_tw_platform Qt6::Core Qt6::Network)
 set(TW_LAYER_tw_project tw_core Qt6::Core simdjson::simdjson)
-set(TW_LAYER_tw_engines tw_core Qt6::Core)
+set(TW_LAYER_tw_engines tw_core Qt6::Core PkgConfig::hunspell)
 set(TW_LAYER_tw_exchange tw_core tw_engines tw_project Qt6::Core Qt6::Gui Qt6::Pdf)
 set(TW_LAYER_tw_ai tw_core Qt6::Core Qt6::Network Qt6::Concurrent)
 set(TW_LAYER_tw_tools tw_core tw_project tw_engines tw_exchange Qt6::Core)
