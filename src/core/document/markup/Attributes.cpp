@@ -101,12 +101,12 @@ void forEachWord(QStringView group, Take take)
     }
 }
 
-/** A value that reaches over a line end would part the line it is written in. */
+/** Without what could not be written again: lone quotes, and line ends, which would part the line it stands
+ * in. */
 QString readText(QStringView text)
 {
     QString value = text.toString();
-    value.replace(u'\n', u' ');
-    return value;
+    return value.replace(u'\n', u' ').remove(u'"');
 }
 
 double readFactor(QStringView text)

@@ -92,7 +92,11 @@ private:
         case u'`':
             return write(character, true);
         case u'[':
-            return write(character, m_place != Place::Text || m_isStrict || nextIs(u'^'));
+            write(character, m_place != Place::Text || m_isStrict);
+            // A reader by pattern alone would find a footnote even behind an escaped bracket.
+            if (m_index < m_text.size() && m_text[m_index] == u'^')
+                write(u'^', true);
+            return;
         case u']':
             if (m_place != Place::GroupText)
                 return write(
@@ -120,14 +124,9 @@ private:
 
     void write(QChar character, bool isEscaped)
     {
-        if (isEscaped && character == u'[' && nextIs(u'^')) {
-            // The other way round a reader by pattern alone would still find a footnote.
-            m_result += u"[\\"_s;
-        } else {
-            if (isEscaped)
-                m_result += u'\\';
-            m_result += character;
-        }
+        if (isEscaped)
+            m_result += u'\\';
+        m_result += character;
         ++m_index;
     }
 
