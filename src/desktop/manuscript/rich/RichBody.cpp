@@ -100,8 +100,9 @@ QString RichBody::gapBetween(const Unit& upper, const Unit& lower) const
     // However narrow a gap is, it parts the blocks that it was read between.
     if (areNeighbours && isAsPlaced(above) && isAsPlaced(below))
         return above.gap.view().toString();
-    const int needed =
-        above.isBlank() ? 1 : below.isBlank() ? 2 : markup::lineEndsBetween(above.kind, below.kind);
+    const int needed = above.isBlank()   ? 1
+                       : below.isBlank() ? 2
+                                         : markup::lineEndsBetween(above.kind, below.kind);
     return m_lineEnd.repeated(needed);
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/manuscript/rich/RichPage.h"
 
+#include "core/document/markup/LegacyHtml.h"
 #include "desktop/manuscript/TypingBursts.h"
 #include "desktop/manuscript/rich/EntityNames.h"
 #include "desktop/manuscript/rich/PageObjects.h"
@@ -56,7 +57,7 @@ void RichPage::applyBody(const DocumentBody& body)
     const int position = before.position();
     const int anchor = before.anchor();
     const int scrolled = verticalScrollBar()->value();
-    if (m_body.apply(body.text) == RichBody::Update::InPlace)
+    if (m_body.apply(core::document::markup::markdownOf(body)) == RichBody::Update::InPlace)
         return;
     QTextCursor after(document());
     const int last = document()->characterCount() - 1;
