@@ -86,6 +86,7 @@ void DocumentPage::makeEditor(TextView view)
         bursts = &m_richPage->bursts();
         connect(m_richPage, &rich::RichPage::footnoteActivated, this, &DocumentPage::showNote);
         connect(m_richPage, &rich::RichPage::linkActivated, this, &DocumentPage::openLink);
+        connect(m_richPage, &rich::RichPage::entityActivated, &m_desk.navigator, &shell::Navigator::open);
         connect(m_richPage, &rich::RichPage::imagePasted, this, &DocumentPage::keepImage);
     } else if (view == TextView::Screenplay) {
         m_screenplay = new screenplay::ScreenplayPage(m_desk.themes, this);
@@ -208,8 +209,10 @@ void DocumentPage::applyStyle()
 {
     const PageStyle style = pageStyleFrom(m_desk.settings);
     m_editor->setPageStyle(m_screenplay ? screenplay::screenplayStyle(style) : style);
-    if (m_richPage)
+    if (m_richPage) {
         m_richPage->setTypingRules(typingRulesFrom(m_desk.settings));
+        m_richPage->setMentionsShown(m_desk.settings.value(typingkeys::mentions).toBool());
+    }
     m_editor->setTypewriterScrolling(m_isFocusMode || m_desk.settings.value(typewriterKey).toBool());
 }
 

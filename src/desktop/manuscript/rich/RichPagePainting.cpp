@@ -45,6 +45,8 @@ void RichPage::paintSheet(QPainter& painter, const QRect& clip)
         if (rect.top() > clip.bottom() + m_formats.em() * 4)
             break;
         paintBlock(painter, block, rect);
+        if (m_areMentionsShown && rect.intersects(clip))
+            paintMentions(painter, block, rect);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
