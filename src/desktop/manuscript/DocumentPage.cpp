@@ -1,90 +1,194 @@
 #include "desktop/manuscript/DocumentPage.h"
 
-#include "core/document/DocumentCommands.h"
-#include "core/document/WordCount.h"
+#include "core/document/Document.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/FindBar.h"
 #include "desktop/manuscript/ManuscriptModel.h"
 #include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/NotesPane.h"
+#include "desktop/manuscript/TypingBursts.h"
+#include "desktop/manuscript/TypingSettings.h"
+#include "desktop/manuscript/rich/RichPage.h"
+#include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 
+#include <QDesktopServices>
+#include <QImage>
 #include <QLabel>
 #include <QLocale>
-#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <chrono>
 
 namespace tw::desktop::manuscript {
 
+using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 using core::document::Document;
-using core::document::DocumentBody;
 
 namespace {
 
-/** A rest this long ends a burst of typing. */
-constexpr auto burstRest = 1200ms;
-constexpr auto recountRest = 250ms;
+/** A selection that is being drawn is not counted at every step. */
+constexpr auto selectionRest = 150ms;
+constexpr QLatin1StringView sourceKey = "editor/markdownSource"_L1;
+constexpr QLatin1StringView typewriterKey = "editor/typewriterScrolling"_L1;
 
 } // namespace
 
 DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId& id, QWidget* parent)
     : WorkPage(id, parent)
     , m_desk(desk)
+    , m_places(desk.settings, desk.session.workspace().displayPath())
+    , m_layout(new QVBoxLayout(this))
     , m_lockNotice(new QLabel(tr("This document is locked. Unlock it in the inspector to write."), this))
-    , m_page(new MarkdownPage(desk.themes, this))
 {
-    auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_lockNotice);
-    layout->addWidget(m_page);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+    m_layout->addWidget(m_lockNotice);
     m_lockNotice->setAlignment(Qt::AlignCenter);
     m_lockNotice->setContentsMargins(8, 8, 8, 8);
-    setFocusProxy(m_page);
-
-    m_burst.setSingleShot(true);
-    m_burst.setInterval(burstRest);
-    m_recount.setSingleShot(true);
-    m_recount.setInterval(recountRest);
-    connect(&m_burst, &QTimer::timeout, this, &DocumentPage::commit);
-    connect(&m_recount, &QTimer::timeout, this, &DocumentPage::recount);
-    connect(m_page->document(), &QTextDocument::contentsChange, this, [this](int, int removed, int added) {
-        // Changes of format come with equal counts and are none of the writer's.
-        if (!m_showing && (removed > 0 || added > 0))
-            noteTyping();
+    m_notes = new NotesPane(desk, id, this);
+    m_layout->addWidget(m_notes);
+    m_findBar = new FindBar(desk, this);
+    m_layout->addWidget(m_findBar);
+    connect(m_notes, &NotesPane::referenceRequested, this, [this](const QString& label) {
+        if (m_richPage && !m_richPage->showFootnoteReference(label))
+            m_desk.navigator.say(tr("Nothing in the text refers to note %1.").arg(label));
     });
-    connect(m_page->document(), &QTextDocument::blockCountChanged, this, [this] {
-        // A finished paragraph is a step of its own; committed once the key is through.
-        if (m_hasTyping)
-            m_burst.start(0ms);
-    });
-    connect(m_page, &MarkdownPage::focusLeft, this, &DocumentPage::commit);
-    connect(m_page, &MarkdownPage::zoomStepRequested, this, &DocumentPage::stepZoom);
-    connect(&desk.session, &shell::ProjectSession::commitRequested, this, &DocumentPage::commit);
-    connect(
-        &desk.session, &shell::ProjectSession::heldBackTextsRequested, this,
-        [this](shell::HeldBackTexts& texts) {
-            if (m_hasTyping)
-                texts.insert(objectId(), m_page->toPlainText());
-        });
+    m_selectionRest.setSingleShot(true);
+    m_selectionRest.setInterval(selectionRest);
+    connect(&m_selectionRest, &QTimer::timeout, this, &DocumentPage::recountSelection);
+    makeEditor(desk.settings.value(sourceKey).toBool() ? TextView::MarkdownSource : TextView::Rich);
     connect(&desk.session, &shell::ProjectSession::changed, this, &DocumentPage::followChanges);
-    applyStyle();
-    showDocument();
-    recount();
+    showLock();
+    showNotes();
 }
 
 DocumentPage::~DocumentPage()
 {
-    // The page loses the focus while it dies; nobody is left to hear of it.
-    disconnect(m_page, nullptr, this, nullptr);
+    rememberPlace();
+    // The editor loses the focus while it dies; nobody is left to hear of it.
+    m_editor->blockSignals(true);
+}
+
+void DocumentPage::makeEditor(TextView view)
+{
+    TypingBursts* bursts = nullptr;
+    if (view == TextView::Rich) {
+        m_richPage = new rich::RichPage(m_desk, objectId(), this);
+        m_editor = m_richPage;
+        bursts = &m_richPage->bursts();
+        connect(m_richPage, &rich::RichPage::footnoteActivated, this, &DocumentPage::showNote);
+        connect(m_richPage, &rich::RichPage::linkActivated, this, &DocumentPage::openLink);
+        connect(m_richPage, &rich::RichPage::entityActivated, &m_desk.navigator, &shell::Navigator::open);
+        connect(m_richPage, &rich::RichPage::imagePasted, this, &DocumentPage::keepImage);
+    } else {
+        auto* const page = new MarkdownPage(m_desk.themes, this);
+        page->setPageStyle(pageStyleFrom(m_desk.settings));
+        m_editor = page;
+        bursts = new TypingBursts(m_desk.session, objectId(), *page);
+    }
+    m_layout->insertWidget(1, m_editor, 1);
+    setFocusProxy(m_editor);
+    connect(m_editor, &BodyEditor::zoomStepRequested, this, &DocumentPage::stepZoom);
+    connect(bursts, &TypingBursts::settled, this, &DocumentPage::recount);
+    connect(m_editor, &QTextEdit::selectionChanged, &m_selectionRest, qOverload<>(&QTimer::start));
+    m_findBar->setEditor(m_editor, bursts);
+    m_words = m_editor->words();
+    setFocusMode(m_isFocusMode);
+}
+
+void DocumentPage::showEvent(QShowEvent* event)
+{
+    WorkPage::showEvent(event);
+    // Once the page has its size, so that the line comes back to its height in the window.
+    if (!m_isPlaceRestored)
+        QTimer::singleShot(0ms, this, &DocumentPage::restorePlace);
+}
+
+void DocumentPage::hideEvent(QHideEvent* event)
+{
+    rememberPlace();
+    WorkPage::hideEvent(event);
+}
+
+void DocumentPage::rememberPlace()
+{
+    if (!m_isPlaceRestored)
+        return;
+    const QTextCursor cursor = m_editor->textCursor();
+    m_places.remember(
+        objectId(),
+        {cursor.position(), m_editor->document()->characterCount(), m_editor->cursorRect().top()});
+}
+
+void DocumentPage::restorePlace()
+{
+    m_isPlaceRestored = true;
+    const auto place = m_places.find(objectId());
+    // Somebody was faster: what is typed or chosen already stays.
+    if (!place || m_editor->textCursor().position() != 0)
+        return;
+    QTextCursor cursor = m_editor->textCursor();
+    cursor.setPosition(place->positionIn(m_editor->document()->characterCount()));
+    m_editor->setTextCursor(cursor);
+    m_editor->ensureCursorVisible();
+    QScrollBar& bar = *m_editor->verticalScrollBar();
+    bar.setValue(bar.value() + m_editor->cursorRect().top() - place->top);
+}
+
+TextView DocumentPage::textView() const
+{
+    return m_richPage ? TextView::Rich : TextView::MarkdownSource;
+}
+
+void DocumentPage::setTextView(TextView view)
+{
+    if (view == textView())
+        return;
+    m_desk.session.commitPendingEdits();
+    const bool hadFocus = m_editor->hasFocus();
+    const double place = static_cast<double>(m_editor->textCursor().position()) /
+                         std::max(1, m_editor->document()->characterCount());
+    m_editor->blockSignals(true);
+    delete m_editor;
+    m_richPage = nullptr;
+    makeEditor(view);
+    QTextCursor cursor = m_editor->textCursor();
+    cursor.setPosition(static_cast<int>(place * (m_editor->document()->characterCount() - 1)));
+    cursor.movePosition(QTextCursor::StartOfWord);
+    m_editor->setTextCursor(cursor);
+    m_editor->show();
+    m_editor->ensureCursorVisible();
+    if (hadFocus)
+        takeFocus();
+    m_desk.settings.setValue(sourceKey, view == TextView::MarkdownSource);
+    showLock();
+    emit editorChanged();
 }
 
 void DocumentPage::applyStyle()
 {
-    const QScopedValueRollback guard(m_showing, true);
-    m_page->setPageStyle(pageStyleFrom(m_desk.settings));
+    m_editor->setPageStyle(pageStyleFrom(m_desk.settings));
+    if (m_richPage) {
+        m_richPage->setTypingRules(typingRulesFrom(m_desk.settings));
+        m_richPage->setMentionsShown(m_desk.settings.value(typingkeys::mentions).toBool());
+    }
+    m_editor->setTypewriterScrolling(m_isFocusMode || m_desk.settings.value(typewriterKey).toBool());
+}
+
+void DocumentPage::setFocusMode(bool isOn)
+{
+    m_isFocusMode = isOn;
+    if (m_richPage)
+        m_richPage->setFocusedOnParagraph(isOn);
+    applyStyle();
+    showNotes();
 }
 
 void DocumentPage::stepZoom(int step)
@@ -107,71 +211,87 @@ QIcon DocumentPage::icon() const
 
 void DocumentPage::takeFocus()
 {
-    m_page->setFocus(Qt::OtherFocusReason);
+    m_editor->setFocus(Qt::OtherFocusReason);
 }
 
 QString DocumentPage::statusText() const
 {
+    if (m_selectedWords > 0) {
+        return tr("%1 of %Ln words selected", nullptr, static_cast<int>(m_words))
+            .arg(QLocale().toString(m_selectedWords));
+    }
     const auto* const document = m_desk.session.project().findAs<Document>(objectId());
     if (document && document->wordCountTarget() > 0)
         return tr("%1 of %Ln words", nullptr, document->wordCountTarget()).arg(QLocale().toString(m_words));
     return tr("%Ln words", nullptr, static_cast<int>(m_words));
 }
 
-void DocumentPage::noteTyping()
-{
-    m_recount.start();
-    m_burst.start(burstRest);
-    if (m_hasTyping)
-        return;
-    m_hasTyping = true;
-    m_desk.session.setTypingPending(true);
-}
-
-void DocumentPage::commit()
-{
-    m_burst.stop();
-    if (!m_hasTyping)
-        return;
-    m_hasTyping = false;
-    m_desk.session.setTypingPending(false);
-    auto& project = m_desk.session.projectForCommands();
-    auto* const document = project.findAsForEdit<Document>(objectId());
-    const QString text = m_page->toPlainText();
-    if (document && text != document->body().text) {
-        m_desk.session.apply(std::make_unique<core::document::SetDocumentBodyCommand>(
-            *document, DocumentBody{text, document->body().format}));
-    }
-}
-
 void DocumentPage::followChanges(const core::project::ProjectChanges& changes)
 {
     if (!changes.concerns(objectId()) || !m_desk.session.project().contains(objectId()))
         return;
-    if (changes.isEverything) {
-        // The project was read anew: typing that was held back belonged to the one before.
-        m_burst.stop();
-        m_hasTyping = false;
-    }
-    showDocument();
-    recount();
+    showLock();
+    showNotes();
     emit titleChanged();
 }
 
-void DocumentPage::showDocument()
+void DocumentPage::showNotes()
 {
     const auto* const document = m_desk.session.project().findAs<Document>(objectId());
     if (!document)
         return;
-    const QScopedValueRollback guard(m_showing, true);
-    m_page->applyText(document->body().text);
-    m_page->setReadOnly(document->isLocked());
-    m_lockNotice->setVisible(document->isLocked());
+    const auto& notes = document->footnotes();
+    m_notes->showNotes(
+        notes, m_richPage && !notes.empty() ? m_richPage->footnoteReferences() : QStringList());
+    m_notes->setVisible(!notes.empty() && !m_isFocusMode);
+}
+
+void DocumentPage::showNote(const QString& label)
+{
+    if (m_notes->focusNote(label) || (m_richPage && m_richPage->showFootnoteDefinition(label)))
+        return;
+    m_desk.navigator.say(tr("Note %1 has no text anywhere in this document.").arg(label));
+}
+
+void DocumentPage::keepImage(const QImage& image)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(tr("pasted image") + u".png"_s);
+    if (!image.save(file)) {
+        m_desk.navigator.say(tr("The pasted image could not be written. Save it as a file and insert that."));
+        return;
+    }
+    const auto imported = m_desk.session.importAsset(file);
+    if (imported)
+        m_richPage->insertImage(imported.value(), QString());
+    else
+        m_desk.navigator.say(imported.message());
+}
+
+void DocumentPage::openLink(const QString& target)
+{
+    // A text may come from anybody: it leads to pages and mail, never to files or programs.
+    static const QStringList harmlessSchemes{u"http"_s, u"https"_s, u"mailto"_s};
+    const QUrl url(target);
+    if (!harmlessSchemes.contains(url.scheme()) || !QDesktopServices::openUrl(url))
+        m_desk.navigator.say(tr("The link “%1” cannot be opened from here.").arg(target));
+}
+
+void DocumentPage::showLock()
+{
+    const auto* const document = m_desk.session.project().findAs<Document>(objectId());
+    m_lockNotice->setVisible(document && document->isLocked());
 }
 
 void DocumentPage::recount()
 {
-    m_words = core::document::countWords(m_page->toPlainText());
+    m_words = m_editor->words();
+    emit statusTextChanged();
+}
+
+void DocumentPage::recountSelection()
+{
+    m_selectedWords = m_editor->selectedWords();
     emit statusTextChanged();
 }
 

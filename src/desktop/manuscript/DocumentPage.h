@@ -1,21 +1,34 @@
 #pragma once
 
 #include "core/project/ProjectChanges.h"
+#include "desktop/manuscript/ReadingPlaces.h"
 #include "desktop/shell/DeskContext.h"
 #include "desktop/shell/WorkPage.h"
 
 #include <QTimer>
 
 class QLabel;
+class QVBoxLayout;
 
 namespace tw::desktop::manuscript {
 
-class MarkdownPage;
+class BodyEditor;
+class FindBar;
+class NotesPane;
+class TypingBursts;
 
-/**
- * The editor of one document. Typing goes into the project in bursts, each one undo step: when the writer
- * rests, ends a paragraph, leaves the page, or when anything else wants the project's true state.
- */
+namespace rich {
+class RichPage;
+}
+
+/** How the text of a document is shown. */
+enum class TextView
+{
+    Rich,
+    MarkdownSource,
+};
+
+/** The page of one document in the work area: its text, and what belongs around it. */
 class DocumentPage final : public shell::WorkPage
 {
     Q_OBJECT
@@ -29,27 +42,59 @@ public:
     void takeFocus() override;
     [[nodiscard]] QString statusText() const override;
 
-    [[nodiscard]] MarkdownPage& page() { return *m_page; }
+    [[nodiscard]] BodyEditor& editor() { return *m_editor; }
+    /** Null while the source is shown. */
+    [[nodiscard]] rich::RichPage* richPage() const { return m_richPage; }
+
+    [[nodiscard]] TextView textView() const;
+    /** Shows the text the other way, the cursor in the same paragraph as far as that can be told. */
+    void setTextView(TextView view);
+
+    /** Goes to the text of a note, in the pane below or in the text itself. */
+    void showNote(const QString& label);
+
+    [[nodiscard]] FindBar& findBar() { return *m_findBar; }
+
+    /** Nothing but the text, and of that the present paragraph before all. */
+    void setFocusMode(bool isOn);
 
     /** Takes up the font and the zoom of the settings. */
     void applyStyle();
 
+signals:
+    /** Another editor shows the text now. */
+    void editorChanged();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
 private:
+    void rememberPlace();
+    void restorePlace();
+    void makeEditor(TextView view);
     void stepZoom(int step);
-    void noteTyping();
-    void commit();
     void followChanges(const core::project::ProjectChanges& changes);
-    void showDocument();
+    void showLock();
+    void showNotes();
+    void keepImage(const QImage& image);
+    void openLink(const QString& target);
     void recount();
+    void recountSelection();
 
     shell::DeskContext m_desk;
+    ReadingPlaces m_places;
+    QVBoxLayout* m_layout;
     QLabel* m_lockNotice;
-    MarkdownPage* m_page;
-    QTimer m_burst;
-    QTimer m_recount;
+    BodyEditor* m_editor = nullptr;
+    rich::RichPage* m_richPage = nullptr;
+    NotesPane* m_notes;
+    FindBar* m_findBar;
+    QTimer m_selectionRest;
+    bool m_isFocusMode = false;
+    bool m_isPlaceRestored = false;
     qint64 m_words = 0;
-    bool m_hasTyping = false;
-    bool m_showing = false;
+    qint64 m_selectedWords = 0;
 };
 
 } // namespace tw::desktop::manuscript

@@ -1,8 +1,13 @@
 #include "desktop/settings/EditorPage.h"
 
+#include "desktop/manuscript/TypingSettings.h"
+
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFontComboBox>
 #include <QFormLayout>
+#include <QLocale>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalBlocker>
@@ -12,6 +17,7 @@ namespace tw::desktop::settings {
 
 using namespace Qt::Literals::StringLiterals;
 using manuscript::PageStyle;
+namespace typingkeys = manuscript::typingkeys;
 
 namespace {
 
@@ -27,6 +33,11 @@ EditorPage::EditorPage(const shell::DeskContext& desk, QWidget* parent)
     , m_size(new QDoubleSpinBox(this))
     , m_width(new QSpinBox(this))
     , m_lineHeight(new QDoubleSpinBox(this))
+    , m_indents(new QCheckBox(tr("Begin paragraphs with an &indented line"), this))
+    , m_quotes(new QComboBox(this))
+    , m_dashes(new QCheckBox(tr("Make &dashes of two or three hyphens"), this))
+    , m_ellipsis(new QCheckBox(tr("Make an &ellipsis of three dots"), this))
+    , m_mentions(new QCheckBox(tr("&Underline names of the codex"), this))
 {
     using manuscript::PageLimits;
     m_font->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -50,6 +61,8 @@ EditorPage::EditorPage(const shell::DeskContext& desk, QWidget* parent)
     form->addRow(tr("&Size"), m_size);
     form->addRow(tr("Page &width"), m_width);
     form->addRow(tr("&Line height"), m_lineHeight);
+    form->addRow(QString(), m_indents);
+    addTypingRows(*form);
     form->addRow(QString(), reset);
     show(manuscript::pageStyleFrom(desk.settings));
 
@@ -57,11 +70,68 @@ EditorPage::EditorPage(const shell::DeskContext& desk, QWidget* parent)
     connect(m_size, &QDoubleSpinBox::valueChanged, this, &EditorPage::store);
     connect(m_width, &QSpinBox::valueChanged, this, &EditorPage::store);
     connect(m_lineHeight, &QDoubleSpinBox::valueChanged, this, &EditorPage::store);
+    connect(m_indents, &QCheckBox::toggled, this, &EditorPage::store);
     connect(reset, &QPushButton::clicked, this, [this] {
         manuscript::forgetPageStyle(m_desk.settings);
+        for (const QLatin1StringView key :
+             {typingkeys::quotes, typingkeys::dashes, typingkeys::ellipsis, typingkeys::mentions})
+            m_desk.settings.remove(key);
+        showTyping();
         show(manuscript::pageStyleFrom(m_desk.settings));
         emit pageStyleChanged();
     });
+}
+
+void EditorPage::addTypingRows(QFormLayout& form)
+{
+    m_quotes->addItem(tr("As in the language of the program"), QString());
+    m_quotes->addItem(tr("Leave quotes as typed"), QString(typingkeys::quotesOff));
+    for (const auto& marks : app::typing::allQuotationMarks()) {
+        const QLocale locale{QString(marks.language)};
+        // A language alone names no country.
+        const QString country =
+            marks.language.contains(u'-') ? u" (%1)"_s.arg(locale.nativeTerritoryName()) : QString();
+        m_quotes->addItem(
+            u"%1%2  %3…%4"_s.arg(locale.nativeLanguageName(), country, marks.opening, marks.closing),
+            QString(marks.language));
+    }
+    m_quotes->setAccessibleName(tr("Typographic quotes"));
+    form.addRow(tr("&Quotes"), m_quotes);
+    form.addRow(QString(), m_dashes);
+    form.addRow(QString(), m_ellipsis);
+    form.addRow(QString(), m_mentions);
+    showTyping();
+    connect(m_quotes, &QComboBox::currentIndexChanged, this, &EditorPage::storeTyping);
+    connect(m_dashes, &QCheckBox::toggled, this, &EditorPage::storeTyping);
+    connect(m_ellipsis, &QCheckBox::toggled, this, &EditorPage::storeTyping);
+    connect(m_mentions, &QCheckBox::toggled, this, &EditorPage::storeTyping);
+}
+
+void EditorPage::showTyping()
+{
+    const QSignalBlocker quotes(m_quotes);
+    const QSignalBlocker dashes(m_dashes);
+    const QSignalBlocker ellipsis(m_ellipsis);
+    const QSignalBlocker mentions(m_mentions);
+    m_mentions->setChecked(m_desk.settings.value(typingkeys::mentions).toBool());
+    const QVariant chosen = m_desk.settings.value(typingkeys::quotes, QString());
+    m_quotes->setCurrentIndex(std::max(0, m_quotes->findData(chosen)));
+    const auto rules = manuscript::typingRulesFrom(m_desk.settings);
+    m_dashes->setChecked(rules.joinsDashes);
+    m_ellipsis->setChecked(rules.joinsEllipsis);
+}
+
+void EditorPage::storeTyping()
+{
+    const QString quotes = m_quotes->currentData().toString();
+    if (quotes.isEmpty())
+        m_desk.settings.remove(typingkeys::quotes);
+    else
+        m_desk.settings.setValue(typingkeys::quotes, quotes);
+    m_desk.settings.setValue(typingkeys::dashes, m_dashes->isChecked());
+    m_desk.settings.setValue(typingkeys::ellipsis, m_ellipsis->isChecked());
+    m_desk.settings.setValue(typingkeys::mentions, m_mentions->isChecked());
+    emit pageStyleChanged();
 }
 
 void EditorPage::show(const PageStyle& style)
@@ -70,6 +140,8 @@ void EditorPage::show(const PageStyle& style)
     const QSignalBlocker size(m_size);
     const QSignalBlocker width(m_width);
     const QSignalBlocker lineHeight(m_lineHeight);
+    const QSignalBlocker indents(m_indents);
+    m_indents->setChecked(style.hasFirstLineIndents);
     m_font->setCurrentFont(QFont(style.fontFamily));
     m_size->setValue(style.fontPointSize);
     m_width->setValue(style.columnCharacters);
@@ -83,6 +155,7 @@ void EditorPage::store()
     style.fontPointSize = m_size->value();
     style.columnCharacters = m_width->value();
     style.lineHeight = m_lineHeight->value();
+    style.hasFirstLineIndents = m_indents->isChecked();
     manuscript::storePageStyle(m_desk.settings, style);
     emit pageStyleChanged();
 }

@@ -172,9 +172,23 @@ void DockLayout::restore(const QSettings& settings)
         reset();
 }
 
+void DockLayout::setHidden(bool isHidden)
+{
+    if (isHidden == !m_shownState.isEmpty())
+        return;
+    if (!isHidden) {
+        m_manager->restoreState(std::exchange(m_shownState, {}), layoutVersion);
+        return;
+    }
+    m_shownState = m_manager->saveState(layoutVersion);
+    for (const Panel& panel : m_panels)
+        panel.dock->toggleView(false);
+}
+
 void DockLayout::save(QSettings& settings) const
 {
-    settings.setValue("window/dockState", m_manager->saveState(layoutVersion));
+    settings.setValue(
+        "window/dockState", m_shownState.isEmpty() ? m_manager->saveState(layoutVersion) : m_shownState);
 }
 
 } // namespace tw::desktop::shell

@@ -66,6 +66,9 @@ public:
     bool showPanel(const QString& objectName);
     [[nodiscard]] QStringList panelNames() const;
 
+    /** Puts all panels away, and brings them back as they were. */
+    void setHidden(bool isHidden);
+
     void reset();
     void restore(const QSettings& settings);
     void save(QSettings& settings) const;
@@ -85,6 +88,8 @@ private:
     QMainWindow& m_window;
     ads::CDockManager* m_manager;
     std::vector<Panel> m_panels;
+    /** The layout to come back to while panels are put away. */
+    QByteArray m_shownState;
 };
 
 } // namespace tw::desktop::shell

@@ -4,12 +4,14 @@
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
+#include "desktop/manuscript/TextActions.h"
 #include "desktop/project/ProjectFileDialogs.h"
 #include "desktop/review/ExternalChanges.h"
 #include "desktop/review/ReviewNotice.h"
 #include "desktop/settings/AutosaveChoice.h"
 #include "desktop/settings/Shortcuts.h"
 #include "desktop/shell/DockLayout.h"
+#include "desktop/shell/FocusMode.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectLife.h"
@@ -29,6 +31,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>
+#include <QToolBar>
 
 namespace tw::desktop::shell {
 
@@ -62,27 +65,34 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     : m_desk(desk)
     , m_life(new ProjectLife(desk, std::move(samplePath), this))
     , m_center(new QStackedWidget)
-    , m_workArea(new WorkArea(desk, m_center))
+    , m_work(new QWidget(m_center))
+    , m_formatBar(new QToolBar(m_work))
+    , m_workArea(new WorkArea(desk, m_work))
     , m_welcome(new WelcomePage(desk.icons, m_life->hasSample(), m_center))
     , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entity in the codex."), m_center))
     , m_docks(nullptr)
     , m_shortcuts(new settings::Shortcuts(desk.settings, this))
     , m_status(new StatusStrip(desk, *statusBar()))
+    , m_textActions(new manuscript::TextActions(desk, this))
+    , m_focusMode(nullptr)
 {
     setObjectName(u"mainWindow"_s);
     setAcceptDrops(true);
     statusBar()->setSizeGripEnabled(false);
     m_center->addWidget(m_welcome);
-    m_center->addWidget(m_workArea);
+    m_center->addWidget(m_work);
     m_center->addWidget(m_emptyHint);
     m_emptyHint->setAlignment(Qt::AlignCenter);
     m_emptyHint->setForegroundRole(QPalette::PlaceholderText);
     m_docks = new DockLayout(*this, m_center, desk.themes, desk.icons);
+    m_focusMode = new FocusMode(*this, *m_docks, *m_workArea);
     addPanels();
     buildMenus();
+    buildFormatBar();
     restoreWindow();
 
     connect(m_workArea, &WorkArea::currentPageChanged, m_status, &StatusStrip::setPage);
+    connect(m_workArea, &WorkArea::currentPageChanged, this, &MainWindow::followPage);
     connect(m_workArea, &WorkArea::currentPageChanged, this, &MainWindow::showCenter);
     connect(&desk.session, &ProjectSession::historyChanged, this, &MainWindow::refreshHistory);
     connect(&desk.session, &ProjectSession::saveStateChanged, this, &MainWindow::refreshTitle);
@@ -250,7 +260,7 @@ void MainWindow::showCenter()
     if (!isOpen)
         showWelcome();
     else if (m_workArea->hasPages())
-        m_center->setCurrentWidget(m_workArea);
+        m_center->setCurrentWidget(m_work);
     else
         m_center->setCurrentWidget(m_emptyHint);
     for (QAction* const action : m_projectActions)

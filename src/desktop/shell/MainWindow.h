@@ -10,13 +10,16 @@
 
 class QLabel;
 class QStackedWidget;
+class QToolBar;
 
 namespace tw::desktop::codex {
 class CodexPanel;
 }
 namespace tw::desktop::manuscript {
+class DocumentPage;
 class ManuscriptPanel;
-}
+class TextActions;
+} // namespace tw::desktop::manuscript
 
 namespace tw::desktop::settings {
 class Shortcuts;
@@ -25,10 +28,12 @@ class Shortcuts;
 namespace tw::desktop::shell {
 
 class DockLayout;
+class FocusMode;
 class ProjectLife;
 class StatusStrip;
 class WelcomePage;
 class WorkArea;
+class WorkPage;
 
 /**
  * The window: menus, docks around the work area, status bar, and the life of the project from opening to
@@ -69,10 +74,14 @@ private:
         std::function<void()> handler);
     void buildFileMenu();
     void buildEditMenu();
+    void addFindActions(QMenu& menu);
     void buildInsertMenu();
     void buildFormatMenu();
     void buildViewMenu();
+    void buildFormatBar();
+    void addWritingViews(QMenu& menu);
     void zoomPages(int steps);
+    void followPage(WorkPage* page);
     void buildProjectMenu();
     void buildCodexMenu();
     void buildToolsMenu();
@@ -97,16 +106,24 @@ private:
     DeskContext m_desk;
     ProjectLife* m_life;
     QStackedWidget* m_center;
+    /** The work area, and the bar above it. */
+    QWidget* m_work;
+    QToolBar* m_formatBar;
     WorkArea* m_workArea;
     WelcomePage* m_welcome;
     QLabel* m_emptyHint;
     DockLayout* m_docks;
     settings::Shortcuts* m_shortcuts;
     StatusStrip* m_status;
+    manuscript::TextActions* m_textActions;
+    FocusMode* m_focusMode;
     QMenu* m_recentMenu = nullptr;
     QAction* m_undoAction = nullptr;
     QAction* m_redoAction = nullptr;
     QAction* m_saveAction = nullptr;
+    QAction* m_sourceAction = nullptr;
+    QAction* m_focusAction = nullptr;
+    QAction* m_formatBarAction = nullptr;
     /** What makes sense only with a project open. */
     QList<QAction*> m_projectActions;
     manuscript::ManuscriptPanel* m_manuscript = nullptr;

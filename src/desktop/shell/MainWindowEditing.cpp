@@ -2,9 +2,13 @@
 
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/DocumentPage.h"
+#include "desktop/manuscript/FindBar.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
-#include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/PageStyle.h"
+#include "desktop/manuscript/TextActions.h"
+#include "desktop/manuscript/rich/RichPage.h"
 #include "desktop/settings/SettingsDialog.h"
+#include "desktop/shell/FocusMode.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/WorkArea.h"
 #include "desktop/theme/Theme.h"
@@ -19,6 +23,8 @@
 #include <QPlainTextEdit>
 #include <QSettings>
 #include <QTextEdit>
+#include <QToolBar>
+#include <QVBoxLayout>
 
 namespace tw::desktop::shell {
 
@@ -70,6 +76,14 @@ void editFocused(ClipboardEdit edit)
         view->selectAll();
 }
 
+void pastePlainText(QWidget* focused)
+{
+    if (auto* const page = qobject_cast<manuscript::rich::RichPage*>(focused))
+        page->pastePlainText();
+    else
+        editFocused(ClipboardEdit::Paste);
+}
+
 } // namespace
 
 void MainWindow::buildEditMenu()
@@ -94,9 +108,44 @@ void MainWindow::buildEditMenu()
     addAction(menu, u"edit.selectAll"_s, Icon::Check, tr("Select &All"), QKeySequence::SelectAll, [] {
         editFocused(ClipboardEdit::SelectAll);
     });
+    addAction(
+        menu, u"edit.pastePlain"_s, Icon::Paste, tr("Paste as Plain &Text"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), [] { pastePlainText(QApplication::focusWidget()); });
+    menu.addSeparator();
+    addFindActions(menu);
     menu.addSeparator();
     for (QAction* const action : m_manuscript->editActions())
         menu.addAction(action);
+}
+
+void MainWindow::addFindActions(QMenu& menu)
+{
+    using manuscript::FindBar;
+    const auto inText = [this](auto handler) {
+        return [this, handler] {
+            if (auto* const page = qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage()))
+                handler(page->findBar());
+        };
+    };
+    addAction(menu, u"edit.find"_s, Icon::Search, tr("&Find…"), QKeySequence::Find, inText([](FindBar& bar) {
+                  bar.open(FindBar::Row::Find);
+              }));
+    addAction(
+        menu, u"edit.findNext"_s, Icon::ChevronDown, tr("Find &Next"), QKeySequence(Qt::Key_F3),
+        inText([](FindBar& bar) { bar.step(true); }));
+    addAction(
+        menu, u"edit.findPrevious"_s, Icon::ChevronUp, tr("Find Pre&vious"),
+        QKeySequence(Qt::SHIFT | Qt::Key_F3), inText([](FindBar& bar) { bar.step(false); }));
+    addAction(
+        menu, u"edit.openEntity"_s, Icon::Entity, tr("Open What the Word &Names"), QKeySequence(Qt::Key_F12),
+        [this] {
+            auto* const page = qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage());
+            if (page && page->richPage())
+                page->richPage()->openEntityAtCursor();
+        });
+    addAction(
+        menu, u"edit.replace"_s, Icon::Refresh, tr("&Replace…"), QKeySequence(Qt::CTRL | Qt::Key_H),
+        inText([](FindBar& bar) { bar.open(FindBar::Row::FindAndReplace); }));
 }
 
 void MainWindow::buildInsertMenu()
@@ -106,11 +155,15 @@ void MainWindow::buildInsertMenu()
         menu.addAction(action);
         m_projectActions.append(action);
     }
+    menu.addSeparator();
+    m_textActions->fillInsertMenu(menu);
 }
 
 void MainWindow::buildFormatMenu()
 {
     QMenu& menu = *menuBar()->addMenu(tr("F&ormat"));
+    m_textActions->fillFormatMenu(menu);
+    menu.addSeparator();
     addAction(menu, u"format.pageFont"_s, Icon::Text, tr("Page &Font…"), {}, [this] {
         showSettings(settings::SettingsPage::Editor);
     });
@@ -156,6 +209,8 @@ void MainWindow::buildViewMenu()
             zoomPages(0);
         });
     menu.addSeparator();
+    addWritingViews(menu);
+    menu.addSeparator();
     addAction(
         menu, u"view.split"_s, Icon::Split, tr("&Split Side by Side"),
         QKeySequence(Qt::CTRL | Qt::Key_Backslash), [this] { m_workArea->splitCurrent(); });
@@ -172,6 +227,73 @@ void MainWindow::buildViewMenu()
     addAction(menu, u"fullScreen"_s, Icon::FullScreen, tr("&Full Screen"), QKeySequence(Qt::Key_F11), [this] {
         setWindowState(windowState() ^ Qt::WindowFullScreen);
     });
+}
+
+void MainWindow::addWritingViews(QMenu& menu)
+{
+    const auto currentDocument = [this] {
+        return qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage());
+    };
+    m_sourceAction = addAction(
+        menu, u"view.markdownSource"_s, Icon::Number, tr("Markdown So&urce"),
+        QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_M), [this, currentDocument] {
+            if (auto* const page = currentDocument()) {
+                page->setTextView(
+                    m_sourceAction->isChecked() ? manuscript::TextView::MarkdownSource
+                                                : manuscript::TextView::Rich);
+            }
+        });
+    m_sourceAction->setCheckable(true);
+    m_formatBarAction = addAction(menu, u"view.formatBar"_s, Icon::Text, tr("Format &Bar"), {}, [this] {
+        m_desk.settings.setValue("view/formatBar", m_formatBarAction->isChecked());
+        followPage(m_workArea->currentPage());
+    });
+    m_formatBarAction->setCheckable(true);
+    m_formatBarAction->setChecked(m_desk.settings.value("view/formatBar", true).toBool());
+    QAction* const typewriter =
+        addAction(menu, u"view.typewriter"_s, Icon::Focus, tr("T&ypewriter Scrolling"), {}, [this] {
+            const bool isOn = m_desk.settings.value("editor/typewriterScrolling").toBool();
+            m_desk.settings.setValue("editor/typewriterScrolling", !isOn);
+            zoomPages(0);
+        });
+    typewriter->setCheckable(true);
+    typewriter->setChecked(m_desk.settings.value("editor/typewriterScrolling").toBool());
+    m_focusAction = addAction(
+        menu, u"view.focusMode"_s, Icon::Focus, tr("F&ocus Mode"), QKeySequence(Qt::CTRL | Qt::Key_F11),
+        [this] { m_focusMode->setOn(!m_focusMode->isOn()); });
+    m_focusAction->setCheckable(true);
+    connect(m_focusMode, &FocusMode::changed, this, [this](bool isOn) {
+        m_focusAction->setChecked(isOn);
+        followPage(m_workArea->currentPage());
+    });
+}
+
+void MainWindow::buildFormatBar()
+{
+    m_formatBar->setAccessibleName(tr("Format"));
+    m_formatBar->setIconSize({18, 18});
+    m_textActions->fillBar(*m_formatBar);
+    auto* const layout = new QVBoxLayout(m_work);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_formatBar);
+    layout->addWidget(m_workArea, 1);
+    connect(m_textActions, &manuscript::TextActions::availableChanged, this, [this] {
+        followPage(m_workArea->currentPage());
+    });
+    followPage(nullptr);
+}
+
+void MainWindow::followPage(WorkPage* page)
+{
+    auto* const document = qobject_cast<manuscript::DocumentPage*>(page);
+    m_textActions->setPage(document);
+    m_focusMode->setPage(document);
+    const bool isRich = document && document->richPage();
+    m_formatBar->setVisible(isRich && m_formatBarAction->isChecked() && !m_focusMode->isOn());
+    m_sourceAction->setEnabled(document != nullptr);
+    m_sourceAction->setChecked(document && !isRich);
+    m_focusAction->setEnabled(document != nullptr);
 }
 
 void MainWindow::refreshHistory()

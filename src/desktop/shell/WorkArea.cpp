@@ -58,11 +58,19 @@ QTabWidget* WorkArea::addPane()
     pane->tabBar()->setElideMode(Qt::ElideRight);
     pane->tabBar()->setExpanding(false);
     pane->tabBar()->setAccessibleName(tr("Open pages"));
+    pane->tabBar()->setVisible(m_areTabsVisible);
     addWidget(pane);
     connect(pane, &QTabWidget::tabCloseRequested, this, [this, pane](int index) { closeTab(pane, index); });
     connect(pane, &QTabWidget::currentChanged, this, [this, pane] { showPane(pane); });
     connect(pane, &QTabWidget::tabBarClicked, this, [this, pane] { showPane(pane); });
     return pane;
+}
+
+void WorkArea::setTabsVisible(bool areVisible)
+{
+    m_areTabsVisible = areVisible;
+    for (int index = 0; index < count(); ++index)
+        static_cast<QTabWidget*>(widget(index))->tabBar()->setVisible(areVisible);
 }
 
 QTabWidget* WorkArea::activePane() const

@@ -40,6 +40,8 @@ public:
     /** Steps through the tabs of the active pane: 1 forward, -1 back. */
     void stepTab(int step);
 
+    void setTabsVisible(bool areVisible);
+
     [[nodiscard]] WorkPage* currentPage() const;
     [[nodiscard]] bool hasPages() const;
 
@@ -65,6 +67,7 @@ private:
     std::map<core::content::ContentKind, PageFactory> m_factories;
     QTabWidget* m_activePane = nullptr;
     WorkPage* m_announcedPage = nullptr;
+    bool m_areTabsVisible = true;
 };
 
 } // namespace tw::desktop::shell

@@ -2,6 +2,7 @@
 #include "core/document/DocumentCommands.h"
 #include "core/document/WordCount.h"
 #include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/rich/RichPage.h"
 #include "desktop/support/TestDesk.h"
 
 #include <QScrollBar>
@@ -18,19 +19,21 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class DocumentPageTest : public testing::Test
+/** Both ways of showing a text keep the same promises. */
+class DocumentPageTest : public testing::TestWithParam<TextView>
 {
 protected:
     DocumentPageTest()
         : id(desk.addDocument(u"Chapter"_s, {}, 0))
     {
+        desk.settings.setValue("editor/markdownSource", GetParam() == TextView::MarkdownSource);
         desk.document(id).setBody({u"First paragraph.\n\nSecond."_s, {}});
         page = std::make_unique<DocumentPage>(desk.context, id, nullptr);
         page->resize(900, 600);
         page->show();
     }
 
-    void type(const QString& text) { QTest::keyClicks(&page->page(), text); }
+    void type(const QString& text) { QTest::keyClicks(&page->editor(), text); }
     const QString& body() { return desk.document(id).body().text; }
 
     test::TestDesk desk;
@@ -40,11 +43,11 @@ protected:
 
 } // namespace
 
-TEST_F(DocumentPageTest, typingIsOneStepABurstAndUndoKeepsTheCursor)
+TEST_P(DocumentPageTest, typingIsOneStepABurstAndUndoKeepsTheCursor)
 {
-    QTextCursor cursor = page->page().textCursor();
+    QTextCursor cursor = page->editor().textCursor();
     cursor.setPosition(5);
-    page->page().setTextCursor(cursor);
+    page->editor().setTextCursor(cursor);
     type(u"ly"_s);
     EXPECT_EQ(body(), u"First paragraph.\n\nSecond."_s) << "not yet committed";
     EXPECT_TRUE(desk.session.isModified()) << "but the project knows";
@@ -54,28 +57,28 @@ TEST_F(DocumentPageTest, typingIsOneStepABurstAndUndoKeepsTheCursor)
 
     desk.session.undo();
     EXPECT_EQ(body(), u"Firstly paragraph.\n\nSecond."_s) << "the typing still held is a step of its own";
-    EXPECT_EQ(page->page().toPlainText(), body());
-    EXPECT_EQ(page->page().textCursor().position(), 7);
+    EXPECT_EQ(page->editor().currentBody().text, body());
+    EXPECT_EQ(page->editor().textCursor().position(), 7);
     desk.session.undo();
-    EXPECT_EQ(page->page().toPlainText(), u"First paragraph.\n\nSecond."_s);
-    EXPECT_EQ(page->page().textCursor().position(), 5);
+    EXPECT_EQ(page->editor().currentBody().text, u"First paragraph.\n\nSecond."_s);
+    EXPECT_EQ(page->editor().textCursor().position(), 5);
     EXPECT_EQ(desk.session.redoText(), u"Edit document body"_s);
     desk.session.redo();
-    EXPECT_EQ(page->page().toPlainText(), u"Firstly paragraph.\n\nSecond."_s);
+    EXPECT_EQ(page->editor().currentBody().text, u"Firstly paragraph.\n\nSecond."_s);
 }
 
-TEST_F(DocumentPageTest, twoPagesOfOneDocumentShowTheSameText)
+TEST_P(DocumentPageTest, twoPagesOfOneDocumentShowTheSameText)
 {
     DocumentPage other(desk.context, id, nullptr);
     type(u"X"_s);
     desk.session.commitPendingEdits();
-    EXPECT_EQ(other.page().toPlainText(), u"XFirst paragraph.\n\nSecond."_s);
-    QTest::keyClicks(&other.page(), u"Y"_s);
+    EXPECT_EQ(other.editor().currentBody().text, u"XFirst paragraph.\n\nSecond."_s);
+    QTest::keyClicks(&other.editor(), u"Y"_s);
     desk.session.commitPendingEdits();
-    EXPECT_EQ(page->page().toPlainText(), other.page().toPlainText());
+    EXPECT_EQ(page->editor().toPlainText(), other.editor().toPlainText());
 }
 
-TEST_F(DocumentPageTest, savingTakesTheLastWordsAlong)
+TEST_P(DocumentPageTest, savingTakesTheLastWordsAlong)
 {
     ASSERT_TRUE(desk.session.saveAs(desk.folder.filePath(u"p"_s)));
     type(u"Last words. "_s);
@@ -87,19 +90,19 @@ TEST_F(DocumentPageTest, savingTakesTheLastWordsAlong)
     EXPECT_TRUE(document->body().text.startsWith(u"Last words. First"_s));
 }
 
-TEST_F(DocumentPageTest, lockedDocumentsAreReadOnly)
+TEST_P(DocumentPageTest, lockedDocumentsAreReadOnly)
 {
     desk.document(id).setLocked(true);
     DocumentPage locked(desk.context, id, nullptr);
-    QTest::keyClicks(&locked.page(), u"no"_s);
+    QTest::keyClicks(&locked.editor(), u"no"_s);
     desk.session.commitPendingEdits();
     EXPECT_EQ(body(), u"First paragraph.\n\nSecond."_s);
     EXPECT_FALSE(desk.session.canUndo());
 }
 
-TEST_F(DocumentPageTest, zoomIsApartFromTheFontAndChangesNoText)
+TEST_P(DocumentPageTest, zoomIsApartFromTheFontAndChangesNoText)
 {
-    emit page->page().zoomStepRequested(1);
+    emit page->editor().zoomStepRequested(1);
     EXPECT_GT(desk.settings.value("editor/zoom").toReal(), 1.0);
     EXPECT_FALSE(desk.settings.contains("editor/fontSize"));
     EXPECT_FALSE(desk.session.isModified() && desk.session.canUndo());
@@ -107,7 +110,22 @@ TEST_F(DocumentPageTest, zoomIsApartFromTheFontAndChangesNoText)
     EXPECT_FALSE(desk.session.canUndo());
 }
 
-TEST(MarkdownPageTest, applyTextMakesAnyTextOfAnyOther)
+INSTANTIATE_TEST_SUITE_P(
+    Views, DocumentPageTest, testing::Values(TextView::Rich, TextView::MarkdownSource),
+    [](const auto& info) { return info.param == TextView::Rich ? "Rich" : "MarkdownSource"; });
+
+TEST(MarkdownPageTest, keepsWhatPlainTextWouldChange)
+{
+    test::TestDesk desk;
+    MarkdownPage page(desk.themes, nullptr);
+    for (const QString& text :
+         {u"a\r\nb\r\n"_s, u"non\u00a0breaking « vraiment »"_s, u"line\u2028separator"_s}) {
+        page.applyBody({text, {}});
+        EXPECT_EQ(page.currentBody().text, text);
+    }
+}
+
+TEST(MarkdownPageTest, applyBodyMakesAnyTextOfAnyOther)
 {
     test::TestDesk desk;
     MarkdownPage page(desk.themes, nullptr);
@@ -121,8 +139,8 @@ TEST(MarkdownPageTest, applyTextMakesAnyTextOfAnyOther)
         for (auto count = random() % 6; count > 0; --count)
             piece += letters[static_cast<qsizetype>(random() % static_cast<std::size_t>(letters.size()))];
         text.replace(start, length, piece);
-        page.applyText(text);
-        ASSERT_EQ(page.toPlainText(), text);
+        page.applyBody({text, {}});
+        ASSERT_EQ(page.currentBody().text, text);
     }
 }
 

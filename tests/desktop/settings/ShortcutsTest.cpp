@@ -1,6 +1,6 @@
 #include "desktop/settings/Shortcuts.h"
 
-#include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/BodyEditor.h"
 #include "desktop/settings/AutosaveChoice.h"
 #include "desktop/settings/SettingsDialog.h"
 #include "desktop/support/TestDesk.h"

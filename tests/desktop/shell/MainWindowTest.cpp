@@ -2,7 +2,7 @@
 
 #include "core/entity/EntityCommands.h"
 #include "desktop/manuscript/DocumentPage.h"
-#include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/BodyEditor.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
@@ -31,7 +31,7 @@ namespace {
 bool isPartOfPage(const QWidget& widget)
 {
     const QWidget* ancestor = &widget;
-    while (ancestor && !qobject_cast<const manuscript::MarkdownPage*>(ancestor))
+    while (ancestor && !qobject_cast<const manuscript::BodyEditor*>(ancestor))
         ancestor = ancestor->parentWidget();
     return ancestor != nullptr;
 }
@@ -61,13 +61,13 @@ protected:
 
     core::ContentId idOf(const QString& title) const { return findObject(desk->session.project(), title); }
 
-    manuscript::MarkdownPage& openText(const QString& title)
+    manuscript::BodyEditor& openText(const QString& title)
     {
         EXPECT_TRUE(window->select(title));
         auto* const page = qobject_cast<manuscript::DocumentPage*>(
             window->findChild<WorkArea*>(u"workArea"_s)->currentPage());
         EXPECT_TRUE(page);
-        return page->page();
+        return page->editor();
     }
 
     QAction* action(const QString& text) const
@@ -90,7 +90,7 @@ protected:
 
 TEST_F(MainWindowTest, writesUndoesSavesClosesAndFindsEverythingAgain)
 {
-    manuscript::MarkdownPage& text = openText(u"The Spike"_s);
+    manuscript::BodyEditor& text = openText(u"The Spike"_s);
     const QString before = text.toPlainText();
     QTest::keyClicks(&text, u"First words. "_s);
     auto* const ibbet =
@@ -115,14 +115,14 @@ TEST_F(MainWindowTest, writesUndoesSavesClosesAndFindsEverythingAgain)
         qobject_cast<manuscript::DocumentPage*>(window->findChild<WorkArea*>(u"workArea"_s)->currentPage());
     ASSERT_TRUE(page) << "what was open is open again";
     EXPECT_EQ(page->objectId(), idOf(u"The Spike"_s));
-    EXPECT_TRUE(page->page().toPlainText().startsWith(u"First words. "_s));
+    EXPECT_TRUE(page->editor().toPlainText().startsWith(u"First words. "_s));
     const auto* const again = desk->session.project().findAs<core::entity::Entity>(idOf(u"Ibbet Lusk"_s));
     EXPECT_EQ(again->value(u"clerkNumber"_s), u"59"_s);
 }
 
 TEST_F(MainWindowTest, closingAsksOnlyWhenSomethingIsUnsaved)
 {
-    manuscript::MarkdownPage& text = openText(u"The Spike"_s);
+    manuscript::BodyEditor& text = openText(u"The Spike"_s);
     QTest::keyClicks(&text, u"x"_s);
     {
         const NextMessage cancel(u"Cancel"_s);
@@ -148,7 +148,7 @@ TEST_F(MainWindowTest, badFoldersAreToldAndTheProjectStays)
 
 TEST_F(MainWindowTest, refusedSaveSaysWhyAndKeepsTheChanges)
 {
-    manuscript::MarkdownPage& text = openText(u"The Spike"_s);
+    manuscript::BodyEditor& text = openText(u"The Spike"_s);
     QTest::keyClicks(&text, u"x"_s);
     // As a sync client leaves a file half-way through.
     QFile other(project + u"/objects/%1.json"_s.arg(idOf(u"Ibbet Lusk"_s).toString()));

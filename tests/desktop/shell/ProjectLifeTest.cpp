@@ -3,7 +3,7 @@
 #include "app/persistence/bundle/BackupList.h"
 #include "core/document/DocumentCommands.h"
 #include "desktop/manuscript/DocumentPage.h"
-#include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/BodyEditor.h"
 #include "desktop/project/NewProjectDialog.h"
 #include "desktop/project/ProjectBackups.h"
 #include "desktop/project/RestoreDialog.h"
@@ -85,7 +85,7 @@ TEST_F(ProjectLifeTest, fromNewToRestored)
     auto* const page =
         qobject_cast<manuscript::DocumentPage*>(window.findChild<WorkArea*>(u"workArea"_s)->currentPage());
     ASSERT_TRUE(page);
-    QTest::keyClicks(&page->page(), u"A clerk in a tidal town."_s);
+    QTest::keyClicks(&page->editor(), u"A clerk in a tidal town."_s);
     window.life().save();
     EXPECT_FALSE(desk.session.isModified());
 

@@ -1,0 +1,159 @@
+#include "desktop/manuscript/rich/RichBody.h"
+
+#include "core/document/WordCount.h"
+#include "core/document/markup/BlockWriter.h"
+#include "desktop/manuscript/rich/BlockShape.h"
+#include "desktop/manuscript/rich/RichTextWriter.h"
+
+#include <QTextCursor>
+#include <QTextFrame>
+#include <QTextTable>
+
+namespace tw::desktop::manuscript::rich {
+
+RichBody::RichBody(QTextDocument& document, const RichFormats& formats)
+    : m_document(document)
+    , m_formats(formats)
+    , m_lineEnd(QStringLiteral("\n"))
+{
+    originAt(document.firstBlock());
+}
+
+BlockOrigin& RichBody::originAt(const QTextBlock& block) const
+{
+    if (BlockOrigin* const origin = BlockOrigin::of(block))
+        return *origin;
+    auto* const origin = new BlockOrigin(m_tally, block); // the block's
+    QTextBlock(block).setUserData(origin);
+    return *origin;
+}
+
+std::vector<RichBody::Unit> RichBody::units() const
+{
+    std::vector<Unit> units;
+    units.reserve(static_cast<std::size_t>(m_document.blockCount()));
+    const QTextFrame* const root = m_document.rootFrame();
+    for (auto iterator = root->begin(); !iterator.atEnd(); ++iterator) {
+        if (auto* const table = qobject_cast<QTextTable*>(iterator.currentFrame())) {
+            units.push_back({table->cellAt(0, 0).firstCursorPosition().block(), table});
+            originAt(units.back().block);
+        } else if (const QTextBlock block = iterator.currentBlock(); block.isValid()) {
+            if (!originAt(block).isFiller || block.length() > 1)
+                units.push_back({block});
+        }
+    }
+    return units;
+}
+
+void RichBody::noteChange(int position, int added)
+{
+    m_isChanged = true;
+    QTextBlock block = m_document.findBlock(position);
+    const int end = position + added;
+    for (; block.isValid() && block.position() <= end; block = block.next()) {
+        if (const auto* const table = QTextCursor(block).currentTable())
+            touchTable(*table);
+        else
+            originAt(block).touch();
+    }
+}
+
+void RichBody::touchTable(const QTextTable& table)
+{
+    m_isChanged = true;
+    originAt(table.cellAt(0, 0).firstCursorPosition().block()).touch();
+}
+
+void RichBody::settle()
+{
+    for (BlockOrigin* const origin : std::exchange(m_tally->touched, {})) {
+        origin->setTouched(false);
+        readBack(*origin);
+    }
+}
+
+void RichBody::readBack(BlockOrigin& origin)
+{
+    const auto* const table = QTextCursor(origin.block()).currentTable();
+    const markup::Block block = table ? writeTable(*table) : writeParagraph(origin.block());
+    origin.kind = block.kind;
+    // However it is written, what says the same stays as it is.
+    if (origin.place < 0 || !saysTheSame(block, origin.content.view())) {
+        QString content = markup::writeBlock(block);
+        if (m_lineEnd.size() != 1 || m_lineEnd != QLatin1String("\n"))
+            content.replace(QLatin1String("\n"), m_lineEnd);
+        const qsizetype length = content.size();
+        origin.content = {std::move(content), 0, length};
+    }
+    if (m_isCounted)
+        origin.setWords(core::document::countWords(origin.content.view()));
+}
+
+QString RichBody::gapBetween(const Unit& upper, const Unit& lower) const
+{
+    const BlockOrigin& above = upper.origin();
+    const BlockOrigin& below = lower.origin();
+    const auto isAsPlaced = [](const BlockOrigin& origin) {
+        return origin.kind == origin.placedKind && origin.isBlank() == origin.wasBlank;
+    };
+    const bool areNeighbours = above.place >= 0 && below.place == above.place + 1;
+    // However narrow a gap is, it parts the blocks that it was read between.
+    if (areNeighbours && isAsPlaced(above) && isAsPlaced(below))
+        return above.gap.view().toString();
+    const int needed = above.isBlank()   ? 1
+                       : below.isBlank() ? 2
+                                         : markup::lineEndsBetween(above.kind, below.kind);
+    return m_lineEnd.repeated(needed);
+}
+
+const QString& RichBody::text()
+{
+    if (!m_isChanged)
+        return m_text;
+    settle();
+    const std::vector<Unit> all = units();
+    QString text = m_lead;
+    text.reserve(m_text.size() + m_text.size() / 64 + 64);
+    struct Place
+    {
+        qsizetype start;
+        qsizetype gapStart;
+        qsizetype end;
+    };
+    std::vector<Place> places;
+    places.reserve(all.size());
+    for (std::size_t index = 0; index < all.size(); ++index) {
+        const BlockOrigin& origin = all[index].origin();
+        const qsizetype start = text.size();
+        text += origin.content.view();
+        const qsizetype gapStart = text.size();
+        if (index + 1 < all.size())
+            text += gapBetween(all[index], all[index + 1]);
+        else if (!origin.isBlank())
+            text += m_tail;
+        places.push_back({start, gapStart, text.size()});
+    }
+    m_text = text;
+    for (std::size_t index = 0; index < all.size(); ++index) {
+        BlockOrigin& origin = all[index].origin();
+        const Place& place = places[index];
+        origin.content = {m_text, place.start, place.gapStart - place.start};
+        origin.gap = {m_text, place.gapStart, place.end - place.gapStart};
+        origin.setPlace(static_cast<int>(index));
+    }
+    m_isChanged = false;
+    return m_text;
+}
+
+qint64 RichBody::words()
+{
+    settle();
+    if (!m_isCounted) {
+        m_isCounted = true;
+        for (const Unit& unit : units())
+            unit.origin().setWords(core::document::countWords(unit.origin().content.view()));
+    }
+    return m_tally->words;
+}
+
+} // namespace tw::desktop::manuscript::rich

@@ -1,0 +1,262 @@
+// What is put into the text as a whole: tables, rules, images, notes, Markdown.
+#include "desktop/manuscript/rich/RichPage.h"
+
+#include "core/document/markup/Inline.h"
+#include "desktop/manuscript/rich/ParagraphChange.h"
+#include "desktop/manuscript/rich/RichTextReader.h"
+
+#include <QTextBlock>
+#include <QTextTable>
+
+#include <algorithm>
+
+namespace tw::desktop::manuscript::rich {
+
+using markup::Block;
+using markup::BlockKind;
+using markup::ColumnAlignment;
+using markup::Run;
+using markup::RunKind;
+using markup::RunStyle;
+
+namespace {
+
+markup::Table emptyTable(int rows, int columns)
+{
+    markup::Table table;
+    table.columns.resize(static_cast<std::size_t>(columns));
+    table.rows.resize(
+        static_cast<std::size_t>(rows), std::vector<QString>(static_cast<std::size_t>(columns)));
+    return table;
+}
+
+/** Everything in one line: what a cell of a table can take. */
+std::vector<Run> asOneLine(const std::vector<Block>& blocks)
+{
+    std::vector<Run> runs;
+    for (const Block& block : blocks) {
+        if (!runs.empty())
+            runs.push_back({RunKind::Text, QStringLiteral(" "), {}, {}});
+        for (Run& run : markup::parseInline(block.text)) {
+            const bool isBreak = run.kind == RunKind::SoftBreak || run.kind == RunKind::HardBreak;
+            runs.push_back(isBreak ? Run{RunKind::Text, QStringLiteral(" "), {}, {}} : std::move(run));
+        }
+    }
+    return runs;
+}
+
+} // namespace
+
+void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& blocks)
+{
+    cursor.removeSelectedText();
+    const BlockShape shape = shapeOf(cursor.blockFormat());
+    const auto isPlain = [](const Block& block) {
+        return block.kind == BlockKind::Paragraph && block.attributes.isEmpty();
+    };
+    if (cursor.currentTable()) {
+        insertPieces(cursor, readRuns(asOneLine(blocks), shape, m_formats));
+        return;
+    }
+    if (blocks.size() == 1 && isPlain(blocks.front())) {
+        insertPieces(cursor, readRuns(markup::parseInline(blocks.front().text), shape, m_formats));
+        return;
+    }
+    const bool hasTail = !cursor.atBlockEnd();
+    const QTextCharFormat tailFormat = cursor.block().charFormat();
+    const QTextBlockFormat tailBlock = cursor.blockFormat();
+    bool isBlockFree = cursor.block().length() == 1;
+    bool isFirst = true;
+    for (const Block& block : blocks) {
+        if (block.kind == BlockKind::Table) {
+            if (isFirst && hasTail && cursor.atBlockStart())
+                cursor.insertBlock(tailBlock, tailFormat), cursor.movePosition(QTextCursor::PreviousBlock);
+            rich::insertTable(cursor, block.table, m_formats);
+            isBlockFree = true;
+            cursor.setBlockFormat(m_formats.block({}));
+            cursor.setBlockCharFormat(m_formats.text({}, {}));
+        } else if (isFirst && !isBlockFree && isPlain(block)) {
+            insertPieces(cursor, readRuns(markup::parseInline(block.text), shape, m_formats));
+        } else {
+            const RichParagraph paragraph = readParagraph(block, m_formats);
+            if (isBlockFree && !hasTail) {
+                cursor.setBlockFormat(paragraph.format);
+                cursor.setBlockCharFormat(paragraph.textFormat);
+            } else {
+                cursor.insertBlock(paragraph.format, paragraph.textFormat);
+            }
+            insertPieces(cursor, paragraph.pieces);
+            isBlockFree = false;
+        }
+        isFirst = false;
+    }
+    // What stood behind the cursor stays what it was.
+    if (hasTail && !cursor.atBlockEnd() && !isPlain(blocks.back())) {
+        cursor.insertBlock(tailBlock, tailFormat);
+        cursor.movePosition(QTextCursor::PreviousBlock);
+        cursor.movePosition(QTextCursor::EndOfBlock);
+    }
+}
+
+void RichPage::insertMarkdown(const QString& markdown)
+{
+    QTextCursor cursor = textCursor();
+    const markup::Blocks blocks = markup::parseBlocks(markdown);
+    if (blocks.list.empty() || isReadOnly())
+        return;
+    cursor.beginEditBlock();
+    insertBlocks(cursor, blocks.list);
+    cursor.endEditBlock();
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
+void RichPage::insertRule()
+{
+    asStep(tr("Insert rule"), [this](QTextCursor& cursor) {
+        if (cursor.currentTable())
+            return;
+        Block rule;
+        rule.kind = BlockKind::Rule;
+        insertBlocks(cursor, {rule});
+        if (cursor.atBlockEnd() &&
+            (!cursor.block().next().isValid() || kindOf(cursor.blockFormat()) == BlockKind::Rule))
+            breakParagraph(cursor);
+    });
+}
+
+void RichPage::insertPageBreak()
+{
+    asStep(tr("Page break"), [this](QTextCursor& cursor) {
+        if (cursor.currentTable())
+            return;
+        if (cursor.block().length() > 1)
+            breakParagraph(cursor);
+        BlockShape shape = shapeOf(cursor.blockFormat());
+        shape.attributes.pageBreak = true;
+        reshapeBlock(cursor.block(), shape, m_formats);
+    });
+}
+
+void RichPage::insertTable(int rows, int columns)
+{
+    if (isInTable())
+        return;
+    const int before = textCursor().selectionStart();
+    asStep(tr("Insert table"), [&](QTextCursor& cursor) {
+        Block block;
+        block.kind = BlockKind::Table;
+        block.table = emptyTable(rows, columns);
+        insertBlocks(cursor, {block});
+    });
+    for (QTextBlock cell = document()->findBlock(before); cell.isValid(); cell = cell.next()) {
+        if (const auto* const table = QTextCursor(cell).currentTable()) {
+            setTextCursor(table->cellAt(0, 0).firstCursorPosition());
+            return;
+        }
+    }
+}
+
+void RichPage::insertImage(const QString& assetPath, const QString& description)
+{
+    asStep(tr("Insert image"), [&](QTextCursor& cursor) {
+        const Run run{RunKind::Image, description, assetPath, {}};
+        insertPieces(cursor, readRuns({&run, 1}, shapeOf(cursor.blockFormat()), m_formats));
+    });
+}
+
+void RichPage::insertFootnoteReference(const QString& label)
+{
+    asStep(tr("Insert footnote"), [&](QTextCursor& cursor) {
+        cursor.setPosition(cursor.selectionEnd());
+        const Run run{RunKind::FootnoteReference, label, {}, {}};
+        insertPieces(cursor, readRuns({&run, 1}, shapeOf(cursor.blockFormat()), m_formats));
+    });
+}
+
+void RichPage::setLink(const QString& target)
+{
+    const auto link = [&target](RunStyle& style) {
+        style.link = target;
+        style.linkTitle.clear();
+    };
+    if (textCursor().hasSelection()) {
+        changeStyle(target.isEmpty() ? tr("Remove link") : tr("Insert link"), link);
+        return;
+    }
+    if (target.isEmpty())
+        return;
+    asStep(tr("Insert link"), [&](QTextCursor& cursor) {
+        RunStyle style = styleOf(cursor.charFormat());
+        link(style);
+        cursor.insertText(target, m_formats.text(style, shapeOf(cursor.blockFormat())));
+    });
+}
+
+bool RichPage::isInTable() const
+{
+    return textCursor().currentTable() != nullptr;
+}
+
+void RichPage::editTable(TableEdit edit, const QString& label)
+{
+    asStep(label, [&](QTextCursor& cursor) {
+        auto* const table = cursor.currentTable();
+        if (!table)
+            return;
+        const QTextTableCell cell = table->cellAt(cursor);
+        std::vector<ColumnAlignment> columns = columnsOf(table->format());
+        columns.resize(static_cast<std::size_t>(table->columns()));
+        const auto insertColumn = [&](int place) {
+            table->insertColumns(place, 1);
+            columns.insert(columns.begin() + place, ColumnAlignment::Default);
+        };
+        const bool removesAll = edit == TableEdit::RemoveTable ||
+                                (edit == TableEdit::RemoveRow && table->rows() == 1) ||
+                                (edit == TableEdit::RemoveColumn && table->columns() == 1);
+        if (removesAll) {
+            cursor.setPosition(table->firstPosition() - 1);
+            cursor.setPosition(table->lastPosition() + 1, QTextCursor::KeepAnchor);
+            cursor.removeSelectedText();
+            return;
+        }
+        switch (edit) {
+        case TableEdit::RowAbove:
+            table->insertRows(cell.row(), 1);
+            break;
+        case TableEdit::RowBelow:
+            table->insertRows(cell.row() + 1, 1);
+            break;
+        case TableEdit::ColumnBefore:
+            insertColumn(cell.column());
+            break;
+        case TableEdit::ColumnAfter:
+            insertColumn(cell.column() + 1);
+            break;
+        case TableEdit::RemoveRow:
+            table->removeRows(cell.row(), 1);
+            break;
+        case TableEdit::RemoveColumn:
+            columns.erase(columns.begin() + cell.column());
+            table->removeColumns(cell.column(), 1);
+            break;
+        case TableEdit::RemoveTable:
+            break;
+        }
+        table->setFormat(m_formats.table(columns));
+        const markup::Table alignment{columns, {}};
+        for (int row = 0; row < table->rows(); ++row) {
+            for (int column = 0; column < table->columns(); ++column) {
+                // New cells take their looks from their place.
+                const QTextBlock block = table->cellAt(row, column).firstCursorPosition().block();
+                const RichParagraph model = readCell(
+                    alignment, static_cast<std::size_t>(row), static_cast<std::size_t>(column), m_formats);
+                QTextCursor(block).setBlockFormat(model.format);
+                restyleBlock(block, m_formats);
+            }
+        }
+        m_body.touchTable(*table);
+    });
+}
+
+} // namespace tw::desktop::manuscript::rich
