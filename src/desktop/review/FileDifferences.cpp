@@ -1,6 +1,6 @@
 #include "desktop/review/FileDifferences.h"
 
-#include "app/persistence/merge/LineDiff.h"
+#include "core/foundation/SequenceDiff.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -12,8 +12,8 @@
 namespace tw::desktop::review {
 
 using namespace Qt::Literals::StringLiterals;
-using app::persistence::DiffHunk;
 using app::persistence::FileVersion;
+using core::foundation::DiffHunk;
 
 namespace {
 
@@ -95,7 +95,7 @@ std::vector<DifferenceLine> fileDifferences(const app::persistence::FileMerge& f
     const std::vector<quint32> theirNumbers = numbered(theirs, numbers);
     std::vector<DifferenceLine> result;
     qsizetype shown = 0; // of mine
-    for (const DiffHunk& hunk : app::persistence::diffLines(mineNumbers, theirNumbers)) {
+    for (const DiffHunk& hunk : core::foundation::diffSequences(mineNumbers, theirNumbers)) {
         const qsizetype contextBegin = std::max(shown, hunk.before.first - contextLines);
         const qsizetype trailing = result.empty() ? shown : std::min(contextBegin, shown + contextLines);
         append(result, LineSide::Both, mine, shown, trailing);

@@ -1,7 +1,7 @@
 #include "desktop/shell/ProjectWords.h"
 
-#include "core/document/Document.h"
-#include "core/document/WordCount.h"
+#include "core/document/ActiveText.h"
+#include "core/document/markup/PlainText.h"
 
 namespace tw::desktop::shell {
 
@@ -46,7 +46,8 @@ void ProjectWords::count(const core::project::Project& project, const core::Cont
     if (!document)
         return;
     const Count count{
-        core::document::countWords(document->body().text), document->documentKind() != DocumentKind::Note};
+        core::document::markup::countBodyWords(core::document::activeText(*document)),
+        document->documentKind() != DocumentKind::Note};
     m_counts.emplace(id, count);
     if (count.belongsToManuscript)
         m_total += count.words;

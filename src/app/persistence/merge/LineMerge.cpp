@@ -7,6 +7,9 @@
 
 namespace tw::app::persistence {
 
+using core::foundation::DiffHunk;
+using core::foundation::IndexRange;
+
 namespace {
 
 /** A text as lines, each with its newline, and as numbers that are equal for equal lines. */
@@ -15,7 +18,7 @@ struct LineText
     std::vector<QByteArrayView> lines;
     std::vector<quint32> numbers;
 
-    [[nodiscard]] std::span<const quint32> numbersOf(LineRange range) const
+    [[nodiscard]] std::span<const quint32> numbersOf(IndexRange range) const
     {
         return std::span(numbers).subspan(
             static_cast<std::size_t>(range.first), static_cast<std::size_t>(range.count));
@@ -55,7 +58,7 @@ class SideChanges
 public:
     SideChanges(const LineText& base, const LineText& side)
         : m_text(side)
-        , m_hunks(diffLines(base.numbers, side.numbers))
+        , m_hunks(core::foundation::diffSequences(base.numbers, side.numbers))
     {}
 
     /** The next change; none at the end. */
@@ -80,7 +83,7 @@ private:
 };
 
 /** Whether a change concerns the same lines of the base as a region does; insertions concern a place. */
-bool touches(LineRange change, LineRange region)
+bool touches(IndexRange change, IndexRange region)
 {
     if (change.count == 0 && region.count == 0)
         return change.first == region.first;
@@ -92,7 +95,7 @@ bool touches(LineRange change, LineRange region)
 }
 
 /** An insertion comes before the change of the line it stands at. */
-bool comesFirst(LineRange left, LineRange right)
+bool comesFirst(IndexRange left, IndexRange right)
 {
     return left.first != right.first ? left.first < right.first : left.count < right.count;
 }
@@ -116,9 +119,9 @@ public:
 
 private:
     void mergeRegion();
-    [[nodiscard]] static bool extend(LineRange& region, SideChanges& side);
-    void append(const LineText& text, LineRange range);
-    void appendConflict(LineRange mine, LineRange theirs);
+    [[nodiscard]] static bool extend(IndexRange& region, SideChanges& side);
+    void append(const LineText& text, IndexRange range);
+    void appendConflict(IndexRange mine, IndexRange theirs);
     void appendMark(const char* mark);
     void endLine();
 
@@ -135,7 +138,7 @@ void Merger::mergeRegion()
     const DiffHunk* const mineNext = m_mine.next();
     const DiffHunk* const theirsNext = m_theirs.next();
     const bool isMineFirst = mineNext && (!theirsNext || comesFirst(mineNext->before, theirsNext->before));
-    LineRange region = isMineFirst ? mineNext->before : theirsNext->before;
+    IndexRange region = isMineFirst ? mineNext->before : theirsNext->before;
     append(m_base, {m_position, region.first - m_position});
 
     const qsizetype mineShift = m_mine.shift();
@@ -152,8 +155,8 @@ void Merger::mergeRegion()
         grows = mineGrew || theirsGrew;
     }
     m_position = region.end();
-    const LineRange mine{region.first + mineShift, region.count + m_mine.shift() - mineShift};
-    const LineRange theirs{region.first + theirsShift, region.count + m_theirs.shift() - theirsShift};
+    const IndexRange mine{region.first + mineShift, region.count + m_mine.shift() - mineShift};
+    const IndexRange theirs{region.first + theirsShift, region.count + m_theirs.shift() - theirsShift};
     if (!hasTheirs ||
         (hasMine && std::ranges::equal(m_mine.text().numbersOf(mine), m_theirs.text().numbersOf(theirs)))) {
         append(m_mine.text(), mine);
@@ -165,7 +168,7 @@ void Merger::mergeRegion()
     }
 }
 
-bool Merger::extend(LineRange& region, SideChanges& side)
+bool Merger::extend(IndexRange& region, SideChanges& side)
 {
     bool grew = false;
     for (const DiffHunk* hunk = side.next(); hunk && touches(hunk->before, region); hunk = side.next()) {
@@ -178,7 +181,7 @@ bool Merger::extend(LineRange& region, SideChanges& side)
     return grew;
 }
 
-void Merger::append(const LineText& text, LineRange range)
+void Merger::append(const LineText& text, IndexRange range)
 {
     for (qsizetype line = range.first; line < range.end(); ++line) {
         endLine();
@@ -200,7 +203,7 @@ void Merger::appendMark(const char* mark)
     m_result.text.append('\n');
 }
 
-void Merger::appendConflict(LineRange mine, LineRange theirs)
+void Merger::appendConflict(IndexRange mine, IndexRange theirs)
 {
     appendMark("<<<<<<<");
     append(m_mine.text(), mine);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/persistence/merge/LineDiff.h"
+#include "core/foundation/SequenceDiff.h"
 
 #include <QByteArray>
 
@@ -11,9 +11,9 @@ namespace tw::app::persistence {
 /** A region that both sides changed differently: its lines in each of the three texts. */
 struct MergeConflict
 {
-    LineRange base;
-    LineRange mine;
-    LineRange theirs;
+    core::foundation::IndexRange base;
+    core::foundation::IndexRange mine;
+    core::foundation::IndexRange theirs;
 
     friend bool operator==(const MergeConflict&, const MergeConflict&) = default;
 };

@@ -41,11 +41,11 @@ constexpr NamedEntity namedEntities[] = {
 QString characterOf(uint code)
 {
     // A line end would part the line it stands in, in every place that writes the text again.
-    if (code == u'\n' || code == u'\r' || code == u'\t' || code == QChar::LineSeparator ||
-        code == QChar::ParagraphSeparator)
+    if (code == u'\n' || code == u'\r' || code == QChar::LineSeparator || code == QChar::ParagraphSeparator)
         return u" "_s;
-    const bool isText = code >= u' ' && !(code >= 0x7f && code < 0xa0) && code <= QChar::LastValidCodePoint &&
-                        !QChar::isSurrogate(code) && !QChar::isNonCharacter(code);
+    const bool isText = (code >= u' ' || code == u'\t') && !(code >= 0x7f && code < 0xa0) &&
+                        code <= QChar::LastValidCodePoint && !QChar::isSurrogate(code) &&
+                        !QChar::isNonCharacter(code);
     const char32_t character = isText ? char32_t(code) : char32_t(QChar::ReplacementCharacter);
     return QString::fromUcs4(&character, 1);
 }

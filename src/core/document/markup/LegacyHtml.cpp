@@ -41,6 +41,23 @@ int headingLevel(const QString& name)
                                                                                      : 0;
 }
 
+/** The runs of a block. Blanks at the edges come from how the source was set, not from the writer. */
+QString textOf(std::span<const Run> runs)
+{
+    std::vector<Run> trimmed = canonicalRuns(runs);
+    const auto isText = [](const Run& run) { return run.kind == RunKind::Text && !run.style.code; };
+    if (!trimmed.empty() && isText(trimmed.front())) {
+        QString& text = trimmed.front().text;
+        text = text.sliced(skip(text, 0, isBlank));
+    }
+    if (!trimmed.empty() && isText(trimmed.back())) {
+        QString& text = trimmed.back().text;
+        while (!text.isEmpty() && isBlank(text.back()))
+            text.chop(1);
+    }
+    return writeInline(trimmed);
+}
+
 class Converter
 {
 public:
@@ -232,7 +249,7 @@ void Converter::endCell()
 {
     if (m_table.rows.empty())
         m_table.rows.emplace_back();
-    m_table.rows.back().push_back(writeInline(m_runs));
+    m_table.rows.back().push_back(textOf(m_runs));
     m_runs.clear();
 }
 
@@ -252,7 +269,7 @@ void Converter::endBlock()
 {
     if (isInTable()) {
         // Paragraphs of a cell stand one after another in its one line.
-        if (!m_runs.empty())
+        if (!m_runs.empty() && !m_runs.back().text.endsWith(u' '))
             m_runs.push_back({RunKind::Text, u" "_s, {}, {}});
         return;
     }
@@ -268,14 +285,7 @@ void Converter::endBlock()
         block.text = block.text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
         block.kind = BlockKind::Code;
     } else {
-        std::vector<Run> trimmed = canonicalRuns(runs);
-        // Blanks at the edges come from how the source was set, not from the writer.
-        if (!trimmed.empty() && trimmed.front().kind == RunKind::Text && !trimmed.front().style.code)
-            trimmed.front().text = trimmed.front().text.sliced(skip(trimmed.front().text, 0, isBlank));
-        if (!trimmed.empty() && trimmed.back().kind == RunKind::Text && !trimmed.back().style.code)
-            while (trimmed.back().text.endsWith(u' '))
-                trimmed.back().text.chop(1);
-        block.text = writeInline(trimmed);
+        block.text = textOf(runs);
     }
     if (QStringView(block.text).trimmed().isEmpty())
         return;

@@ -107,7 +107,7 @@ void PlainText::appendInline(QStringView text, ToBody toBody)
     const qsizetype start = m_text.size();
     for (const InlinePiece& piece : takeApart(text).list) {
         const bool isBreak = piece.kind == RunKind::SoftBreak || piece.kind == RunKind::HardBreak;
-        if (isBreak && m_text.size() > start)
+        if (isBreak && (m_text.size() > start || piece.kind == RunKind::HardBreak))
             append(
                 piece.kind == RunKind::SoftBreak ? u" " : u"\n", toBody(piece.sourceStart),
                 piece.sourceLength);

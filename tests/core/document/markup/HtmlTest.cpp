@@ -215,7 +215,7 @@ TEST(LegacyHtmlTest, richTextBecomesMarkdownWithGroups)
          u"x {.tw align=center}"_s},
         {u"<p style=\" margin-top:12px; -qt-block-indent:2; text-indent:0px;\"><span style=\" "
          "font-family:'Noto Serif'; font-size:14pt; font-weight:600; color:#c00000;\">x</span></p>"_s,
-         u"[**x**]{.tw color=#c00000 font=\"Noto Serif\" size=14} {.tw indent=2}"_s},
+         u"**[x]{.tw color=#c00000 font=\"Noto Serif\" size=14}** {.tw indent=2}"_s},
         {u"<u>u</u> <s>s</s> x<sup>2</sup> <font color=red size=5>f</font>"_s,
          u"[u]{.tw u} ~~s~~ x[2]{.tw sup} [f]{.tw color=red size=18}"_s},
         {u"<ul><li>a<ol><li>b</li><li>c</li></ol></li><li>d</li></ul>after"_s,
@@ -228,7 +228,7 @@ TEST(LegacyHtmlTest, richTextBecomesMarkdownWithGroups)
         {u"<a href=\"https://a.b\">t</a> <a href=\"javascript:x\">u</a> <img src=\"data:x\" alt=\"pic\">"_s,
          u"[t](https://a.b) u pic"_s},
         {u"a<!-- no --><script>no()</script><style>no</style>b"_s, u"ab"_s},
-        {u"  unclosed <b>bold <i>both</p> x < y <"_s, u"unclosed **bold *both x < y \\<***"_s},
+        {u"  unclosed <b>bold <i>both</p> x < y <"_s, u"unclosed **bold *both***\n\n***x < y <***"_s},
         {u"1. no list<p># no heading"_s, u"1\\. no list\n\n\\# no heading"_s},
     };
     for (const auto& sample : cases)
@@ -237,7 +237,7 @@ TEST(LegacyHtmlTest, richTextBecomesMarkdownWithGroups)
 
 TEST(LegacyHtmlTest, hostileInputIsReadInOnePass)
 {
-    constexpr qsizetype many = 200'000;
+    constexpr qsizetype many = 100'000;
     for (const QString& piece :
          {u"<"_s, u"<a "_s, u"<a \""_s, u"<b>"_s, u"<!--"_s, u"<script>"_s, u"</b>"_s, u"<p>a"_s,
           u"<ul><li>a"_s, u"<table><tr><td>a"_s, u"&"_s, u"<a x="_s, u"<b>a<i>"_s, u"<blockquote>x"_s,

@@ -1,15 +1,15 @@
-#include "app/persistence/merge/LineDiff.h"
+#include "core/foundation/SequenceDiff.h"
 
 #include <QHash>
 
 #include <algorithm>
 #include <optional>
 
-namespace tw::app::persistence {
+namespace tw::core::foundation {
 
 namespace {
 
-using Lines = std::span<const quint32>;
+using Tokens = std::span<const quint32>;
 
 /** Beyond so many edits the shortest script is not worth its time. */
 constexpr qsizetype longestScript = 512;
@@ -20,9 +20,9 @@ struct Match
     qsizetype after = 0;
 };
 
-Lines slice(Lines lines, LineRange range)
+Tokens slice(Tokens tokens, IndexRange range)
 {
-    return lines.subspan(static_cast<std::size_t>(range.first), static_cast<std::size_t>(range.count));
+    return tokens.subspan(static_cast<std::size_t>(range.first), static_cast<std::size_t>(range.count));
 }
 
 /**
@@ -32,12 +32,12 @@ Lines slice(Lines lines, LineRange range)
 class ShortestScript
 {
 public:
-    ShortestScript(Lines before, Lines after)
+    ShortestScript(Tokens before, Tokens after)
         : m_before(before)
         , m_after(after)
     {}
 
-    /** The matched lines in order, or none when more than `longestScript` edits are needed. */
+    /** The matched tokens in order, or none when more than `longestScript` edits are needed. */
     [[nodiscard]] std::optional<std::vector<Match>> run()
     {
         const qsizetype limit =
@@ -102,13 +102,13 @@ private:
         return matches;
     }
 
-    Lines m_before;
-    Lines m_after;
+    Tokens m_before;
+    Tokens m_after;
     std::vector<std::vector<qsizetype>> m_rows;
 };
 
-/** The lines that stand once on each side, as the longest sequence that increases on both. */
-std::vector<Match> uniqueMatches(Lines before, Lines after)
+/** The tokens that stand once on each side, as the longest sequence that increases on both. */
+std::vector<Match> uniqueMatches(Tokens before, Tokens after)
 {
     struct Places
     {
@@ -118,8 +118,8 @@ std::vector<Match> uniqueMatches(Lines before, Lines after)
     };
     QHash<quint32, Places> places;
     places.reserve(std::ssize(before));
-    for (const quint32 line : before)
-        ++places[line].beforeCount;
+    for (const quint32 token : before)
+        ++places[token].beforeCount;
     for (qsizetype index = 0; index < std::ssize(after); ++index) {
         if (const auto place = places.find(after[static_cast<std::size_t>(index)]); place != places.end()) {
             ++place->afterCount;
@@ -156,7 +156,7 @@ std::vector<Match> uniqueMatches(Lines before, Lines after)
 class Differ
 {
 public:
-    Differ(Lines before, Lines after)
+    Differ(Tokens before, Tokens after)
         : m_before(before)
         , m_after(after)
     {}
@@ -173,7 +173,7 @@ private:
         return m_before[static_cast<std::size_t>(before)] == m_after[static_cast<std::size_t>(after)];
     }
 
-    void compare(LineRange before, LineRange after)
+    void compare(IndexRange before, IndexRange after)
     {
         while (before.count > 0 && after.count > 0 && isEqual(before.first, after.first)) {
             before = {before.first + 1, before.count - 1};
@@ -187,19 +187,21 @@ private:
             addHunk(before, after);
             return;
         }
-        const Lines beforeLines = slice(m_before, before);
-        const Lines afterLines = slice(m_after, after);
-        if (const auto matches = ShortestScript(beforeLines, afterLines).run())
-            split(*matches, before, after, [this](LineRange left, LineRange right) { addHunk(left, right); });
-        else if (const auto anchors = uniqueMatches(beforeLines, afterLines); !anchors.empty())
-            split(anchors, before, after, [this](LineRange left, LineRange right) { compare(left, right); });
+        const Tokens beforeTokens = slice(m_before, before);
+        const Tokens afterTokens = slice(m_after, after);
+        if (const auto matches = ShortestScript(beforeTokens, afterTokens).run())
+            split(
+                *matches, before, after, [this](IndexRange left, IndexRange right) { addHunk(left, right); });
+        else if (const auto anchors = uniqueMatches(beforeTokens, afterTokens); !anchors.empty())
+            split(
+                anchors, before, after, [this](IndexRange left, IndexRange right) { compare(left, right); });
         else
             addHunk(before, after);
     }
 
-    /** Hands over the gaps between matched lines, which count from the start of the ranges. */
+    /** Hands over the gaps between matched tokens, which count from the start of the ranges. */
     template <class Gap>
-    void split(const std::vector<Match>& matches, LineRange before, LineRange after, Gap gap)
+    void split(const std::vector<Match>& matches, IndexRange before, IndexRange after, Gap gap)
     {
         qsizetype nextBefore = before.first;
         qsizetype nextAfter = after.first;
@@ -213,7 +215,7 @@ private:
         gap({nextBefore, before.end() - nextBefore}, {nextAfter, after.end() - nextAfter});
     }
 
-    void addHunk(LineRange before, LineRange after)
+    void addHunk(IndexRange before, IndexRange after)
     {
         if (before.count == 0 && after.count == 0)
             return;
@@ -226,16 +228,16 @@ private:
         m_hunks.push_back({before, after});
     }
 
-    Lines m_before;
-    Lines m_after;
+    Tokens m_before;
+    Tokens m_after;
     std::vector<DiffHunk> m_hunks;
 };
 
 } // namespace
 
-std::vector<DiffHunk> diffLines(std::span<const quint32> before, std::span<const quint32> after)
+std::vector<DiffHunk> diffSequences(std::span<const quint32> before, std::span<const quint32> after)
 {
     return Differ(before, after).run();
 }
 
-} // namespace tw::app::persistence
+} // namespace tw::core::foundation
