@@ -1,6 +1,6 @@
 #include "desktop/screenplay/RevisedLines.h"
 
-#include "app/persistence/merge/LineDiff.h"
+#include "core/foundation/SequenceDiff.h"
 
 #include <QHash>
 #include <QStringView>
@@ -36,7 +36,7 @@ std::set<int> revisedLinesOf(const QString& baseline, const QString& text)
     const std::vector<quint32> oldLines = numbersOf(before, known);
     const std::vector<quint32> newLines = numbersOf(after, known);
     std::set<int> revised;
-    for (const app::persistence::DiffHunk& hunk : app::persistence::diffLines(oldLines, newLines)) {
+    for (const core::foundation::DiffHunk& hunk : core::foundation::diffSequences(oldLines, newLines)) {
         const auto end = static_cast<int>(hunk.after.end());
         bool isSeen = false;
         for (auto line = static_cast<int>(hunk.after.first); line < end; ++line) {
