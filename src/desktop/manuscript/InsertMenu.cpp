@@ -3,8 +3,8 @@
 
 #include "core/document/DocumentCommands.h"
 #include "desktop/icons/IconSet.h"
-#include "desktop/manuscript/TextPage.h"
 #include "desktop/manuscript/Footnotes.h"
+#include "desktop/manuscript/TextPage.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
 

@@ -204,13 +204,15 @@ void MainWindow::buildViewMenu()
     themes->addSeparator();
     addTheme(theme::ThemeManager::systemChoice, tr("Follow the System"));
     menu.addSeparator();
+    m_projectActions.append(addAction(
+        menu, u"view.text"_s, Icon::Document, tr("Te&xt"), QKeySequence(Qt::CTRL | Qt::Key_1),
+        [this] { m_desk.navigator.open(m_desk.navigator.current()); }));
     const auto addOverview = [&](const QString& name, Icon icon, const QString& text, int key,
                                  QLatin1StringView view) {
-        m_projectActions.append(
-            addAction(menu, name, icon, text, QKeySequence(Qt::CTRL | Qt::ALT | key), [this, view] {
-                m_desk.navigator.openView(
-                    overview::overviewRoot(m_desk.session.project(), m_desk.navigator.current()), view);
-            }));
+        m_projectActions.append(addAction(menu, name, icon, text, QKeySequence(Qt::CTRL | key), [this, view] {
+            m_desk.navigator.openView(
+                overview::overviewRoot(m_desk.session.project(), m_desk.navigator.current()), view);
+        }));
     };
     addOverview(u"view.corkboard"_s, Icon::Layout, tr("&Corkboard"), Qt::Key_2, overview::corkboardView);
     addOverview(

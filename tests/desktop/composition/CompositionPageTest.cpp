@@ -1,0 +1,120 @@
+#include "desktop/composition/CompositionPage.h"
+
+#include "desktop/composition/SceneSlot.h"
+#include "desktop/manuscript/BodyEditor.h"
+#include "desktop/manuscript/ManuscriptEdits.h"
+#include "desktop/support/TestDesk.h"
+
+#include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace tw::desktop::composition {
+
+using namespace Qt::Literals::StringLiterals;
+using core::ContentId;
+using core::document::DocumentKind;
+
+namespace {
+
+class CompositionPageTest : public testing::Test
+{
+protected:
+    CompositionPageTest()
+    {
+        part = desk.addDocument(u"Part"_s, {}, 0);
+        one = desk.addDocument(u"One"_s, part, 0);
+        two = desk.addDocument(u"Two"_s, part, 1);
+        desk.document(one).setBody({u"First scene."_s, {}});
+        desk.document(two).setBody({u"Second scene."_s, {}});
+    }
+
+    std::unique_ptr<CompositionPage> show()
+    {
+        desk.announce();
+        auto page = std::make_unique<CompositionPage>(desk.context, part, nullptr);
+        page->resize(900, 600);
+        page->show();
+        QApplication::setActiveWindow(page.get());
+        QCoreApplication::processEvents();
+        return page;
+    }
+
+    std::vector<ContentId> shown(const CompositionPage& page) const
+    {
+        std::vector<ContentId> ids;
+        for (const SceneSlot* const slot : page.slotsInOrder())
+            ids.push_back(slot->documentId());
+        return ids;
+    }
+
+    test::TestDesk desk;
+    ContentId part, one, two;
+};
+
+} // namespace
+
+TEST_F(CompositionPageTest, eachEditGoesToItsDocument)
+{
+    const auto page = show();
+    ASSERT_EQ(shown(*page), (std::vector{part, one, two}));
+    manuscript::BodyEditor& first = page->slotsInOrder()[1]->wake();
+    first.setFocus();
+    first.moveCursor(QTextCursor::End);
+    QTest::keyClicks(&first, u" More."_s);
+    QTest::keyClick(&first, Qt::Key_Down);
+    EXPECT_EQ(page->editedDocument(), two) << "from the last line into the next document";
+    QTest::keyClicks(page->currentEditor(), u"Then: "_s);
+    desk.session.commitPendingEdits();
+    EXPECT_EQ(desk.document(one).body().text, u"First scene. More."_s);
+    EXPECT_EQ(desk.document(two).body().text, u"Then: Second scene."_s);
+    QTest::keyClick(page->currentEditor(), Qt::Key_Home);
+    QTest::keyClick(page->currentEditor(), Qt::Key_Left);
+    EXPECT_EQ(page->editedDocument(), one);
+    EXPECT_TRUE(page->currentEditor()->textCursor().atEnd());
+    desk.session.undo();
+    desk.session.undo();
+    EXPECT_EQ(first.toPlainText(), u"First scene."_s);
+}
+
+TEST_F(CompositionPageTest, followsTheManuscript)
+{
+    const auto page = show();
+    QPointer<manuscript::BodyEditor> editor = &page->slotsInOrder()[2]->wake();
+    manuscript::stepDocument(desk.session, two, manuscript::MoveDirection::Up);
+    EXPECT_EQ(shown(*page), (std::vector{part, two, one}));
+    EXPECT_TRUE(editor) << "what was open stays so";
+    const ContentId added =
+        manuscript::addDocument(desk.session, DocumentKind::Prose, u"Three"_s, {part, {}});
+    EXPECT_EQ(shown(*page), (std::vector{part, two, one, added}));
+    static_cast<void>(manuscript::addDocument(desk.session, DocumentKind::Note, u"Note"_s, {part, {}}));
+    EXPECT_EQ(shown(*page).size(), 4U) << "notes are beside the text";
+    manuscript::removeDocuments(desk.session, {two});
+    EXPECT_EQ(shown(*page), (std::vector{part, one, added}));
+}
+
+TEST_F(CompositionPageTest, onlyWhatIsSeenHasEditors)
+{
+    const QString chapter = QString(u"It was low water, and the flats lay bare. "_s).repeated(400);
+    std::vector<ContentId> many;
+    for (int index = 2; index < 60; ++index) {
+        many.push_back(desk.addDocument(QString::number(index), part, index));
+        desk.document(many.back()).setBody({chapter, {}});
+    }
+    const auto page = show();
+    const auto awake = [&] {
+        return std::ranges::count_if(page->slotsInOrder(), [](const SceneSlot* slot) { return slot->editor(); });
+    };
+    EXPECT_LT(awake(), 6);
+    QScrollBar& bar = *page->findChild<QScrollArea*>()->verticalScrollBar();
+    EXPECT_GT(bar.maximum(), 58 * 1000) << "the bar tells how long the text is";
+    bar.setValue(bar.maximum());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(page->slotsInOrder().back()->editor());
+    EXPECT_LT(awake(), 12);
+}
+
+} // namespace tw::desktop::composition
