@@ -1,7 +1,7 @@
 # Libraries of the distribution. The docking system is taken from the system when it is built for Qt 6 there, else from
 # .deps/docking, where scripts/build-docking puts it.
 
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui LinguistTools Network Widgets Svg Test)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui LinguistTools Network Widgets Svg Test TextToSpeech)
 find_package(Threads REQUIRED)
 find_package(simdjson REQUIRED)
 find_package(PkgConfig REQUIRED)

@@ -24,6 +24,7 @@ set(TW_LAYER_tw_desktop
     Qt6::Network
     Qt6::Widgets
     Qt6::Svg
+    Qt6::TextToSpeech
     ads::qtadvanceddocking
     xcb
 )

@@ -22,6 +22,7 @@
 #include "desktop/shell/StatusStrip.h"
 #include "desktop/shell/WelcomePage.h"
 #include "desktop/shell/WorkArea.h"
+#include "desktop/speech/ReadAloud.h"
 #include "desktop/trees/NavigatorTree.h"
 
 #include <QCloseEvent>
@@ -75,6 +76,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_docks(nullptr)
     , m_shortcuts(new settings::Shortcuts(desk.settings, this))
     , m_writing(new goals::WritingSession(desk.session, &QDate::currentDate, this))
+    , m_readAloud(new speech::ReadAloud(this))
     , m_status(new StatusStrip(desk, *m_writing, *statusBar()))
     , m_textActions(new manuscript::TextActions(desk, this))
     , m_screenplayActions(new screenplay::ScreenplayActions(desk, this))

@@ -30,6 +30,9 @@ class ScreenplayActions;
 namespace tw::desktop::settings {
 class Shortcuts;
 }
+namespace tw::desktop::speech {
+class ReadAloud;
+}
 
 namespace tw::desktop::shell {
 
@@ -91,6 +94,8 @@ private:
     void buildProjectMenu();
     void buildCodexMenu();
     void buildToolsMenu();
+    void addReadAloud(QMenu& menu);
+    void readAloud();
     void buildHelpMenu();
     void showSettings(settings::SettingsPage page);
     void restoreWindow();
@@ -121,6 +126,7 @@ private:
     DockLayout* m_docks;
     settings::Shortcuts* m_shortcuts;
     goals::WritingSession* m_writing;
+    speech::ReadAloud* m_readAloud;
     StatusStrip* m_status;
     manuscript::TextActions* m_textActions;
     screenplay::ScreenplayActions* m_screenplayActions;

@@ -3,7 +3,9 @@
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/goals/GoalsDialog.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
+#include "desktop/manuscript/TextPage.h"
 #include "desktop/project/PackTransfer.h"
 #include "desktop/project/ProjectBackups.h"
 #include "desktop/project/ProjectSettingsDialog.h"
@@ -14,6 +16,8 @@
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
+#include "desktop/shell/WorkArea.h"
+#include "desktop/speech/ReadAloud.h"
 
 #include <QDir>
 #include <QMenu>
@@ -123,9 +127,43 @@ void MainWindow::buildProjectMenu()
 void MainWindow::buildToolsMenu()
 {
     QMenu& menu = *menuBar()->addMenu(tr("&Tools"));
+    addReadAloud(menu);
     addAction(
         menu, u"tools.settings"_s, Icon::Settings, tr("&Settings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
         [this] { showSettings(settings::SettingsPage::Appearance); });
+}
+
+void MainWindow::addReadAloud(QMenu& menu)
+{
+    QAction* const action = addAction(
+        menu, u"tools.readAloud"_s, Icon::Text, tr("Read &Aloud"),
+        QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_R), [this] { readAloud(); });
+    action->setCheckable(true);
+    // What is checked is what is being read, not what was asked for.
+    connect(action, &QAction::triggered, action, [this, action] {
+        action->setChecked(m_readAloud->isReading());
+    });
+    connect(m_readAloud, &speech::ReadAloud::readingChanged, action, &QAction::setChecked);
+    m_projectActions.append(action);
+}
+
+void MainWindow::readAloud()
+{
+    if (m_readAloud->isReading()) {
+        m_readAloud->stop();
+        return;
+    }
+    const auto* const page = qobject_cast<manuscript::TextPage*>(m_workArea->currentPage());
+    const manuscript::BodyEditor* const editor = page ? page->currentEditor() : nullptr;
+    if (!editor) {
+        say(tr("Open a document to have it read aloud."));
+        return;
+    }
+    QTextCursor cursor = editor->textCursor();
+    if (!cursor.hasSelection())
+        cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+    if (!m_readAloud->read(cursor.selectedText(), QLocale()))
+        say(tr("No voice is installed. Install a speech engine for your system to have texts read aloud."));
 }
 
 void MainWindow::showSettings(settings::SettingsPage page)

@@ -106,7 +106,8 @@ TEST_F(CompositionPageTest, onlyWhatIsSeenHasEditors)
     }
     const auto page = show();
     const auto awake = [&] {
-        return std::ranges::count_if(page->slotsInOrder(), [](const SceneSlot* slot) { return slot->editor(); });
+        return std::ranges::count_if(
+            page->slotsInOrder(), [](const SceneSlot* slot) { return slot->editor(); });
     };
     EXPECT_LT(awake(), 6);
     QScrollBar& bar = *page->findChild<QScrollArea*>()->verticalScrollBar();

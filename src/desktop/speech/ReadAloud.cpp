@@ -1,0 +1,122 @@
+#include "desktop/speech/ReadAloud.h"
+
+#include <QTextToSpeech>
+#include <QVoice>
+
+namespace tw::desktop::speech {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/** Engines refuse or cut what is much longer. */
+constexpr qsizetype longestPiece = 2000;
+
+/** What a character of the page stands for that is no word. */
+QString readable(QString text)
+{
+    text.remove(QChar::ObjectReplacementCharacter);
+    text.replace(QChar::LineSeparator, u' ');
+    return text.simplified();
+}
+
+bool hasWords(const QString& text)
+{
+    return std::ranges::any_of(text, [](QChar character) { return character.isLetterOrNumber(); });
+}
+
+} // namespace
+
+QStringList speakablePieces(const QString& text)
+{
+    QString lines = text;
+    lines.replace(QChar::ParagraphSeparator, u'\n');
+    QStringList pieces;
+    for (const QStringView line : QStringView(lines).split(u'\n', Qt::SkipEmptyParts)) {
+        QString rest = readable(line.toString());
+        while (rest.size() > longestPiece) {
+            // At the end of a sentence if there is one, else between words.
+            qsizetype end = rest.lastIndexOf(u". "_s, longestPiece) + 1;
+            if (end <= 0)
+                end = rest.lastIndexOf(u' ', longestPiece);
+            if (end <= 0)
+                end = longestPiece;
+            pieces.append(rest.first(end));
+            rest = rest.sliced(end).trimmed();
+        }
+        if (hasWords(rest))
+            pieces.append(rest);
+    }
+    return pieces;
+}
+
+ReadAloud::ReadAloud(QObject* parent)
+    : QObject(parent)
+{}
+
+ReadAloud::~ReadAloud()
+{
+    if (m_speech) {
+        m_speech->disconnect(this);
+        m_speech->stop();
+    }
+}
+
+bool ReadAloud::findVoice(const QLocale& language)
+{
+    if (!m_speech) {
+        QStringList engines = QTextToSpeech::availableEngines();
+        engines.removeAll(u"mock"_s);
+        if (engines.isEmpty())
+            return false;
+        m_speech = new QTextToSpeech(engines.constFirst(), this);
+        connect(m_speech, &QTextToSpeech::stateChanged, this, [this](QTextToSpeech::State state) {
+            if (state == QTextToSpeech::Ready && m_isReading)
+                sayNext();
+            else if (state == QTextToSpeech::Error)
+                stop();
+        });
+    }
+    if (m_speech->state() == QTextToSpeech::Error)
+        return false;
+    if (m_speech->availableLocales().contains(language))
+        m_speech->setLocale(language);
+    return !m_speech->availableVoices().isEmpty();
+}
+
+bool ReadAloud::read(const QString& text, const QLocale& language)
+{
+    stop();
+    if (!findVoice(language))
+        return false;
+    m_waiting = speakablePieces(text);
+    if (!m_waiting.isEmpty()) {
+        setReading(true);
+        sayNext();
+    }
+    return true;
+}
+
+void ReadAloud::sayNext()
+{
+    if (m_waiting.isEmpty())
+        setReading(false);
+    else
+        m_speech->say(m_waiting.takeFirst());
+}
+
+void ReadAloud::stop()
+{
+    m_waiting.clear();
+    setReading(false);
+    if (m_speech && m_speech->state() == QTextToSpeech::Speaking)
+        m_speech->stop();
+}
+
+void ReadAloud::setReading(bool isReading)
+{
+    if (std::exchange(m_isReading, isReading) != isReading)
+        emit readingChanged(isReading);
+}
+
+} // namespace tw::desktop::speech

@@ -1,0 +1,25 @@
+#include "desktop/speech/ReadAloud.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace tw::desktop::speech {
+
+TEST(ReadAloud, whatIsReadHasWordsAndALengthThatVoicesTake)
+{
+    EXPECT_EQ(
+        speakablePieces(u"First\u2028line.\u2029\n* * *\n\uFFFC\nSecond\u00A0one."_s),
+        (QStringList{u"First line."_s, u"Second one."_s}));
+    const QString sentence = u"It was low water and nobody came. "_s;
+    const QStringList pieces = speakablePieces(sentence.repeated(200));
+    ASSERT_GT(pieces.size(), 3);
+    for (const QString& piece : pieces) {
+        EXPECT_LE(piece.size(), 2000);
+        EXPECT_TRUE(piece.endsWith(u'.')) << "not in the middle of a sentence";
+    }
+    EXPECT_EQ(pieces.join(u' '), sentence.repeated(200).trimmed());
+    EXPECT_EQ(speakablePieces(QString(5000, u'a')).join(QString()).size(), 5000);
+}
+
+} // namespace tw::desktop::speech
