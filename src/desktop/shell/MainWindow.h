@@ -21,6 +21,14 @@ class ManuscriptPanel;
 class TextActions;
 } // namespace tw::desktop::manuscript
 
+namespace tw::desktop::problems {
+class ProblemsPanel;
+}
+
+namespace tw::desktop::proofreading {
+class ProofreadingService;
+}
+
 namespace tw::desktop::settings {
 class Shortcuts;
 }
@@ -64,6 +72,9 @@ protected:
 
 private:
     void addPanels();
+    void addProblemsPanel();
+    /** Proofreads whichever editor the page has. */
+    void proofread(manuscript::DocumentPage& page);
     void buildMenus();
     /**
      * An action of the menu; the handler runs in the window's context. The name is stable: settings keep keys
@@ -85,6 +96,7 @@ private:
     void buildProjectMenu();
     void buildCodexMenu();
     void buildToolsMenu();
+    void addProofreadingActions(QMenu& menu);
     void buildHelpMenu();
     void showSettings(settings::SettingsPage page);
     void restoreWindow();
@@ -128,6 +140,8 @@ private:
     QList<QAction*> m_projectActions;
     manuscript::ManuscriptPanel* m_manuscript = nullptr;
     codex::CodexPanel* m_codex = nullptr;
+    proofreading::ProofreadingService* m_proofreading = nullptr;
+    problems::ProblemsPanel* m_problems = nullptr;
 };
 
 } // namespace tw::desktop::shell
