@@ -85,6 +85,7 @@ void DocumentPage::makeEditor(TextView view)
         bursts = &m_richPage->bursts();
         connect(m_richPage, &rich::RichPage::footnoteActivated, this, &DocumentPage::showNote);
         connect(m_richPage, &rich::RichPage::linkActivated, this, &DocumentPage::openLink);
+        connect(m_richPage, &rich::RichPage::entityActivated, &m_desk.navigator, &shell::Navigator::open);
         connect(m_richPage, &rich::RichPage::imagePasted, this, &DocumentPage::keepImage);
     } else {
         auto* const page = new MarkdownPage(m_desk.themes, this);
@@ -174,8 +175,10 @@ void DocumentPage::setTextView(TextView view)
 void DocumentPage::applyStyle()
 {
     m_editor->setPageStyle(pageStyleFrom(m_desk.settings));
-    if (m_richPage)
+    if (m_richPage) {
         m_richPage->setTypingRules(typingRulesFrom(m_desk.settings));
+        m_richPage->setMentionsShown(m_desk.settings.value(typingkeys::mentions).toBool());
+    }
     m_editor->setTypewriterScrolling(m_isFocusMode || m_desk.settings.value(typewriterKey).toBool());
 }
 

@@ -1,6 +1,6 @@
 #include "desktop/manuscript/TypingBursts.h"
 
-#include "core/document/DocumentCommands.h"
+#include "core/document/ActiveText.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/shell/ProjectSession.h"
 
@@ -75,9 +75,10 @@ void TypingBursts::commit()
     if (!document)
         return;
     DocumentBody body = m_editor.currentBody();
-    if (body.text != document->body().text) {
-        m_session.apply(std::make_unique<core::document::SetDocumentBodyCommand>(*document, std::move(body)));
-    }
+    if (body.text == m_shown.text)
+        return;
+    m_shown = body;
+    m_session.apply(core::document::makeSetActiveTextCommand(*document, std::move(body)));
 }
 
 void TypingBursts::applyAsStep(const QString& label, const std::function<void()>& edit)
@@ -102,7 +103,8 @@ void TypingBursts::showBody()
     const auto* const document = m_session.project().findAs<Document>(m_documentId);
     if (!document)
         return;
-    m_editor.applyBody(document->body());
+    m_shown = core::document::activeText(*document);
+    m_editor.applyBody(m_shown);
     m_editor.setReadOnly(document->isLocked());
     m_settle.start();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/foundation/Id.h"
+#include "core/document/Document.h"
 #include "core/project/ProjectChanges.h"
 
 #include <QObject>
@@ -50,6 +50,8 @@ private:
     BodyEditor& m_editor;
     QTimer m_burst;
     QTimer m_settle;
+    /** What the project has, as far as the editor knows. */
+    core::document::DocumentBody m_shown;
     bool m_hasTyping = false;
 };
 

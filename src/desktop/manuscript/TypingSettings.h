@@ -16,6 +16,8 @@ namespace typingkeys {
 inline constexpr QLatin1StringView quotes{"typing/quotes"};
 inline constexpr QLatin1StringView dashes{"typing/dashes"};
 inline constexpr QLatin1StringView ellipsis{"typing/ellipsis"};
+/** Whether names of the codex are underlined in texts. */
+inline constexpr QLatin1StringView mentions{"editor/underlineNames"};
 inline constexpr QLatin1StringView quotesOff{"off"};
 } // namespace typingkeys
 

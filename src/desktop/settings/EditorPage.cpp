@@ -37,6 +37,7 @@ EditorPage::EditorPage(const shell::DeskContext& desk, QWidget* parent)
     , m_quotes(new QComboBox(this))
     , m_dashes(new QCheckBox(tr("Make &dashes of two or three hyphens"), this))
     , m_ellipsis(new QCheckBox(tr("Make an &ellipsis of three dots"), this))
+    , m_mentions(new QCheckBox(tr("&Underline names of the codex"), this))
 {
     using manuscript::PageLimits;
     m_font->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -72,7 +73,8 @@ EditorPage::EditorPage(const shell::DeskContext& desk, QWidget* parent)
     connect(m_indents, &QCheckBox::toggled, this, &EditorPage::store);
     connect(reset, &QPushButton::clicked, this, [this] {
         manuscript::forgetPageStyle(m_desk.settings);
-        for (const QLatin1StringView key : {typingkeys::quotes, typingkeys::dashes, typingkeys::ellipsis})
+        for (const QLatin1StringView key :
+             {typingkeys::quotes, typingkeys::dashes, typingkeys::ellipsis, typingkeys::mentions})
             m_desk.settings.remove(key);
         showTyping();
         show(manuscript::pageStyleFrom(m_desk.settings));
@@ -97,10 +99,12 @@ void EditorPage::addTypingRows(QFormLayout& form)
     form.addRow(tr("&Quotes"), m_quotes);
     form.addRow(QString(), m_dashes);
     form.addRow(QString(), m_ellipsis);
+    form.addRow(QString(), m_mentions);
     showTyping();
     connect(m_quotes, &QComboBox::currentIndexChanged, this, &EditorPage::storeTyping);
     connect(m_dashes, &QCheckBox::toggled, this, &EditorPage::storeTyping);
     connect(m_ellipsis, &QCheckBox::toggled, this, &EditorPage::storeTyping);
+    connect(m_mentions, &QCheckBox::toggled, this, &EditorPage::storeTyping);
 }
 
 void EditorPage::showTyping()
@@ -108,6 +112,8 @@ void EditorPage::showTyping()
     const QSignalBlocker quotes(m_quotes);
     const QSignalBlocker dashes(m_dashes);
     const QSignalBlocker ellipsis(m_ellipsis);
+    const QSignalBlocker mentions(m_mentions);
+    m_mentions->setChecked(m_desk.settings.value(typingkeys::mentions).toBool());
     const QVariant chosen = m_desk.settings.value(typingkeys::quotes, QString());
     m_quotes->setCurrentIndex(std::max(0, m_quotes->findData(chosen)));
     const auto rules = manuscript::typingRulesFrom(m_desk.settings);
@@ -124,6 +130,7 @@ void EditorPage::storeTyping()
         m_desk.settings.setValue(typingkeys::quotes, quotes);
     m_desk.settings.setValue(typingkeys::dashes, m_dashes->isChecked());
     m_desk.settings.setValue(typingkeys::ellipsis, m_ellipsis->isChecked());
+    m_desk.settings.setValue(typingkeys::mentions, m_mentions->isChecked());
     emit pageStyleChanged();
 }
 

@@ -42,6 +42,7 @@ private:
     QComboBox* m_quotes;
     QCheckBox* m_dashes;
     QCheckBox* m_ellipsis;
+    QCheckBox* m_mentions;
 };
 
 } // namespace tw::desktop::settings

@@ -137,6 +137,13 @@ void MainWindow::addFindActions(QMenu& menu)
         menu, u"edit.findPrevious"_s, Icon::ChevronUp, tr("Find Pre&vious"),
         QKeySequence(Qt::SHIFT | Qt::Key_F3), inText([](FindBar& bar) { bar.step(false); }));
     addAction(
+        menu, u"edit.openEntity"_s, Icon::Entity, tr("Open What the Word &Names"), QKeySequence(Qt::Key_F12),
+        [this] {
+            auto* const page = qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage());
+            if (page && page->richPage())
+                page->richPage()->openEntityAtCursor();
+        });
+    addAction(
         menu, u"edit.replace"_s, Icon::Refresh, tr("&Replace…"), QKeySequence(Qt::CTRL | Qt::Key_H),
         inText([](FindBar& bar) { bar.open(FindBar::Row::FindAndReplace); }));
 }

@@ -112,7 +112,7 @@ TEST_P(DocumentPageTest, zoomIsApartFromTheFontAndChangesNoText)
 
 INSTANTIATE_TEST_SUITE_P(
     Views, DocumentPageTest, testing::Values(TextView::Rich, TextView::MarkdownSource),
-    [](const auto& info) { return info.param == TextView::Rich ? "Rich" : "MarkdownSource"; });
+    [](const auto& instance) { return instance.param == TextView::Rich ? "Rich" : "MarkdownSource"; });
 
 TEST(MarkdownPageTest, keepsWhatPlainTextWouldChange)
 {

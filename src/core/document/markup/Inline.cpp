@@ -91,13 +91,14 @@ Run plainForm(Run run)
         if (run.text.isEmpty())
             return {};
     }
-    if (run.kind != RunKind::Text) {
-        style.attributes = {};
-        style.code = false;
-    }
-    // The text of a group ends at the first bracket, and code has no other way to write one.
-    if (style.code && run.text.contains(u']'))
-        style.attributes = {};
+    // The text of a group, which is also what keeps marks apart, ends at the first bracket: what cannot be
+    // written without one is in no style of its own.
+    const bool hasBracket = run.kind != RunKind::Text || (style.code && run.text.contains(u']'));
+    if (hasBracket)
+        style = {
+            .code = style.code && run.kind == RunKind::Text,
+            .link = style.link,
+            .linkTitle = style.linkTitle};
     return run;
 }
 

@@ -57,7 +57,7 @@ struct Run
 /**
  * The same text in the form that Markdown can say: neighbours of one style are one run; white space at the
  * edges of bold, italic and struck text is plain; blanks beside breaks, and soft breaks beside others or at
- * the ends, are dropped; breaks have no style, images and footnote references no attributes.
+ * the ends, are dropped; breaks have no style, images and footnote references none but a link.
  */
 [[nodiscard]] std::vector<Run> canonicalRuns(std::span<const Run> runs);
 

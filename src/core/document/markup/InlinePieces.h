@@ -25,6 +25,8 @@ struct InlinePiece
     LinkTarget image;
     qsizetype sourceStart = 0;
     qsizetype sourceLength = 0;
+    /** Where the text stands as it is; -1 when it was written in other characters. */
+    qsizetype textStart = -1;
 };
 
 struct InlinePieces

@@ -164,6 +164,7 @@ void InlineScanner::flush()
         node.piece.text = m_text.sliced(m_plainStart, m_position - m_plainStart).toString();
         node.piece.sourceStart = m_plainStart;
         node.piece.sourceLength = m_position - m_plainStart;
+        node.piece.textStart = m_plainStart;
         m_nodes.push_back(std::move(node));
     }
     m_plainStart = m_position;
@@ -241,7 +242,10 @@ void InlineScanner::takeCode()
         trim = 1;
     if (const qsizetype bracket = m_text.sliced(start, end - start).lastIndexOf(u']'); bracket >= 0)
         m_lastClosing = start + bracket;
-    add(RunKind::Text, code.sliced(trim, code.size() - 2 * trim), end + fence).piece.isCode = true;
+    const bool isAsWritten = code.size() == end - start;
+    InlinePiece& piece = add(RunKind::Text, code.sliced(trim, code.size() - 2 * trim), end + fence).piece;
+    piece.isCode = true;
+    piece.textStart = isAsWritten ? start + trim : -1;
 }
 
 void InlineScanner::takeMarks()
@@ -285,7 +289,10 @@ void InlineScanner::takeAutolink()
         return leave(m_position + 1);
     if (const qsizetype bracket = link.text.lastIndexOf(u']'); bracket >= 0)
         m_lastClosing = m_position + 1 + bracket;
-    add(RunKind::Text, link.text.toString(), link.end).piece.link = static_cast<int>(m_result.links.size());
+    const qsizetype textStart = m_position + 1;
+    InlinePiece& piece = add(RunKind::Text, link.text.toString(), link.end).piece;
+    piece.link = static_cast<int>(m_result.links.size());
+    piece.textStart = textStart;
     m_result.links.push_back(link.target);
 }
 
@@ -312,7 +319,8 @@ void InlineScanner::openBracket()
     if (!isImage && following == u'^' && takeFootnote())
         return;
     const qsizetype source = m_position;
-    add(RunKind::Text, m_text.sliced(m_position, isImage ? 2 : 1).toString(), next + (isImage ? 1 : 0));
+    add(RunKind::Text, m_text.sliced(m_position, isImage ? 2 : 1).toString(), next + (isImage ? 1 : 0))
+        .piece.textStart = source;
     if (m_brackets.size() == mostBrackets)
         m_brackets.erase(m_brackets.begin());
     m_brackets.push_back({m_nodes.size() - 1, source, m_emphasis.last(), isImage, true});
@@ -416,6 +424,7 @@ void InlineScanner::finish()
             italic -= marks->italicClosed;
             struck -= marks->struckClosed;
             piece.text = QString(marks->left, marks->mark);
+            piece.textStart = piece.sourceStart;
         }
         if (node.closesLink)
             link = -1;

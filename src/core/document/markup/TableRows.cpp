@@ -85,6 +85,13 @@ std::vector<QString> readCells(QStringView line)
     return cells;
 }
 
+std::vector<QStringView> cellsAsWritten(QStringView line)
+{
+    std::vector<QStringView> cells;
+    forEachCell(line, [&cells](QStringView cell) { cells.push_back(cell); });
+    return cells;
+}
+
 qsizetype countCells(QStringView line)
 {
     qsizetype count = 0;

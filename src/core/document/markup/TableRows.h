@@ -11,6 +11,9 @@ namespace tw::core::document::markup {
 /** The cells of a row, trimmed, with "\|" read as "|". At least one. */
 [[nodiscard]] std::vector<QString> readCells(QStringView line);
 
+/** The cells of a row as they stand in it: "\|" is not read. */
+[[nodiscard]] std::vector<QStringView> cellsAsWritten(QStringView line);
+
 /** How many cells readCells() gives. */
 [[nodiscard]] qsizetype countCells(QStringView line);
 

@@ -22,6 +22,18 @@ void BlockOrigin::touch()
     m_tally->touched.insert(this);
 }
 
+bool BlockOrigin::isBlank() const
+{
+    return kind == core::document::markup::BlockKind::Paragraph && content.view().trimmed().isEmpty();
+}
+
+void BlockOrigin::setPlace(int newPlace)
+{
+    place = newPlace;
+    placedKind = kind;
+    wasBlank = isBlank();
+}
+
 void BlockOrigin::setWords(qint64 words)
 {
     m_tally->words += words - m_words;

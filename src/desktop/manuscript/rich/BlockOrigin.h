@@ -56,10 +56,18 @@ public:
     [[nodiscard]] qint64 words() const { return m_words; }
     void setWords(qint64 words);
 
+    /** A paragraph without anything in it, which a blank line stands for. */
+    [[nodiscard]] bool isBlank() const;
+    /** The block stands there in the body now. */
+    void setPlace(int newPlace);
+
     SourcePiece content;
     /** The line ends that follow; of no meaning when `place` is -1. */
     SourcePiece gap;
     core::document::markup::BlockKind kind = core::document::markup::BlockKind::Paragraph;
+    /** What the gaps around the block were made for. */
+    core::document::markup::BlockKind placedKind = core::document::markup::BlockKind::Paragraph;
+    bool wasBlank = true;
     /** Among the blocks of the body as it was last read or written; -1 for a new one. */
     int place = -1;
     /** An empty block that the text document needs beside a table, and the body does not know. */

@@ -11,16 +11,6 @@
 
 namespace tw::desktop::manuscript::rich {
 
-namespace {
-
-/** A paragraph without anything in it, which a blank line stands for. */
-bool isBlank(const BlockOrigin& origin)
-{
-    return origin.kind == markup::BlockKind::Paragraph && origin.content.view().trimmed().isEmpty();
-}
-
-} // namespace
-
 RichBody::RichBody(QTextDocument& document, const RichFormats& formats)
     : m_document(document)
     , m_formats(formats)
@@ -103,12 +93,16 @@ QString RichBody::gapBetween(const Unit& upper, const Unit& lower) const
 {
     const BlockOrigin& above = upper.origin();
     const BlockOrigin& below = lower.origin();
-    const int needed = isBlank(above)   ? 1
-                       : isBlank(below) ? 2
-                                        : markup::lineEndsBetween(above.kind, below.kind);
+    const auto isAsPlaced = [](const BlockOrigin& origin) {
+        return origin.kind == origin.placedKind && origin.isBlank() == origin.wasBlank;
+    };
     const bool areNeighbours = above.place >= 0 && below.place == above.place + 1;
-    if (areNeighbours && countLineEnds(above.gap.view()) >= needed)
+    // However narrow a gap is, it parts the blocks that it was read between.
+    if (areNeighbours && isAsPlaced(above) && isAsPlaced(below))
         return above.gap.view().toString();
+    const int needed = above.isBlank()   ? 1
+                       : below.isBlank() ? 2
+                                         : markup::lineEndsBetween(above.kind, below.kind);
     return m_lineEnd.repeated(needed);
 }
 
@@ -135,7 +129,7 @@ const QString& RichBody::text()
         const qsizetype gapStart = text.size();
         if (index + 1 < all.size())
             text += gapBetween(all[index], all[index + 1]);
-        else if (!isBlank(origin))
+        else if (!origin.isBlank())
             text += m_tail;
         places.push_back({start, gapStart, text.size()});
     }
@@ -145,7 +139,7 @@ const QString& RichBody::text()
         const Place& place = places[index];
         origin.content = {m_text, place.start, place.gapStart - place.start};
         origin.gap = {m_text, place.gapStart, place.end - place.gapStart};
-        origin.place = static_cast<int>(index);
+        origin.setPlace(static_cast<int>(index));
     }
     m_isChanged = false;
     return m_text;

@@ -200,7 +200,7 @@ void RichBody::setOrigin(const QTextBlock& block, const BodyUnit& unit, int plac
     origin.content = unit.content;
     origin.gap = unit.gap;
     origin.kind = unit.block.kind;
-    origin.place = place;
+    origin.setPlace(place);
     origin.isFiller = false;
     if (m_isCounted && !isSame)
         origin.setWords(core::document::countWords(unit.content.view()));

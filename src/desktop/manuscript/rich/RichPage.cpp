@@ -1,6 +1,8 @@
 #include "desktop/manuscript/rich/RichPage.h"
 
+#include "core/document/markup/LegacyHtml.h"
 #include "desktop/manuscript/TypingBursts.h"
+#include "desktop/manuscript/rich/EntityNames.h"
 #include "desktop/manuscript/rich/PageObjects.h"
 #include "desktop/manuscript/rich/ParagraphChange.h"
 #include "desktop/shell/ProjectSession.h"
@@ -26,6 +28,7 @@ RichPage::RichPage(const shell::DeskContext& desk, const core::ContentId& docume
           m_formats, [&session = desk.session] { return session.workspace().folderPath(); },
           [this] { return columnWidth(); }, this))
     , m_footnotes(new FootnoteMarks(m_formats, this))
+    , m_names(new EntityNames(desk.session, this))
 {
     setMouseTracking(true);
     document()->documentLayout()->registerHandler(ImageObject, m_images);
@@ -36,6 +39,7 @@ RichPage::RichPage(const shell::DeskContext& desk, const core::ContentId& docume
             m_body.noteChange(position, added);
     });
     connect(this, &QTextEdit::cursorPositionChanged, this, &RichPage::markPlace);
+    connect(m_names, &EntityNames::changed, viewport(), qOverload<>(&QWidget::update));
     setPageStyle(pageStyleFrom(desk.settings));
     m_bursts = new TypingBursts(desk.session, documentId, *this);
 }
@@ -53,7 +57,7 @@ void RichPage::applyBody(const DocumentBody& body)
     const int position = before.position();
     const int anchor = before.anchor();
     const int scrolled = verticalScrollBar()->value();
-    if (m_body.apply(body.text) == RichBody::Update::InPlace)
+    if (m_body.apply(core::document::markup::markdownOf(body)) == RichBody::Update::InPlace)
         return;
     QTextCursor after(document());
     const int last = document()->characterCount() - 1;
@@ -107,6 +111,12 @@ void RichPage::resizeEvent(QResizeEvent* event)
         m_images->forget();
 }
 
+void RichPage::focusOutEvent(QFocusEvent* event)
+{
+    closePopups();
+    BodyEditor::focusOutEvent(event);
+}
+
 void RichPage::setFocusedOnParagraph(bool isOn)
 {
     m_isFocusedOnParagraph = isOn;
@@ -155,6 +165,8 @@ void RichPage::mouseReleaseEvent(QMouseEvent* event)
     else if (const QString link = styleOf(format).link;
              !link.isEmpty() && event->modifiers().testFlag(Qt::ControlModifier))
         emit linkActivated(link);
+    else if (event->modifiers().testFlag(Qt::ControlModifier))
+        openEntityAtCursor();
 }
 
 QStringList RichPage::footnoteReferences() const

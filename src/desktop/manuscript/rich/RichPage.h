@@ -16,7 +16,10 @@ class TypingBursts;
 
 namespace tw::desktop::manuscript::rich {
 
+class EntityCard;
+class EntityNames;
 class FootnoteMarks;
+class NameCompletion;
 class PageImages;
 
 /** What can be switched on and off for a stretch of text. */
@@ -100,6 +103,11 @@ public:
     /** Labels of the references, in the order of the text. */
     [[nodiscard]] QStringList footnoteReferences() const;
 
+    /** Names of the codex get a quiet line below them. */
+    void setMentionsShown(bool areShown);
+    /** Opens what the cursor's word names. */
+    void openEntityAtCursor();
+
     void setTypingRules(const app::typing::TypingRules& rules) { m_typingRules = rules; }
 
     /** Paragraphs other than the cursor's become quiet. */
@@ -109,6 +117,8 @@ public:
     [[nodiscard]] QString selectedMarkdown() const;
 
 signals:
+    /** A name of the codex was followed. */
+    void entityActivated(const tw::core::ContentId& id);
     /** The reference was clicked or chosen by the keyboard. */
     void footnoteActivated(const QString& label);
     void linkActivated(const QString& target);
@@ -123,6 +133,8 @@ protected:
     void inputMethodEvent(QInputMethodEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
     [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
@@ -150,6 +162,15 @@ private:
     void renumber(const QTextBlock& block);
     [[nodiscard]] std::vector<QTextBlock> selectedBlocks() const;
 
+    // Names of the codex
+    [[nodiscard]] core::ContentId entityAt(const QTextCursor& cursor, QTextCursor* name) const;
+    void hideCard();
+    void paintMentions(QPainter& painter, const QTextBlock& block, const QRectF& rect) const;
+    void offerNames();
+    void completeName(const QString& name);
+    bool takesCompletionKey(const QKeyEvent& event);
+    void closePopups();
+
     void paintBlock(QPainter& painter, const QTextBlock& block, const QRectF& rect) const;
     void paintMarker(
         QPainter& painter, const QTextBlock& block, const BlockShape& shape, const QRectF& rect) const;
@@ -160,7 +181,12 @@ private:
     RichBody m_body;
     PageImages* m_images;
     FootnoteMarks* m_footnotes;
+    EntityNames* m_names;
     TypingBursts* m_bursts = nullptr;
+    /** Made when first needed. */
+    EntityCard* m_card = nullptr;
+    NameCompletion* m_completion = nullptr;
+    bool m_areMentionsShown = false;
     app::typing::TypingRules m_typingRules;
     bool m_isFocusedOnParagraph = false;
     bool m_hasQuietRanges = false;

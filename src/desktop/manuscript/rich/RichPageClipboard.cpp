@@ -2,7 +2,9 @@
 #include "desktop/manuscript/rich/RichPage.h"
 
 #include "core/document/markup/BlockWriter.h"
+#include "core/document/markup/HtmlRenderer.h"
 #include "core/document/markup/InlineWriter.h"
+#include "core/document/markup/LegacyHtml.h"
 #include "desktop/manuscript/rich/RichTextWriter.h"
 
 #include <QApplication>
@@ -92,15 +94,16 @@ QString RichPage::selectedMarkdown() const
 
 QMimeData* RichPage::createMimeDataFromSelection() const
 {
-    auto* const data = new QMimeData; // the clipboard's
+    auto* const taken = new QMimeData; // the clipboard's
     const QString markdown = selectedMarkdown();
-    data->setData(markdownType, markdown.toUtf8());
+    taken->setData(markdownType, markdown.toUtf8());
+    taken->setHtml(markup::renderHtml(markdown));
     QString text = textCursor().selectedText();
     text.replace(QChar::ParagraphSeparator, u'\n');
     text.replace(QChar::LineSeparator, u'\n');
     text.remove(QChar::ObjectReplacementCharacter);
-    data->setText(text);
-    return data;
+    taken->setText(text);
+    return taken;
 }
 
 bool RichPage::canInsertFromMimeData(const QMimeData* source) const
@@ -109,7 +112,7 @@ bool RichPage::canInsertFromMimeData(const QMimeData* source) const
     const QList<QUrl> urls = source->urls();
     if (!urls.isEmpty() && urls.constFirst().isLocalFile())
         return false;
-    return source->hasText() || source->hasImage() || source->hasFormat(markdownType);
+    return source->hasText() || source->hasHtml() || source->hasImage() || source->hasFormat(markdownType);
 }
 
 void RichPage::insertFromMimeData(const QMimeData* source)
@@ -123,6 +126,8 @@ void RichPage::insertFromMimeData(const QMimeData* source)
         insertMarkdown(QString::fromUtf8(source->data(markdownType)));
     else if (source->hasImage() && !source->hasText())
         emit imagePasted(qvariant_cast<QImage>(source->imageData()));
+    else if (source->hasHtml())
+        insertMarkdown(markup::htmlToMarkdown(source->html()));
     else
         insertPlainText(source->text());
 }

@@ -70,6 +70,9 @@ BlockShape stepOut(BlockShape shape)
 
 void RichPage::keyPressEvent(QKeyEvent* event)
 {
+    hideCard();
+    if (takesCompletionKey(*event))
+        return;
     if (isReadOnly() || handleKey(*event)) {
         if (isReadOnly())
             BodyEditor::keyPressEvent(event);
@@ -79,6 +82,7 @@ void RichPage::keyPressEvent(QKeyEvent* event)
         prepareTyping();
     BodyEditor::keyPressEvent(event);
     correctTyped(event->text());
+    offerNames();
 }
 
 void RichPage::inputMethodEvent(QInputMethodEvent* event)

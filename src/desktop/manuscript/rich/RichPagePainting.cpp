@@ -45,6 +45,8 @@ void RichPage::paintSheet(QPainter& painter, const QRect& clip)
         if (rect.top() > clip.bottom() + m_formats.em() * 4)
             break;
         paintBlock(painter, block, rect);
+        if (m_areMentionsShown && rect.intersects(clip))
+            paintMentions(painter, block, rect);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }
@@ -115,7 +117,7 @@ void RichPage::paintMarker(
     if (layout->lineCount() == 0)
         return;
     const QTextLine line = layout->lineAt(0);
-    const QPointF offset = rect.topLeft() - layout->boundingRect().topLeft();
+    const QPointF offset = rect.topLeft();
     const bool isRightToLeft = block.textDirection() == Qt::RightToLeft;
     const QString marker = shape.kind == BlockKind::BulletItem     ? bullet(shape.level)
                            : shape.kind == BlockKind::NumberedItem ? shape.marker

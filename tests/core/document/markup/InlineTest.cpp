@@ -141,8 +141,8 @@ TEST(InlineTest, whatIsWrittenReadsAsItWas)
 
 TEST(InlineTest, hostileTextsAreReadInOnePass)
 {
-    // A million characters each: looking at every pair of them would never end.
-    constexpr qsizetype many = 1'000'000;
+    // 200,000 characters each: looking at every pair of them would never end.
+    constexpr qsizetype many = 200'000;
     for (const QString& piece :
          {u"["_s,       u"]"_s,       u"[^"_s, u"!["_s,        u"[a]("_s, u"[a](b"_s, u"[a](b \""_s,
           u"![a](b)"_s, u"[a]{.tw"_s, u"*"_s,  u"*a "_s,       u"a* "_s,  u"*a_"_s,   u"_a *"_s,

@@ -20,7 +20,7 @@ const QString untidyBodies[] = {
     u"Windows\r\nlines\r\n\r\nand more\r\n"_s,
     u"Heading\n=======\n\n## Second ##\n\n__bold__ and _italic_, *also* **so**\n"_s,
     u"* a\n* b\n    * c\n\n1) one\n1) same\n2. other\n"_s,
-    u"> quoted\n> on\n>> deeper\n\n***\n- - -\n___\n"_s,
+    u"> quoted\n> on\n>> deeper\n\n***\n- - -\n___\nend\n"_s,
     u"```cpp\nint a;\n\nint b;\n```\n\n~~~\nopen\n"_s,
     u"| a | b |\n|---|:-:|\n| 1 | 2 |\n\nafter\n"_s,
     u"a\n\n| a | b\n|---|---\n| 1\n"_s,

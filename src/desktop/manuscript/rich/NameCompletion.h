@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QListWidget>
+
+class QKeyEvent;
+
+namespace tw::desktop::manuscript::rich {
+
+/** Names to choose from while one types; never takes the keyboard from the text. */
+class NameCompletion final : public QListWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NameCompletion(QWidget* parent);
+
+    /** Shows the names below a line of text; hides when there are none. */
+    void showNames(const QStringList& names, const QRect& globalLine);
+    /** Takes the keys that choose, accept and close; false for all others. */
+    bool takeKey(const QKeyEvent& event);
+
+signals:
+    void chosen(const QString& name);
+};
+
+} // namespace tw::desktop::manuscript::rich

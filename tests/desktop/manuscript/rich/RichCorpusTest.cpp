@@ -1,0 +1,118 @@
+// Bodies of every construct through the real text document.
+#include "desktop/manuscript/rich/RichBody.h"
+#include "desktop/manuscript/rich/RichFormats.h"
+#include "support/MarkdownBodies.h"
+
+#include <QTextCursor>
+
+#include <gtest/gtest.h>
+
+namespace tw::desktop::manuscript::rich {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/** A text document with a body in it, as a page holds it. */
+struct Shown
+{
+    Shown()
+    {
+        formats.setLook(theme::builtInThemes().front(), {}, 100);
+        document.setUndoRedoEnabled(false);
+        QObject::connect(&document, &QTextDocument::contentsChange, [this](int position, int, int added) {
+            if (!isApplying)
+                body.noteChange(position, added);
+        });
+    }
+
+    void apply(const QString& text)
+    {
+        isApplying = true;
+        body.apply(text);
+        isApplying = false;
+    }
+
+    /** Has everything read back from the document, as if it had been touched. */
+    const QString& reread()
+    {
+        body.noteChange(0, document.characterCount());
+        return body.text();
+    }
+
+    QTextDocument document;
+    RichFormats formats;
+    RichBody body{document, formats};
+    bool isApplying = false;
+};
+
+QStringList corpus()
+{
+    QStringList bodies = test::oddMarkdownBodies();
+    for (quint32 seed = 0; seed < 150; ++seed) {
+        test::MarkdownBodies made(seed);
+        bodies.append(made.body());
+        bodies.append(made.noise());
+    }
+    bodies.removeIf([](const QString& body) { return body.size() > 200'000; });
+    return bodies;
+}
+
+} // namespace
+
+TEST(RichCorpusTest, whatIsTouchedAndSaysTheSameKeepsItsBytes)
+{
+    Shown shown;
+    for (const QString& text : corpus()) {
+        shown.apply(text);
+        ASSERT_EQ(shown.reread(), text);
+    }
+}
+
+TEST(RichCorpusTest, aLetterChangesOneBlockAndUndoBringsTheBytesBack)
+{
+    for (const QString& text : corpus()) {
+        Shown shown;
+        shown.apply(text);
+        const int places[] = {0, shown.document.characterCount() / 3, shown.document.characterCount() - 1};
+        for (const int place : places) {
+            QTextCursor cursor(&shown.document);
+            cursor.setPosition(place);
+            cursor.insertText(u"q"_s);
+            const QString changed = shown.body.text();
+            // What is the same at both ends is far more than half: everything but one block.
+            const auto [left, right] =
+                std::mismatch(text.begin(), text.end(), changed.begin(), changed.end());
+            ASSERT_FALSE(left == text.end() && right == changed.end()) << text.toStdString();
+            shown.apply(text);
+            ASSERT_EQ(shown.reread(), text);
+            Shown fresh;
+            fresh.apply(text);
+            ASSERT_EQ(shown.document.toRawText(), fresh.document.toRawText());
+        }
+    }
+}
+
+TEST(RichCorpusTest, anyBodyBecomesAnyOther)
+{
+    Shown shown;
+    test::MarkdownBodies made(11);
+    QString text = made.body();
+    for (int round = 0; round < 300; ++round) {
+        // Near relatives as undo brings them, and strangers.
+        if (made.number(1, 4) == 1)
+            text = made.body();
+        else
+            text.replace(
+                made.number(0, static_cast<int>(text.size())), made.number(0, 20),
+                made.number(1, 2) == 1 ? made.inlineText() : u"\n\n"_s + made.noise(8));
+        shown.apply(text);
+        Shown fresh;
+        fresh.apply(text);
+        ASSERT_EQ(shown.reread(), text);
+        ASSERT_EQ(shown.document.toRawText(), fresh.document.toRawText()) << text.toStdString();
+        ASSERT_EQ(shown.body.words(), fresh.body.words()) << text.toStdString();
+    }
+}
+
+} // namespace tw::desktop::manuscript::rich
