@@ -64,6 +64,10 @@ public:
     virtual void replace(
         const core::ContentId& object, const Problem& problem, const QString& suggestion) = 0;
     virtual void ignore(const core::ContentId& object, const Problem& problem) = 0;
+    /** Whether problems of the object are ignored. */
+    [[nodiscard]] virtual bool hasIgnored(const core::ContentId& object) = 0;
+    /** Lists them again. */
+    virtual void restoreIgnored(const core::ContentId& object) = 0;
 
 signals:
     /** The problems of these objects are others now. */

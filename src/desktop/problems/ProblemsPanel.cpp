@@ -113,6 +113,19 @@ void ProblemsPanel::fillCategoryMenu()
         menu.addSeparator();
     }
     menu.addAction(m_wholeManuscript);
+    std::vector<std::pair<ProblemSource*, core::ContentId>> ignoring;
+    for (ProblemSource* const source : m_sources) {
+        for (const core::ContentId& object : wantedObjects()) {
+            if (source->hasIgnored(object))
+                ignoring.emplace_back(source, object);
+        }
+    }
+    QAction* const restore = menu.addAction(tr("Show &Ignored Ones Again"));
+    restore->setEnabled(!ignoring.empty());
+    connect(restore, &QAction::triggered, this, [ignoring] {
+        for (const auto& [source, object] : ignoring)
+            source->restoreIgnored(object);
+    });
 }
 
 void ProblemsPanel::setDocument(const core::ContentId& document)

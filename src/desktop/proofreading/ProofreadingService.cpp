@@ -225,6 +225,13 @@ void ProofreadingService::ignore(const core::ContentId& document, ProblemKind ki
     emit ignoredChanged(document);
 }
 
+void ProofreadingService::restoreIgnored(const core::ContentId& document)
+{
+    IgnoredFindings::clear(m_desk.settings, document);
+    m_ignored.remove(document);
+    emit ignoredChanged(document);
+}
+
 void ProofreadingService::disableRule(ProblemKind kind)
 {
     ProofreadingSettings settings = m_settings;

@@ -77,6 +77,8 @@ public:
     [[nodiscard]] const IgnoredFindings& ignored(const core::ContentId& document);
     /** Findings of the kind with this text are no longer reported for the document. */
     void ignore(const core::ContentId& document, ProblemKind kind, const QString& text);
+    /** Forgets what is ignored in the document. */
+    void restoreIgnored(const core::ContentId& document);
     /** The rule is off in all projects until the settings say otherwise. */
     void disableRule(ProblemKind kind);
 

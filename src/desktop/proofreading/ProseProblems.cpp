@@ -281,4 +281,14 @@ void ProseProblems::ignore(const core::ContentId& object, const Problem& problem
     m_service.ignore(object, kindOf(problem.categoryId), problem.text);
 }
 
+bool ProseProblems::hasIgnored(const core::ContentId& object)
+{
+    return !m_service.ignored(object).isEmpty();
+}
+
+void ProseProblems::restoreIgnored(const core::ContentId& object)
+{
+    m_service.restoreIgnored(object);
+}
+
 } // namespace tw::desktop::proofreading

@@ -39,6 +39,8 @@ public:
     void replace(
         const core::ContentId& object, const problems::Problem& problem, const QString& suggestion) override;
     void ignore(const core::ContentId& object, const problems::Problem& problem) override;
+    [[nodiscard]] bool hasIgnored(const core::ContentId& object) override;
+    void restoreIgnored(const core::ContentId& object) override;
 
     /** Reads what is left at once, without waiting for a rest. */
     void finishNow();

@@ -2,6 +2,7 @@
 
 #include "core/document/markup/Blocks.h"
 #include "core/document/markup/Inline.h"
+#include "core/document/markup/LegacyHtml.h"
 #include "desktop/manuscript/rich/BlockShape.h"
 
 #include <QTextBlock>
@@ -20,7 +21,7 @@ QString proseOf(QStringView inlineMarkdown)
     for (const markup::Run& run : markup::parseInline(inlineMarkdown)) {
         switch (run.kind) {
         case RunKind::Text:
-            // As long as it is, so that it parts the words around it.
+            // As long as it is in the editor.
             prose += run.style.code ? QString(run.text.size(), QChar::ObjectReplacementCharacter) : run.text;
             break;
         case RunKind::SoftBreak:
@@ -56,7 +57,7 @@ void blankGroups(QString& text)
 QStringList paragraphsOf(const core::document::DocumentBody& body)
 {
     QStringList paragraphs;
-    for (const markup::Block& block : markup::parseBlocks(body.text).list) {
+    for (const markup::Block& block : markup::parseBlocks(markup::markdownOf(body)).list) {
         if (block.kind == BlockKind::Code || block.kind == BlockKind::Rule)
             continue;
         for (const auto& row : block.table.rows) {

@@ -9,8 +9,8 @@ class QTextBlock;
 namespace tw::desktop::proofreading {
 
 /**
- * The paragraphs of a document as its page shows them: the prose, without marks of the markup. Code is left
- * out. May be called from any thread.
+ * The paragraphs of a document as its page shows them: the prose, without marks of the markup; things within
+ * the text are one character. Code is left out. May be called from any thread.
  */
 [[nodiscard]] QStringList paragraphsOf(const core::document::DocumentBody& body);
 

@@ -82,6 +82,9 @@ TEST_F(ProblemsPanelTest, followsEditsIgnoringAndWords)
     EXPECT_EQ(listed().size(), 3);
     prose.ignore(id, *panel.model().problemAt(panel.model().index(0, 0, panel.model().index(0, 0))).problem);
     EXPECT_EQ(listed(), (QStringList{u"Chapter"_s, u"- dawnn"_s}));
+    prose.restoreIgnored(id);
+    EXPECT_EQ(listed().size(), 3);
+    service->ignore(id, proofreading::ProblemKind::Spelling, u"shipp"_s);
     service->addToDictionary(u"dawnn"_s);
     EXPECT_EQ(listed(), QStringList());
     page->editor().moveCursor(QTextCursor::End);

@@ -27,6 +27,8 @@ class BlockFindingsTest : public testing::Test
 protected:
     void follow()
     {
+        // Without a layout, a document tells nobody of its changes.
+        [[maybe_unused]] const auto* const layout = document.documentLayout();
         QObject::connect(
             &document, &QTextDocument::contentsChange, &document,
             [this](int position, int removed, int added) { findings.noteChange(position, removed, added); });
