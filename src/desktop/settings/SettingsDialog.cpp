@@ -4,6 +4,7 @@
 #include "desktop/settings/AppearancePage.h"
 #include "desktop/settings/EditorPage.h"
 #include "desktop/settings/KeysPage.h"
+#include "desktop/settings/ProofreadingPage.h"
 #include "desktop/settings/SavingPage.h"
 #include "desktop/theme/ThemeManager.h"
 
@@ -28,7 +29,9 @@ constexpr int listPadding = 24;
 
 } // namespace
 
-SettingsDialog::SettingsDialog(const shell::DeskContext& desk, Shortcuts& shortcuts, QWidget* parent)
+SettingsDialog::SettingsDialog(
+    const shell::DeskContext& desk, Shortcuts& shortcuts, proofreading::ProofreadingService& proofreading,
+    QWidget* parent)
     : QDialog(parent)
     , m_list(new QListWidget(this))
     , m_pages(new QStackedWidget(this))
@@ -42,6 +45,7 @@ SettingsDialog::SettingsDialog(const shell::DeskContext& desk, Shortcuts& shortc
     connect(editor, &EditorPage::pageStyleChanged, this, &SettingsDialog::pageStyleChanged);
     addPage(tr("Appearance"), desk.icons.icon(Icon::Theme), new AppearancePage(desk, this));
     addPage(tr("Editor"), desk.icons.icon(Icon::Text), editor);
+    addPage(tr("Proofreading"), desk.icons.icon(Icon::Check), new ProofreadingPage(desk, proofreading, this));
     addPage(tr("Saving"), desk.icons.icon(Icon::Save), new SavingPage(desk, this));
     addPage(tr("Keys"), desk.icons.icon(Icon::Menu), new KeysPage(desk, shortcuts, this));
     connect(m_list, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);

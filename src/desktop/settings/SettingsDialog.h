@@ -8,6 +8,10 @@
 class QListWidget;
 class QStackedWidget;
 
+namespace tw::desktop::proofreading {
+class ProofreadingService;
+}
+
 namespace tw::desktop::settings {
 
 class Shortcuts;
@@ -18,7 +22,9 @@ class SettingsDialog final : public QDialog
     Q_OBJECT
 
 public:
-    SettingsDialog(const shell::DeskContext& desk, Shortcuts& shortcuts, QWidget* parent);
+    SettingsDialog(
+        const shell::DeskContext& desk, Shortcuts& shortcuts, proofreading::ProofreadingService& proofreading,
+        QWidget* parent);
 
     void showPage(SettingsPage page);
 

@@ -9,8 +9,9 @@ enum class SettingsPage : qint32
 {
     Appearance = 0,
     Editor = 1,
-    Saving = 2,
-    Keys = 3,
+    Proofreading = 2,
+    Saving = 3,
+    Keys = 4,
 };
 
 } // namespace tw::desktop::settings

@@ -44,7 +44,8 @@ AboutDialog::AboutDialog(QWidget* parent)
     texts->addWidget(
         makeText(tr("Free software under the GNU General Public License, version 3 or later."), this));
     texts->addWidget(makeText(
-        tr("Built with Qt %1, Qt Advanced Docking System and simdjson.").arg(QString::fromLatin1(qVersion())),
+        tr("Built with Qt %1, Qt Advanced Docking System, simdjson and Hunspell.")
+            .arg(QString::fromLatin1(qVersion())),
         this));
     auto* const top = new QHBoxLayout;
     top->setSpacing(16);

@@ -6,6 +6,7 @@
 #include "desktop/project/NewProjectDialog.h"
 #include "desktop/project/ProjectSettingsDialog.h"
 #include "desktop/project/RestoreDialog.h"
+#include "desktop/proofreading/ProofreadingService.h"
 #include "desktop/settings/SettingsDialog.h"
 #include "desktop/settings/Shortcuts.h"
 #include "desktop/shell/AboutDialog.h"
@@ -171,8 +172,11 @@ std::unique_ptr<QDialog> makeSettingsDialog(const DeskContext& desk)
     QAction* const action = menus.addMenu(u"Selftest"_s)->addAction(u"Selftest Command"_s);
     action->setObjectName(u"selftest.command"_s);
     shortcuts->collect(menus);
-    auto dialog = std::make_unique<settings::SettingsDialog>(desk, *shortcuts, nullptr);
+    auto proofreading = std::make_unique<proofreading::ProofreadingService>(
+        desk, proofreading::SpellingPlaces{QDir::tempPath() + u"/selftest-words.txt"_s, {}}, nullptr);
+    auto dialog = std::make_unique<settings::SettingsDialog>(desk, *shortcuts, *proofreading, nullptr);
     shortcuts.release()->setParent(dialog.get());
+    proofreading.release()->setParent(dialog.get());
     return dialog;
 }
 

@@ -141,8 +141,9 @@ void DockLayout::placeAll()
                 continue;
             group = group ? m_manager->addDockWidgetTabToArea(panel.dock, group)
                           : m_manager->addDockWidget(areaOf(place), panel.dock);
-            panel.dock->toggleView(true);
-            first = first ? first : panel.dock;
+            panel.dock->toggleView(panel.spec.isShownAtFirst);
+            if (panel.spec.isShownAtFirst && !first)
+                first = panel.dock;
         }
         if (first)
             first->setAsCurrentTab();

@@ -41,6 +41,8 @@ struct PanelSpec
     QString title;
     icons::Icon icon;
     DockPlace place = DockPlace::Left;
+    /** Others wait in the Windows menu until somebody wants them. */
+    bool isShownAtFirst = true;
 };
 
 /**

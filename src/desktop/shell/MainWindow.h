@@ -27,6 +27,14 @@ class TextActions;
 namespace tw::desktop::screenplay {
 class ScreenplayActions;
 }
+namespace tw::desktop::problems {
+class ProblemsPanel;
+}
+
+namespace tw::desktop::proofreading {
+class ProofreadingService;
+}
+
 namespace tw::desktop::settings {
 class Shortcuts;
 }
@@ -73,6 +81,9 @@ protected:
 
 private:
     void addPanels();
+    void addProblemsPanel();
+    /** Proofreads whichever editor the page has. */
+    void proofread(manuscript::DocumentPage& page);
     void buildMenus();
     /**
      * An action of the menu; the handler runs in the window's context. The name is stable: settings keep keys
@@ -96,6 +107,7 @@ private:
     void buildToolsMenu();
     void addReadAloud(QMenu& menu);
     void readAloud();
+    void addProofreadingActions(QMenu& menu);
     void buildHelpMenu();
     void showSettings(settings::SettingsPage page);
     void restoreWindow();
@@ -142,6 +154,8 @@ private:
     QList<QAction*> m_projectActions;
     manuscript::ManuscriptPanel* m_manuscript = nullptr;
     codex::CodexPanel* m_codex = nullptr;
+    proofreading::ProofreadingService* m_proofreading = nullptr;
+    problems::ProblemsPanel* m_problems = nullptr;
 };
 
 } // namespace tw::desktop::shell

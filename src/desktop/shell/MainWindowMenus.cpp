@@ -6,9 +6,12 @@
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/manuscript/TextPage.h"
+#include "desktop/problems/ProblemsPanel.h"
 #include "desktop/project/PackTransfer.h"
 #include "desktop/project/ProjectBackups.h"
 #include "desktop/project/ProjectSettingsDialog.h"
+#include "desktop/proofreading/LanguageMenu.h"
+#include "desktop/proofreading/ProofreadingService.h"
 #include "desktop/review/ExternalChanges.h"
 #include "desktop/settings/SettingsDialog.h"
 #include "desktop/settings/Shortcuts.h"
@@ -127,7 +130,9 @@ void MainWindow::buildProjectMenu()
 void MainWindow::buildToolsMenu()
 {
     QMenu& menu = *menuBar()->addMenu(tr("&Tools"));
+    addProofreadingActions(menu);
     addReadAloud(menu);
+    menu.addSeparator();
     addAction(
         menu, u"tools.settings"_s, Icon::Settings, tr("&Settings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
         [this] { showSettings(settings::SettingsPage::Appearance); });
@@ -166,9 +171,45 @@ void MainWindow::readAloud()
         say(tr("No voice is installed. Install a speech engine for your system to have texts read aloud."));
 }
 
+void MainWindow::addProofreadingActions(QMenu& menu)
+{
+    using proofreading::ProofreadingSettings;
+    const auto addSwitch = [&](const QString& name, const QString& text, const QKeySequence& keys,
+                               bool ProofreadingSettings::*isOn) {
+        QAction* const action = addAction(menu, name, Icon::Check, text, keys, [this, isOn] {
+            ProofreadingSettings settings = m_proofreading->settings();
+            settings.*isOn = !(settings.*isOn);
+            m_proofreading->setSettings(settings);
+        });
+        action->setCheckable(true);
+        const auto refresh = [this, action, isOn] { action->setChecked(m_proofreading->settings().*isOn); };
+        connect(m_proofreading, &proofreading::ProofreadingService::checksChanged, action, refresh);
+        refresh();
+    };
+    addSwitch(
+        u"tools.spellWhileTyping"_s, tr("Check &Spelling While Typing"), QKeySequence(Qt::Key_F7),
+        &ProofreadingSettings::marksSpelling);
+    addSwitch(
+        u"tools.proofreadWhileTyping"_s, tr("&Proofread While Typing"), QKeySequence(Qt::SHIFT | Qt::Key_F7),
+        &ProofreadingSettings::marksStyle);
+    QMenu* const languages = menu.addMenu(m_desk.icons.icon(Icon::Language), tr("&Language of the Document"));
+    connect(languages, &QMenu::aboutToShow, this, [this, languages] {
+        const WorkPage* const page = m_workArea->currentPage();
+        proofreading::fillLanguageMenu(
+            *languages, *m_proofreading, page ? page->objectId() : core::ContentId());
+    });
+    addAction(
+        menu, u"tools.suggestions"_s, Icon::ChevronDown, tr("Su&ggestions at the Cursor"),
+        QKeySequence(Qt::CTRL | Qt::Key_Period), [this] { m_proofreading->popUpSuggestions(); });
+    addAction(menu, u"tools.problems"_s, Icon::Warning, tr("P&roblems"), {}, [this] {
+        m_docks->showPanel(u"problems"_s);
+        m_problems->setFocus(Qt::ShortcutFocusReason);
+    });
+}
+
 void MainWindow::showSettings(settings::SettingsPage page)
 {
-    settings::SettingsDialog dialog(m_desk, *m_shortcuts, this);
+    settings::SettingsDialog dialog(m_desk, *m_shortcuts, *m_proofreading, this);
     connect(&dialog, &settings::SettingsDialog::pageStyleChanged, this, [this] { zoomPages(0); });
     dialog.showPage(page);
     dialog.exec();

@@ -4,10 +4,14 @@
 #include "desktop/codex/EntityPage.h"
 #include "desktop/composition/CompositionPage.h"
 #include "desktop/inspector/InspectorPanel.h"
+#include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/overview/CorkboardPage.h"
 #include "desktop/overview/OutlinePage.h"
+#include "desktop/problems/ProblemsPanel.h"
+#include "desktop/proofreading/ProofreadingService.h"
+#include "desktop/proofreading/ProseProblems.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/WorkArea.h"
 
@@ -26,9 +30,12 @@ void MainWindow::addPanels()
     m_docks->addPanel(
         {u"inspector"_s, tr("Inspector"), Icon::Inspector, DockPlace::Right},
         new inspector::InspectorPanel(m_desk, this));
+    addProblemsPanel();
 
     m_workArea->setFactory(ContentKind::Document, [this](const core::ContentId& id, QWidget* parent) {
-        return new manuscript::DocumentPage(m_desk, id, parent);
+        auto* const page = new manuscript::DocumentPage(m_desk, id, parent);
+        proofread(*page);
+        return page;
     });
     const overview::OverviewContext overviews{m_desk, m_manuscript->model(), m_manuscript->actions()};
     m_workArea->setViewFactory(
@@ -45,6 +52,25 @@ void MainWindow::addPanels()
         });
     m_workArea->setFactory(ContentKind::Entity, [this](const core::ContentId& id, QWidget* parent) {
         return new codex::EntityPage(m_desk, id, parent);
+    });
+}
+
+void MainWindow::addProblemsPanel()
+{
+    m_proofreading = new proofreading::ProofreadingService(m_desk, proofreading::usualSpellingPlaces(), this);
+    auto* const prose = new proofreading::ProseProblems(m_desk, *m_proofreading, this);
+    m_problems = new problems::ProblemsPanel(m_desk, {prose}, this);
+    m_docks->addPanel({u"problems"_s, tr("Problems"), Icon::Warning, DockPlace::Bottom, false}, m_problems);
+    connect(m_workArea, &WorkArea::currentPageChanged, m_problems, [this](const WorkPage* page) {
+        m_problems->setDocument(page ? page->objectId() : core::ContentId());
+    });
+}
+
+void MainWindow::proofread(manuscript::DocumentPage& page)
+{
+    m_proofreading->attach(page.editor(), page.objectId());
+    connect(&page, &manuscript::DocumentPage::editorChanged, m_proofreading, [this, &page] {
+        m_proofreading->attach(page.editor(), page.objectId());
     });
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/settings/Shortcuts.h"
 
 #include "desktop/manuscript/BodyEditor.h"
+#include "desktop/proofreading/ProofreadingService.h"
 #include "desktop/settings/AutosaveChoice.h"
 #include "desktop/settings/SettingsDialog.h"
 #include "desktop/support/TestDesk.h"
@@ -8,8 +9,10 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 
@@ -128,7 +131,10 @@ TEST_F(ShortcutsTest, chosenKeysHoldAtOnceAndAtTheNextStart)
 
 TEST_F(ShortcutsTest, theDialogTakesEffectAtOnce)
 {
-    SettingsDialog dialog(desk.context, *shortcuts, nullptr);
+    const proofreading::SpellingPlaces places{desk.folder.filePath(u"userdictionary.txt"_s), {}};
+    proofreading::ProofreadingService service(desk.context, places, nullptr);
+    service.addToDictionary(u"Thalos"_s);
+    SettingsDialog dialog(desk.context, *shortcuts, service, nullptr);
     const QSignalSpy pageStyle(&dialog, &SettingsDialog::pageStyleChanged);
     dialog.findChild<QSpinBox*>(u"autosaveInterval"_s)->setValue(120);
     dialog.findChild<QCheckBox*>(u"autosave"_s)->click();
@@ -140,6 +146,13 @@ TEST_F(ShortcutsTest, theDialogTakesEffectAtOnce)
     EXPECT_EQ(desk.themes.theme().name, u"Dark"_s);
     dialog.findChild<QCheckBox*>(u"reduceMotion"_s)->click();
     EXPECT_TRUE(theme::ThemeManager(desk.settings).isMotionReduced());
+    dialog.findChild<QCheckBox*>(u"marksStyle"_s)->click();
+    dialog.findChild<QCheckBox*>(u"rule.adverb"_s)->click();
+    EXPECT_TRUE(service.settings().marksStyle);
+    EXPECT_EQ(service.settings().disabledRules, QSet<QString>{u"adverb"_s});
+    dialog.findChild<QListWidget*>(u"userWords"_s)->selectAll();
+    dialog.findChild<QPushButton*>(u"removeWords"_s)->click();
+    EXPECT_TRUE(service.userWords().isEmpty());
     dialog.findChild<QSpinBox*>(u"pageWidth"_s)->setValue(80);
     EXPECT_EQ(pageStyle.size(), 1);
     EXPECT_EQ(manuscript::pageStyleFrom(desk.settings).columnCharacters, 80);

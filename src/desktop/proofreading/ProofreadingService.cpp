@@ -1,0 +1,301 @@
+#include "desktop/proofreading/ProofreadingService.h"
+
+#include "app/style/spelling/CodexWords.h"
+#include "app/style/spelling/HunspellSpellChecker.h"
+#include "core/entity/Entity.h"
+#include "desktop/manuscript/TypingBursts.h"
+#include "desktop/proofreading/EditorProofreader.h"
+#include "desktop/shell/Navigator.h"
+#include "desktop/shell/ProjectSession.h"
+
+#include <QLocale>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTextEdit>
+
+#include <algorithm>
+#include <chrono>
+
+namespace tw::desktop::proofreading {
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+using namespace app::style::spelling;
+
+namespace {
+
+/** Names are collected anew when the codex has been left alone for so long. */
+constexpr auto namesRest = 500ms;
+
+} // namespace
+
+SpellingPlaces usualSpellingPlaces()
+{
+    return {
+        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + u"/userdictionary.txt"_s,
+        dictionaryFolders()};
+}
+
+ProofreadingService::ProofreadingService(
+    const shell::DeskContext& desk, const SpellingPlaces& places, QObject* parent)
+    : QObject(parent)
+    , m_desk(desk)
+    , m_settings(proofreadingSettingsFrom(desk.settings))
+    , m_installed(installedDictionaries(places.dictionaryFolders))
+    , m_userDictionary(places.userDictionary)
+    , m_names(std::make_shared<WordSetSpellChecker>())
+{
+    m_pool.setMaxThreadCount(1);
+    m_systemLanguage = nearestLanguage(languages(), QLocale::system().name());
+    if (m_systemLanguage.isEmpty())
+        m_systemLanguage = nearestLanguage(languages(), QLocale().name());
+    m_namesRest.setSingleShot(true);
+    m_namesRest.setInterval(namesRest);
+    connect(&m_namesRest, &QTimer::timeout, this, &ProofreadingService::refreshNames);
+    connect(&desk.session, &shell::ProjectSession::changed, this, &ProofreadingService::followChanges);
+    say(m_userDictionary.load());
+    refreshNames();
+}
+
+ProofreadingService::~ProofreadingService()
+{
+    m_pool.waitForDone();
+}
+
+void ProofreadingService::attach(QTextEdit& editor, const core::ContentId& document)
+{
+    auto* const proofreader = new EditorProofreader(*this, editor, document);
+    m_editors.push_back(proofreader);
+    connect(
+        proofreader, &QObject::destroyed, this, [this, proofreader] { std::erase(m_editors, proofreader); });
+}
+
+EditorProofreader* ProofreadingService::proofreaderOf(const core::ContentId& document) const
+{
+    EditorProofreader* found = nullptr;
+    for (EditorProofreader* const each : m_editors) {
+        if (each->documentId() != document)
+            continue;
+        if (!found || each->editor().hasFocus() ||
+            (each->editor().isVisible() && !found->editor().hasFocus()))
+            found = each;
+    }
+    return found;
+}
+
+void ProofreadingService::popUpSuggestions()
+{
+    for (EditorProofreader* const each : m_editors) {
+        if (each->editor().hasFocus() && each->popUpSuggestions())
+            return;
+    }
+    m_desk.navigator.say(tr("There is nothing to suggest for the text at the cursor."));
+}
+
+void ProofreadingService::setSettings(const ProofreadingSettings& settings)
+{
+    if (settings == m_settings)
+        return;
+    m_settings = settings;
+    storeProofreadingSettings(m_desk.settings, settings);
+    dropChecks();
+}
+
+QStringList ProofreadingService::languages() const
+{
+    QStringList languages;
+    for (const Dictionary& dictionary : m_installed)
+        languages.append(dictionary.language);
+    return languages;
+}
+
+QStringList ProofreadingService::languagesOf(const core::ContentId& document) const
+{
+    const QStringList own = documentLanguages(m_desk.settings, document);
+    if (!own.isEmpty())
+        return own;
+    if (!m_settings.languages.isEmpty())
+        return m_settings.languages;
+    return m_systemLanguage.isEmpty() ? QStringList() : QStringList{m_systemLanguage};
+}
+
+bool ProofreadingService::hasLanguagesOfItsOwn(const core::ContentId& document) const
+{
+    return !documentLanguages(m_desk.settings, document).isEmpty();
+}
+
+void ProofreadingService::setLanguagesOf(const core::ContentId& document, const QStringList& languages)
+{
+    storeDocumentLanguages(m_desk.settings, document, languages);
+    dropChecks();
+}
+
+QString ProofreadingService::dictionaryFailure() const
+{
+    QStringList failures;
+    for (const auto& [language, dictionary] : m_dictionaries) {
+        if (!dictionary.failure.isEmpty())
+            failures.append(dictionary.failure);
+    }
+    return failures.join(u'\n');
+}
+
+std::shared_ptr<const ProseCheck> ProofreadingService::check(
+    const core::ContentId& document, CheckScope scope)
+{
+    const QStringList languages = languagesOf(document);
+    auto& check = m_checks[{languages.join(u' '), scope}];
+    if (check)
+        return check;
+    const bool isAll = scope == CheckScope::Everything;
+    QSet<QString> disabled = m_settings.disabledRules;
+    if (!isAll && !m_settings.marksStyle) {
+        for (const auto* rule : app::style::styleRules())
+            disabled.insert(rule->id());
+    }
+    check = std::make_shared<const ProseCheck>(
+        app::style::Proofreader(disabled),
+        Speller(isAll || m_settings.marksSpelling ? sourcesFor(languages) : SpellingSources()));
+    return check;
+}
+
+SpellingSources ProofreadingService::sourcesFor(const QStringList& languages)
+{
+    SpellingSources sources;
+    for (const QString& language : languages) {
+        const auto known = m_dictionaries.find(language);
+        if (known == m_dictionaries.end())
+            read(language);
+        else if (known->second.checker)
+            sources.languages.push_back(known->second.checker);
+    }
+    // While one of several is missing, its words would all be wrong.
+    if (std::ssize(sources.languages) < languages.size())
+        sources.languages.clear();
+    sources.ownWords = {m_userDictionary.checker(), m_names};
+    sources.skipsAllCapitals = m_settings.skipsAllCapitals;
+    return sources;
+}
+
+void ProofreadingService::read(const QString& language)
+{
+    ReadDictionary& entry = m_dictionaries[language];
+    const auto dictionary = std::ranges::find(m_installed, language, &Dictionary::language);
+    if (dictionary == m_installed.end()) {
+        entry.failure =
+            tr("The dictionary “%1” is not installed. Install it, or choose another language.").arg(language);
+        m_desk.navigator.say(entry.failure);
+        return;
+    }
+    m_pool.start([this, dictionary = *dictionary] {
+        const auto opened = HunspellSpellChecker::open(dictionary);
+        const ReadDictionary result{opened ? Checker(opened.value()) : Checker(), opened.message()};
+        QMetaObject::invokeMethod(
+            this, [this, language = dictionary.language, result] { finish(language, result); },
+            Qt::QueuedConnection);
+    });
+}
+
+void ProofreadingService::finish(const QString& language, const ReadDictionary& dictionary)
+{
+    m_dictionaries[language] = dictionary;
+    if (!dictionary.failure.isEmpty())
+        m_desk.navigator.say(dictionary.failure);
+    dropChecks();
+}
+
+void ProofreadingService::finishReading()
+{
+    m_pool.waitForDone();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+}
+
+const IgnoredFindings& ProofreadingService::ignored(const core::ContentId& document)
+{
+    auto known = m_ignored.find(document);
+    if (known == m_ignored.end())
+        known = m_ignored.insert(document, IgnoredFindings::of(m_desk.settings, document));
+    return known.value();
+}
+
+void ProofreadingService::ignore(const core::ContentId& document, ProblemKind kind, const QString& text)
+{
+    IgnoredFindings::add(m_desk.settings, document, kind, text);
+    m_ignored.remove(document);
+    emit ignoredChanged(document);
+}
+
+void ProofreadingService::restoreIgnored(const core::ContentId& document)
+{
+    IgnoredFindings::clear(m_desk.settings, document);
+    m_ignored.remove(document);
+    emit ignoredChanged(document);
+}
+
+void ProofreadingService::disableRule(ProblemKind kind)
+{
+    ProofreadingSettings settings = m_settings;
+    settings.disabledRules.insert(idOf(kind));
+    setSettings(settings);
+    m_desk.navigator.say(
+        tr("The rule “%1” is off. Settings, Proofreading turns it on again.").arg(titleOf(kind)));
+}
+
+void ProofreadingService::addToDictionary(const QString& word)
+{
+    say(m_userDictionary.add(word));
+    emit userWordsChanged();
+    dropChecks();
+}
+
+void ProofreadingService::removeFromDictionary(const QString& word)
+{
+    say(m_userDictionary.remove(word));
+    emit userWordsChanged();
+    dropChecks();
+}
+
+void ProofreadingService::asOneStep(
+    QTextEdit& editor, const QString& label, const std::function<void()>& edit)
+{
+    auto* const bursts = editor.findChild<manuscript::TypingBursts*>(QString(), Qt::FindDirectChildrenOnly);
+    if (bursts)
+        bursts->applyAsStep(label, edit);
+    else
+        edit();
+}
+
+void ProofreadingService::followChanges(const core::project::ProjectChanges& changes)
+{
+    if (changes.isEverything) {
+        m_ignored.clear();
+        refreshNames();
+        return;
+    }
+    const auto isEntity = [this](const core::ContentId& id) {
+        return m_desk.session.project().findAs<core::entity::Entity>(id) != nullptr;
+    };
+    if (!changes.removed.empty() || std::ranges::any_of(changes.added, isEntity) ||
+        std::ranges::any_of(changes.changed, isEntity))
+        m_namesRest.start();
+}
+
+void ProofreadingService::refreshNames()
+{
+    m_names = std::make_shared<WordSetSpellChecker>(codexWords(m_desk.session.project()));
+    dropChecks();
+}
+
+void ProofreadingService::dropChecks()
+{
+    m_checks.clear();
+    emit checksChanged();
+}
+
+void ProofreadingService::say(const core::Result<void>& result)
+{
+    if (!result)
+        m_desk.navigator.say(result.message());
+}
+
+} // namespace tw::desktop::proofreading

@@ -1,0 +1,139 @@
+#include "desktop/proofreading/ProofreadingFixture.h"
+
+#include "core/document/DocumentCommands.h"
+#include "core/entity/Entity.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QTest>
+
+namespace tw::desktop::proofreading {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using EditorProofreaderTest = test::ProofreadingFixture;
+
+QAction* actionNamed(const QMenu& menu, const QString& text)
+{
+    for (QAction* const action : menu.actions()) {
+        if (action->text() == text)
+            return action;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+TEST_F(EditorProofreaderTest, marksWhatIsWrongInEachParagraphAndNothingOfTheMarkup)
+{
+    open(u"The *shipp* sailed quickly\n\nthe the ship\n\n```\nshipp\n```\n\nat `dawnn` {.tw align=center}"_s);
+    EXPECT_EQ(
+        marked(), (QStringList{u"spelling: shipp"_s, u"adverb: quickly"_s, u"repeated-word: the the"_s}));
+}
+
+TEST_F(EditorProofreaderTest, putsASuggestionInAsOneNamedStep)
+{
+    open(u"They sailed **In order to** win"_s);
+    ASSERT_EQ(marked(), QStringList{u"wordiness: In order to"_s});
+    const auto place = proofreader().findingAt(15);
+    ASSERT_TRUE(place);
+    QMenu menu;
+    proofreader().fillMenu(menu, *place);
+    QAction* const suggestion = actionNamed(menu, u"To"_s);
+    ASSERT_TRUE(suggestion);
+    QTest::keyClicks(&page->editor(), u"X"_s);
+    proofreader().finishNow();
+    // The menu knows the place as it was: a text that has changed there stays as it is.
+    suggestion->trigger();
+    EXPECT_EQ(page->editor().toPlainText(), u"XThey sailed In order to win"_s);
+
+    QMenu fresh;
+    proofreader().fillMenu(fresh, *proofreader().findingAt(16));
+    actionNamed(fresh, u"To"_s)->trigger();
+    EXPECT_EQ(body(), u"XThey sailed **To** win"_s);
+    desk.session.undo();
+    EXPECT_EQ(body(), u"XThey sailed **In order to** win"_s);
+    desk.session.undo();
+    EXPECT_EQ(body(), u"They sailed **In order to** win"_s);
+}
+
+TEST_F(EditorProofreaderTest, ignoresARemarkInThisDocumentAlone)
+{
+    open(u"the shipp and the shipp"_s);
+    service->ignore(id, ProblemKind::Spelling, u"shipp"_s);
+    EXPECT_EQ(marked(), QStringList());
+    EXPECT_FALSE(service->ignored(core::ContentId::create()).contains(ProblemKind::Spelling, u"shipp"));
+    EXPECT_TRUE(IgnoredFindings::of(desk.settings, id).contains(ProblemKind::Spelling, u"shipp"));
+}
+
+TEST_F(EditorProofreaderTest, learnsWordsAndForgetsThem)
+{
+    open(u"the Thalos sailed"_s);
+    ASSERT_EQ(marked(), QStringList{u"spelling: Thalos"_s});
+    service->addToDictionary(u"Thalos"_s);
+    EXPECT_EQ(marked(), QStringList());
+    EXPECT_EQ(service->userWords(), QStringList{u"Thalos"_s});
+    service->removeFromDictionary(u"Thalos"_s);
+    EXPECT_EQ(marked(), QStringList{u"spelling: Thalos"_s});
+}
+
+TEST_F(EditorProofreaderTest, followsTheSettings)
+{
+    open(u"the shipp sailed quickly"_s);
+    ProofreadingSettings settings = service->settings();
+    settings.marksSpelling = false;
+    service->setSettings(settings);
+    EXPECT_EQ(marked(), QStringList{u"adverb: quickly"_s});
+    service->disableRule(ProblemKind::Adverb);
+    EXPECT_EQ(marked(), QStringList());
+    EXPECT_EQ(proofreadingSettingsFrom(desk.settings), service->settings());
+}
+
+TEST_F(EditorProofreaderTest, acceptsTheNamesOfTheCodex)
+{
+    desk.session.projectForCommands().add(std::make_unique<core::entity::Entity>(
+        core::ContentId::create(), core::CategoryId(), u"Maëlle Oduya"_s));
+    open(u"the Maëlle’s ship and Oduya"_s);
+    // The desk heard of her before the service did.
+    service = nullptr;
+    page = nullptr;
+    service = std::make_unique<ProofreadingService>(
+        desk.context,
+        SpellingPlaces{
+            desk.folder.filePath(u"userdictionary.txt"_s), {desk.folder.filePath(u"dictionaries"_s)}},
+        nullptr);
+    readDictionaries();
+    EXPECT_TRUE(service->check(id, CheckScope::Everything)->findings(u"the Maëlle’s ship and Oduya").empty());
+}
+
+TEST_F(EditorProofreaderTest, leavesTheWordUnderTheHandsUntilTheCursorIsGone)
+{
+    open(u"the ship"_s);
+    page->editor().setFocus();
+    page->editor().moveCursor(QTextCursor::End);
+    QTest::keyClicks(&page->editor(), u" saild"_s);
+    // It is found, and drawn as soon as the cursor stands elsewhere.
+    EXPECT_EQ(marked(), QStringList{u"spelling: saild"_s});
+    const QImage writing = page->editor().grab().toImage();
+    page->editor().moveCursor(QTextCursor::Start);
+    EXPECT_NE(page->editor().grab().toImage(), writing);
+}
+
+TEST_F(EditorProofreaderTest, saysWhichDictionaryIsMissingOrBroken)
+{
+    QStringList said;
+    QObject::connect(&desk.navigator, &shell::Navigator::said, service.get(), [&said](const QString& text) {
+        said.append(text);
+    });
+    open(u"the shipp"_s);
+    service->setLanguagesOf(id, {u"xx_YY"_s});
+    EXPECT_EQ(marked(), QStringList()) << "without its dictionary, no word is wrong";
+    ASSERT_EQ(said.size(), 1);
+    EXPECT_TRUE(said.front().contains(u"xx_YY"_s)) << qPrintable(said.front());
+    service->setLanguagesOf(id, {});
+    EXPECT_EQ(marked(), QStringList{u"spelling: shipp"_s});
+}
+
+} // namespace tw::desktop::proofreading
