@@ -145,6 +145,7 @@ void CompositionPage::followChanges(const core::project::ProjectChanges& changes
 void CompositionPage::prepare(SceneSlot& slot, BodyEditor& editor)
 {
     editor.installEventFilter(this);
+    emit editorMade(&editor, slot.documentId());
     connect(&editor, &QTextEdit::cursorPositionChanged, this, [this, &slot, &editor] {
         if (editor.hasFocus()) {
             setCurrentSlot(&slot);

@@ -46,6 +46,10 @@ public:
 
     [[nodiscard]] const std::vector<SceneSlot*>& slotsInOrder() const { return m_slots; }
 
+signals:
+    /** A document is about to be seen. */
+    void editorMade(tw::desktop::manuscript::BodyEditor* editor, const tw::core::ContentId& documentId);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

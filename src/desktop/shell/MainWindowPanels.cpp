@@ -48,7 +48,13 @@ void MainWindow::addPanels()
         });
     m_workArea->setViewFactory(
         composition::compositionView, [this](const core::ContentId& id, QWidget* parent) {
-            return new composition::CompositionPage(m_desk, id, parent);
+            auto* const page = new composition::CompositionPage(m_desk, id, parent);
+            connect(
+                page, &composition::CompositionPage::editorMade, m_proofreading,
+                [this](manuscript::BodyEditor* editor, const core::ContentId& documentId) {
+                    m_proofreading->attach(*editor, documentId);
+                });
+            return page;
         });
     m_workArea->setFactory(ContentKind::Entity, [this](const core::ContentId& id, QWidget* parent) {
         return new codex::EntityPage(m_desk, id, parent);
