@@ -94,7 +94,7 @@ void RichBody::readBack(BlockOrigin& origin)
         origin.setWords(core::document::countWords(origin.content.view()));
 }
 
-QString RichBody::gapBetween(const Unit& upper, const Unit& lower) const
+void RichBody::appendGap(QString& text, const Unit& upper, const Unit& lower) const
 {
     const BlockOrigin& above = upper.origin();
     const BlockOrigin& below = lower.origin();
@@ -103,12 +103,14 @@ QString RichBody::gapBetween(const Unit& upper, const Unit& lower) const
     };
     const bool areNeighbours = above.place >= 0 && below.place == above.place + 1;
     // However narrow a gap is, it parts the blocks that it was read between.
-    if (areNeighbours && isAsPlaced(above) && isAsPlaced(below))
-        return above.gap.view().toString();
+    if (areNeighbours && isAsPlaced(above) && isAsPlaced(below)) {
+        text += above.gap.view();
+        return;
+    }
     const int needed = above.isBlank()   ? 1
                        : below.isBlank() ? 2
                                          : markup::lineEndsBetween(above.kind, below.kind);
-    return m_lineEnd.repeated(needed);
+    text += m_lineEnd.repeated(needed);
 }
 
 const QString& RichBody::text()
@@ -133,7 +135,7 @@ const QString& RichBody::text()
         text += origin.content.view();
         const qsizetype gapStart = text.size();
         if (index + 1 < all.size())
-            text += gapBetween(all[index], all[index + 1]);
+            appendGap(text, all[index], all[index + 1]);
         else if (!origin.isBlank())
             text += m_tail;
         places.push_back({start, gapStart, text.size()});

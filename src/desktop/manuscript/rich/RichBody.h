@@ -59,7 +59,7 @@ private:
     BlockOrigin& originAt(const QTextBlock& block) const;
     void settle();
     void readBack(BlockOrigin& origin);
-    [[nodiscard]] QString gapBetween(const Unit& upper, const Unit& lower) const;
+    void appendGap(QString& text, const Unit& upper, const Unit& lower) const;
 
     void fill(const BodyUnits& target);
     [[nodiscard]] bool adjust(const BodyUnits& target);
