@@ -1,6 +1,5 @@
 #include "desktop/manuscript/rich/RichBody.h"
 
-#include "core/document/WordCount.h"
 #include "core/document/markup/BlockWriter.h"
 #include "desktop/manuscript/rich/BlockShape.h"
 #include "desktop/manuscript/rich/RichTextWriter.h"
@@ -23,7 +22,7 @@ BlockOrigin& RichBody::originAt(const QTextBlock& block) const
 {
     if (BlockOrigin* const origin = BlockOrigin::of(block))
         return *origin;
-    auto* const origin = new BlockOrigin(m_tally, block); // the block's
+    auto* const origin = new BlockOrigin(m_touched, block); // the block's
     QTextBlock(block).setUserData(origin);
     return *origin;
 }
@@ -51,10 +50,12 @@ void RichBody::noteChange(int position, int added)
     QTextBlock block = m_document.findBlock(position);
     const int end = position + added;
     for (; block.isValid() && block.position() <= end; block = block.next()) {
-        if (const auto* const table = QTextCursor(block).currentTable())
+        if (const auto* const table = QTextCursor(block).currentTable()) {
             touchTable(*table);
-        else
+            block = table->lastCursorPosition().block();
+        } else {
             originAt(block).touch();
+        }
     }
 }
 
@@ -71,7 +72,7 @@ void RichBody::touchTable(const QTextTable& table)
 
 void RichBody::settle()
 {
-    for (BlockOrigin* const origin : std::exchange(m_tally->touched, {})) {
+    for (BlockOrigin* const origin : std::exchange(*m_touched, {})) {
         origin->setTouched(false);
         readBack(*origin);
     }
@@ -88,10 +89,8 @@ void RichBody::readBack(BlockOrigin& origin)
         if (m_lineEnd.size() != 1 || m_lineEnd != QLatin1String("\n"))
             content.replace(QLatin1String("\n"), m_lineEnd);
         const qsizetype length = content.size();
-        origin.content = {std::move(content), 0, length};
+        origin.setContent({std::move(content), 0, length});
     }
-    if (m_isCounted)
-        origin.setWords(core::document::countWords(origin.content.view()));
 }
 
 void RichBody::appendGap(QString& text, const Unit& upper, const Unit& lower) const
@@ -155,12 +154,10 @@ const QString& RichBody::text()
 qint64 RichBody::words()
 {
     settle();
-    if (!m_isCounted) {
-        m_isCounted = true;
-        for (const Unit& unit : units())
-            unit.origin().setWords(core::document::countWords(unit.origin().content.view()));
-    }
-    return m_tally->words;
+    qint64 words = 0;
+    for (const Unit& unit : units())
+        words += unit.origin().words();
+    return words;
 }
 
 } // namespace tw::desktop::manuscript::rich

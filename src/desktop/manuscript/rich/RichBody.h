@@ -73,14 +73,13 @@ private:
 
     QTextDocument& m_document;
     const RichFormats& m_formats;
-    std::shared_ptr<BlockTally> m_tally = std::make_shared<BlockTally>();
+    std::shared_ptr<TouchedBlocks> m_touched = std::make_shared<TouchedBlocks>();
     QString m_text;
     QString m_lead;
     /** What follows the last block. */
     QString m_tail;
     QString m_lineEnd;
     bool m_isChanged = false;
-    bool m_isCounted = false;
 };
 
 } // namespace tw::desktop::manuscript::rich
