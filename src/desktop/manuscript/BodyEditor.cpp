@@ -35,8 +35,8 @@ qreal characterWidth(const QFont& font)
 }
 
 /**
- * Undo and redo are the project's, and letters with Ctrl mean what the menus say, also where text fields have a
- * habit of their own (as Ctrl+E, the end of the line).
+ * Undo and redo are the project's, and letters with Ctrl mean what the menus say, also where text fields have
+ * a habit of their own (as Ctrl+E, the end of the line).
  */
 bool isForMenus(const QKeyEvent& key)
 {

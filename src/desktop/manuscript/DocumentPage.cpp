@@ -65,13 +65,13 @@ DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId
     connect(&m_selectionRest, &QTimer::timeout, this, &DocumentPage::recountSelection);
     makeEditor(desk.settings.value(sourceKey).toBool() ? TextView::MarkdownSource : TextView::Rich);
     connect(&desk.session, &shell::ProjectSession::changed, this, &DocumentPage::followChanges);
+    connect(&desk.session, &shell::ProjectSession::aboutToSave, this, &DocumentPage::rememberPlace);
     showLock();
     showNotes();
 }
 
 DocumentPage::~DocumentPage()
 {
-    rememberPlace();
     // The editor loses the focus while it dies; nobody is left to hear of it.
     m_editor->blockSignals(true);
 }

@@ -135,6 +135,7 @@ void TextActions::fillBar(QToolBar& bar)
         Q_UNREACHABLE();
     };
     m_styleButton = new QToolButton(&bar);
+    m_styleButton->setObjectName(u"paragraphStyle"_s);
     m_styleButton->setMenu(m_paragraphStyles);
     m_styleButton->setPopupMode(QToolButton::InstantPopup);
     m_styleButton->setToolButtonStyle(Qt::ToolButtonTextOnly);

@@ -71,7 +71,8 @@ std::optional<FoundPlace> TextFinder::findFrom(const QTextDocument& document, in
 std::optional<FoundPlace> TextFinder::findBefore(const QTextDocument& document, int position) const
 {
     std::optional<FoundPlace> found;
-    for (QTextBlock block = document.findBlock(position); block.isValid() && !found;
+    QTextBlock block = document.findBlock(position);
+    for (block = block.isValid() ? block : document.lastBlock(); block.isValid() && !found;
          block = block.previous()) {
         eachIn(block, [&](const FoundPlace& place) {
             if (place.position < position)

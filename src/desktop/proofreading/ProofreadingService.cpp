@@ -46,9 +46,12 @@ ProofreadingService::ProofreadingService(
     , m_names(std::make_shared<WordSetSpellChecker>())
 {
     m_pool.setMaxThreadCount(1);
-    m_systemLanguage = nearestLanguage(languages(), QLocale::system().name());
-    if (m_systemLanguage.isEmpty())
-        m_systemLanguage = nearestLanguage(languages(), QLocale().name());
+    // A system without a language speaks as the program does, which is English where nobody chose another.
+    for (const QLocale& locale : {QLocale::system(), QLocale()}) {
+        const bool isNone = locale.language() == QLocale::C;
+        if (m_systemLanguage.isEmpty())
+            m_systemLanguage = nearestLanguage(languages(), isNone ? u"en"_s : locale.name());
+    }
     m_namesRest.setSingleShot(true);
     m_namesRest.setInterval(namesRest);
     connect(&m_namesRest, &QTimer::timeout, this, &ProofreadingService::refreshNames);

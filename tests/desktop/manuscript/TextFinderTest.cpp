@@ -110,6 +110,7 @@ TEST(ReadingPlacesTest, aPageOpensWhereItWasLeft)
         page.editor().setTextCursor(page.editor().document()->find(u"Paragraph 70"_s));
         page.editor().ensureCursorVisible();
         top = page.editor().cursorRect().top();
+        page.hide();
     }
     DocumentPage page(desk.context, id, nullptr);
     page.resize(800, 600);

@@ -1,17 +1,18 @@
 #include "desktop/manuscript/rich/BlockOrigin.h"
 
+#include "core/document/WordCount.h"
+
 namespace tw::desktop::manuscript::rich {
 
-BlockOrigin::BlockOrigin(std::shared_ptr<BlockTally> tally, QTextBlock block)
-    : m_tally(std::move(tally))
+BlockOrigin::BlockOrigin(std::shared_ptr<TouchedBlocks> touched, QTextBlock block)
+    : m_touched(std::move(touched))
     , m_block(std::move(block))
 {}
 
 BlockOrigin::~BlockOrigin()
 {
-    m_tally->words -= m_words;
     if (m_isTouched)
-        m_tally->touched.erase(this);
+        m_touched->erase(this);
 }
 
 void BlockOrigin::touch()
@@ -19,7 +20,20 @@ void BlockOrigin::touch()
     if (m_isTouched)
         return;
     m_isTouched = true;
-    m_tally->touched.insert(this);
+    m_touched->insert(this);
+}
+
+qint64 BlockOrigin::words()
+{
+    if (m_words < 0)
+        m_words = core::document::countWords(content.view());
+    return m_words;
+}
+
+void BlockOrigin::setContent(SourcePiece piece)
+{
+    content = std::move(piece);
+    m_words = -1;
 }
 
 bool BlockOrigin::isBlank() const

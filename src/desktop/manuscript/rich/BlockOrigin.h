@@ -22,12 +22,8 @@ struct SourcePiece
     [[nodiscard]] QStringView view() const { return QStringView(body).mid(start, length); }
 };
 
-/** What all blocks of one text document add up to, and which of them wait to be read back. */
-struct BlockTally
-{
-    qint64 words = 0;
-    std::unordered_set<BlockOrigin*> touched = {};
-};
+/** The blocks of one text document that wait to be read back. */
+using TouchedBlocks = std::unordered_set<BlockOrigin*>;
 
 /**
  * Where a block of the text document comes from: the bytes it was read from, which are what it is written as
@@ -36,7 +32,7 @@ struct BlockTally
 class BlockOrigin final : public QTextBlockUserData
 {
 public:
-    BlockOrigin(std::shared_ptr<BlockTally> tally, QTextBlock block);
+    BlockOrigin(std::shared_ptr<TouchedBlocks> touched, QTextBlock block);
     ~BlockOrigin() override;
 
     BlockOrigin(const BlockOrigin&) = delete;
@@ -53,8 +49,10 @@ public:
     void setTouched(bool isTouched) { m_isTouched = isTouched; }
     [[nodiscard]] bool isTouched() const { return m_isTouched; }
 
-    [[nodiscard]] qint64 words() const { return m_words; }
-    void setWords(qint64 words);
+    /** Of the content; counted once. */
+    [[nodiscard]] qint64 words();
+    /** Other bytes than before. */
+    void setContent(SourcePiece piece);
 
     /** A paragraph without anything in it, which a blank line stands for. */
     [[nodiscard]] bool isBlank() const;
@@ -76,9 +74,10 @@ public:
     bool isFiller = false;
 
 private:
-    std::shared_ptr<BlockTally> m_tally;
+    std::shared_ptr<TouchedBlocks> m_touched;
     QTextBlock m_block;
-    qint64 m_words = 0;
+    /** -1 until counted. */
+    qint64 m_words = -1;
     bool m_isTouched = false;
 };
 

@@ -1,6 +1,5 @@
 #include "desktop/manuscript/rich/RichBody.h"
 
-#include "core/document/WordCount.h"
 #include "core/document/markup/BlockWriter.h"
 #include "desktop/manuscript/rich/BlockShape.h"
 #include "desktop/manuscript/rich/RichTextWriter.h"
@@ -23,7 +22,7 @@ BlockOrigin& RichBody::originAt(const QTextBlock& block) const
 {
     if (BlockOrigin* const origin = BlockOrigin::of(block))
         return *origin;
-    auto* const origin = new BlockOrigin(m_tally, block); // the block's
+    auto* const origin = new BlockOrigin(m_touched, block); // the block's
     QTextBlock(block).setUserData(origin);
     return *origin;
 }
@@ -51,10 +50,12 @@ void RichBody::noteChange(int position, int added)
     QTextBlock block = m_document.findBlock(position);
     const int end = position + added;
     for (; block.isValid() && block.position() <= end; block = block.next()) {
-        if (const auto* const table = QTextCursor(block).currentTable())
+        if (const auto* const table = QTextCursor(block).currentTable()) {
             touchTable(*table);
-        else
+            block = table->lastCursorPosition().block();
+        } else {
             originAt(block).touch();
+        }
     }
 }
 
@@ -71,7 +72,7 @@ void RichBody::touchTable(const QTextTable& table)
 
 void RichBody::settle()
 {
-    for (BlockOrigin* const origin : std::exchange(m_tally->touched, {})) {
+    for (BlockOrigin* const origin : std::exchange(*m_touched, {})) {
         origin->setTouched(false);
         readBack(*origin);
     }
@@ -88,13 +89,11 @@ void RichBody::readBack(BlockOrigin& origin)
         if (m_lineEnd.size() != 1 || m_lineEnd != QLatin1String("\n"))
             content.replace(QLatin1String("\n"), m_lineEnd);
         const qsizetype length = content.size();
-        origin.content = {std::move(content), 0, length};
+        origin.setContent({std::move(content), 0, length});
     }
-    if (m_isCounted)
-        origin.setWords(core::document::countWords(origin.content.view()));
 }
 
-QString RichBody::gapBetween(const Unit& upper, const Unit& lower) const
+void RichBody::appendGap(QString& text, const Unit& upper, const Unit& lower) const
 {
     const BlockOrigin& above = upper.origin();
     const BlockOrigin& below = lower.origin();
@@ -103,12 +102,14 @@ QString RichBody::gapBetween(const Unit& upper, const Unit& lower) const
     };
     const bool areNeighbours = above.place >= 0 && below.place == above.place + 1;
     // However narrow a gap is, it parts the blocks that it was read between.
-    if (areNeighbours && isAsPlaced(above) && isAsPlaced(below))
-        return above.gap.view().toString();
+    if (areNeighbours && isAsPlaced(above) && isAsPlaced(below)) {
+        text += above.gap.view();
+        return;
+    }
     const int needed = above.isBlank()   ? 1
                        : below.isBlank() ? 2
                                          : markup::lineEndsBetween(above.kind, below.kind);
-    return m_lineEnd.repeated(needed);
+    text += m_lineEnd.repeated(needed);
 }
 
 const QString& RichBody::text()
@@ -133,7 +134,7 @@ const QString& RichBody::text()
         text += origin.content.view();
         const qsizetype gapStart = text.size();
         if (index + 1 < all.size())
-            text += gapBetween(all[index], all[index + 1]);
+            appendGap(text, all[index], all[index + 1]);
         else if (!origin.isBlank())
             text += m_tail;
         places.push_back({start, gapStart, text.size()});
@@ -153,12 +154,10 @@ const QString& RichBody::text()
 qint64 RichBody::words()
 {
     settle();
-    if (!m_isCounted) {
-        m_isCounted = true;
-        for (const Unit& unit : units())
-            unit.origin().setWords(core::document::countWords(unit.origin().content.view()));
-    }
-    return m_tally->words;
+    qint64 words = 0;
+    for (const Unit& unit : units())
+        words += unit.origin().words();
+    return words;
 }
 
 } // namespace tw::desktop::manuscript::rich

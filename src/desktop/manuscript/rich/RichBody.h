@@ -59,7 +59,7 @@ private:
     BlockOrigin& originAt(const QTextBlock& block) const;
     void settle();
     void readBack(BlockOrigin& origin);
-    [[nodiscard]] QString gapBetween(const Unit& upper, const Unit& lower) const;
+    void appendGap(QString& text, const Unit& upper, const Unit& lower) const;
 
     void fill(const BodyUnits& target);
     [[nodiscard]] bool adjust(const BodyUnits& target);
@@ -73,14 +73,13 @@ private:
 
     QTextDocument& m_document;
     const RichFormats& m_formats;
-    std::shared_ptr<BlockTally> m_tally = std::make_shared<BlockTally>();
+    std::shared_ptr<TouchedBlocks> m_touched = std::make_shared<TouchedBlocks>();
     QString m_text;
     QString m_lead;
     /** What follows the last block. */
     QString m_tail;
     QString m_lineEnd;
     bool m_isChanged = false;
-    bool m_isCounted = false;
 };
 
 } // namespace tw::desktop::manuscript::rich

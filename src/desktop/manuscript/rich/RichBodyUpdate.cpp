@@ -1,6 +1,5 @@
 #include "desktop/manuscript/rich/RichBody.h"
 
-#include "core/document/WordCount.h"
 #include "desktop/manuscript/rich/ParagraphChange.h"
 #include "desktop/manuscript/rich/RichFormats.h"
 #include "desktop/manuscript/rich/RichTextReader.h"
@@ -197,14 +196,14 @@ void RichBody::setOrigins(const BodyUnits& target)
 void RichBody::setOrigin(const QTextBlock& block, const BodyUnit& unit, int place)
 {
     BlockOrigin& origin = originAt(block);
-    const bool isSame = m_isCounted && origin.content.view() == unit.content.view();
-    origin.content = unit.content;
+    if (origin.content.view() == unit.content.view())
+        origin.content = unit.content;
+    else
+        origin.setContent(unit.content);
     origin.gap = unit.gap;
     origin.kind = unit.block.kind;
     origin.setPlace(place);
     origin.isFiller = false;
-    if (m_isCounted && !isSame)
-        origin.setWords(core::document::countWords(unit.content.view()));
 }
 
 void RichBody::restyle()

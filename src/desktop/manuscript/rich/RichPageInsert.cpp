@@ -220,9 +220,19 @@ void RichPage::editTable(TableEdit edit, const QString& label)
                                 (edit == TableEdit::RemoveRow && table->rows() == 1) ||
                                 (edit == TableEdit::RemoveColumn && table->columns() == 1);
         if (removesAll) {
+            const QTextBlock next = document()->findBlock(table->lastPosition() + 1);
+            const QTextBlockFormat nextFormat = next.blockFormat();
+            const QTextCharFormat nextText = next.charFormat();
             cursor.setPosition(table->firstPosition() - 1);
             cursor.setPosition(table->lastPosition() + 1, QTextCursor::KeepAnchor);
             cursor.removeSelectedText();
+            // The table parted two paragraphs, which stay two.
+            if (cursor.atBlockStart()) {
+                cursor.setBlockFormat(nextFormat);
+                cursor.setBlockCharFormat(nextText);
+            } else if (!cursor.atBlockEnd()) {
+                cursor.insertBlock(nextFormat, nextText);
+            }
             return;
         }
         switch (edit) {

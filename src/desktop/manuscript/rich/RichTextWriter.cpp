@@ -2,6 +2,7 @@
 
 #include "core/document/markup/InlineWriter.h"
 #include "desktop/manuscript/rich/BlockShape.h"
+#include "desktop/manuscript/rich/RichTextReader.h"
 
 #include <QTextTable>
 
@@ -109,7 +110,7 @@ bool isSameTable(const markup::Table& left, const markup::Table& right)
         return column < table.rows[row].size() ? canonicalInline(table.rows[row][column])
                                                : std::vector<Run>();
     };
-    if (left.rows.size() != right.rows.size())
+    if (left.rows.size() != right.rows.size() || columnCount(left) != columnCount(right))
         return false;
     const std::size_t columns = std::max(left.columns.size(), right.columns.size());
     for (std::size_t column = 0; column < columns; ++column) {

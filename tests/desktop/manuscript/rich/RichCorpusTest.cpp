@@ -20,6 +20,8 @@ struct Shown
     {
         formats.setLook(theme::builtInThemes().front(), {}, 100);
         document.setUndoRedoEnabled(false);
+        // Only a document with a layout says what changes.
+        static_cast<void>(document.documentLayout());
         QObject::connect(&document, &QTextDocument::contentsChange, [this](int position, int, int added) {
             if (!isApplying)
                 body.noteChange(position, added);
