@@ -48,7 +48,7 @@ QStringList EntityNames::completions(const QString& text, qsizetype most) const
         const qsizetype place = name.text.indexOf(text, 0, Qt::CaseInsensitive);
         if (place == 0)
             beginning.append(name.text);
-        else if (place > 0)
+        else if (place > 0 && !name.text[place - 1].isLetterOrNumber())
             containing.append(name.text);
     }
     for (QStringList* const list : {&beginning, &containing}) {

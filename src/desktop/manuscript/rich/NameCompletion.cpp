@@ -18,6 +18,7 @@ NameCompletion::NameCompletion(QWidget* parent)
     : QListWidget(parent)
 {
     setWindowFlags(Qt::ToolTip);
+    setObjectName(QStringLiteral("nameCompletion"));
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setUniformItemSizes(true);

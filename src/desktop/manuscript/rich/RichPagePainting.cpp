@@ -123,7 +123,8 @@ void RichPage::paintMarker(
                            : shape.kind == BlockKind::NumberedItem ? shape.marker
                                                                    : shape.label;
     painter.setFont(document()->defaultFont());
-    painter.setPen(themes().theme().color(Role::QuietInk));
+    const bool isQuiet = m_isFocusedOnParagraph && block != textCursor().block();
+    painter.setPen(themes().theme().color(isQuiet ? Role::FaintInk : Role::QuietInk));
     const QFontMetricsF metrics(painter.font());
     const qreal gap = markerGap * m_formats.em();
     const qreal x =
