@@ -28,8 +28,6 @@ struct Problem
     /** The words it is about, and a few of those around them. */
     QString text;
     QString context;
-    /** Where `text` begins in `context`. */
-    qsizetype textStart = 0;
     /** Which one of its category with this text in its object, from 0. */
     int ordinal = 0;
 

@@ -220,10 +220,8 @@ bool EditorProofreader::popUpSuggestions()
 
 bool EditorProofreader::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Show || event->type() == QEvent::Resize || event->type() == QEvent::Wheel) {
-        if (m_findings.nextExpired() >= 0 && !m_rest.isActive())
-            m_slice.start(0ms);
-    }
+    if (event->type() == QEvent::Show && m_findings.nextExpired() >= 0)
+        m_slice.start(0ms);
     if (event->type() != QEvent::ContextMenu)
         return QObject::eventFilter(watched, event);
     const auto* const asked = static_cast<QContextMenuEvent*>(event);

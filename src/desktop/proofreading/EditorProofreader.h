@@ -8,7 +8,6 @@
 
 #include <optional>
 
-class QDeadlineTimer;
 class QMenu;
 class QTextEdit;
 

@@ -27,6 +27,17 @@ namespace {
 /** Names are collected anew when the codex has been left alone for so long. */
 constexpr auto namesRest = 500ms;
 
+/** The dictionary for who has chosen none; empty when none fits. */
+QString systemLanguage(const QStringList& installed)
+{
+    const QString language = nearestLanguage(installed, QLocale::system().name());
+    if (!language.isEmpty())
+        return language;
+    // A system without a language speaks as the program does, which is English where nobody chose another.
+    const QLocale interface;
+    return nearestLanguage(installed, interface.language() == QLocale::C ? u"en"_s : interface.name());
+}
+
 } // namespace
 
 SpellingPlaces usualSpellingPlaces()
@@ -46,9 +57,7 @@ ProofreadingService::ProofreadingService(
     , m_names(std::make_shared<WordSetSpellChecker>())
 {
     m_pool.setMaxThreadCount(1);
-    m_systemLanguage = nearestLanguage(languages(), QLocale::system().name());
-    if (m_systemLanguage.isEmpty())
-        m_systemLanguage = nearestLanguage(languages(), QLocale().name());
+    m_systemLanguage = systemLanguage(languages());
     m_namesRest.setSingleShot(true);
     m_namesRest.setInterval(namesRest);
     connect(&m_namesRest, &QTimer::timeout, this, &ProofreadingService::refreshNames);

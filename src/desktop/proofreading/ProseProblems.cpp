@@ -13,6 +13,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
+#include <utility>
 
 namespace tw::desktop::proofreading {
 
@@ -53,7 +55,6 @@ Problem describe(const ProseFinding& finding, QStringView paragraph)
     problem.message = finding.message;
     problem.text = paragraph.sliced(finding.start, finding.length).toString();
     problem.context = before + paragraph.sliced(from, to - from).toString() + after;
-    problem.textStart = before.size() + finding.start - from;
     return problem;
 }
 

@@ -141,8 +141,11 @@ void DockLayout::placeAll()
                 continue;
             group = group ? m_manager->addDockWidgetTabToArea(panel.dock, group)
                           : m_manager->addDockWidget(areaOf(place), panel.dock);
-            panel.dock->toggleView(panel.spec.isShownAtFirst);
-            if (panel.spec.isShownAtFirst && !first)
+            // A dock that was closed before would leave its new group on the screen, empty.
+            panel.dock->toggleView(true);
+            if (!panel.spec.isShownAtFirst)
+                panel.dock->toggleView(false);
+            else if (!first)
                 first = panel.dock;
         }
         if (first)
