@@ -34,6 +34,21 @@ qreal characterWidth(const QFont& font)
     return QFontMetricsF(font).horizontalAdvance(text) / static_cast<qreal>(text.size());
 }
 
+/**
+ * Undo and redo are the project's, and letters with Ctrl mean what the menus say, also where text fields have a
+ * habit of their own (as Ctrl+E, the end of the line).
+ */
+bool isForMenus(const QKeyEvent& key)
+{
+    if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo))
+        return true;
+    const bool isClipboard = key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Cut) ||
+                             key.matches(QKeySequence::Paste) || key.matches(QKeySequence::SelectAll);
+    const bool isSign = key.key() > Qt::Key_Space && key.key() <= Qt::Key_ydiaeresis;
+    return isSign && !isClipboard && key.modifiers().testFlag(Qt::ControlModifier) &&
+           !key.modifiers().testFlag(Qt::AltModifier);
+}
+
 } // namespace
 
 BodyEditor::BodyEditor(theme::ThemeManager& themes, QWidget* parent)
@@ -192,13 +207,9 @@ void BodyEditor::paintSheet(QPainter&, const QRect&) {}
 
 bool BodyEditor::event(QEvent* event)
 {
-    // Undo and redo are the project's: the menu's shortcuts must reach it.
-    if (event->type() == QEvent::ShortcutOverride) {
-        auto* const key = static_cast<QKeyEvent*>(event);
-        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
-            event->ignore();
-            return false;
-        }
+    if (event->type() == QEvent::ShortcutOverride && isForMenus(*static_cast<QKeyEvent*>(event))) {
+        event->ignore();
+        return false;
     }
     return QTextEdit::event(event);
 }

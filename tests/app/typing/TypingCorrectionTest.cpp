@@ -56,7 +56,7 @@ TEST(TypingCorrectionTest, setsWhatIsTypedAsATypesetterWould)
     };
     for (const auto& sample : cases)
         EXPECT_EQ(typed(sample.keys, all(sample.language)), QString::fromUtf16(sample.text))
-            << sample.language;
+            << QString::fromUtf16(sample.language).toStdString();
 }
 
 TEST(TypingCorrectionTest, leavesAloneWhatIsSwitchedOff)

@@ -27,6 +27,14 @@ bool BlockOrigin::isBlank() const
     return kind == core::document::markup::BlockKind::Paragraph && content.view().trimmed().isEmpty();
 }
 
+QStringView BlockOrigin::source() const
+{
+    const bool isOnePiece =
+        content.body.constData() == gap.body.constData() && gap.start == content.start + content.length;
+    return isOnePiece ? QStringView(content.body).mid(content.start, content.length + gap.length)
+                      : content.view();
+}
+
 void BlockOrigin::setPlace(int newPlace)
 {
     place = newPlace;

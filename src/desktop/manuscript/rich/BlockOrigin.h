@@ -58,6 +58,8 @@ public:
 
     /** A paragraph without anything in it, which a blank line stands for. */
     [[nodiscard]] bool isBlank() const;
+    /** The content with the gap behind it, where both still are as they were read. */
+    [[nodiscard]] QStringView source() const;
     /** The block stands there in the body now. */
     void setPlace(int newPlace);
 

@@ -61,7 +61,12 @@ void RichBody::noteChange(int position, int added)
 void RichBody::touchTable(const QTextTable& table)
 {
     m_isChanged = true;
-    originAt(table.cellAt(0, 0).firstCursorPosition().block()).touch();
+    const QTextBlock first = table.cellAt(0, 0).firstCursorPosition().block();
+    originAt(first).touch();
+    // A block that a table was inserted into may have become one of its cells, origin and all.
+    const QTextBlock last = table.lastCursorPosition().block();
+    for (QTextBlock block = first; block != last; block = block.next())
+        block.next().setUserData(nullptr);
 }
 
 void RichBody::settle()
@@ -78,7 +83,7 @@ void RichBody::readBack(BlockOrigin& origin)
     const markup::Block block = table ? writeTable(*table) : writeParagraph(origin.block());
     origin.kind = block.kind;
     // However it is written, what says the same stays as it is.
-    if (origin.place < 0 || !saysTheSame(block, origin.content.view())) {
+    if (origin.place < 0 || !saysTheSame(block, origin.source())) {
         QString content = markup::writeBlock(block);
         if (m_lineEnd.size() != 1 || m_lineEnd != QLatin1String("\n"))
             content.replace(QLatin1String("\n"), m_lineEnd);

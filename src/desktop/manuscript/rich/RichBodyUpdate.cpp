@@ -145,6 +145,7 @@ void RichBody::fill(const BodyUnits& target)
     QTextCursor cursor(&m_document);
     cursor.select(QTextCursor::Document);
     cursor.removeSelectedText();
+    m_document.firstBlock().setUserData(nullptr);
     bool isBlockFree = true;
     for (const BodyUnit& unit : target.list) {
         if (isTable(unit)) {

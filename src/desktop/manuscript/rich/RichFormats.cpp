@@ -27,6 +27,7 @@ constexpr qreal paragraphGap = 0.7;
 constexpr qreal headingGapAbove = 1.5;
 constexpr qreal headingGapBelow = 0.5;
 constexpr qreal ruleGap = 0.9;
+constexpr qreal codeGap = 1.0;
 constexpr qreal itemGap = 0.2;
 constexpr qreal step = 1.7;
 constexpr qreal pageBreakGap = 2.6;
@@ -113,6 +114,7 @@ QTextBlockFormat RichFormats::block(const BlockShape& shape) const
     qreal left = shape.attributes.indent * step;
     switch (shape.kind) {
     case BlockKind::Paragraph:
+        above = below;
         if (m_style.hasFirstLineIndents && shape.attributes.align != "center"_L1)
             format.setTextIndent(firstLineIndent * m_em);
         break;
@@ -136,7 +138,7 @@ QTextBlockFormat RichFormats::block(const BlockShape& shape) const
         break;
     case BlockKind::Code:
         left += step / 2;
-        above = below = paragraphGap;
+        above = below = codeGap;
         format.setRightMargin(step / 2 * m_em);
         lineHeight *= headingLineHeight / m_style.lineHeight;
         break;

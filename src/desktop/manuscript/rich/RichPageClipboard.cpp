@@ -94,16 +94,16 @@ QString RichPage::selectedMarkdown() const
 
 QMimeData* RichPage::createMimeDataFromSelection() const
 {
-    auto* const data = new QMimeData; // the clipboard's
+    auto* const taken = new QMimeData; // the clipboard's
     const QString markdown = selectedMarkdown();
-    data->setData(markdownType, markdown.toUtf8());
-    data->setHtml(markup::renderHtml(markdown));
+    taken->setData(markdownType, markdown.toUtf8());
+    taken->setHtml(markup::renderHtml(markdown));
     QString text = textCursor().selectedText();
     text.replace(QChar::ParagraphSeparator, u'\n');
     text.replace(QChar::LineSeparator, u'\n');
     text.remove(QChar::ObjectReplacementCharacter);
-    data->setText(text);
-    return data;
+    taken->setText(text);
+    return taken;
 }
 
 bool RichPage::canInsertFromMimeData(const QMimeData* source) const

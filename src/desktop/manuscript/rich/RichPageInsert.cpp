@@ -75,6 +75,11 @@ void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& block
             isBlockFree = true;
             cursor.setBlockFormat(m_formats.block({}));
             cursor.setBlockCharFormat(m_formats.text({}, {}));
+            // What follows already needs no empty paragraph before it.
+            const QTextBlock next = cursor.block().next();
+            const bool isLast = &block == &blocks.back();
+            if (isLast && !hasTail && next.isValid() && kindOf(next.blockFormat()) != BlockKind::Table)
+                cursor.deleteChar();
         } else if (isFirst && !isBlockFree && isPlain(block)) {
             insertPieces(cursor, readRuns(markup::parseInline(block.text), shape, m_formats));
         } else {

@@ -93,7 +93,7 @@ void RichPage::setMentionsShown(bool areShown)
 void RichPage::paintMentions(QPainter& painter, const QTextBlock& block, const QRectF& rect) const
 {
     const QTextLayout* const layout = block.layout();
-    const QPointF offset = rect.topLeft() - layout->boundingRect().topLeft();
+    const QPointF offset = rect.topLeft();
     painter.setPen(QPen(themes().theme().color(theme::Role::Border), 1, Qt::DotLine));
     for (const NameMatch& match : m_names->matcher().find(block.text())) {
         const auto end = static_cast<int>(match.start + match.length);

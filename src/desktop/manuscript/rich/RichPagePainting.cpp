@@ -117,7 +117,7 @@ void RichPage::paintMarker(
     if (layout->lineCount() == 0)
         return;
     const QTextLine line = layout->lineAt(0);
-    const QPointF offset = rect.topLeft() - layout->boundingRect().topLeft();
+    const QPointF offset = rect.topLeft();
     const bool isRightToLeft = block.textDirection() == Qt::RightToLeft;
     const QString marker = shape.kind == BlockKind::BulletItem     ? bullet(shape.level)
                            : shape.kind == BlockKind::NumberedItem ? shape.marker

@@ -16,10 +16,10 @@ TEST_F(RichPageTest, everyCommandIsOneNamedStep)
 {
     using Edit = std::function<void(RichPage&)>;
     const auto block = [](auto change) -> Edit {
-        return [change](RichPage& page) { page.changeBlocks(u"Step"_s, change); };
+        return [change](RichPage& written) { written.changeBlocks(u"Step"_s, change); };
     };
     const auto text = [](auto change) -> Edit {
-        return [change](RichPage& page) { page.changeStyle(u"Step"_s, change); };
+        return [change](RichPage& written) { written.changeStyle(u"Step"_s, change); };
     };
     const struct
     {
@@ -28,19 +28,20 @@ TEST_F(RichPageTest, everyCommandIsOneNamedStep)
         Edit edit;
         const char16_t* after;
     } cases[] = {
-        {u"a word b", u"word", [](RichPage& page) { page.toggleStyle(TextToggle::Bold, u"Step"_s); },
+        {u"a word b", u"word", [](RichPage& written) { written.toggleStyle(TextToggle::Bold, u"Step"_s); },
          u"a **word** b"},
-        {u"a **word** b", u"word", [](RichPage& page) { page.toggleStyle(TextToggle::Bold, u"Step"_s); },
-         u"a word b"},
-        {u"a *word* b", u"a word", [](RichPage& page) { page.toggleStyle(TextToggle::Italic, u"Step"_s); },
-         u"*a word* b"},
-        {u"a word b", u"word", [](RichPage& page) { page.toggleStyle(TextToggle::Underline, u"Step"_s); },
+        {u"a **word** b", u"word",
+         [](RichPage& written) { written.toggleStyle(TextToggle::Bold, u"Step"_s); }, u"a word b"},
+        {u"a *word* b", u"a word",
+         [](RichPage& written) { written.toggleStyle(TextToggle::Italic, u"Step"_s); }, u"*a word* b"},
+        {u"a word b", u"word",
+         [](RichPage& written) { written.toggleStyle(TextToggle::Underline, u"Step"_s); },
          u"a [word]{.tw u} b"},
         {u"a word b", u"word", text([](markup::RunStyle& style) { style.attributes.color = u"#c00000"_s; }),
          u"a [word]{.tw color=#c00000} b"},
-        {u"H2O", u"2", [](RichPage& page) { page.toggleStyle(TextToggle::Subscript, u"Step"_s); },
+        {u"H2O", u"2", [](RichPage& written) { written.toggleStyle(TextToggle::Subscript, u"Step"_s); },
          u"H[2]{.tw sub}O"},
-        {u"a word b", u"word", [](RichPage& page) { page.setLink(u"https://example.org/"_s); },
+        {u"a word b", u"word", [](RichPage& written) { written.setLink(u"https://example.org/"_s); },
          u"a [word](https://example.org/) b"},
         {u"one\n\ntwo", u"two", block([](BlockShape& shape) { shape.attributes.align = u"center"_s; }),
          u"one\n\ntwo {.tw align=center}"},
@@ -52,15 +53,16 @@ TEST_F(RichPageTest, everyCommandIsOneNamedStep)
          }),
          u"one\n\n### two"},
         {u"one\n\ntwo", u"two",
-         [](RichPage& page) {
-             page.selectAll();
-             page.toggleList(BlockKind::NumberedItem, u"Step"_s);
+         [](RichPage& written) {
+             written.selectAll();
+             written.toggleList(BlockKind::NumberedItem, u"Step"_s);
          },
          u"1. one\n2. two"},
-        {u"- one\n- two", u"two", [](RichPage& page) { page.toggleList(BlockKind::BulletItem, u"Step"_s); },
-         u"- one\n\ntwo"},
-        {u"- one\n- two", u"two", [](RichPage& page) { page.indentBlocks(1); }, u"- one\n    - two"},
-        {u"one\n\ntwo", u"two", [](RichPage& page) { page.indentBlocks(1); }, u"one\n\ntwo {.tw indent=1}"},
+        {u"- one\n- two", u"two",
+         [](RichPage& written) { written.toggleList(BlockKind::BulletItem, u"Step"_s); }, u"- one\n\ntwo"},
+        {u"- one\n- two", u"two", [](RichPage& written) { written.indentBlocks(1); }, u"- one\n    - two"},
+        {u"one\n\ntwo", u"two", [](RichPage& written) { written.indentBlocks(1); },
+         u"one\n\ntwo {.tw indent=1}"},
     };
     for (const auto& sample : cases) {
         open(QString::fromUtf16(sample.before));

@@ -1,0 +1,91 @@
+#include "desktop/manuscript/rich/RichPageFixture.h"
+
+#include "core/entity/Entity.h"
+#include "desktop/manuscript/NotesPane.h"
+#include "desktop/manuscript/rich/EntityCard.h"
+#include "desktop/manuscript/rich/NameCompletion.h"
+
+#include <QHelpEvent>
+#include <QSignalSpy>
+
+namespace tw::desktop::manuscript::rich {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+core::ContentId addEntity(test::TestDesk& desk, const QString& name, const QStringList& aliases)
+{
+    auto entity = std::make_unique<core::entity::Entity>(core::ContentId::create(), core::CategoryId(), name);
+    entity->setAliases(aliases);
+    const core::ContentId id = entity->id();
+    desk.session.projectForCommands().add(std::move(entity));
+    return id;
+}
+
+} // namespace
+
+TEST_F(RichPageTest, namesOfTheCodexOpenTheirEntity)
+{
+    const core::ContentId ibbet = addEntity(desk, u"Ibbet Lusk"_s, {u"the clerk"_s});
+    open(u"Then *the clerk* came, not Lusk alone."_s);
+    QCoreApplication::processEvents();
+    QSignalSpy opened(page.get(), &RichPage::entityActivated);
+    goTo(u"the cl"_s);
+    page->openEntityAtCursor();
+    ASSERT_EQ(opened.count(), 1);
+    EXPECT_EQ(opened.front().front().value<core::ContentId>(), ibbet);
+    goTo(u"not"_s);
+    page->openEntityAtCursor();
+    EXPECT_EQ(opened.count(), 1);
+
+    goTo(u"the cle"_s);
+    const QPoint place = page->cursorRect().center();
+    QHelpEvent hover(QEvent::ToolTip, place, page->viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(page->viewport(), &hover);
+    auto* const card = page->findChild<EntityCard*>();
+    ASSERT_TRUE(card);
+    EXPECT_TRUE(card->isVisible());
+    type(u"x"_s);
+    EXPECT_FALSE(card->isVisible()) << "typing sends it away";
+}
+
+TEST_F(RichPageTest, namesAreCompletedAfterTwoBrackets)
+{
+    addEntity(desk, u"Ibbet Lusk"_s, {});
+    addEntity(desk, u"Iron Keep"_s, {});
+    open(u"With "_s);
+    QCoreApplication::processEvents();
+    press(Qt::Key_End);
+    type(u"[[i"_s);
+    auto* const completion = page->findChild<NameCompletion*>();
+    ASSERT_TRUE(completion && completion->isVisible());
+    EXPECT_EQ(completion->count(), 2);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_FALSE(completion->isVisible());
+    EXPECT_TRUE(page->toPlainText().endsWith(u"Iron Keep"_s)) << page->toPlainText().toStdString();
+    type(u" [[q"_s);
+    EXPECT_FALSE(completion->isVisible()) << "no such name";
+    press(Qt::Key_Return);
+    EXPECT_EQ(page->document()->blockCount(), 2) << "and Return is Return again";
+}
+
+TEST_F(RichPageTest, notesAreWrittenInTheirPane)
+{
+    open(u"Word.[^1]"_s);
+    desk.document(id).setFootnotes({{u"1"_s, u"First"_s, false}});
+    NotesPane pane(desk.context, id, nullptr);
+    pane.showNotes(desk.document(id).footnotes(), page->footnoteReferences());
+    pane.show();
+    EXPECT_FALSE(pane.focusNote(u"9"_s));
+    ASSERT_TRUE(pane.focusNote(u"1"_s));
+    auto* const text = pane.findChild<QTextEdit*>();
+    QTest::keyClicks(text, u"X"_s);
+    desk.session.commitPendingEdits();
+    EXPECT_TRUE(desk.document(id).footnotes().front().text.contains(u'X'));
+    desk.session.undo();
+    EXPECT_EQ(desk.document(id).footnotes().front().text, u"First"_s);
+}
+
+} // namespace tw::desktop::manuscript::rich
