@@ -21,6 +21,12 @@ class ManuscriptPanel;
 class TextActions;
 } // namespace tw::desktop::manuscript
 
+namespace tw::desktop::search {
+class SearchPanel;
+}
+namespace tw::desktop::snapshots {
+class SnapshotsPanel;
+}
 namespace tw::desktop::settings {
 class Shortcuts;
 }
@@ -75,6 +81,7 @@ private:
     void buildFileMenu();
     void buildEditMenu();
     void addFindActions(QMenu& menu);
+    void findInProject();
     void buildInsertMenu();
     void buildFormatMenu();
     void buildViewMenu();
@@ -128,6 +135,8 @@ private:
     QList<QAction*> m_projectActions;
     manuscript::ManuscriptPanel* m_manuscript = nullptr;
     codex::CodexPanel* m_codex = nullptr;
+    search::SearchPanel* m_search = nullptr;
+    snapshots::SnapshotsPanel* m_snapshots = nullptr;
 };
 
 } // namespace tw::desktop::shell

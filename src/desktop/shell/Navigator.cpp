@@ -20,6 +20,12 @@ void Navigator::open(const core::ContentId& id)
     emit openRequested(id);
 }
 
+void Navigator::openPassage(const core::ContentId& id, const TextPassage& passage)
+{
+    open(id);
+    emit passageRequested(id, passage);
+}
+
 void Navigator::say(const QString& text)
 {
     emit said(text);

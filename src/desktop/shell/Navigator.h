@@ -6,6 +6,14 @@
 
 namespace tw::desktop::shell {
 
+/** A place in a text as it reads: some words, and a little of what stands before and after them. */
+struct TextPassage
+{
+    QString before;
+    QString words;
+    QString after;
+};
+
 /** What the writer looks at: panels say what was selected or asked for, and follow what others say. */
 class Navigator final : public QObject
 {
@@ -21,12 +29,17 @@ public:
     /** Asks for the object's page or editor in the centre of the window. */
     void open(const core::ContentId& id);
 
+    /** Opens the object's page at a place in its text. */
+    void openPassage(const core::ContentId& id, const TextPassage& passage);
+
     /** A line for the status bar: something happened that needs no decision. */
     void say(const QString& text);
 
 signals:
     void currentChanged(const tw::core::ContentId& id);
     void openRequested(const tw::core::ContentId& id);
+    /** Comes after openRequested() for the same object. */
+    void passageRequested(const tw::core::ContentId& id, const tw::desktop::shell::TextPassage& passage);
     void said(const QString& text);
 
 private:

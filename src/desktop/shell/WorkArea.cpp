@@ -35,6 +35,12 @@ WorkArea::WorkArea(const DeskContext& desk, QWidget* parent)
     m_activePane = addPane();
     connect(&desk.session, &ProjectSession::changed, this, &WorkArea::followChanges);
     connect(&desk.navigator, &Navigator::openRequested, this, &WorkArea::openPage);
+    connect(
+        &desk.navigator, &Navigator::passageRequested, this,
+        [this](const core::ContentId& id, const TextPassage& passage) {
+            if (WorkPage* const page = currentPage(); page && page->objectId() == id)
+                page->showPassage(passage);
+        });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
 }
 

@@ -7,6 +7,8 @@ WorkPage::WorkPage(const core::ContentId& objectId, QWidget* parent)
     , m_objectId(objectId)
 {}
 
+void WorkPage::showPassage(const TextPassage&) {}
+
 QString WorkPage::statusText() const
 {
     return {};
