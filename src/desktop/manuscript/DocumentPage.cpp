@@ -6,6 +6,7 @@
 #include "desktop/manuscript/ManuscriptModel.h"
 #include "desktop/manuscript/MarkdownPage.h"
 #include "desktop/manuscript/NotesPane.h"
+#include "desktop/manuscript/PassageFinder.h"
 #include "desktop/manuscript/TypingBursts.h"
 #include "desktop/manuscript/TypingSettings.h"
 #include "desktop/manuscript/rich/RichPage.h"
@@ -125,6 +126,20 @@ void DocumentPage::hideEvent(QHideEvent* event)
 {
     rememberPlace();
     TextPage::hideEvent(event);
+}
+
+void DocumentPage::showPassage(const shell::TextPassage& passage)
+{
+    // Both views hold what is shown, so the place is found by what stands there.
+    const auto place = findPassage(m_editor->document()->toPlainText(), passage);
+    if (!place)
+        return;
+    m_isPlaceRestored = true;
+    QTextCursor cursor = m_editor->textCursor();
+    cursor.setPosition(place->position);
+    cursor.setPosition(place->position + place->length, QTextCursor::KeepAnchor);
+    m_editor->setTextCursor(cursor);
+    m_editor->ensureCursorVisible();
 }
 
 void DocumentPage::rememberPlace()

@@ -61,6 +61,8 @@ public:
 
     [[nodiscard]] FindBar& findBar() { return *m_findBar; }
 
+    void showPassage(const shell::TextPassage& passage) override;
+
     /** Nothing but the text, and of that the present paragraph before all. */
     void setFocusMode(bool isOn);
 

@@ -35,6 +35,12 @@ namespace tw::desktop::proofreading {
 class ProofreadingService;
 }
 
+namespace tw::desktop::search {
+class SearchPanel;
+}
+namespace tw::desktop::snapshots {
+class SnapshotsPanel;
+}
 namespace tw::desktop::settings {
 class Shortcuts;
 }
@@ -95,6 +101,7 @@ private:
     void buildFileMenu();
     void buildEditMenu();
     void addFindActions(QMenu& menu);
+    void findInProject();
     void buildInsertMenu();
     void buildFormatMenu();
     void buildViewMenu();
@@ -156,6 +163,8 @@ private:
     codex::CodexPanel* m_codex = nullptr;
     proofreading::ProofreadingService* m_proofreading = nullptr;
     problems::ProblemsPanel* m_problems = nullptr;
+    search::SearchPanel* m_search = nullptr;
+    snapshots::SnapshotsPanel* m_snapshots = nullptr;
 };
 
 } // namespace tw::desktop::shell

@@ -11,11 +11,14 @@
 #include "desktop/manuscript/rich/RichPage.h"
 #include "desktop/overview/OverviewPage.h"
 #include "desktop/screenplay/ScreenplayActions.h"
+#include "desktop/search/SearchPanel.h"
 #include "desktop/settings/SettingsDialog.h"
+#include "desktop/shell/DockLayout.h"
 #include "desktop/shell/FocusMode.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/WorkArea.h"
+#include "desktop/snapshots/SnapshotsPanel.h"
 #include "desktop/theme/Theme.h"
 #include "desktop/theme/ThemeManager.h"
 
@@ -119,6 +122,8 @@ void MainWindow::buildEditMenu()
     menu.addSeparator();
     addFindActions(menu);
     menu.addSeparator();
+    menu.addAction(m_snapshots->takeAction());
+    menu.addSeparator();
     for (QAction* const action : m_manuscript->actions().editActions())
         menu.addAction(action);
 }
@@ -151,6 +156,20 @@ void MainWindow::addFindActions(QMenu& menu)
     addAction(
         menu, u"edit.replace"_s, Icon::Refresh, tr("&Replace…"), QKeySequence(Qt::CTRL | Qt::Key_H),
         inText([](FindBar& bar) { bar.open(FindBar::Row::FindAndReplace); }));
+    m_projectActions.append(addAction(
+        menu, u"edit.findInProject"_s, Icon::Search, tr("Find in the Pro&ject…"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F), [this] { findInProject(); }));
+}
+
+void MainWindow::findInProject()
+{
+    auto* const page = qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage());
+    QString selected = page ? page->editor().textCursor().selectedText() : QString();
+    // Nobody looks for paragraphs.
+    if (selected.contains(QChar::ParagraphSeparator))
+        selected.clear();
+    m_docks->showPanel(u"search"_s);
+    m_search->lookFor(selected);
 }
 
 void MainWindow::buildInsertMenu()

@@ -12,8 +12,10 @@
 #include "desktop/problems/ProblemsPanel.h"
 #include "desktop/proofreading/ProofreadingService.h"
 #include "desktop/proofreading/ProseProblems.h"
+#include "desktop/search/SearchPanel.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/WorkArea.h"
+#include "desktop/snapshots/SnapshotsPanel.h"
 
 namespace tw::desktop::shell {
 
@@ -27,9 +29,13 @@ void MainWindow::addPanels()
     m_codex = new codex::CodexPanel(m_desk, this);
     m_docks->addPanel({u"manuscript"_s, tr("Manuscript"), Icon::Manuscript, DockPlace::Left}, m_manuscript);
     m_docks->addPanel({u"codex"_s, tr("Codex"), Icon::Codex, DockPlace::Left}, m_codex);
+    m_search = new search::SearchPanel(m_desk, this);
+    m_docks->addPanel({u"search"_s, tr("Search"), Icon::Search, DockPlace::Left}, m_search);
     m_docks->addPanel(
         {u"inspector"_s, tr("Inspector"), Icon::Inspector, DockPlace::Right},
         new inspector::InspectorPanel(m_desk, this));
+    m_snapshots = new snapshots::SnapshotsPanel(m_desk, this);
+    m_docks->addPanel({u"snapshots"_s, tr("Snapshots"), Icon::Snapshot, DockPlace::Right}, m_snapshots);
     addProblemsPanel();
 
     m_workArea->setFactory(ContentKind::Document, [this](const core::ContentId& id, QWidget* parent) {

@@ -27,6 +27,12 @@ void Navigator::openView(const core::ContentId& id, const QString& view)
     emit viewRequested(id, view);
 }
 
+void Navigator::openPassage(const core::ContentId& id, const TextPassage& passage)
+{
+    open(id);
+    emit passageRequested(id, passage);
+}
+
 void Navigator::say(const QString& text)
 {
     emit said(text);

@@ -6,6 +6,14 @@
 
 namespace tw::desktop::shell {
 
+/** A place in a text as it reads: some words, and a little of what stands before and after them. */
+struct TextPassage
+{
+    QString before;
+    QString words;
+    QString after;
+};
+
 /** What the writer looks at: panels say what was selected or asked for, and follow what others say. */
 class Navigator final : public QObject
 {
@@ -24,6 +32,9 @@ public:
     /** Asks for a view of the object, or of all of its kind (null), as shell::PageAddress names it. */
     void openView(const core::ContentId& id, const QString& view);
 
+    /** Opens the object's page at a place in its text. */
+    void openPassage(const core::ContentId& id, const TextPassage& passage);
+
     /** A line for the status bar: something happened that needs no decision. */
     void say(const QString& text);
 
@@ -31,6 +42,8 @@ signals:
     void currentChanged(const tw::core::ContentId& id);
     void openRequested(const tw::core::ContentId& id);
     void viewRequested(const tw::core::ContentId& id, const QString& view);
+    /** Comes after openRequested() for the same object. */
+    void passageRequested(const tw::core::ContentId& id, const tw::desktop::shell::TextPassage& passage);
     void said(const QString& text);
 
 private:

@@ -58,6 +58,12 @@ WorkArea::WorkArea(const DeskContext& desk, QWidget* parent)
         [this](const core::ContentId& id, const QString& view) {
             openPage({id, view});
         });
+    connect(
+        &desk.navigator, &Navigator::passageRequested, this,
+        [this](const core::ContentId& id, const TextPassage& passage) {
+            if (WorkPage* const page = currentPage(); page && page->objectId() == id)
+                page->showPassage(passage);
+        });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
 }
 

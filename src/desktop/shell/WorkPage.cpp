@@ -7,6 +7,8 @@ WorkPage::WorkPage(PageAddress address, QWidget* parent)
     , m_address(std::move(address))
 {}
 
+void WorkPage::showPassage(const TextPassage&) {}
+
 QString WorkPage::statusText() const
 {
     return {};

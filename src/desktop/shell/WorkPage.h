@@ -6,6 +6,8 @@
 
 namespace tw::desktop::shell {
 
+struct TextPassage;
+
 /** What a page shows. */
 struct PageAddress
 {
@@ -33,6 +35,8 @@ public:
     [[nodiscard]] virtual QIcon icon() const = 0;
     /** Where the keyboard goes when the page is shown. */
     virtual void takeFocus() = 0;
+    /** Goes to a place in the page's text; nothing where it is not found. */
+    virtual void showPassage(const TextPassage& passage);
     /** Text for the status bar ("1,204 words"); empty for none. */
     [[nodiscard]] virtual QString statusText() const;
 

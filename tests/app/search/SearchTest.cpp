@@ -143,8 +143,9 @@ TEST(SearchTest, replacingInTheBodyIsReplacingInTheProse)
         const std::vector<TextMatch> matches = findMatches(matcher, {body}, all).value();
         const QString result = buildReplacement({body}, matcher, matches, u"*[sea"_s).text;
         QString prose = core::document::markup::PlainText(body).text();
-        if (matches.empty())
+        if (matches.empty()) {
             EXPECT_EQ(result, body);
+        }
         for (auto match = matches.rbegin(); match != matches.rend(); ++match)
             prose.replace(match->range.first, match->range.count, u"*[sea"_s);
         // Writing a block anew drops blanks beside breaks, which are prose to nobody.
