@@ -24,7 +24,8 @@ public:
     EntityNames(shell::ProjectSession& session, QObject* parent);
 
     [[nodiscard]] const app::typing::NameMatcher& matcher() const { return m_matcher; }
-    /** All names that begin with a text, whatever its case, sorted; those with a later word that does follow. */
+    /** All names that begin with a text, whatever its case, sorted; those with a later word that does follow.
+     */
     [[nodiscard]] QStringList completions(const QString& text, qsizetype most) const;
 
 signals:

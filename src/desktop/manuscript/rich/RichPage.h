@@ -158,6 +158,7 @@ private:
 
     void insertBlocks(QTextCursor& cursor, const std::vector<markup::Block>& blocks);
     void insertPlainText(const QString& text);
+    void dressTable(QTextTable& table, const std::vector<markup::ColumnAlignment>& columns);
     /** Gives the numbered items of the list around the block their numbers. */
     void renumber(const QTextBlock& block);
     [[nodiscard]] std::vector<QTextBlock> selectedBlocks() const;
