@@ -10,6 +10,8 @@
 
 #include <functional>
 
+class QTextTable;
+
 namespace tw::desktop::manuscript {
 class TypingBursts;
 }
