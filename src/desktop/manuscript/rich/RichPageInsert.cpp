@@ -97,6 +97,19 @@ void changeSize(
     }
 }
 
+/** To the end of the paragraph above when the cursor begins one, so that a table leaves no empty one behind.
+ */
+void goBelowText(QTextCursor& cursor)
+{
+    const QTextBlock previous = cursor.block().previous();
+    if (!cursor.atBlockStart() || !previous.isValid() || kindOf(previous.blockFormat()) == BlockKind::Table)
+        return;
+    if (cursor.atBlockEnd())
+        cursor.deletePreviousChar();
+    else
+        cursor.movePosition(QTextCursor::PreviousCharacter);
+}
+
 } // namespace
 
 void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& blocks)
@@ -114,6 +127,8 @@ void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& block
         insertPieces(cursor, readRuns(markup::parseInline(blocks.front().text), shape, m_formats));
         return;
     }
+    if (blocks.front().kind == BlockKind::Table)
+        goBelowText(cursor);
     const bool hasTail = !cursor.atBlockEnd();
     const QTextCharFormat tailFormat = cursor.block().charFormat();
     const QTextBlockFormat tailBlock = cursor.blockFormat();
@@ -121,8 +136,6 @@ void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& block
     bool isFirst = true;
     for (const Block& block : blocks) {
         if (block.kind == BlockKind::Table) {
-            if (isFirst && hasTail && cursor.atBlockStart())
-                cursor.insertBlock(tailBlock, tailFormat), cursor.movePosition(QTextCursor::PreviousBlock);
             rich::insertTable(cursor, block.table, m_formats);
             isBlockFree = true;
             cursor.setBlockFormat(m_formats.block({}));
@@ -148,7 +161,10 @@ void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& block
         isFirst = false;
     }
     // What stood behind the cursor stays what it was.
-    if (hasTail && !cursor.atBlockEnd() && !isPlain(blocks.back())) {
+    if (blocks.back().kind == BlockKind::Table) {
+        if (hasTail)
+            cursor.setBlockFormat(tailBlock);
+    } else if (hasTail && !cursor.atBlockEnd() && !isPlain(blocks.back())) {
         cursor.insertBlock(tailBlock, tailFormat);
         cursor.movePosition(QTextCursor::PreviousBlock);
         cursor.movePosition(QTextCursor::EndOfBlock);
