@@ -124,6 +124,25 @@
     </message>
 </context>
 <context>
+    <name>DocumentStatus</name>
+    <message>
+        <source>Idea</source>
+        <translation>Idee</translation>
+    </message>
+    <message>
+        <source>First draft</source>
+        <translation>Rohfassung</translation>
+    </message>
+    <message>
+        <source>Revised</source>
+        <translation>Überarbeitet</translation>
+    </message>
+    <message>
+        <source>Final</source>
+        <translation>Endfassung</translation>
+    </message>
+</context>
+<context>
     <name>ExternalReview</name>
     <message>
         <source>The resolved files could not be written; nothing was changed. Your project was backed up first.</source>
@@ -272,6 +291,32 @@
     </message>
 </context>
 <context>
+    <name>Footnotes</name>
+    <message>
+        <source>Insert endnote</source>
+        <translation>Endnote einfügen</translation>
+    </message>
+    <message>
+        <source>Insert footnote</source>
+        <translation>Fußnote einfügen</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>No dictionary is installed</source>
+        <translation>Kein Wörterbuch installiert</translation>
+    </message>
+    <message>
+        <source>No document is open</source>
+        <translation>Kein Dokument geöffnet</translation>
+    </message>
+    <message>
+        <source>As in the &amp;Settings</source>
+        <translation>Wie in den &amp;Einstellungen</translation>
+    </message>
+</context>
+<context>
     <name>ManuscriptEdits</name>
     <message>
         <source>Add document</source>
@@ -334,6 +379,37 @@
     <message>
         <source>Untitled</source>
         <translation>Ohne Titel</translation>
+    </message>
+</context>
+<context>
+    <name>OutlineColumns</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Synopse</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Point of view</source>
+        <translation>Perspektive</translation>
+    </message>
+    <message>
+        <source>Story date</source>
+        <translation>Handlungszeit</translation>
+    </message>
+    <message>
+        <source>Words</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>Target</source>
+        <translation>Ziel</translation>
     </message>
 </context>
 <context>
@@ -722,6 +798,45 @@
     </message>
 </context>
 <context>
+    <name>ProseProblem</name>
+    <message>
+        <source>Spelling</source>
+        <translation>Rechtschreibung</translation>
+    </message>
+    <message>
+        <source>Repeated word</source>
+        <translation>Wiederholtes Wort</translation>
+    </message>
+    <message>
+        <source>Long sentence</source>
+        <translation>Langer Satz</translation>
+    </message>
+    <message>
+        <source>Passive voice</source>
+        <translation>Passiv</translation>
+    </message>
+    <message>
+        <source>Filler</source>
+        <translation>Füllwort</translation>
+    </message>
+    <message>
+        <source>Wordy phrases</source>
+        <translation>Umständliche Wendungen</translation>
+    </message>
+    <message>
+        <source>Adverb</source>
+        <translation>Adverb</translation>
+    </message>
+    <message>
+        <source>Cliché</source>
+        <translation>Klischee</translation>
+    </message>
+    <message>
+        <source>Unknown word: %1</source>
+        <translation>Unbekanntes Wort: %1</translation>
+    </message>
+</context>
+<context>
     <name>Questions</name>
     <message>
         <source>Cancel</source>
@@ -730,6 +845,134 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenplayElement</name>
+    <message>
+        <source>Scene heading</source>
+        <translation>Szenenüberschrift</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Handlung</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Figur</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>Dialog</translation>
+    </message>
+    <message>
+        <source>Parenthetical</source>
+        <translation>Spielanweisung</translation>
+    </message>
+    <message>
+        <source>Transition</source>
+        <translation>Übergang</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshots</name>
+    <message>
+        <source>Before restoring</source>
+        <translation>Vor dem Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restore snapshot</source>
+        <translation>Version wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restore passage</source>
+        <translation>Stelle wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Give the variant a name.</source>
+        <translation>Geben Sie der Variante einen Namen.</translation>
+    </message>
+    <message>
+        <source>There is a variant named “%1” already. Choose another name.</source>
+        <translation>Es gibt bereits eine Variante „%1“. Wählen Sie einen anderen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>SpellChecker</name>
+    <message>
+        <source>The dictionary “%1” cannot be used: %2 %3 Install it again, or choose another language.</source>
+        <translation>Das Wörterbuch „%1“ lässt sich nicht verwenden: %2 %3 Installieren Sie es neu, oder wählen Sie eine andere Sprache.</translation>
+    </message>
+    <message>
+        <source>cannot be read (%1).</source>
+        <translation>lässt sich nicht lesen (%1).</translation>
+    </message>
+    <message>
+        <source>is far too large.</source>
+        <translation>ist viel zu groß.</translation>
+    </message>
+    <message>
+        <source>is not a text.</source>
+        <translation>ist kein Text.</translation>
+    </message>
+    <message>
+        <source>does not begin with the number of its words.</source>
+        <translation>beginnt nicht mit der Anzahl seiner Wörter.</translation>
+    </message>
+    <message>
+        <source>has fewer words than it says and is cut short.</source>
+        <translation>hat weniger Wörter, als es angibt, und ist abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>names the encoding %1, which is unknown here.</source>
+        <translation>nennt die Kodierung %1, die hier unbekannt ist.</translation>
+    </message>
+    <message>
+        <source>“%1” is not one word of at most %2 characters. Add each word by itself.</source>
+        <translation>„%1“ ist kein einzelnes Wort aus höchstens %2 Zeichen. Fügen Sie jedes Wort für sich hinzu.</translation>
+    </message>
+    <message>
+        <source>The word list “%1” is larger than %2 bytes. Make it smaller, or move it away.</source>
+        <translation>Die Wortliste „%1“ ist größer als %2 Bytes. Verkleinern Sie sie, oder legen Sie sie woandershin.</translation>
+    </message>
+    <message>
+        <source>The word list “%1” cannot be read: %2. Check who may read the file.</source>
+        <translation>Die Wortliste „%1“ lässt sich nicht lesen: %2. Prüfen Sie, wer die Datei lesen darf.</translation>
+    </message>
+    <message>
+        <source>The word list “%1” cannot be written: %2. Check the folder&apos;s permissions and the free space.</source>
+        <translation>Die Wortliste „%1“ lässt sich nicht schreiben: %2. Prüfen Sie die Rechte des Ordners und den freien Platz.</translation>
+    </message>
+</context>
+<context>
+    <name>StyleRule</name>
+    <message>
+        <source>Cliché: %1</source>
+        <translation>Klischee: %1</translation>
+    </message>
+    <message>
+        <source>Filler word: %1</source>
+        <translation>Füllwort: %1</translation>
+    </message>
+    <message>
+        <source>Wordy: %1 → %2</source>
+        <translation>Umständlich: %1 → %2</translation>
+    </message>
+    <message>
+        <source>Adverb: %1. Consider a stronger verb.</source>
+        <translation>Adverb: %1. Vielleicht gibt es ein stärkeres Verb.</translation>
+    </message>
+    <message>
+        <source>Passive voice: %1</source>
+        <translation>Passiv: %1</translation>
+    </message>
+    <message>
+        <source>Repeated word: %1</source>
+        <translation>Wiederholtes Wort: %1</translation>
+    </message>
+    <message>
+        <source>Long sentence (%1 words). Consider breaking it up.</source>
+        <translation>Langer Satz (%1 Wörter). Vielleicht lässt er sich teilen.</translation>
     </message>
 </context>
 <context>
@@ -1263,6 +1506,21 @@
     </message>
 </context>
 <context>
+    <name>TextQuery</name>
+    <message>
+        <source>Type what you are looking for.</source>
+        <translation>Geben Sie ein, wonach Sie suchen.</translation>
+    </message>
+    <message>
+        <source>The regular expression cannot be read: %1 (at character %2). Correct it, or switch regular expressions off.</source>
+        <translation>Der reguläre Ausdruck lässt sich nicht lesen: %1 (bei Zeichen %2). Berichtigen Sie ihn, oder schalten Sie reguläre Ausdrücke aus.</translation>
+    </message>
+    <message>
+        <source>The regular expression is too complex for this text. Make it simpler, for example with fewer nested repetitions.</source>
+        <translation>Der reguläre Ausdruck ist für diesen Text zu aufwendig. Vereinfachen Sie ihn, etwa durch weniger verschachtelte Wiederholungen.</translation>
+    </message>
+</context>
+<context>
     <name>Theme</name>
     <message>
         <source>Dark</source>
@@ -1718,6 +1976,10 @@
     <message>
         <source>Change project settings</source>
         <translation>Projekteinstellungen ändern</translation>
+    </message>
+    <message>
+        <source>Replace in the project</source>
+        <translation>Im Projekt ersetzen</translation>
     </message>
 </context>
 <context>
@@ -2262,6 +2524,39 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::composition::CompositionPage</name>
+    <message>
+        <source>No documents in here yet. Press Ctrl+Shift+N to write the first one.</source>
+        <translation>Hier sind noch keine Dokumente. Strg+Umschalt+N beginnt das erste.</translation>
+    </message>
+    <message>
+        <source>Continuous text</source>
+        <translation>Durchgehender Text</translation>
+    </message>
+    <message>
+        <source>Manuscript</source>
+        <translation>Manuskript</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln words</source>
+        <translation>
+            <numerusform>%Ln Wort</numerusform>
+            <numerusform>%Ln Wörter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::composition::SceneSlot</name>
+    <message>
+        <source>Open this document by itself</source>
+        <translation>Dieses Dokument für sich öffnen</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::fields::BooleanValueEditor</name>
     <message>
         <source>Yes, no, not set: a click goes on to the next</source>
@@ -2370,6 +2665,90 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::goals::GoalsDialog</name>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source> words</source>
+        <translation> Wörter</translation>
+    </message>
+    <message>
+        <source>%1 words written, %2 of them today.</source>
+        <translation>%1 Wörter geschrieben, davon %2 heute.</translation>
+    </message>
+    <message>
+        <source>The target is reached.</source>
+        <translation>Das Ziel ist erreicht.</translation>
+    </message>
+    <message>
+        <source>The deadline has passed with %1 words to go.</source>
+        <translation>Die Frist ist verstrichen, es fehlen %1 Wörter.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 words to go: %2 a day for %Ln days.</source>
+        <translation>
+            <numerusform>Noch %1 Wörter: %2 am Tag, %Ln Tag lang.</numerusform>
+            <numerusform>Noch %1 Wörter: %2 am Tag, %Ln Tage lang.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 words to go.</source>
+        <translation>Noch %1 Wörter.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Words on %Ln days in a row.</source>
+        <translation>
+            <numerusform>Wörter an %Ln Tag in Folge.</numerusform>
+            <numerusform>Wörter an %Ln Tagen in Folge.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>De&amp;adline</source>
+        <translation>&amp;Frist</translation>
+    </message>
+    <message>
+        <source>Writing Goals</source>
+        <translation>Schreibziele</translation>
+    </message>
+    <message>
+        <source>Deadline</source>
+        <translation>Frist</translation>
+    </message>
+    <message>
+        <source>&amp;Manuscript</source>
+        <translation>&amp;Manuskript</translation>
+    </message>
+    <message>
+        <source>&amp;Day</source>
+        <translation>&amp;Tag</translation>
+    </message>
+    <message>
+        <source>Set Goals</source>
+        <translation>Ziele setzen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::goals::ProgressChart</name>
+    <message>
+        <source>Words of the last days</source>
+        <translation>Wörter der letzten Tage</translation>
+    </message>
+    <message>
+        <source>%1 words in %2 days</source>
+        <translation>%1 Wörter in %2 Tagen</translation>
+    </message>
+    <message>
+        <source>%1 words</source>
+        <translation>%1 Wörter</translation>
+    </message>
+    <message>
+        <source>%1: %2 words</source>
+        <translation>%1: %2 Wörter</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::inspector::DocumentSection</name>
     <message>
         <source>S&amp;ynopsis</source>
@@ -2410,22 +2789,6 @@
     <message>
         <source> words</source>
         <translation> Wörter</translation>
-    </message>
-    <message>
-        <source>Idea</source>
-        <translation>Idee</translation>
-    </message>
-    <message>
-        <source>First draft</source>
-        <translation>Erste Fassung</translation>
-    </message>
-    <message>
-        <source>Revised</source>
-        <translation>Überarbeitet</translation>
-    </message>
-    <message>
-        <source>Final</source>
-        <translation>Endfassung</translation>
     </message>
     <message>
         <source>Sto&amp;ry date</source>
@@ -2487,36 +2850,14 @@
     </message>
 </context>
 <context>
-    <name>tw::desktop::manuscript::DocumentPage</name>
+    <name>tw::desktop::manuscript::BodyEditor</name>
     <message>
-        <source>This document is locked. Unlock it in the inspector to write.</source>
-        <translation>Dieses Dokument ist gesperrt. Um darin zu schreiben, entsperren Sie es im Inspektor.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 of %Ln words</source>
-        <translation>
-            <numerusform>%1 von %Ln Wort</numerusform>
-            <numerusform>%1 von %Ln Wörtern</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln words</source>
-        <translation>
-            <numerusform>%Ln Wort</numerusform>
-            <numerusform>%Ln Wörter</numerusform>
-        </translation>
+        <source>Text of the document</source>
+        <translation>Text des Dokuments</translation>
     </message>
 </context>
 <context>
-    <name>tw::desktop::manuscript::ManuscriptPanel</name>
-    <message>
-        <source>Filter the manuscript</source>
-        <translation>Manuskript filtern</translation>
-    </message>
-    <message>
-        <source>Manuscript</source>
-        <translation>Manuskript</translation>
-    </message>
+    <name>tw::desktop::manuscript::DocumentActions</name>
     <message>
         <source>New &amp;Document</source>
         <translation>Neues &amp;Dokument</translation>
@@ -2527,7 +2868,7 @@
     </message>
     <message>
         <source>New Document &amp;Inside</source>
-        <translation>Neues Dokument dar&amp;in</translation>
+        <translation>Neues Dokument &amp;darin</translation>
     </message>
     <message>
         <source>New &amp;Screenplay</source>
@@ -2547,7 +2888,7 @@
     </message>
     <message>
         <source>Re&amp;name Document</source>
-        <translation>Dokument um&amp;benennen</translation>
+        <translation>Dokument &amp;umbenennen</translation>
     </message>
     <message>
         <source>Move Document &amp;Up</source>
@@ -2555,34 +2896,201 @@
     </message>
     <message>
         <source>Move Document Do&amp;wn</source>
-        <translation>Dokument nach un&amp;ten</translation>
+        <translation>Dokument nach u&amp;nten</translation>
     </message>
     <message>
         <source>Move Document &amp;In</source>
-        <translation>Dokument e&amp;inrücken</translation>
+        <translation>Dokument &amp;einrücken</translation>
     </message>
     <message>
         <source>Move Document &amp;Out</source>
-        <translation>Dokument a&amp;usrücken</translation>
+        <translation>Dokument aus&amp;rücken</translation>
     </message>
     <message>
         <source>&amp;Remove Document</source>
-        <translation>Dokument entfe&amp;rnen</translation>
+        <translation>Dokument ent&amp;fernen</translation>
     </message>
     <message>
         <source>“%1” is locked. Unlock it in the inspector to remove it.</source>
-        <translation>„%1“ ist gesperrt. Um es zu entfernen, entsperren Sie es im Inspektor.</translation>
+        <translation>„%1“ ist gesperrt. Zum Entfernen entsperren Sie es im Inspektor.</translation>
     </message>
     <message>
         <source>Removed “%1”. Undo brings it back.</source>
-        <translation>„%1“ entfernt. „Rückgängig“ holt das Dokument zurück.</translation>
+        <translation>„%1“ entfernt. Rückgängig holt es zurück.</translation>
     </message>
     <message numerus="yes">
         <source>Removed %n documents with all that was in them. Undo brings them back.</source>
         <translation>
-            <numerusform>%n Dokument mit allem darin entfernt. „Rückgängig“ holt es zurück.</numerusform>
-            <numerusform>%n Dokumente mit allem darin entfernt. „Rückgängig“ holt sie zurück.</numerusform>
+            <numerusform>%n Dokument mit allem darin entfernt. Rückgängig holt es zurück.</numerusform>
+            <numerusform>%n Dokumente mit allem darin entfernt. Rückgängig holt sie zurück.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No Status</source>
+        <translation>Kein Status</translation>
+    </message>
+    <message>
+        <source>Set status</source>
+        <translation>Status setzen</translation>
+    </message>
+    <message>
+        <source>S&amp;tatus</source>
+        <translation>&amp;Status</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::DocumentPage</name>
+    <message>
+        <source>This document is locked. Unlock it in the inspector to write.</source>
+        <translation>Dieses Dokument ist gesperrt. Um darin zu schreiben, entsperren Sie es im Inspektor.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %Ln words</source>
+        <translation>
+            <numerusform>%1 von %Ln Wort</numerusform>
+            <numerusform>%1 von %Ln Wörtern</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln words</source>
+        <translation>
+            <numerusform>%Ln Wort</numerusform>
+            <numerusform>%Ln Wörter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing in the text refers to note %1.</source>
+        <translation>Nichts im Text verweist auf die Anmerkung %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %Ln words selected</source>
+        <translation>
+            <numerusform>%1 von %Ln Wort markiert</numerusform>
+            <numerusform>%1 von %Ln Wörtern markiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Note %1 has no text anywhere in this document.</source>
+        <translation>Die Anmerkung %1 hat nirgends in diesem Dokument einen Text.</translation>
+    </message>
+    <message>
+        <source>pasted image</source>
+        <translation>eingefügtes Bild</translation>
+    </message>
+    <message>
+        <source>The pasted image could not be written. Save it as a file and insert that.</source>
+        <translation>Das eingefügte Bild ließ sich nicht schreiben. Speichern Sie es als Datei, und fügen Sie diese ein.</translation>
+    </message>
+    <message>
+        <source>The link “%1” cannot be opened from here.</source>
+        <translation>Der Link „%1“ lässt sich von hier nicht öffnen.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::FindBar</name>
+    <message>
+        <source>Find in this text</source>
+        <translation>In diesem Text suchen</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Groß- und Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Ganze Wörter</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>Previous place (Shift+F3)</source>
+        <translation>Vorige Stelle (Umschalt+F3)</translation>
+    </message>
+    <message>
+        <source>Next place (F3)</source>
+        <translation>Nächste Stelle (F3)</translation>
+    </message>
+    <message>
+        <source>Close (Escape)</source>
+        <translation>Schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace &amp;All</source>
+        <translation>&amp;Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Suchen und ersetzen</translation>
+    </message>
+    <message>
+        <source>Not an expression: %1</source>
+        <translation>Kein Ausdruck: %1</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>More than %Ln places</source>
+        <translation>
+            <numerusform>Mehr als %Ln Stelle</numerusform>
+            <numerusform>Mehr als %Ln Stellen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln places</source>
+        <translation>
+            <numerusform>%Ln Stelle</numerusform>
+            <numerusform>%Ln Stellen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace all</source>
+        <translation>Alle ersetzen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replaced %Ln places.</source>
+        <translation>
+            <numerusform>%Ln Stelle ersetzt.</numerusform>
+            <numerusform>%Ln Stellen ersetzt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::ManuscriptPanel</name>
+    <message>
+        <source>Filter the manuscript</source>
+        <translation>Manuskript filtern</translation>
+    </message>
+    <message>
+        <source>Manuscript</source>
+        <translation>Manuskript</translation>
+    </message>
+    <message>
+        <source>New document</source>
+        <translation>Neues Dokument</translation>
     </message>
     <message>
         <source>No documents here. Press + to write the first one.</source>
@@ -2594,10 +3102,652 @@
     </message>
 </context>
 <context>
-    <name>tw::desktop::manuscript::MarkdownPage</name>
+    <name>tw::desktop::manuscript::NotesPane</name>
     <message>
-        <source>Text of the document</source>
-        <translation>Text des Dokuments</translation>
+        <source>Notes</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>Notes of the document</source>
+        <translation>Anmerkungen des Dokuments</translation>
+    </message>
+    <message>
+        <source>Endnote: go to its place in the text</source>
+        <translation>Endnote: zu ihrer Stelle im Text</translation>
+    </message>
+    <message>
+        <source>Footnote: go to its place in the text</source>
+        <translation>Fußnote: zu ihrer Stelle im Text</translation>
+    </message>
+    <message>
+        <source>Place of note %1 in the text</source>
+        <translation>Stelle der Anmerkung %1 im Text</translation>
+    </message>
+    <message>
+        <source>Text of the endnote</source>
+        <translation>Text der Endnote</translation>
+    </message>
+    <message>
+        <source>Text of the footnote</source>
+        <translation>Text der Fußnote</translation>
+    </message>
+    <message>
+        <source>Text of note %1</source>
+        <translation>Text der Anmerkung %1</translation>
+    </message>
+    <message>
+        <source>Remove the note; its reference in the text stays</source>
+        <translation>Anmerkung entfernen; ihr Verweis im Text bleibt</translation>
+    </message>
+    <message>
+        <source>Remove note %1</source>
+        <translation>Anmerkung %1 entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::TextActions</name>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>Paragraph &amp;Style</source>
+        <translation>Absatz&amp;vorlage</translation>
+    </message>
+    <message>
+        <source>&amp;Alignment</source>
+        <translation>&amp;Ausrichtung</translation>
+    </message>
+    <message>
+        <source>&amp;Line Spacing</source>
+        <translation>&amp;Zeilenabstand</translation>
+    </message>
+    <message>
+        <source>&amp;Bullet List</source>
+        <translation>Au&amp;fzählung</translation>
+    </message>
+    <message>
+        <source>Bullet list</source>
+        <translation>Aufzählung</translation>
+    </message>
+    <message>
+        <source>&amp;Numbered List</source>
+        <translation>&amp;Nummerierte Liste</translation>
+    </message>
+    <message>
+        <source>Numbered list</source>
+        <translation>Nummerierte Liste</translation>
+    </message>
+    <message>
+        <source>&amp;Indent</source>
+        <translation>&amp;Einrücken</translation>
+    </message>
+    <message>
+        <source>&amp;Outdent</source>
+        <translation>Aus&amp;rücken</translation>
+    </message>
+    <message>
+        <source>Page Break Be&amp;fore</source>
+        <translation>Seitenumbruch da&amp;vor</translation>
+    </message>
+    <message>
+        <source>Page break</source>
+        <translation>Seitenumbruch</translation>
+    </message>
+    <message>
+        <source>Bol&amp;d</source>
+        <translation>&amp;Fett</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>I&amp;talic</source>
+        <translation>&amp;Kursiv</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <source>&amp;Underline</source>
+        <translation>&amp;Unterstrichen</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>Unterstrichen</translation>
+    </message>
+    <message>
+        <source>Strike&amp;through</source>
+        <translation>&amp;Durchgestrichen</translation>
+    </message>
+    <message>
+        <source>Strikethrough</source>
+        <translation>Durchgestrichen</translation>
+    </message>
+    <message>
+        <source>Su&amp;perscript</source>
+        <translation>&amp;Hochgestellt</translation>
+    </message>
+    <message>
+        <source>Superscript</source>
+        <translation>Hochgestellt</translation>
+    </message>
+    <message>
+        <source>Subs&amp;cript</source>
+        <translation>&amp;Tiefgestellt</translation>
+    </message>
+    <message>
+        <source>Subscript</source>
+        <translation>Tiefgestellt</translation>
+    </message>
+    <message>
+        <source>Cod&amp;e</source>
+        <translation>C&amp;ode</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Fo&amp;nt…</source>
+        <translation>S&amp;chrift…</translation>
+    </message>
+    <message>
+        <source>Clear Fo&amp;rmatting</source>
+        <translation>Formatierung &amp;löschen</translation>
+    </message>
+    <message>
+        <source>Clear formatting</source>
+        <translation>Formatierung löschen</translation>
+    </message>
+    <message>
+        <source>Paragraph style</source>
+        <translation>Absatzvorlage</translation>
+    </message>
+    <message>
+        <source>&amp;Body</source>
+        <translation>&amp;Fließtext</translation>
+    </message>
+    <message>
+        <source>Heading &amp;%1</source>
+        <translation>Überschrift &amp;%1</translation>
+    </message>
+    <message>
+        <source>&amp;Quotation</source>
+        <translation>&amp;Zitat</translation>
+    </message>
+    <message>
+        <source>&amp;Code</source>
+        <translation>&amp;Code</translation>
+    </message>
+    <message>
+        <source>&amp;Named Style</source>
+        <translation>&amp;Benannte Vorlage</translation>
+    </message>
+    <message>
+        <source>&amp;New Style…</source>
+        <translation>&amp;Neue Vorlage…</translation>
+    </message>
+    <message>
+        <source>New Paragraph Style</source>
+        <translation>Neue Absatzvorlage</translation>
+    </message>
+    <message>
+        <source>Name of the style, as in “Letter” or “Verse”:</source>
+        <translation>Name der Vorlage, etwa „Brief“ oder „Vers“:</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>&amp;Left</source>
+        <translation>&amp;Links</translation>
+    </message>
+    <message>
+        <source>&amp;Centre</source>
+        <translation>&amp;Mitte</translation>
+    </message>
+    <message>
+        <source>&amp;Right</source>
+        <translation>&amp;Rechts</translation>
+    </message>
+    <message>
+        <source>&amp;Justified</source>
+        <translation>&amp;Blocksatz</translation>
+    </message>
+    <message>
+        <source>As the &amp;Page</source>
+        <translation>Wie die &amp;Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Single</source>
+        <translation>&amp;Einfach</translation>
+    </message>
+    <message>
+        <source>&amp;1.15 Lines</source>
+        <translation>&amp;1,15 Zeilen</translation>
+    </message>
+    <message>
+        <source>1.&amp;5 Lines</source>
+        <translation>1,&amp;5 Zeilen</translation>
+    </message>
+    <message>
+        <source>&amp;Double</source>
+        <translation>&amp;Doppelt</translation>
+    </message>
+    <message>
+        <source>Line spacing</source>
+        <translation>Zeilenabstand</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Keine</translation>
+    </message>
+    <message>
+        <source>&amp;More…</source>
+        <translation>&amp;Weitere…</translation>
+    </message>
+    <message>
+        <source>Text Colo&amp;ur</source>
+        <translation>Te&amp;xtfarbe</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Textfarbe</translation>
+    </message>
+    <message>
+        <source>&amp;Highlight</source>
+        <translation>&amp;Hervorhebung</translation>
+    </message>
+    <message>
+        <source>Highlight</source>
+        <translation>Hervorhebung</translation>
+    </message>
+    <message>
+        <source>Font of the Selected Text</source>
+        <translation>Schrift des markierten Textes</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>&amp;Image…</source>
+        <translation>&amp;Bild…</translation>
+    </message>
+    <message>
+        <source>&amp;Scene Break</source>
+        <translation>S&amp;zenentrenner</translation>
+    </message>
+    <message>
+        <source>&amp;Page Break</source>
+        <translation>&amp;Seitenumbruch</translation>
+    </message>
+    <message>
+        <source>&amp;Link…</source>
+        <translation>&amp;Link…</translation>
+    </message>
+    <message>
+        <source>&amp;Footnote</source>
+        <translation>&amp;Fußnote</translation>
+    </message>
+    <message>
+        <source>&amp;Endnote</source>
+        <translation>&amp;Endnote</translation>
+    </message>
+    <message>
+        <source>&amp;Table</source>
+        <translation>&amp;Tabelle</translation>
+    </message>
+    <message numerus="yes">
+        <source>New Table with %n &amp;Columns</source>
+        <translation>
+            <numerusform>Neue Tabelle mit %n &amp;Spalte</numerusform>
+            <numerusform>Neue Tabelle mit %n &amp;Spalten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Insert Row &amp;Above</source>
+        <translation>Zeile &amp;oberhalb einfügen</translation>
+    </message>
+    <message>
+        <source>Insert row</source>
+        <translation>Zeile einfügen</translation>
+    </message>
+    <message>
+        <source>Insert Row &amp;Below</source>
+        <translation>Zeile &amp;unterhalb einfügen</translation>
+    </message>
+    <message>
+        <source>Insert Column B&amp;efore</source>
+        <translation>Spalte &amp;davor einfügen</translation>
+    </message>
+    <message>
+        <source>Insert column</source>
+        <translation>Spalte einfügen</translation>
+    </message>
+    <message>
+        <source>Insert Column A&amp;fter</source>
+        <translation>Spalte da&amp;nach einfügen</translation>
+    </message>
+    <message>
+        <source>Remove &amp;Row</source>
+        <translation>&amp;Zeile entfernen</translation>
+    </message>
+    <message>
+        <source>Remove row</source>
+        <translation>Zeile entfernen</translation>
+    </message>
+    <message>
+        <source>Remove C&amp;olumn</source>
+        <translation>&amp;Spalte entfernen</translation>
+    </message>
+    <message>
+        <source>Remove column</source>
+        <translation>Spalte entfernen</translation>
+    </message>
+    <message>
+        <source>Remove &amp;Table</source>
+        <translation>&amp;Tabelle entfernen</translation>
+    </message>
+    <message>
+        <source>Remove table</source>
+        <translation>Tabelle entfernen</translation>
+    </message>
+    <message>
+        <source>Insert an Image</source>
+        <translation>Bild einfügen</translation>
+    </message>
+    <message>
+        <source>Images (%1)</source>
+        <translation>Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>Address the text leads to (empty removes the link):</source>
+        <translation>Adresse, zu der der Text führt (leer entfernt den Link):</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Fließtext</translation>
+    </message>
+    <message>
+        <source>Heading %1</source>
+        <translation>Überschrift %1</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Quotation</source>
+        <translation>Zitat</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>Footnote</source>
+        <translation>Fußnote</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::rich::EntityCard</name>
+    <message>
+        <source>Also: %1</source>
+        <translation>Auch: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::rich::NameCompletion</name>
+    <message>
+        <source>Names of the codex</source>
+        <translation>Namen aus dem Kodex</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::rich::PageImages</name>
+    <message>
+        <source>Image not in the project’s assets: %1</source>
+        <translation>Bild fehlt unter den Dateien des Projekts: %1</translation>
+    </message>
+    <message>
+        <source>%1 – image not in the project’s assets: %2</source>
+        <translation>%1 – Bild fehlt unter den Dateien des Projekts: %2</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::rich::RichPage</name>
+    <message>
+        <source>Nest list item</source>
+        <translation>Listenpunkt einrücken</translation>
+    </message>
+    <message>
+        <source>Lift list item</source>
+        <translation>Listenpunkt ausrücken</translation>
+    </message>
+    <message>
+        <source>Indent paragraph</source>
+        <translation>Absatz einrücken</translation>
+    </message>
+    <message>
+        <source>Outdent paragraph</source>
+        <translation>Absatz ausrücken</translation>
+    </message>
+    <message>
+        <source>Insert rule</source>
+        <translation>Trennlinie einfügen</translation>
+    </message>
+    <message>
+        <source>Page break</source>
+        <translation>Seitenumbruch</translation>
+    </message>
+    <message>
+        <source>Insert table</source>
+        <translation>Tabelle einfügen</translation>
+    </message>
+    <message>
+        <source>Insert image</source>
+        <translation>Bild einfügen</translation>
+    </message>
+    <message>
+        <source>Insert footnote</source>
+        <translation>Fußnote einfügen</translation>
+    </message>
+    <message>
+        <source>Remove link</source>
+        <translation>Link entfernen</translation>
+    </message>
+    <message>
+        <source>Insert link</source>
+        <translation>Link einfügen</translation>
+    </message>
+    <message>
+        <source>Typographic correction</source>
+        <translation>Typografische Korrektur</translation>
+    </message>
+    <message>
+        <source>Insert row</source>
+        <translation>Zeile einfügen</translation>
+    </message>
+    <message>
+        <source>Insert name</source>
+        <translation>Namen einfügen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::overview::CardDelegate</name>
+    <message>
+        <source>No synopsis yet</source>
+        <translation>Noch keine Synopse</translation>
+    </message>
+    <message>
+        <source>%1 words</source>
+        <translation>%1 Wörter</translation>
+    </message>
+    <message>
+        <source>Edit card</source>
+        <translation>Kärtchen bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::overview::CardEditor</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Synopse</translation>
+    </message>
+    <message>
+        <source>What happens here</source>
+        <translation>Was hier geschieht</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::overview::CorkboardPage</name>
+    <message>
+        <source>Corkboard</source>
+        <translation>Korktafel</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::overview::OutlinePage</name>
+    <message>
+        <source>Outline</source>
+        <translation>Gliederung</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::overview::OverviewPage</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Nothing here contains “%1”.</source>
+        <translation>Nichts hier enthält „%1“.</translation>
+    </message>
+    <message>
+        <source>No documents in here yet. Press Ctrl+Shift+N to add the first one.</source>
+        <translation>Hier sind noch keine Dokumente. Strg+Umschalt+N legt das erste an.</translation>
+    </message>
+    <message>
+        <source>Manuscript</source>
+        <translation>Manuskript</translation>
+    </message>
+    <message>
+        <source>Where this is in the manuscript</source>
+        <translation>Wo dies im Manuskript steht</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n documents</source>
+        <translation>
+            <numerusform>%n Dokument</numerusform>
+            <numerusform>%n Dokumente</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::problems::ProblemsPanel</name>
+    <message>
+        <source>Filter the problems</source>
+        <translation>Probleme filtern</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Whole Manuscript</source>
+        <translation>Ganzes Manuskript</translation>
+    </message>
+    <message>
+        <source>Problems of all documents instead of the open one</source>
+        <translation>Probleme aller Dokumente statt des geöffneten</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Show &amp;Ignored Ones Again</source>
+        <translation>Über&amp;gangene wieder zeigen</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Open a document to see its problems, or choose the whole manuscript above.</source>
+        <translation>Öffnen Sie ein Dokument, um seine Probleme zu sehen, oder wählen Sie oben das ganze Manuskript.</translation>
+    </message>
+    <message>
+        <source>Nothing to complain about.</source>
+        <translation>Nichts zu beanstanden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln problems</source>
+        <translation>
+            <numerusform>%Ln Problem</numerusform>
+            <numerusform>%Ln Probleme</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 more in kinds that are hidden</source>
+        <translation>%1, %2 weitere in ausgeblendeten Arten</translation>
+    </message>
+    <message>
+        <source>%1, still reading…</source>
+        <translation>%1, wird noch gelesen …</translation>
+    </message>
+    <message>
+        <source>Replace with “%1”</source>
+        <translation>Durch „%1“ ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Show in the Text</source>
+        <translation>Im Text &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore Here</source>
+        <translation>Hier ü&amp;bergehen</translation>
     </message>
 </context>
 <context>
@@ -2888,6 +4038,47 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::proofreading::EditorProofreader</name>
+    <message>
+        <source>Take suggestion “%1”</source>
+        <translation>Vorschlag „%1“ übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Ignore Here</source>
+        <translation>Hier ü&amp;bergehen</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Dictionary</source>
+        <translation>Zum &amp;Wörterbuch hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Turn Off This Rule</source>
+        <translation>Diese &amp;Regel ausschalten</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::proofreading::ProofreadingService</name>
+    <message>
+        <source>There is nothing to suggest for the text at the cursor.</source>
+        <translation>Für den Text am Cursor gibt es keinen Vorschlag.</translation>
+    </message>
+    <message>
+        <source>The dictionary “%1” is not installed. Install it, or choose another language.</source>
+        <translation>Das Wörterbuch „%1“ ist nicht installiert. Installieren Sie es, oder wählen Sie eine andere Sprache.</translation>
+    </message>
+    <message>
+        <source>The rule “%1” is off. Settings, Proofreading turns it on again.</source>
+        <translation>Die Regel „%1“ ist aus. Unter Einstellungen, Korrektur lässt sie sich wieder einschalten.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::proofreading::ProseProblems</name>
+    <message>
+        <source>“%1” is no longer in the text.</source>
+        <translation>„%1“ steht nicht mehr im Text.</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::review::ConflictModel</name>
     <message>
         <source>Keep my version</source>
@@ -3099,6 +4290,161 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::screenplay::ScreenplayActions</name>
+    <message>
+        <source>&amp;Mark Revision</source>
+        <translation>&amp;Überarbeitung markieren</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Revision Marks</source>
+        <translation>Markierungen ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>A line is only spoken below a character&apos;s name.</source>
+        <translation>Gesprochen wird nur unter dem Namen einer Figur.</translation>
+    </message>
+    <message>
+        <source>From here on, changed lines carry an asterisk in the margin.</source>
+        <translation>Ab jetzt tragen geänderte Zeilen einen Stern am Rand.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::screenplay::ScreenplayPage</name>
+    <message>
+        <source>Text of the screenplay</source>
+        <translation>Text des Drehbuchs</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::search::SearchModel</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Synopsis</source>
+        <translation>Synopse</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Ohne Titel</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n matches</source>
+        <translation>
+            <numerusform>%1, %n Fundstelle</numerusform>
+            <numerusform>%1, %n Fundstellen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::search::SearchPanel</name>
+    <message>
+        <source>Search the project</source>
+        <translation>Im Projekt suchen</translation>
+    </message>
+    <message>
+        <source>Match case</source>
+        <translation>Groß- und Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>Whole words</source>
+        <translation>Ganze Wörter</translation>
+    </message>
+    <message>
+        <source>Regular expression</source>
+        <translation>Regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Titles and synopses</source>
+        <translation>Titel und Synopsen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Search results</source>
+        <translation>Fundstellen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n matches replaced.</source>
+        <translation>
+            <numerusform>%n Fundstelle ersetzt.</numerusform>
+            <numerusform>%n Fundstellen ersetzt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n locked documents were left alone.</source>
+        <translation>
+            <numerusform>%n gesperrtes Dokument wurde nicht angerührt.</numerusform>
+            <numerusform>%n gesperrte Dokumente wurden nicht angerührt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n documents changed since the search and were left alone; look at them again.</source>
+        <translation>
+            <numerusform>%n Dokument hat sich seit der Suche geändert und wurde nicht angerührt; sehen Sie es noch einmal an.</numerusform>
+            <numerusform>%n Dokumente haben sich seit der Suche geändert und wurden nicht angerührt; sehen Sie sie noch einmal an.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n matches</source>
+        <translation>
+            <numerusform>%n Fundstelle</numerusform>
+            <numerusform>%n Fundstellen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n documents</source>
+        <comment>after a number of matches</comment>
+        <translation>
+            <numerusform>in %n Dokument</numerusform>
+            <numerusform>in %n Dokumenten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Searching… %1</source>
+        <translation>Suche läuft … %1</translation>
+    </message>
+    <message>
+        <source>The first %1; there may be more.</source>
+        <translation>Die ersten %1; es kann mehr geben.</translation>
+    </message>
+    <message>
+        <source>The text has changed since; press Return to search again.</source>
+        <translation>Der Text hat sich seither geändert; die Eingabetaste sucht neu.</translation>
+    </message>
+    <message>
+        <source>Nothing found. Look for fewer letters, or switch off what narrows the search.</source>
+        <translation>Nichts gefunden. Suchen Sie nach weniger Buchstaben, oder schalten Sie aus, was die Suche einschränkt.</translation>
+    </message>
+    <message>
+        <source>Type what you are looking for: all documents are searched, with their titles and synopses. The arrow beside the field shows how to replace.</source>
+        <translation>Geben Sie ein, wonach Sie suchen: alle Dokumente werden durchsucht, mit Titeln und Synopsen. Der Pfeil neben dem Feld zeigt, wie ersetzt wird.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace %1</source>
+        <translation>%1 &amp;ersetzen</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::settings::AppearancePage</name>
     <message>
         <source>The system&apos;s language</source>
@@ -3166,6 +4512,38 @@
     <message>
         <source>&amp;Restore Defaults</source>
         <translation>Z&amp;urücksetzen</translation>
+    </message>
+    <message>
+        <source>Begin paragraphs with an &amp;indented line</source>
+        <translation>Absätze mit ein&amp;gerückter Zeile beginnen</translation>
+    </message>
+    <message>
+        <source>Make &amp;dashes of two or three hyphens</source>
+        <translation>Aus zwei oder drei Bindestrichen &amp;Gedankenstriche machen</translation>
+    </message>
+    <message>
+        <source>Make an &amp;ellipsis of three dots</source>
+        <translation>Aus drei Punkten &amp;Auslassungspunkte machen</translation>
+    </message>
+    <message>
+        <source>&amp;Underline names of the codex</source>
+        <translation>Namen aus dem Kodex &amp;unterstreichen</translation>
+    </message>
+    <message>
+        <source>As in the language of the program</source>
+        <translation>Wie in der Sprache des Programms</translation>
+    </message>
+    <message>
+        <source>Leave quotes as typed</source>
+        <translation>Anführungszeichen lassen, wie sie getippt sind</translation>
+    </message>
+    <message>
+        <source>Typographic quotes</source>
+        <translation>Typografische Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Quotes</source>
+        <translation>An&amp;führungszeichen</translation>
     </message>
 </context>
 <context>
@@ -3239,6 +4617,57 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::settings::ProofreadingPage</name>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Check spelling while typing</source>
+        <translation>&amp;Rechtschreibung beim Schreiben prüfen</translation>
+    </message>
+    <message>
+        <source>Leave out words in ca&amp;pitals</source>
+        <translation>Wörter in Groß&amp;buchstaben auslassen</translation>
+    </message>
+    <message>
+        <source>Spelling</source>
+        <translation>Rechtschreibung</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Sprachen</translation>
+    </message>
+    <message>
+        <source>&amp;Languages</source>
+        <translation>&amp;Sprachen</translation>
+    </message>
+    <message>
+        <source>No dictionary is installed. Install one of your language (packages are named hunspell-…) and start Vellory again.</source>
+        <translation>Kein Wörterbuch installiert. Installieren Sie eines Ihrer Sprache (die Pakete heißen hunspell-…), und starten Sie Vellory neu.</translation>
+    </message>
+    <message>
+        <source>Your words</source>
+        <translation>Ihre Wörter</translation>
+    </message>
+    <message>
+        <source>&amp;Your words</source>
+        <translation>&amp;Ihre Wörter</translation>
+    </message>
+    <message>
+        <source>Pr&amp;oofread while typing</source>
+        <translation>Beim Schreiben &amp;Stil prüfen</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::settings::SavingPage</name>
     <message>
         <source>Save &amp;by itself while I write</source>
@@ -3299,6 +4728,10 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Proofreading</source>
+        <translation>Korrektur</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::settings::Shortcuts</name>
@@ -3326,12 +4759,12 @@
         <translation>Freie Software unter der GNU General Public License, Version 3 oder neuer.</translation>
     </message>
     <message>
-        <source>Built with Qt %1, Qt Advanced Docking System and simdjson.</source>
-        <translation>Gebaut mit Qt %1, Qt Advanced Docking System und simdjson.</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Built with Qt %1, Qt Advanced Docking System, simdjson and Hunspell.</source>
+        <translation>Gebaut mit Qt %1, Qt Advanced Docking System, simdjson und Hunspell.</translation>
     </message>
 </context>
 <context>
@@ -3567,6 +5000,122 @@
         <source>Inspector</source>
         <translation>Inspektor</translation>
     </message>
+    <message>
+        <source>Paste as Plain &amp;Text</source>
+        <translation>Als einfachen &amp;Text einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Suchen…</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious</source>
+        <translation>&amp;Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>Open What the Word &amp;Names</source>
+        <translation>Ö&amp;ffnen, was das Wort nennt</translation>
+    </message>
+    <message>
+        <source>&amp;Replace…</source>
+        <translation>&amp;Ersetzen…</translation>
+    </message>
+    <message>
+        <source>Find in the Pro&amp;ject…</source>
+        <translation>Im Pro&amp;jekt suchen…</translation>
+    </message>
+    <message>
+        <source>Screen&amp;play</source>
+        <translation>Dreh&amp;buch</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt</source>
+        <translation>Te&amp;xt</translation>
+    </message>
+    <message>
+        <source>&amp;Corkboard</source>
+        <translation>&amp;Korktafel</translation>
+    </message>
+    <message>
+        <source>Continuous &amp;Text</source>
+        <translation>&amp;Durchgehender Text</translation>
+    </message>
+    <message>
+        <source>&amp;Outline</source>
+        <translation>&amp;Gliederung</translation>
+    </message>
+    <message>
+        <source>Markdown So&amp;urce</source>
+        <translation>Markdown-&amp;Quelltext</translation>
+    </message>
+    <message>
+        <source>Format &amp;Bar</source>
+        <translation>Format&amp;leiste</translation>
+    </message>
+    <message>
+        <source>T&amp;ypewriter Scrolling</source>
+        <translation>Schreib&amp;maschinenrollen</translation>
+    </message>
+    <message>
+        <source>F&amp;ocus Mode</source>
+        <translation>F&amp;okusmodus</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Writing &amp;Goals…</source>
+        <translation>Schreib&amp;ziele…</translation>
+    </message>
+    <message>
+        <source>Read &amp;Aloud</source>
+        <translation>&amp;Vorlesen</translation>
+    </message>
+    <message>
+        <source>Open a document to have it read aloud.</source>
+        <translation>Öffnen Sie ein Dokument, um es vorlesen zu lassen.</translation>
+    </message>
+    <message>
+        <source>No voice is installed. Install a speech engine for your system to have texts read aloud.</source>
+        <translation>Keine Stimme installiert. Installieren Sie eine Sprachausgabe für Ihr System, um Texte vorlesen zu lassen.</translation>
+    </message>
+    <message>
+        <source>Check &amp;Spelling While Typing</source>
+        <translation>&amp;Rechtschreibung beim Schreiben prüfen</translation>
+    </message>
+    <message>
+        <source>&amp;Proofread While Typing</source>
+        <translation>&amp;Stil beim Schreiben prüfen</translation>
+    </message>
+    <message>
+        <source>&amp;Language of the Document</source>
+        <translation>S&amp;prache des Dokuments</translation>
+    </message>
+    <message>
+        <source>Su&amp;ggestions at the Cursor</source>
+        <translation>Vorschlä&amp;ge am Cursor</translation>
+    </message>
+    <message>
+        <source>P&amp;roblems</source>
+        <translation>Pro&amp;bleme</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation>Versionen</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::OpenRequests</name>
@@ -3779,6 +5328,131 @@
     <message>
         <source>Open pages</source>
         <translation>Offene Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::snapshots::DifferenceView</name>
+    <message>
+        <source>Differences</source>
+        <translation>Unterschiede</translation>
+    </message>
+    <message>
+        <source>The texts are the same.</source>
+        <translation>Die Texte sind gleich.</translation>
+    </message>
+    <message>
+        <source>Restore this passage</source>
+        <translation>Diese Stelle wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::snapshots::SnapshotModel</name>
+    <message>
+        <source>Present text</source>
+        <translation>Gegenwärtiger Text</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Version</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::snapshots::SnapshotsPanel</name>
+    <message>
+        <source>Select a document to see its snapshots and variants.</source>
+        <translation>Wählen Sie ein Dokument, um seine Versionen und Varianten zu sehen.</translation>
+    </message>
+    <message>
+        <source>Snapshots</source>
+        <translation>Versionen</translation>
+    </message>
+    <message>
+        <source>The passage is as it was. The text before that is a snapshot.</source>
+        <translation>Die Stelle ist wieder wie zuvor. Der Text davor ist eine Version.</translation>
+    </message>
+    <message>
+        <source>The text has changed meanwhile; compare again.</source>
+        <translation>Der Text hat sich inzwischen geändert; vergleichen Sie neu.</translation>
+    </message>
+    <message>
+        <source>&amp;Take Snapshot</source>
+        <translation>Version &amp;festhalten</translation>
+    </message>
+    <message>
+        <source>Re&amp;store Snapshot</source>
+        <translation>Version &amp;wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Snapshot</source>
+        <translation>Version &amp;umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Snapshot</source>
+        <translation>Version &amp;löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename Variant…</source>
+        <translation>Variante um&amp;benennen…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Variant</source>
+        <translation>Variante lösc&amp;hen</translation>
+    </message>
+    <message>
+        <source>Variant in use</source>
+        <translation>Benutzte Variante</translation>
+    </message>
+    <message>
+        <source>The variant of the text that the editor shows</source>
+        <translation>Die Variante des Textes, die der Editor zeigt</translation>
+    </message>
+    <message>
+        <source>&amp;New Variant from the Present Text…</source>
+        <translation>&amp;Neue Variante aus dem gegenwärtigen Text…</translation>
+    </message>
+    <message>
+        <source>More for this variant</source>
+        <translation>Mehr zu dieser Variante</translation>
+    </message>
+    <message>
+        <source>Name of a new snapshot</source>
+        <translation>Name einer neuen Version</translation>
+    </message>
+    <message>
+        <source>Compare with</source>
+        <translation>Vergleichen mit</translation>
+    </message>
+    <message>
+        <source>Compare &amp;with</source>
+        <translation>Vergleichen &amp;mit</translation>
+    </message>
+    <message>
+        <source>The snapshot is the text again. The text before that is a snapshot.</source>
+        <translation>Die Version ist wieder der Text. Der Text davor ist eine Version.</translation>
+    </message>
+    <message>
+        <source>New Variant</source>
+        <translation>Neue Variante</translation>
+    </message>
+    <message>
+        <source>Rename Variant</source>
+        <translation>Variante umbenennen</translation>
+    </message>
+    <message>
+        <source>Name of the variant:</source>
+        <translation>Name der Variante:</translation>
+    </message>
+    <message>
+        <source>Variants</source>
+        <translation>Varianten</translation>
+    </message>
+    <message>
+        <source>Main text</source>
+        <translation>Haupttext</translation>
+    </message>
+    <message>
+        <source>Variant: %1</source>
+        <translation>Variante: %1</translation>
     </message>
 </context>
 </TS>

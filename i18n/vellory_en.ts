@@ -56,6 +56,43 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::composition::CompositionPage</name>
+    <message numerus="yes">
+        <source>%Ln words</source>
+        <translation>
+            <numerusform>%Ln word</numerusform>
+            <numerusform>%Ln words</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::goals::GoalsDialog</name>
+    <message numerus="yes">
+        <source>%1 words to go: %2 a day for %Ln days.</source>
+        <translation>
+            <numerusform>%1 words to go: %2 a day for %Ln day.</numerusform>
+            <numerusform>%1 words to go: %2 a day for %Ln days.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Words on %Ln days in a row.</source>
+        <translation>
+            <numerusform>Words on %Ln day in a row.</numerusform>
+            <numerusform>Words on %Ln days in a row.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::DocumentActions</name>
+    <message numerus="yes">
+        <source>Removed %n documents with all that was in them. Undo brings them back.</source>
+        <translation>
+            <numerusform>Removed %n document with all that was in it. Undo brings it back.</numerusform>
+            <numerusform>Removed %n documents with all that was in them. Undo brings them back.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::manuscript::DocumentPage</name>
     <message numerus="yes">
         <source>%1 of %Ln words</source>
@@ -71,14 +108,65 @@
             <numerusform>%Ln words</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of %Ln words selected</source>
+        <translation>
+            <numerusform>%1 of %Ln word selected</numerusform>
+            <numerusform>%1 of %Ln words selected</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
-    <name>tw::desktop::manuscript::ManuscriptPanel</name>
+    <name>tw::desktop::manuscript::FindBar</name>
     <message numerus="yes">
-        <source>Removed %n documents with all that was in them. Undo brings them back.</source>
+        <source>More than %Ln places</source>
         <translation>
-            <numerusform>Removed %n document with all that was in it. Undo brings it back.</numerusform>
-            <numerusform>Removed %n documents with all that was in them. Undo brings them back.</numerusform>
+            <numerusform>More than %Ln place</numerusform>
+            <numerusform>More than %Ln places</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln places</source>
+        <translation>
+            <numerusform>%Ln place</numerusform>
+            <numerusform>%Ln places</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Replaced %Ln places.</source>
+        <translation>
+            <numerusform>Replaced %Ln place.</numerusform>
+            <numerusform>Replaced %Ln places.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::TextActions</name>
+    <message numerus="yes">
+        <source>New Table with %n &amp;Columns</source>
+        <translation>
+            <numerusform>New Table with %n &amp;Column</numerusform>
+            <numerusform>New Table with %n &amp;Columns</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::overview::OverviewPage</name>
+    <message numerus="yes">
+        <source>%n documents</source>
+        <translation>
+            <numerusform>%n document</numerusform>
+            <numerusform>%n documents</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::problems::ProblemsPanel</name>
+    <message numerus="yes">
+        <source>%Ln problems</source>
+        <translation>
+            <numerusform>%Ln problem</numerusform>
+            <numerusform>%Ln problems</numerusform>
         </translation>
     </message>
 </context>
@@ -178,6 +266,55 @@
         <translation>
             <numerusform>%n media file in the project changed on disk.</numerusform>
             <numerusform>%n media files in the project changed on disk.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::search::SearchModel</name>
+    <message numerus="yes">
+        <source>%1, %n matches</source>
+        <translation>
+            <numerusform>%1, %n match</numerusform>
+            <numerusform>%1, %n matches</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::search::SearchPanel</name>
+    <message numerus="yes">
+        <source>%n matches replaced.</source>
+        <translation>
+            <numerusform>%n match replaced.</numerusform>
+            <numerusform>%n matches replaced.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n locked documents were left alone.</source>
+        <translation>
+            <numerusform>%n locked document was left alone.</numerusform>
+            <numerusform>%n locked documents were left alone.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n documents changed since the search and were left alone; look at them again.</source>
+        <translation>
+            <numerusform>%n document changed since the search and was left alone; look at it again.</numerusform>
+            <numerusform>%n documents changed since the search and were left alone; look at them again.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n matches</source>
+        <translation>
+            <numerusform>%n match</numerusform>
+            <numerusform>%n matches</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>in %n documents</source>
+        <comment>after a number of matches</comment>
+        <translation>
+            <numerusform>in %n document</numerusform>
+            <numerusform>in %n documents</numerusform>
         </translation>
     </message>
 </context>

@@ -222,8 +222,7 @@ void ProseProblems::finishNow()
     }
 }
 
-template <class Use>
-void ProseProblems::withPlace(const core::ContentId& object, const Problem& problem, const Use& use)
+void ProseProblems::withPlace(const core::ContentId& object, const Problem& problem, const PlaceUse& use)
 {
     m_desk.navigator.open(object);
     EditorProofreader* const proofreader = m_service.proofreaderOf(object);

@@ -53,8 +53,8 @@ private:
     void readNext();
     void finish(const Reading& reading);
     /** Opens the document and calls with the problem's place in its editor, when the text still has it. */
-    template <class Use>
-    void withPlace(const core::ContentId& object, const problems::Problem& problem, const Use& use);
+    using PlaceUse = std::function<void(EditorProofreader&, const EditorProofreader::Place&)>;
+    void withPlace(const core::ContentId& object, const problems::Problem& problem, const PlaceUse& use);
 
     shell::DeskContext m_desk;
     ProofreadingService& m_service;
