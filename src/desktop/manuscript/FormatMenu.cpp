@@ -113,7 +113,7 @@ void TextActions::fillFormatMenu(QMenu& menu)
         [](Page& page) { page.toggleList(BlockKind::BulletItem, tr("Bullet list")); },
         {{}, isNoCell, [](const Page& page) { return page.currentShape().kind == BlockKind::BulletItem; }});
     add(menu,
-        {"format.numberedList", Icon::NumberedList, tr("&Numbered List"),
+        {"format.numberedList", Icon::NumberedList, tr("Nu&mbered List"),
          keys(Qt::ControlModifier | Qt::ShiftModifier, Qt::Key_7)},
         [](Page& page) { page.toggleList(BlockKind::NumberedItem, tr("Numbered list")); },
         {{}, isNoCell, [](const Page& page) { return page.currentShape().kind == BlockKind::NumberedItem; }});
@@ -122,7 +122,7 @@ void TextActions::fillFormatMenu(QMenu& menu)
     add(menu,
         {"format.outdent", Icon::Outdent, tr("&Outdent"), keys(Qt::ControlModifier, Qt::Key_BracketLeft)},
         [](Page& page) { page.indentBlocks(-1); }, {{}, takesAttributes, {}});
-    add(menu, {"format.pageBreakBefore", Icon::PageBreak, tr("Page Break Be&fore")},
+    add(menu, {"format.pageBreakBefore", Icon::PageBreak, tr("Pa&ge Break Before")},
         [](Page& page) {
             const bool has = page.currentShape().attributes.pageBreak;
             page.changeBlocks(
@@ -140,7 +140,7 @@ void TextActions::fillFormatMenu(QMenu& menu)
         TextToggle::Underline, tr("Underline"));
     addToggle(
         menu,
-        {"format.strikethrough", Icon::Strikethrough, tr("Strike&through"),
+        {"format.strikethrough", Icon::Strikethrough, tr("Stri&kethrough"),
          keys(Qt::ControlModifier | Qt::ShiftModifier, Qt::Key_X)},
         TextToggle::Strikethrough, tr("Strikethrough"));
     addToggle(
@@ -347,7 +347,7 @@ void TextActions::addColors(QMenu& menu)
         });
         m_entries.push_back({choices->menuAction(), takesInlineStyles, {}});
     };
-    addMenu(tr("Text Colo&ur"), Icon::TextColor, inkColors, &InlineAttributes::color, tr("Text colour"));
+    addMenu(tr("Te&xt Colour"), Icon::TextColor, inkColors, &InlineAttributes::color, tr("Text colour"));
     addMenu(
         tr("&Highlight"), Icon::Highlight, highlightColors, &InlineAttributes::background, tr("Highlight"));
 }

@@ -55,11 +55,11 @@ QString imageFilter()
 
 void TextActions::fillInsertMenu(QMenu& menu)
 {
-    add(menu, {"insert.image", Icon::Media, tr("&Image…")}, [this](Page& page) { chooseImage(page); },
+    add(menu, {"insert.image", Icon::Media, tr("I&mage…")}, [this](Page& page) { chooseImage(page); },
         {{}, takesText, {}});
     addTableActions(menu);
     add(menu,
-        {"insert.rule", Icon::Rule, tr("&Scene Break"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Return)},
+        {"insert.rule", Icon::Rule, tr("S&cene Break"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Return)},
         [](Page& page) { page.insertRule(); }, {{}, isOutsideTable, {}});
     add(menu,
         {"insert.pageBreak", Icon::PageBreak, tr("&Page Break"), QKeySequence(Qt::CTRL | Qt::Key_Return)},
@@ -79,7 +79,7 @@ void TextActions::addTableActions(QMenu& menu)
 {
     QMenu* const table = menu.addMenu(m_desk.icons.icon(Icon::Table), tr("&Table"));
     for (int columns = fewestColumns; columns <= mostColumns; ++columns) {
-        QAction* const action = table->addAction(tr("New Table with %n &Columns", nullptr, columns));
+        QAction* const action = table->addAction(tr("New Table with &%n Columns", nullptr, columns));
         connect(action, &QAction::triggered, this, [this, columns] {
             if (m_page)
                 m_page->insertTable(newTableRows, columns);

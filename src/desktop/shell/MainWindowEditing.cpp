@@ -117,7 +117,7 @@ void MainWindow::buildEditMenu()
         editFocused(ClipboardEdit::SelectAll);
     });
     addAction(
-        menu, u"edit.pastePlain"_s, Icon::Paste, tr("Paste as Plain &Text"),
+        menu, u"edit.pastePlain"_s, Icon::Paste, tr("Paste as P&lain Text"),
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V), [] { pastePlainText(QApplication::focusWidget()); });
     menu.addSeparator();
     addFindActions(menu);
@@ -141,20 +141,20 @@ void MainWindow::addFindActions(QMenu& menu)
                   bar.open(FindBar::Row::Find);
               }));
     addAction(
-        menu, u"edit.findNext"_s, Icon::ChevronDown, tr("Find &Next"), QKeySequence(Qt::Key_F3),
+        menu, u"edit.findNext"_s, Icon::ChevronDown, tr("Find Ne&xt"), QKeySequence(Qt::Key_F3),
         inText([](FindBar& bar) { bar.step(true); }));
     addAction(
         menu, u"edit.findPrevious"_s, Icon::ChevronUp, tr("Find Pre&vious"),
         QKeySequence(Qt::SHIFT | Qt::Key_F3), inText([](FindBar& bar) { bar.step(false); }));
     addAction(
-        menu, u"edit.openEntity"_s, Icon::Entity, tr("Open What the Word &Names"), QKeySequence(Qt::Key_F12),
+        menu, u"edit.openEntity"_s, Icon::Entity, tr("Open What the Word Name&s"), QKeySequence(Qt::Key_F12),
         [this] {
             auto* const page = qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage());
             if (page && page->richPage())
                 page->richPage()->openEntityAtCursor();
         });
     addAction(
-        menu, u"edit.replace"_s, Icon::Refresh, tr("&Replace…"), QKeySequence(Qt::CTRL | Qt::Key_H),
+        menu, u"edit.replace"_s, Icon::Refresh, tr("R&eplace…"), QKeySequence(Qt::CTRL | Qt::Key_H),
         inText([](FindBar& bar) { bar.open(FindBar::Row::FindAndReplace); }));
     m_projectActions.append(addAction(
         menu, u"edit.findInProject"_s, Icon::Search, tr("Find in the Pro&ject…"),
@@ -298,7 +298,7 @@ void MainWindow::addWritingViews(QMenu& menu)
     typewriter->setCheckable(true);
     typewriter->setChecked(m_desk.settings.value("editor/typewriterScrolling").toBool());
     m_focusAction = addAction(
-        menu, u"view.focusMode"_s, Icon::Focus, tr("F&ocus Mode"), QKeySequence(Qt::CTRL | Qt::Key_F11),
+        menu, u"view.focusMode"_s, Icon::Focus, tr("Focus &Mode"), QKeySequence(Qt::CTRL | Qt::Key_F11),
         [this] { m_focusMode->setOn(!m_focusMode->isOn()); });
     m_focusAction->setCheckable(true);
     connect(m_focusMode, &FocusMode::changed, this, [this](bool isOn) {

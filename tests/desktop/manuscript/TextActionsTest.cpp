@@ -111,10 +111,11 @@ TEST_F(TextActionsTest, everyActionHasANameAndNoTwoTheSameKeys)
         menus.append(top);
         for (const QMenu* const menu : std::as_const(menus)) {
             for (const QAction* const each : menu->actions()) {
-                if (!each->shortcut().isEmpty())
-                    EXPECT_TRUE(keys.insert(each->shortcut()).second) << each->text().toStdString();
-                if (!each->objectName().isEmpty())
-                    EXPECT_TRUE(names.insert(each->objectName()).second) << each->objectName().toStdString();
+                const bool areKeysNew = each->shortcut().isEmpty() || keys.insert(each->shortcut()).second;
+                EXPECT_TRUE(areKeysNew) << each->text().toStdString();
+                const bool isNameNew =
+                    each->objectName().isEmpty() || names.insert(each->objectName()).second;
+                EXPECT_TRUE(isNameNew) << each->objectName().toStdString();
             }
         }
     }

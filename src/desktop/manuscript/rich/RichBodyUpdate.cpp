@@ -141,10 +141,12 @@ bool RichBody::adjustRegion(
 
 void RichBody::fill(const BodyUnits& target)
 {
+    // A document that is cleared and filled in one edit is laid out as far as it is looked at, any other at
+    // once.
+    const QTextFrameFormat frame = m_document.rootFrame()->frameFormat();
+    m_document.clear();
+    m_document.rootFrame()->setFrameFormat(frame);
     QTextCursor cursor(&m_document);
-    cursor.select(QTextCursor::Document);
-    cursor.removeSelectedText();
-    m_document.firstBlock().setUserData(nullptr);
     bool isBlockFree = true;
     for (const BodyUnit& unit : target.list) {
         if (isTable(unit)) {

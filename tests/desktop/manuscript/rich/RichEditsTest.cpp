@@ -114,6 +114,7 @@ TEST_F(RichPageTest, tablesGrowAndShrink)
     page->editTable(RichPage::TableEdit::ColumnAfter, u"Insert column"_s);
     page->editTable(RichPage::TableEdit::RowBelow, u"Insert row"_s);
     EXPECT_EQ(body(), u"before\n\n| h | i | |\n| --- | --- | --- |\n| | | |\n| | | |\n\nafter"_s);
+    goTo(u"i"_s);
     page->editTable(RichPage::TableEdit::RemoveColumn, u"Remove column"_s);
     EXPECT_EQ(body(), u"before\n\n| h | |\n| --- | --- |\n| | |\n| | |\n\nafter"_s);
     desk.session.undo();
