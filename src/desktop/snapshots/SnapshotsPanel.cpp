@@ -26,6 +26,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tw::desktop::snapshots {
 
 using namespace Qt::Literals::StringLiterals;
