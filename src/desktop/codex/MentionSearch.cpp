@@ -1,6 +1,8 @@
 #include "desktop/codex/MentionSearch.h"
 
+#include "core/document/ActiveText.h"
 #include "core/document/DocumentTree.h"
+#include "core/document/markup/LegacyHtml.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QElapsedTimer>
@@ -135,7 +137,10 @@ void MentionSearch::read(Pace pace)
             m_timer.start(0ms);
             return;
         }
-        m_counts.emplace(document->id(), countMentions(document->body().text, m_names));
+        m_counts.emplace(
+            document->id(),
+            countMentions(
+                core::document::markup::markdownOf(core::document::activeText(*document)), m_names));
     }
     m_isComplete = true;
     emit finished();

@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace tw::desktop::search {
 
 using app::search::MatchField;

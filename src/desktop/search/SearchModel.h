@@ -6,6 +6,8 @@
 
 #include <QAbstractItemModel>
 
+#include <optional>
+
 namespace tw::desktop::search {
 
 /** What was found: documents, and beneath each its matches, which can be checked for a replacement. */

@@ -161,13 +161,18 @@ void SearchPanel::connectParts()
     connect(m_search, &ProjectSearch::finished, this, &SearchPanel::end);
     connect(m_model, &SearchModel::checkedChanged, this, &SearchPanel::refreshState);
     connect(m_tree, &QTreeView::activated, this, &SearchPanel::openResult);
-    connect(m_tree, &QTreeView::clicked, this, &SearchPanel::openResult);
+    // With boxes to choose, a click chooses.
+    connect(m_tree, &QTreeView::clicked, this, [this](const QModelIndex& index) {
+        if (!m_replaceSwitch->isChecked())
+            openResult(index);
+    });
     connect(
         &m_desk.session, &shell::ProjectSession::changed, this,
         [this](const core::project::ProjectChanges& changes) {
             if (changes.isEverything)
                 search();
-            m_isOutdated = m_model->matchCount() > 0;
+            for (int row = 0; row < m_model->rowCount() && !m_isOutdated; ++row)
+                m_isOutdated = changes.concerns(m_model->documentAt(m_model->index(row, 0)));
             refreshState();
         });
 }

@@ -26,6 +26,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tw::desktop::snapshots {
 
 using namespace Qt::Literals::StringLiterals;
@@ -181,6 +183,7 @@ void SnapshotsPanel::buildLayout()
     m_list->setEditTriggers(QAbstractItemView::EditKeyPressed);
     m_list->setContextMenuPolicy(Qt::CustomContextMenu);
     m_list->setAccessibleName(tr("Snapshots"));
+    m_list->setObjectName(u"snapshotList"_s);
     m_other->setAccessibleName(tr("Compare with"));
     m_other->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 

@@ -113,7 +113,7 @@ TEST(SearchTest, replacementsLeaveTheMarkupWhole)
         {{u"(\\w+), (\\w+)"_s, false, false, true},
          u"Brandt, Mara!"_s,
          u"\\2 \\1 \\\\ \\0"_s,
-         u"Mara Brandt \\\\ Brandt, Mara!"_s},
+         u"Mara Brandt \\ Brandt, Mara!"_s},
         {{u"a"_s},
          u"```\na\n```\n\n| a | `a` |\n|---|---|\n| b | a\\|c |"_s,
          u"z|"_s,

@@ -1,4 +1,5 @@
 #include "desktop/search/SearchPanel.h"
+#include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/PassageFinder.h"
 #include "desktop/search/SearchEdits.h"

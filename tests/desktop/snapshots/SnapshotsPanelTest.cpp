@@ -105,7 +105,7 @@ TEST_F(SnapshotsTest, thePanelComparesAndRestores)
     panel.resize(320, 700);
     panel.show();
     desk.navigator.setCurrent(id);
-    auto* const list = panel.findChild<QListView*>();
+    auto* const list = panel.findChild<QListView*>(u"snapshotList"_s);
     const QAbstractItemModelTester tester(
         list->model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_EQ(list->model()->rowCount(), 1);
@@ -133,7 +133,7 @@ TEST(DifferenceViewTest, longStretchesAreShortenedAtWords)
     const QString words = u"word "_s.repeated(200);
     const QString text = shortened(words);
     EXPECT_LT(text.size(), 300);
-    EXPECT_TRUE(text.startsWith("word word"_L1) && text.contains("word …"_L1)) << text.toStdString();
+    EXPECT_TRUE(text.startsWith("word word"_L1) && text.contains(u"word …"_s)) << text.toStdString();
     EXPECT_LE(shortened(QString(1000, u'x')).size(), 300);
     EXPECT_EQ(shortened(u"short"_s), u"short"_s);
 }

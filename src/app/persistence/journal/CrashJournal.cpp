@@ -3,7 +3,7 @@
 #include "app/persistence/bundle/WorkingCopy.h"
 #include "app/persistence/codec/ObjectCodec.h"
 #include "app/persistence/files/SafeWriter.h"
-#include "core/document/Document.h"
+#include "core/document/ActiveText.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -67,7 +67,9 @@ QByteArray withBody(const QByteArray& bytes, const QString& path, const QString&
         object ? core::content::objectCast<core::document::Document>(object.value().get()) : nullptr;
     if (!document)
         return bytes;
-    document->setBody({body, document->body().format});
+    // What is typed goes into the text in use, which may be a variant.
+    const auto format = core::document::activeText(*document).format;
+    core::document::makeSetActiveTextCommand(*document, {body, format})->redo();
     return serializeObject(*document);
 }
 

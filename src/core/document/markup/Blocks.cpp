@@ -4,6 +4,8 @@
 #include "core/document/markup/LinePatterns.h"
 #include "core/document/markup/TableRows.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace tw::core::document::markup {

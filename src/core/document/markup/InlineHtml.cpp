@@ -3,6 +3,7 @@
 #include "core/document/markup/SafeValues.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace tw::core::document::markup {
 

@@ -1,9 +1,9 @@
 #include "core/document/markup/InlineWriter.h"
 
 #include "core/document/markup/Characters.h"
-#include "core/document/markup/Entities.h"
 #include "core/document/markup/LinePatterns.h"
 #include "core/document/markup/LinkTargets.h"
+#include "core/document/markup/TextEscaping.h"
 
 #include <algorithm>
 #include <array>
@@ -13,23 +13,6 @@ namespace tw::core::document::markup {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-enum class Care
-{
-    /** Marks stand around as much text as they hold for, and little is escaped: what people write. */
-    Usual,
-    /** Marks stand around each run, in brackets that keep neighbours from changing what they mean. */
-    Strict,
-};
-
-enum class Place
-{
-    Text,
-    /** Between the brackets of a link or an image. */
-    LinkText,
-    /** Between the brackets of a group, whose text ends at the first closing bracket. */
-    GroupText,
-};
 
 struct Emphasis
 {
@@ -50,133 +33,10 @@ bool hasEmphasis(const RunStyle& style)
         emphases, [&style](const Emphasis& emphasis) { return style.*emphasis.style; });
 }
 
-bool isLetterOrDigit(QChar character)
-{
-    return character.isLetterOrNumber() || character.isSurrogate();
-}
-
 /** What a run links to; nothing when it is no link. */
 LinkTarget linkOf(const Run& run)
 {
     return run.style.link.isEmpty() ? LinkTarget() : LinkTarget{run.style.link, run.style.linkTitle};
-}
-
-/** Escapes one stretch of plain text. */
-class TextEscaper
-{
-public:
-    TextEscaper(QStringView text, Place place, Care care)
-        : m_text(text)
-        , m_place(place)
-        , m_isStrict(care == Care::Strict)
-    {}
-
-    [[nodiscard]] QString run()
-    {
-        while (m_index < m_text.size())
-            step();
-        return std::move(m_result);
-    }
-
-private:
-    void step()
-    {
-        const QChar character = m_text[m_index];
-        switch (character.unicode()) {
-        case u'*':
-        case u'_':
-        case u'~':
-            return writeMarks(character);
-        case u'\\':
-            return write(character, isBeforePunctuation());
-        case u'`':
-            return write(character, true);
-        case u'[':
-            write(character, m_place != Place::Text || m_isStrict);
-            // A reader by pattern alone would find a footnote even behind an escaped bracket.
-            if (m_index < m_text.size() && m_text[m_index] == u'^')
-                write(u'^', true);
-            return;
-        case u']':
-            if (m_place != Place::GroupText)
-                return write(
-                    character, m_place == Place::LinkText || m_isStrict || nextIs(u'(') || nextIs(u'{'));
-            m_result += u"&#93;"_s;
-            ++m_index;
-            return;
-        case u'<':
-            return write(character, m_isStrict || readAutolink(m_text, m_index).end >= 0);
-        case u'&':
-            m_result += readEntity(m_text.sliced(m_index)).length > 0 ? u"&amp;"_s : u"&"_s;
-            ++m_index;
-            return;
-        case u'{':
-            m_result += character;
-            ++m_index;
-            // A group in the text would be taken for one wherever it stands.
-            if (m_text.sliced(m_index - 1).startsWith(groupStart))
-                m_result += u'\\';
-            return;
-        default:
-            return write(character, false);
-        }
-    }
-
-    void write(QChar character, bool isEscaped)
-    {
-        if (isEscaped)
-            m_result += u'\\';
-        m_result += character;
-        ++m_index;
-    }
-
-    void writeMarks(QChar mark)
-    {
-        const qsizetype end = skip(m_text, m_index, [mark](QChar character) { return character == mark; });
-        const QChar before = m_index > 0 ? m_text[m_index - 1] : QChar(u'*');
-        const QChar after = end < m_text.size() ? m_text[end] : QChar(u'*');
-        const bool isHarmless =
-            !m_isStrict && ((before.isSpace() && after.isSpace()) ||
-                            (mark == u'_' && isLetterOrDigit(before) && isLetterOrDigit(after)) ||
-                            (mark == u'~' && end - m_index == 1 && before != u'*' && after != u'*'));
-        while (m_index < end)
-            write(mark, !isHarmless);
-    }
-
-    [[nodiscard]] bool isAtEnd() const { return m_index + 1 == m_text.size(); }
-    [[nodiscard]] bool nextIs(QChar character) const
-    {
-        return !isAtEnd() && m_text[m_index + 1] == character;
-    }
-    [[nodiscard]] bool isBeforePunctuation() const
-    {
-        return isAtEnd() || isAsciiPunctuation(m_text[m_index + 1]);
-    }
-
-    QStringView m_text;
-    Place m_place;
-    bool m_isStrict;
-    qsizetype m_index = 0;
-    QString m_result;
-};
-
-QString writeCode(const QString& code)
-{
-    std::vector<bool> isUsed(3, false);
-    for (qsizetype start = code.indexOf(u'`'); start >= 0; start = code.indexOf(u'`', start)) {
-        const qsizetype end = skip(code, start, [](QChar character) { return character == u'`'; });
-        const auto length = static_cast<std::size_t>(end - start);
-        isUsed.resize(std::max(isUsed.size(), length + 2), false);
-        isUsed[length] = true;
-        start = end;
-    }
-    const auto free = std::ranges::find(isUsed.begin() + 1, isUsed.end(), false);
-    const QString fence(free - isUsed.begin(), u'`');
-    const bool isAllBlank = std::ranges::all_of(code, [](QChar character) { return character == u' '; });
-    const bool isPadded = code.startsWith(u'`') || code.endsWith(u'`') ||
-                          (!isAllBlank && code.startsWith(u' ') && code.endsWith(u' '));
-    const QString pad = isPadded ? u" "_s : QString();
-    return fence + pad + code + pad + fence;
 }
 
 class InlineWriter
@@ -269,8 +129,8 @@ void InlineWriter::writeRun(const Run& run)
         openMarks(run.style);
         const QString title = run.style.link.isEmpty() ? run.style.linkTitle : QString();
         m_result += u'!';
-        m_result += u'[' + TextEscaper(run.text, Place::LinkText, m_care).run() + u']' +
-                    writeLinkTail({run.target, title});
+        m_result +=
+            u'[' + escapedText(run.text, Place::LinkText, m_care) + u']' + writeLinkTail({run.target, title});
     } else {
         writeText(run);
     }
@@ -292,7 +152,7 @@ void InlineWriter::writeText(const Run& run)
         openMarks(run.style);
     const Place place = hasBrackets ? Place::GroupText : isInLink() ? Place::LinkText : Place::Text;
     if (run.style.code) {
-        m_result += writeCode(run.text);
+        m_result += codeSpan(run.text);
     } else {
         QStringView text = run.text;
         QString leading;
@@ -308,7 +168,7 @@ void InlineWriter::writeText(const Run& run)
                 text.chop(1);
             }
         }
-        appendText(leading + TextEscaper(text, place, m_care).run() + trailing);
+        appendText(leading + escapedText(text, place, m_care) + trailing);
     }
     if (isApart)
         closeMarks({});

@@ -2,6 +2,8 @@
 
 #include "core/document/markup/SafeValues.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <cmath>
 

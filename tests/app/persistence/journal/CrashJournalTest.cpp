@@ -172,6 +172,23 @@ TEST_F(CrashJournalTest, keepsTypingThatIsHeldBack)
     EXPECT_EQ(abandoned.front().content().files.at(u"not a chapter"_s).bytes, "{]");
 }
 
+TEST_F(CrashJournalTest, keepsTypingInTheVariantItWentInto)
+{
+    core::document::Document chapter(
+        core::ContentId::create(), core::document::DocumentKind::Prose, u"Ebb"_s);
+    chapter.setBody({u"Main."_s, {}});
+    chapter.setVariants({{{u"Dark"_s, u"Night."_s}}, u"Dark"_s});
+    const QString path = u"objects/%1.json"_s.arg(chapter.id().toString());
+    const QByteArray before = serializeObject(chapter);
+    chapter.setVariants({{{u"Dark"_s, u"Night fell."_s}}, u"Dark"_s});
+    auto journal = begin();
+    journal->append({{path, before, before, u"Night fell."_s}});
+    journal.reset();
+    const auto abandoned = AbandonedJournal::find(environment, u"/books/tide"_s);
+    ASSERT_EQ(abandoned.size(), 1U);
+    EXPECT_EQ(abandoned.front().content().files.at(path).bytes, serializeObject(chapter));
+}
+
 TEST_F(CrashJournalTest, isRewrittenWhenItSaysTheSameOverAndOver)
 {
     auto journal = begin();
