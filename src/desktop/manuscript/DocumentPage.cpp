@@ -129,6 +129,9 @@ void DocumentPage::rememberPlace()
 
 void DocumentPage::restorePlace()
 {
+    // A page that was closed at once may wait for its end without a desk.
+    if (!isVisible())
+        return;
     m_isPlaceRestored = true;
     const auto place = m_places.find(objectId());
     // Somebody was faster: what is typed or chosen already stays.

@@ -1,14 +1,15 @@
 #include "desktop/shell/MainWindow.h"
 
 #include "core/entity/EntityCommands.h"
-#include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/BodyEditor.h"
+#include "desktop/manuscript/DocumentPage.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
 #include "desktop/support/NextMessage.h"
 #include "desktop/support/TestDesk.h"
+#include "desktop/trees/NavigatorTree.h"
 #include "support/TestFiles.h"
 
 #include <QAction>
@@ -118,6 +119,40 @@ TEST_F(MainWindowTest, writesUndoesSavesClosesAndFindsEverythingAgain)
     EXPECT_TRUE(page->editor().toPlainText().startsWith(u"First words. "_s));
     const auto* const again = desk->session.project().findAs<core::entity::Entity>(idOf(u"Ibbet Lusk"_s));
     EXPECT_EQ(again->value(u"clerkNumber"_s), u"59"_s);
+}
+
+TEST_F(MainWindowTest, focusModeLeavesTheTextAloneAndComesBack)
+{
+    manuscript::BodyEditor& text = openText(u"The Spike"_s);
+    const QWidget* const menus = window->menuBar();
+    QList<QWidget*> trees;
+    for (auto* const tree : window->findChildren<trees::NavigatorTree*>()) {
+        if (tree->isVisible())
+            trees.append(tree);
+    }
+    ASSERT_FALSE(trees.isEmpty());
+    action(u"Focus Mode"_s)->trigger();
+    EXPECT_FALSE(trees.front()->isVisible());
+    EXPECT_EQ(menus->maximumHeight(), 0);
+    EXPECT_TRUE(menus->isVisible()) << "its shortcuts still work";
+    EXPECT_TRUE(text.isVisible());
+    action(u"Focus Mode"_s)->trigger();
+    EXPECT_TRUE(trees.front()->isVisible());
+    EXPECT_GT(menus->maximumHeight(), 0);
+}
+
+TEST_F(MainWindowTest, theTextIsShownAsMarkdownAndBack)
+{
+    QTest::keyClicks(&openText(u"The Spike"_s), u"Held. "_s);
+    action(u"Markdown Source"_s)->trigger();
+    auto* const page =
+        qobject_cast<manuscript::DocumentPage*>(window->findChild<WorkArea*>(u"workArea"_s)->currentPage());
+    EXPECT_EQ(page->textView(), manuscript::TextView::MarkdownSource);
+    EXPECT_TRUE(page->editor().toPlainText().startsWith(u"Held. "_s));
+    EXPECT_FALSE(action(u"Bold"_s)->isEnabled());
+    action(u"Markdown Source"_s)->trigger();
+    EXPECT_EQ(page->textView(), manuscript::TextView::Rich);
+    EXPECT_TRUE(action(u"Bold"_s)->isEnabled());
 }
 
 TEST_F(MainWindowTest, closingAsksOnlyWhenSomethingIsUnsaved)

@@ -56,10 +56,4 @@ void BlockOrigin::setPlace(int newPlace)
     wasBlank = isBlank();
 }
 
-void BlockOrigin::setWords(qint64 words)
-{
-    m_tally->words += words - m_words;
-    m_words = words;
-}
-
 } // namespace tw::desktop::manuscript::rich

@@ -3,6 +3,8 @@
 #include "core/entity/Entity.h"
 #include "desktop/shell/ProjectSession.h"
 
+#include <QWidget>
+
 #include <algorithm>
 #include <chrono>
 
@@ -10,14 +12,20 @@ namespace tw::desktop::manuscript::rich {
 
 using namespace std::chrono_literals;
 
-EntityNames::EntityNames(shell::ProjectSession& session, QObject* parent)
-    : QObject(parent)
+EntityNames::EntityNames(shell::ProjectSession& session, QWidget& page)
+    : QObject(&page)
     , m_session(session)
+    , m_page(page)
 {
     m_rest.setSingleShot(true);
     connect(&m_rest, &QTimer::timeout, this, &EntityNames::read);
     connect(&session, &shell::ProjectSession::changed, this, &EntityNames::follow);
-    m_rest.start(0ms);
+}
+
+void EntityNames::wake()
+{
+    if (m_isStale)
+        m_rest.start(0ms);
 }
 
 void EntityNames::follow(const core::project::ProjectChanges& changes)
@@ -29,12 +37,18 @@ void EntityNames::follow(const core::project::ProjectChanges& changes)
     const bool isConcerned = changes.isEverything || !changes.removed.empty() ||
                              std::ranges::any_of(changes.added, isEntity) ||
                              std::ranges::any_of(changes.changed, isEntity);
-    if (isConcerned)
+    if (!isConcerned)
+        return;
+    m_isStale = true;
+    if (m_page.isVisible())
         m_rest.start(300ms);
 }
 
 void EntityNames::read()
 {
+    if (!m_page.isVisible())
+        return;
+    m_isStale = false;
     m_names = app::typing::entityNames(m_session.project());
     m_matcher = app::typing::NameMatcher(m_names);
     emit changed();

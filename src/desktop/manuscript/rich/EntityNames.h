@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QTimer>
 
+class QWidget;
+
 namespace tw::desktop::shell {
 class ProjectSession;
 }
@@ -21,10 +23,15 @@ class EntityNames final : public QObject
     Q_OBJECT
 
 public:
-    EntityNames(shell::ProjectSession& session, QObject* parent);
+    /** Owned by the page. */
+    EntityNames(shell::ProjectSession& session, QWidget& page);
+
+    /** Has the names brought up to date soon; while the page is hidden nothing is done for it. */
+    void wake();
 
     [[nodiscard]] const app::typing::NameMatcher& matcher() const { return m_matcher; }
-    /** All names that begin with a text, whatever its case, sorted; those with a later word that does follow. */
+    /** All names that begin with a text, whatever its case, sorted; those with a later word that does follow.
+     */
     [[nodiscard]] QStringList completions(const QString& text, qsizetype most) const;
 
 signals:
@@ -35,6 +42,8 @@ private:
     void read();
 
     shell::ProjectSession& m_session;
+    QWidget& m_page;
+    bool m_isStale = true;
     QTimer m_rest;
     std::vector<app::typing::Name> m_names;
     app::typing::NameMatcher m_matcher;

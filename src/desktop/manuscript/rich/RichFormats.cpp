@@ -19,7 +19,12 @@ using theme::Role;
 namespace {
 
 constexpr std::array headingScales{1.6, 1.35, 1.2, 1.1, 1.05, 1.0};
-constexpr qreal headingLineHeight = 1.25;
+/** Of headings, code and tables. */
+constexpr qreal tightLineHeight = 1.25;
+// What a text asks for beyond these cannot be read.
+constexpr double tightestSpacing = 0.5;
+constexpr double loosestSpacing = 5;
+constexpr qint32 deepestIndent = 12;
 constexpr qreal footnoteScale = 0.88;
 constexpr qreal codeScale = 0.9;
 // In ems
@@ -74,6 +79,40 @@ Qt::Alignment alignmentOf(const QString& name)
     return {};
 }
 
+/** Room around the text of a block, in ems. */
+struct BlockSpace
+{
+    qreal above = 0;
+    qreal below = 0;
+    qreal left = 0;
+    bool isTight = false;
+};
+
+BlockSpace spaceOf(const BlockShape& shape, bool hasFirstLineIndents)
+{
+    const qreal gap = hasFirstLineIndents ? 0 : paragraphGap;
+    switch (shape.kind) {
+    case BlockKind::Paragraph:
+        return {gap, gap};
+    case BlockKind::Heading:
+        return {headingGapAbove, headingGapBelow, 0, true};
+    case BlockKind::Rule:
+        return {ruleGap, ruleGap};
+    case BlockKind::BulletItem:
+    case BlockKind::NumberedItem:
+        return {0, itemGap, (shape.level + 1) * step};
+    case BlockKind::Quotation:
+        return {paragraphGap, paragraphGap, shape.level * step};
+    case BlockKind::Code:
+        return {codeGap, codeGap, step / 2, true};
+    case BlockKind::FootnoteDefinition:
+        return {gap, gap, step};
+    case BlockKind::Table:
+        return {0, 0, 0, true};
+    }
+    return {};
+}
+
 } // namespace
 
 QColor readableInk(const QColor& ink, const QColor& paper)
@@ -108,59 +147,29 @@ QTextBlockFormat RichFormats::block(const BlockShape& shape) const
 {
     QTextBlockFormat format;
     storeShape(format, shape);
+    const BlockSpace space = spaceOf(shape, m_style.hasFirstLineIndents);
     qreal lineHeight = m_lineHeightPercent;
-    qreal above = 0;
-    qreal below = m_style.hasFirstLineIndents ? 0 : paragraphGap;
-    qreal left = shape.attributes.indent * step;
-    switch (shape.kind) {
-    case BlockKind::Paragraph:
-        above = below;
-        if (m_style.hasFirstLineIndents && shape.attributes.align != "center"_L1)
-            format.setTextIndent(firstLineIndent * m_em);
-        break;
-    case BlockKind::Heading:
-        lineHeight *= headingLineHeight / m_style.lineHeight;
-        above = headingGapAbove;
-        below = headingGapBelow;
-        break;
-    case BlockKind::Rule:
-        above = below = ruleGap;
-        format.setAlignment(Qt::AlignHCenter);
-        break;
-    case BlockKind::BulletItem:
-    case BlockKind::NumberedItem:
-        left += (shape.level + 1) * step;
-        below = itemGap;
-        break;
-    case BlockKind::Quotation:
-        left += shape.level * step;
-        above = below = paragraphGap;
-        break;
-    case BlockKind::Code:
-        left += step / 2;
-        above = below = codeGap;
-        format.setRightMargin(step / 2 * m_em);
-        lineHeight *= headingLineHeight / m_style.lineHeight;
-        break;
-    case BlockKind::FootnoteDefinition:
-        left += step;
-        break;
-    case BlockKind::Table:
-        below = 0;
-        lineHeight *= headingLineHeight / m_style.lineHeight;
-        break;
-    }
     if (shape.attributes.spacing > 0)
-        lineHeight = m_lineHeightPercent * shape.attributes.spacing / m_style.lineHeight;
-    if (shape.attributes.pageBreak)
-        above = std::max(above, pageBreakGap);
+        lineHeight *=
+            std::clamp(shape.attributes.spacing, tightestSpacing, loosestSpacing) / m_style.lineHeight;
+    else if (space.isTight)
+        lineHeight *= tightLineHeight / m_style.lineHeight;
     format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
+    const qreal above = shape.attributes.pageBreak ? std::max(space.above, pageBreakGap) : space.above;
     if (above > 0)
         format.setTopMargin(above * m_em);
-    if (below > 0)
-        format.setBottomMargin(below * m_em);
+    if (space.below > 0)
+        format.setBottomMargin(space.below * m_em);
+    const qreal left = space.left + std::min(shape.attributes.indent, deepestIndent) * step;
     if (left > 0)
         format.setLeftMargin(left * m_em);
+    if (shape.kind == BlockKind::Code)
+        format.setRightMargin(space.left * m_em);
+    if (shape.kind == BlockKind::Rule)
+        format.setAlignment(Qt::AlignHCenter);
+    if (m_style.hasFirstLineIndents && shape.kind == BlockKind::Paragraph &&
+        shape.attributes.align != "center"_L1)
+        format.setTextIndent(firstLineIndent * m_em);
     if (const Qt::Alignment alignment = alignmentOf(shape.attributes.align))
         format.setAlignment(alignment);
     return format;

@@ -28,7 +28,7 @@ RichPage::RichPage(const shell::DeskContext& desk, const core::ContentId& docume
           m_formats, [&session = desk.session] { return session.workspace().folderPath(); },
           [this] { return columnWidth(); }, this))
     , m_footnotes(new FootnoteMarks(m_formats, this))
-    , m_names(new EntityNames(desk.session, this))
+    , m_names(new EntityNames(desk.session, *this))
 {
     setMouseTracking(true);
     document()->documentLayout()->registerHandler(ImageObject, m_images);
@@ -109,6 +109,12 @@ void RichPage::resizeEvent(QResizeEvent* event)
     BodyEditor::resizeEvent(event);
     if (width != columnWidth())
         m_images->forget();
+}
+
+void RichPage::showEvent(QShowEvent* event)
+{
+    BodyEditor::showEvent(event);
+    m_names->wake();
 }
 
 void RichPage::focusOutEvent(QFocusEvent* event)

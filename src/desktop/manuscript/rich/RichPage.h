@@ -10,6 +10,8 @@
 
 #include <functional>
 
+class QTextTable;
+
 namespace tw::desktop::manuscript {
 class TypingBursts;
 }
@@ -134,6 +136,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
     [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
@@ -158,6 +161,7 @@ private:
 
     void insertBlocks(QTextCursor& cursor, const std::vector<markup::Block>& blocks);
     void insertPlainText(const QString& text);
+    void dressTable(QTextTable& table, const std::vector<markup::ColumnAlignment>& columns);
     /** Gives the numbered items of the list around the block their numbers. */
     void renumber(const QTextBlock& block);
     [[nodiscard]] std::vector<QTextBlock> selectedBlocks() const;

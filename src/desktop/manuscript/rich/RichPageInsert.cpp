@@ -45,6 +45,71 @@ std::vector<Run> asOneLine(const std::vector<Block>& blocks)
     return runs;
 }
 
+void removeTable(QTextCursor& cursor, const QTextTable& table)
+{
+    const QTextBlock next = cursor.document()->findBlock(table.lastPosition() + 1);
+    const QTextBlockFormat nextFormat = next.blockFormat();
+    const QTextCharFormat nextText = next.charFormat();
+    const int first = table.firstPosition() - 1;
+    cursor.setPosition(table.lastPosition() + 1);
+    cursor.setPosition(first, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    // The table parted two paragraphs, which stay two.
+    if (cursor.atBlockStart()) {
+        cursor.setBlockFormat(nextFormat);
+        cursor.setBlockCharFormat(nextText);
+    } else if (!cursor.atBlockEnd()) {
+        cursor.insertBlock(nextFormat, nextText);
+    }
+}
+
+/** Adds or removes one row or column beside the cell; `columns` follows. */
+void changeSize(
+    QTextTable& table, const QTextTableCell& cell, RichPage::TableEdit edit,
+    std::vector<ColumnAlignment>& columns)
+{
+    const int row = cell.row();
+    const int column = cell.column();
+    switch (edit) {
+    case RichPage::TableEdit::RowAbove:
+        table.insertRows(row, 1);
+        break;
+    case RichPage::TableEdit::RowBelow:
+        table.insertRows(row + 1, 1);
+        break;
+    case RichPage::TableEdit::ColumnBefore:
+        table.insertColumns(column, 1);
+        columns.insert(columns.begin() + column, ColumnAlignment::Default);
+        break;
+    case RichPage::TableEdit::ColumnAfter:
+        table.insertColumns(column + 1, 1);
+        columns.insert(columns.begin() + column + 1, ColumnAlignment::Default);
+        break;
+    case RichPage::TableEdit::RemoveRow:
+        table.removeRows(row, 1);
+        break;
+    case RichPage::TableEdit::RemoveColumn:
+        table.removeColumns(column, 1);
+        columns.erase(columns.begin() + column);
+        break;
+    case RichPage::TableEdit::RemoveTable:
+        break;
+    }
+}
+
+/** To the end of the paragraph above when the cursor begins one, so that a table leaves no empty one behind.
+ */
+void goBelowText(QTextCursor& cursor)
+{
+    const QTextBlock previous = cursor.block().previous();
+    if (!cursor.atBlockStart() || !previous.isValid() || kindOf(previous.blockFormat()) == BlockKind::Table)
+        return;
+    if (cursor.atBlockEnd())
+        cursor.deletePreviousChar();
+    else
+        cursor.movePosition(QTextCursor::PreviousCharacter);
+}
+
 } // namespace
 
 void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& blocks)
@@ -62,6 +127,8 @@ void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& block
         insertPieces(cursor, readRuns(markup::parseInline(blocks.front().text), shape, m_formats));
         return;
     }
+    if (blocks.front().kind == BlockKind::Table)
+        goBelowText(cursor);
     const bool hasTail = !cursor.atBlockEnd();
     const QTextCharFormat tailFormat = cursor.block().charFormat();
     const QTextBlockFormat tailBlock = cursor.blockFormat();
@@ -69,8 +136,6 @@ void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& block
     bool isFirst = true;
     for (const Block& block : blocks) {
         if (block.kind == BlockKind::Table) {
-            if (isFirst && hasTail && cursor.atBlockStart())
-                cursor.insertBlock(tailBlock, tailFormat), cursor.movePosition(QTextCursor::PreviousBlock);
             rich::insertTable(cursor, block.table, m_formats);
             isBlockFree = true;
             cursor.setBlockFormat(m_formats.block({}));
@@ -96,7 +161,10 @@ void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& block
         isFirst = false;
     }
     // What stood behind the cursor stays what it was.
-    if (hasTail && !cursor.atBlockEnd() && !isPlain(blocks.back())) {
+    if (blocks.back().kind == BlockKind::Table) {
+        if (hasTail)
+            cursor.setBlockFormat(tailBlock);
+    } else if (hasTail && !cursor.atBlockEnd() && !isPlain(blocks.back())) {
         cursor.insertBlock(tailBlock, tailFormat);
         cursor.movePosition(QTextCursor::PreviousBlock);
         cursor.movePosition(QTextCursor::EndOfBlock);
@@ -209,69 +277,35 @@ void RichPage::editTable(TableEdit edit, const QString& label)
         auto* const table = cursor.currentTable();
         if (!table)
             return;
-        const QTextTableCell cell = table->cellAt(cursor);
-        std::vector<ColumnAlignment> columns = columnsOf(table->format());
-        columns.resize(static_cast<std::size_t>(table->columns()));
-        const auto insertColumn = [&](int place) {
-            table->insertColumns(place, 1);
-            columns.insert(columns.begin() + place, ColumnAlignment::Default);
-        };
         const bool removesAll = edit == TableEdit::RemoveTable ||
                                 (edit == TableEdit::RemoveRow && table->rows() == 1) ||
                                 (edit == TableEdit::RemoveColumn && table->columns() == 1);
         if (removesAll) {
-            const QTextBlock next = document()->findBlock(table->lastPosition() + 1);
-            const QTextBlockFormat nextFormat = next.blockFormat();
-            const QTextCharFormat nextText = next.charFormat();
-            cursor.setPosition(table->firstPosition() - 1);
-            cursor.setPosition(table->lastPosition() + 1, QTextCursor::KeepAnchor);
-            cursor.removeSelectedText();
-            // The table parted two paragraphs, which stay two.
-            if (cursor.atBlockStart()) {
-                cursor.setBlockFormat(nextFormat);
-                cursor.setBlockCharFormat(nextText);
-            } else if (!cursor.atBlockEnd()) {
-                cursor.insertBlock(nextFormat, nextText);
-            }
+            removeTable(cursor, *table);
             return;
         }
-        switch (edit) {
-        case TableEdit::RowAbove:
-            table->insertRows(cell.row(), 1);
-            break;
-        case TableEdit::RowBelow:
-            table->insertRows(cell.row() + 1, 1);
-            break;
-        case TableEdit::ColumnBefore:
-            insertColumn(cell.column());
-            break;
-        case TableEdit::ColumnAfter:
-            insertColumn(cell.column() + 1);
-            break;
-        case TableEdit::RemoveRow:
-            table->removeRows(cell.row(), 1);
-            break;
-        case TableEdit::RemoveColumn:
-            columns.erase(columns.begin() + cell.column());
-            table->removeColumns(cell.column(), 1);
-            break;
-        case TableEdit::RemoveTable:
-            break;
-        }
-        table->setFormat(m_formats.table(columns));
-        const markup::Table alignment{columns, {}};
-        for (int row = 0; row < table->rows(); ++row) {
-            for (int column = 0; column < table->columns(); ++column) {
-                // New cells take their looks from their place.
-                const QTextBlock block = table->cellAt(row, column).firstCursorPosition().block();
-                const RichParagraph model = readCell(
-                    alignment, static_cast<std::size_t>(row), static_cast<std::size_t>(column), m_formats);
-                QTextCursor(block).setBlockFormat(model.format);
-                restyleBlock(block, m_formats);
-            }
-        }
+        std::vector<ColumnAlignment> columns = columnsOf(table->format());
+        columns.resize(static_cast<std::size_t>(table->columns()));
+        changeSize(*table, table->cellAt(cursor), edit, columns);
+        dressTable(*table, columns);
         m_body.touchTable(*table);
     });
+}
+
+void RichPage::dressTable(QTextTable& table, const std::vector<ColumnAlignment>& columns)
+{
+    table.setFormat(m_formats.table(columns));
+    const markup::Table alignment{columns, {}};
+    for (int row = 0; row < table.rows(); ++row) {
+        for (int column = 0; column < table.columns(); ++column) {
+            // New cells take their looks from their place.
+            const QTextBlock block = table.cellAt(row, column).firstCursorPosition().block();
+            const RichParagraph model = readCell(
+                alignment, static_cast<std::size_t>(row), static_cast<std::size_t>(column), m_formats);
+            QTextCursor(block).setBlockFormat(model.format);
+            restyleBlock(block, m_formats);
+        }
+    }
 }
 
 } // namespace tw::desktop::manuscript::rich
