@@ -101,9 +101,7 @@ void ProblemsPanel::fillCategoryMenu()
     for (const ProblemSource* const source : m_sources) {
         for (const ProblemCategory& category : source->categories()) {
             const QString count = QLocale().toString(m_model->counts().value(category.id));
-            QAction* const action = menu.addAction(
-                m_desk.icons.icon(Icon::Filter, source->colorOf(category.id)),
-                tr("%1 (%2)").arg(category.title, count));
+            QAction* const action = menu.addAction(tr("%1 (%2)").arg(category.title, count));
             action->setCheckable(true);
             action->setChecked(!m_model->isCategoryHidden(category.id));
             connect(action, &QAction::toggled, this, [this, id = category.id](bool isOn) {

@@ -19,8 +19,8 @@ using proofreading::ProofreadingSettings;
 
 namespace {
 
-constexpr int linesOfLanguages = 4;
-constexpr int linesOfWords = 6;
+constexpr int linesOfLanguages = 3;
+constexpr int linesOfWords = 4;
 
 QCheckBox* makeSwitch(const QString& text, const QString& name, bool isOn, QWidget* parent)
 {

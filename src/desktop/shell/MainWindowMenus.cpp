@@ -187,7 +187,7 @@ void MainWindow::addProofreadingActions(QMenu& menu)
         refresh();
     };
     addSwitch(
-        u"tools.spellWhileTyping"_s, tr("Check &Spelling While Typing"), QKeySequence(Qt::Key_F7),
+        u"tools.spellWhileTyping"_s, tr("&Check Spelling While Typing"), QKeySequence(Qt::Key_F7),
         &ProofreadingSettings::marksSpelling);
     addSwitch(
         u"tools.proofreadWhileTyping"_s, tr("&Proofread While Typing"), QKeySequence(Qt::SHIFT | Qt::Key_F7),
