@@ -2,8 +2,8 @@
 
 #include "app/persistence/bundle/BackupList.h"
 #include "core/document/DocumentCommands.h"
-#include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/BodyEditor.h"
+#include "desktop/manuscript/DocumentPage.h"
 #include "desktop/project/NewProjectDialog.h"
 #include "desktop/project/ProjectBackups.h"
 #include "desktop/project/RestoreDialog.h"
