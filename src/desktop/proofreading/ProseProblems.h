@@ -2,12 +2,14 @@
 
 #include "core/project/ProjectChanges.h"
 #include "desktop/problems/ProblemSource.h"
+#include "desktop/proofreading/EditorProofreader.h"
 #include "desktop/proofreading/ProofreadingService.h"
 
 #include <QThreadPool>
 #include <QTimer>
 
 #include <atomic>
+#include <functional>
 #include <map>
 #include <set>
 

@@ -91,13 +91,13 @@ TEST_F(TextActionsTest, showHowTheTextIsSetAndWorkOnlyWhereTheyCan)
         EXPECT_EQ(tried->isChecked(), sample.isChecked)
             << sample.name.toStdString() << sample.at.toStdString();
     }
-    page->setTextView(TextView::MarkdownSource);
+    page->setSourceShown(true);
     EXPECT_FALSE(action(u"format.bold"_s)->isEnabled());
-    page->setTextView(TextView::Rich);
+    page->setSourceShown(false);
     desk.document(id).setLocked(true);
     desk.announce();
-    page->setTextView(TextView::MarkdownSource);
-    page->setTextView(TextView::Rich);
+    page->setSourceShown(true);
+    page->setSourceShown(false);
     actions.refreshNow();
     EXPECT_FALSE(action(u"format.italic"_s)->isEnabled()) << "locked";
 }
