@@ -98,7 +98,7 @@ void SearchPanel::buildLayout()
     m_hint->setWordWrap(true);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setForegroundRole(QPalette::PlaceholderText);
-    m_hint->setContentsMargins(3 * margin, 3 * margin, 3 * margin, 3 * margin);
+    m_hint->setMargin(2 * margin);
     m_tree->setModel(m_model);
     m_tree->setHeaderHidden(true);
     m_tree->setUniformRowHeights(true);

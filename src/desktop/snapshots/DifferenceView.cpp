@@ -39,6 +39,8 @@ DifferenceView::DifferenceView(theme::ThemeManager& themes, QWidget* parent)
     setOpenLinks(false);
     setFrameShape(QFrame::NoFrame);
     setAccessibleName(tr("Differences"));
+    setPlaceholderText(
+        tr("Take a snapshot to keep the text as it is now. What changes afterwards is shown here."));
     document()->setDocumentMargin(margin);
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
         const auto passage = static_cast<std::size_t>(link.path().toULongLong());

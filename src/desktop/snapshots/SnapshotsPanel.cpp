@@ -337,6 +337,7 @@ void SnapshotsPanel::refreshOthers()
             m_other->addItem(m_model->index(row).data().toString(), row);
     }
     m_other->setCurrentIndex(std::max(m_other->findData(kept), 0));
+    m_other->parentWidget()->setVisible(m_other->count() > 0);
 }
 
 void SnapshotsPanel::refreshComparison()
