@@ -2296,6 +2296,10 @@
         <source>%1 of %2 properties filled in</source>
         <translation>%1 von %2 Eigenschaften ausgefüllt</translation>
     </message>
+    <message>
+        <source>Entity</source>
+        <translation>Eintrag</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::codex::EventsSection</name>
@@ -2656,6 +2660,10 @@
         <source>Not a date this calendar can read. Write it like “%1” or just a year.</source>
         <translation>Dieses Datum kann der Kalender nicht lesen. Schreiben Sie es wie „%1“ oder nur ein Jahr.</translation>
     </message>
+    <message>
+        <source>Story date</source>
+        <translation>Handlungszeit</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::fields::UrlValueEditor</name>
@@ -2813,6 +2821,10 @@
         <source>Select a document or an entity to see its properties.</source>
         <translation>Wählen Sie ein Dokument oder einen Eintrag, um die Eigenschaften zu sehen.</translation>
     </message>
+    <message>
+        <source>Inspector</source>
+        <translation>Inspektor</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::inspector::ObjectSection</name>
@@ -2868,7 +2880,7 @@
     </message>
     <message>
         <source>New Document &amp;Inside</source>
-        <translation>Neues Dokument &amp;darin</translation>
+        <translation>Neues Dokument d&amp;arin</translation>
     </message>
     <message>
         <source>New &amp;Screenplay</source>
@@ -2900,11 +2912,11 @@
     </message>
     <message>
         <source>Move Document &amp;In</source>
-        <translation>Dokument &amp;einrücken</translation>
+        <translation>Dokument e&amp;inrücken</translation>
     </message>
     <message>
         <source>Move Document &amp;Out</source>
-        <translation>Dokument aus&amp;rücken</translation>
+        <translation>Dokument ausrü&amp;cken</translation>
     </message>
     <message>
         <source>&amp;Remove Document</source>
@@ -3192,15 +3204,11 @@
     </message>
     <message>
         <source>&amp;Bullet List</source>
-        <translation>Au&amp;fzählung</translation>
+        <translation>Aufz&amp;ählung</translation>
     </message>
     <message>
         <source>Bullet list</source>
         <translation>Aufzählung</translation>
-    </message>
-    <message>
-        <source>&amp;Numbered List</source>
-        <translation>&amp;Nummerierte Liste</translation>
     </message>
     <message>
         <source>Numbered list</source>
@@ -3213,10 +3221,6 @@
     <message>
         <source>&amp;Outdent</source>
         <translation>Aus&amp;rücken</translation>
-    </message>
-    <message>
-        <source>Page Break Be&amp;fore</source>
-        <translation>Seitenumbruch da&amp;vor</translation>
     </message>
     <message>
         <source>Page break</source>
@@ -3245,10 +3249,6 @@
     <message>
         <source>Underline</source>
         <translation>Unterstrichen</translation>
-    </message>
-    <message>
-        <source>Strike&amp;through</source>
-        <translation>&amp;Durchgestrichen</translation>
     </message>
     <message>
         <source>Strikethrough</source>
@@ -3379,16 +3379,12 @@
         <translation>&amp;Weitere…</translation>
     </message>
     <message>
-        <source>Text Colo&amp;ur</source>
-        <translation>Te&amp;xtfarbe</translation>
-    </message>
-    <message>
         <source>Text colour</source>
         <translation>Textfarbe</translation>
     </message>
     <message>
         <source>&amp;Highlight</source>
-        <translation>&amp;Hervorhebung</translation>
+        <translation>Hervorhe&amp;bung</translation>
     </message>
     <message>
         <source>Highlight</source>
@@ -3401,14 +3397,6 @@
     <message>
         <source>Font</source>
         <translation>Schrift</translation>
-    </message>
-    <message>
-        <source>&amp;Image…</source>
-        <translation>&amp;Bild…</translation>
-    </message>
-    <message>
-        <source>&amp;Scene Break</source>
-        <translation>S&amp;zenentrenner</translation>
     </message>
     <message>
         <source>&amp;Page Break</source>
@@ -3429,13 +3417,6 @@
     <message>
         <source>&amp;Table</source>
         <translation>&amp;Tabelle</translation>
-    </message>
-    <message numerus="yes">
-        <source>New Table with %n &amp;Columns</source>
-        <translation>
-            <numerusform>Neue Tabelle mit %n &amp;Spalte</numerusform>
-            <numerusform>Neue Tabelle mit %n &amp;Spalten</numerusform>
-        </translation>
     </message>
     <message>
         <source>Insert Row &amp;Above</source>
@@ -3524,6 +3505,37 @@
     <message>
         <source>Footnote</source>
         <translation>Fußnote</translation>
+    </message>
+    <message>
+        <source>Nu&amp;mbered List</source>
+        <translation>Nu&amp;mmerierte Liste</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge Break Before</source>
+        <translation>Se&amp;itenumbruch davor</translation>
+    </message>
+    <message>
+        <source>Stri&amp;kethrough</source>
+        <translation>Durch&amp;gestrichen</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt Colour</source>
+        <translation>Te&amp;xtfarbe</translation>
+    </message>
+    <message>
+        <source>I&amp;mage…</source>
+        <translation>B&amp;ild…</translation>
+    </message>
+    <message>
+        <source>S&amp;cene Break</source>
+        <translation>S&amp;zenentrenner</translation>
+    </message>
+    <message numerus="yes">
+        <source>New Table with &amp;%n Columns</source>
+        <translation>
+            <numerusform>Neue Tabelle mit &amp;%n Spalte</numerusform>
+            <numerusform>Neue Tabelle mit &amp;%n Spalten</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5001,52 +5013,20 @@
         <translation>Inspektor</translation>
     </message>
     <message>
-        <source>Paste as Plain &amp;Text</source>
-        <translation>Als einfachen &amp;Text einfügen</translation>
-    </message>
-    <message>
         <source>&amp;Find…</source>
-        <translation>&amp;Suchen…</translation>
-    </message>
-    <message>
-        <source>Find &amp;Next</source>
-        <translation>&amp;Weitersuchen</translation>
+        <translation>Suc&amp;hen…</translation>
     </message>
     <message>
         <source>Find Pre&amp;vious</source>
-        <translation>&amp;Rückwärts suchen</translation>
-    </message>
-    <message>
-        <source>Open What the Word &amp;Names</source>
-        <translation>Ö&amp;ffnen, was das Wort nennt</translation>
-    </message>
-    <message>
-        <source>&amp;Replace…</source>
-        <translation>&amp;Ersetzen…</translation>
+        <translation>Rückw&amp;ärts suchen</translation>
     </message>
     <message>
         <source>Find in the Pro&amp;ject…</source>
         <translation>Im Pro&amp;jekt suchen…</translation>
     </message>
     <message>
-        <source>Screen&amp;play</source>
-        <translation>Dreh&amp;buch</translation>
-    </message>
-    <message>
         <source>Te&amp;xt</source>
         <translation>Te&amp;xt</translation>
-    </message>
-    <message>
-        <source>&amp;Corkboard</source>
-        <translation>&amp;Korktafel</translation>
-    </message>
-    <message>
-        <source>Continuous &amp;Text</source>
-        <translation>&amp;Durchgehender Text</translation>
-    </message>
-    <message>
-        <source>&amp;Outline</source>
-        <translation>&amp;Gliederung</translation>
     </message>
     <message>
         <source>Markdown So&amp;urce</source>
@@ -5059,10 +5039,6 @@
     <message>
         <source>T&amp;ypewriter Scrolling</source>
         <translation>Schreib&amp;maschinenrollen</translation>
-    </message>
-    <message>
-        <source>F&amp;ocus Mode</source>
-        <translation>F&amp;okusmodus</translation>
     </message>
     <message>
         <source>Format</source>
@@ -5083,10 +5059,6 @@
     <message>
         <source>No voice is installed. Install a speech engine for your system to have texts read aloud.</source>
         <translation>Keine Stimme installiert. Installieren Sie eine Sprachausgabe für Ihr System, um Texte vorlesen zu lassen.</translation>
-    </message>
-    <message>
-        <source>Check &amp;Spelling While Typing</source>
-        <translation>&amp;Rechtschreibung beim Schreiben prüfen</translation>
     </message>
     <message>
         <source>&amp;Proofread While Typing</source>
@@ -5115,6 +5087,46 @@
     <message>
         <source>Problems</source>
         <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Paste as P&amp;lain Text</source>
+        <translation>Als einfachen &amp;Text einfügen</translation>
+    </message>
+    <message>
+        <source>Find Ne&amp;xt</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Open What the Word Name&amp;s</source>
+        <translation>&amp;Öffnen, was das Wort nennt</translation>
+    </message>
+    <message>
+        <source>R&amp;eplace…</source>
+        <translation>Erset&amp;zen…</translation>
+    </message>
+    <message>
+        <source>Screenpla&amp;y</source>
+        <translation>&amp;Drehbuch</translation>
+    </message>
+    <message>
+        <source>Cor&amp;kboard</source>
+        <translation>Korkt&amp;afel</translation>
+    </message>
+    <message>
+        <source>Continuous T&amp;ext</source>
+        <translation>Durc&amp;hgehender Text</translation>
+    </message>
+    <message>
+        <source>Out&amp;line</source>
+        <translation>Gl&amp;iederung</translation>
+    </message>
+    <message>
+        <source>Focus &amp;Mode</source>
+        <translation>Fok&amp;usmodus</translation>
+    </message>
+    <message>
+        <source>&amp;Check Spelling While Typing</source>
+        <translation>&amp;Rechtschreibung beim Schreiben prüfen</translation>
     </message>
 </context>
 <context>
@@ -5344,6 +5356,10 @@
         <source>Restore this passage</source>
         <translation>Diese Stelle wiederherstellen</translation>
     </message>
+    <message>
+        <source>Take a snapshot to keep the text as it is now. What changes afterwards is shown here.</source>
+        <translation>Halten Sie eine Version fest, um den Text zu behalten, wie er jetzt ist. Was sich danach ändert, ist hier zu sehen.</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::snapshots::SnapshotModel</name>
@@ -5373,10 +5389,6 @@
     <message>
         <source>The text has changed meanwhile; compare again.</source>
         <translation>Der Text hat sich inzwischen geändert; vergleichen Sie neu.</translation>
-    </message>
-    <message>
-        <source>&amp;Take Snapshot</source>
-        <translation>Version &amp;festhalten</translation>
     </message>
     <message>
         <source>Re&amp;store Snapshot</source>
@@ -5453,6 +5465,10 @@
     <message>
         <source>Variant: %1</source>
         <translation>Variante: %1</translation>
+    </message>
+    <message>
+        <source>Ta&amp;ke Snapshot</source>
+        <translation>&amp;Version festhalten</translation>
     </message>
 </context>
 </TS>

@@ -143,10 +143,10 @@
 <context>
     <name>tw::desktop::manuscript::TextActions</name>
     <message numerus="yes">
-        <source>New Table with %n &amp;Columns</source>
+        <source>New Table with &amp;%n Columns</source>
         <translation>
-            <numerusform>New Table with %n &amp;Column</numerusform>
-            <numerusform>New Table with %n &amp;Columns</numerusform>
+            <numerusform>Neue Tabelle mit &amp;%n Spalte</numerusform>
+            <numerusform>Neue Tabelle mit &amp;%n Spalten</numerusform>
         </translation>
     </message>
 </context>

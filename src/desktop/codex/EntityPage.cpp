@@ -93,6 +93,7 @@ void EntityPage::makeSheet()
     row->addStretch(1);
     row->addWidget(m_sheet, sheetStretch);
     row->addStretch(1);
+    m_scroll->setAccessibleName(tr("Entity"));
     m_scroll->setWidget(desk);
     m_scroll->setWidgetResizable(true);
     m_scroll->setFrameShape(QFrame::NoFrame);

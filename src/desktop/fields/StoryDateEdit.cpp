@@ -22,6 +22,7 @@ StoryDateEdit::StoryDateEdit(theme::ThemeManager& themes, QWidget* parent)
     layout->addWidget(m_text);
     layout->addWidget(m_reading);
     m_text->setPlaceholderText(tr("No date"));
+    m_text->setAccessibleName(tr("Story date"));
     setFocusProxy(m_text);
     new EditorKeys(*m_text, [this] {
         const bool isTyped = m_text->text() != shownText();

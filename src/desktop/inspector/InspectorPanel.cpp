@@ -53,6 +53,7 @@ InspectorPanel::InspectorPanel(const shell::DeskContext& desk, QWidget* parent)
     column->addWidget(m_document);
     column->addWidget(m_object);
     column->addStretch(1);
+    m_scroll->setAccessibleName(tr("Inspector"));
     m_scroll->setWidget(content);
     m_scroll->setWidgetResizable(true);
     m_scroll->viewport()->setAutoFillBackground(false);

@@ -67,6 +67,8 @@ DockLayout::DockLayout(
     m_manager = new ads::CDockManager(&window);
     auto* const central = new ads::CDockWidget(u"center"_s);
     central->setObjectName(u"center"_s);
+    // It is its content that is used; nobody stops at the frame.
+    central->setFocusPolicy(Qt::NoFocus);
     central->setWidget(center, ads::CDockWidget::ForceNoScrollArea);
     central->setFeature(ads::CDockWidget::NoTab, true);
     m_manager->setCentralWidget(central);
@@ -83,6 +85,7 @@ void DockLayout::addPanel(const PanelSpec& spec, QWidget* panel)
 {
     auto* const dock = new ads::CDockWidget(spec.title);
     dock->setObjectName(spec.objectName);
+    dock->setAccessibleName(spec.title);
     dock->toggleViewAction()->setObjectName(u"windows."_s + spec.objectName);
     dock->setWidget(panel, ads::CDockWidget::ForceNoScrollArea);
     dock->setMinimumSizeHintMode(ads::CDockWidget::MinimumSizeHintFromContent);

@@ -188,7 +188,7 @@ void MainWindow::buildFormatMenu()
     QMenu& menu = *menuBar()->addMenu(tr("F&ormat"));
     m_textActions->fillFormatMenu(menu);
     menu.addSeparator();
-    m_screenplayActions->fillMenu(*menu.addMenu(m_desk.icons.icon(Icon::Screenplay), tr("Screen&play")));
+    m_screenplayActions->fillMenu(*menu.addMenu(m_desk.icons.icon(Icon::Screenplay), tr("Screenpla&y")));
     menu.addSeparator();
     addAction(menu, u"format.pageFont"_s, Icon::Text, tr("Page &Font…"), {}, [this] {
         showSettings(settings::SettingsPage::Editor);
@@ -233,11 +233,11 @@ void MainWindow::buildViewMenu()
                 overview::overviewRoot(m_desk.session.project(), m_desk.navigator.current()), view);
         }));
     };
-    addOverview(u"view.corkboard"_s, Icon::Layout, tr("&Corkboard"), Qt::Key_2, overview::corkboardView);
+    addOverview(u"view.corkboard"_s, Icon::Layout, tr("Cor&kboard"), Qt::Key_2, overview::corkboardView);
     addOverview(
-        u"view.composition"_s, Icon::Manuscript, tr("Continuous &Text"), Qt::Key_4,
+        u"view.composition"_s, Icon::Manuscript, tr("Continuous T&ext"), Qt::Key_4,
         composition::compositionView);
-    addOverview(u"view.outline"_s, Icon::Columns, tr("&Outline"), Qt::Key_3, overview::outlineView);
+    addOverview(u"view.outline"_s, Icon::Columns, tr("Out&line"), Qt::Key_3, overview::outlineView);
     menu.addSeparator();
     addAction(
         menu, u"view.zoomIn"_s, Icon::Add, tr("Zoom &In"), QKeySequence::ZoomIn, [this] { zoomPages(1); });

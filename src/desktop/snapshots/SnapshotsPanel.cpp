@@ -115,7 +115,7 @@ QAction* SnapshotsPanel::makeAction(Icon icon, const QString& text, std::functio
 
 void SnapshotsPanel::makeActions()
 {
-    m_take = makeAction(Icon::Snapshot, tr("&Take Snapshot"), [this] { take(); });
+    m_take = makeAction(Icon::Snapshot, tr("Ta&ke Snapshot"), [this] { take(); });
     m_take->setObjectName(u"snapshots.take"_s);
     m_take->setShortcut(QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_S));
     m_restore = makeAction(Icon::Undo, tr("Re&store Snapshot"), [this] { restore(); });

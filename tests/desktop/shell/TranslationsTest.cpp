@@ -191,7 +191,7 @@ TEST(TranslationsTest, withoutACatalogueTextsStayEnglishAndCountWell)
 {
     const auto removed = [](int count) {
         return QCoreApplication::translate(
-            "tw::desktop::manuscript::ManuscriptPanel",
+            "tw::desktop::manuscript::DocumentActions",
             "Removed %n documents with all that was in them. Undo brings them back.", "", count);
     };
     for (const QLocale& locale : {QLocale::c(), QLocale(QLocale::English), QLocale(QLocale::Zulu)}) {
