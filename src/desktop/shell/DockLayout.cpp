@@ -165,9 +165,11 @@ void DockLayout::reset()
     for (ads::CDockSplitter* const splitter : splitters) {
         if (splitter->orientation() != Qt::Horizontal || splitter->count() != 3)
             continue;
-        const int side = 38 * unit;
+        // Wide enough for the names of three navigators in their tabs.
+        const int left = 44 * unit;
+        const int right = 38 * unit;
         const int total = std::max(splitter->width(), m_window.width());
-        splitter->setSizes({side, std::max(total - 2 * side, side), side});
+        splitter->setSizes({left, std::max(total - left - right, right), right});
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTimer>
 
 namespace tw::desktop::shell {
 
@@ -37,6 +38,9 @@ void FocusMode::setOn(bool isOn)
     m_window.menuBar()->setMaximumHeight(isOn ? 0 : QWIDGETSIZE_MAX);
     dress(isOn);
     emit changed(isOn);
+    // Panels that come back may take the keyboard while they are shown; the writer was in the text.
+    if (m_page)
+        QTimer::singleShot(0, m_page, &manuscript::DocumentPage::takeFocus);
 }
 
 void FocusMode::setPage(manuscript::DocumentPage* page)
@@ -55,8 +59,6 @@ void FocusMode::dress(bool isFocused)
     if (!m_page)
         return;
     m_page->setFocusMode(isFocused);
-    if (isFocused)
-        m_page->takeFocus();
 }
 
 } // namespace tw::desktop::shell

@@ -139,6 +139,8 @@ TEST_F(MainWindowTest, focusModeLeavesTheTextAloneAndComesBack)
     action(u"Focus Mode"_s)->trigger();
     EXPECT_TRUE(trees.front()->isVisible());
     EXPECT_GT(menus->maximumHeight(), 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::focusWidget(), &text);
 }
 
 TEST_F(MainWindowTest, theTextIsShownAsMarkdownAndBack)
