@@ -5,6 +5,7 @@
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
 
+#include <QListView>
 #include <QPainter>
 #include <QPainterPath>
 #include <QTextLayout>
@@ -73,7 +74,9 @@ QSize CardDelegate::cellSize(const QFontMetrics& metrics)
 
 QSize CardDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const
 {
-    return cellSize(option.fontMetrics);
+    // The board gives every card the size of a cell of its grid.
+    const auto* const board = qobject_cast<const QListView*>(option.widget);
+    return board && board->gridSize().isValid() ? board->gridSize() : cellSize(option.fontMetrics);
 }
 
 void CardDelegate::paint(

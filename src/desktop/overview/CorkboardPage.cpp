@@ -8,6 +8,8 @@
 #include <QDropEvent>
 #include <QListView>
 
+#include <algorithm>
+
 namespace tw::desktop::overview {
 
 using core::ContentId;
@@ -20,6 +22,16 @@ public:
     using QListView::QListView;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        // With large text a card may be wider than the board: it then takes what there is.
+        QSize cell = CardDelegate::cellSize(fontMetrics());
+        cell.setWidth(std::clamp(viewport()->width() - 1, 1, cell.width()));
+        if (cell != gridSize())
+            setGridSize(cell);
+        QListView::resizeEvent(event);
+    }
+
     void dropEvent(QDropEvent* event) override
     {
         // The list's own way would move rows of the model itself; ours moves documents.
@@ -41,7 +53,6 @@ CorkboardPage::CorkboardPage(const OverviewContext& context, const ContentId& ro
     m_cards->setWrapping(true);
     m_cards->setResizeMode(QListView::Adjust);
     m_cards->setUniformItemSizes(true);
-    m_cards->setGridSize(CardDelegate::cellSize(m_cards->fontMetrics()));
     m_cards->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_cards->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setList(*m_cards, [this](const ContentId& id) { edit(id); });

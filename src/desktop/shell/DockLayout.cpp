@@ -166,9 +166,10 @@ void DockLayout::reset()
         if (splitter->orientation() != Qt::Horizontal || splitter->count() != 3)
             continue;
         // Wide enough for the names of three navigators in their tabs.
-        const int left = 44 * unit;
-        const int right = 38 * unit;
         const int total = std::max(splitter->width(), m_window.width());
+        // With large text the page still gets nearly half of the window.
+        const int left = std::min(44 * unit, total * 26 / 100);
+        const int right = std::min(38 * unit, total * 28 / 100);
         splitter->setSizes({left, std::max(total - left - right, right), right});
     }
 }
