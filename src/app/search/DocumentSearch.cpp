@@ -23,7 +23,7 @@ QString inOneLine(QString text)
     return text.replace(u'\n', u' ').replace(u'\t', u' ');
 }
 
-TextMatch matchIn(const QString& text, MatchField field, IndexRange range)
+TextMatch matchIn(const TextMatcher& matcher, const QString& text, MatchField field, IndexRange range)
 {
     const qsizetype start = std::max<qsizetype>(range.first - contextLength, 0);
     const qsizetype end = std::min(range.end() + contextLength, text.size());
@@ -33,7 +33,8 @@ TextMatch matchIn(const QString& text, MatchField field, IndexRange range)
         range,
         inOneLine((start > 0 ? u"…"_s : QString()) + text.sliced(start, range.first - start)),
         inOneLine(text.sliced(range.first, range.count)),
-        inOneLine(text.sliced(range.end(), end - range.end()) + (end < text.size() ? u"…"_s : QString()))};
+        inOneLine(text.sliced(range.end(), end - range.end()) + (end < text.size() ? u"…"_s : QString())),
+        matcher.groupsOf(text, range)};
 }
 
 } // namespace
@@ -54,7 +55,7 @@ Result<std::vector<TextMatch>> findMatches(
             break;
         if (range.first < part->start)
             continue;
-        TextMatch match = matchIn(plain.text(), MatchField::Body, range);
+        TextMatch match = matchIn(matcher, plain.text(), MatchField::Body, range);
         match.source.first = plain.toBody(range.first);
         match.source.count = plain.endInBody(range.end()) - match.source.first;
         matches.push_back(std::move(match));
@@ -75,7 +76,7 @@ Result<DocumentMatches> searchDocument(
             if (!found)
                 return Failure{found.message()};
             for (const IndexRange& range : found.value())
-                result.matches.push_back(matchIn(text, field, range));
+                result.matches.push_back(matchIn(matcher, text, field, range));
         }
     }
     auto found = findMatches(matcher, document.body, left());

@@ -25,6 +25,8 @@ struct TextMatch
     QString before;
     QString found;
     QString after;
+    /** As TextMatcher::groupsOf() gives them. */
+    QStringList groups;
 
     friend bool operator==(const TextMatch&, const TextMatch&) = default;
 };

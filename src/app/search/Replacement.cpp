@@ -110,7 +110,7 @@ DocumentBody buildReplacement(
             const IndexRange range{match->range.first - part.start, match->range.count};
             if (match->field != MatchField::Body || range.first < 0)
                 continue;
-            edits.push_back({range, matcher.replacementFor(plain.text(), match->range, replacement)});
+            edits.push_back({range, matcher.replacementFor(match->groups, replacement)});
         }
         if (edits.empty())
             continue;
@@ -134,8 +134,7 @@ QString replaceInText(
     for (auto match = matches.rbegin(); match != matches.rend(); ++match) {
         if (match->range.end() <= text.size())
             result.replace(
-                match->range.first, match->range.count,
-                matcher.replacementFor(text, match->range, replacement));
+                match->range.first, match->range.count, matcher.replacementFor(match->groups, replacement));
     }
     return result;
 }

@@ -116,17 +116,26 @@ Result<std::vector<IndexRange>> TextMatcher::findIn(const QString& text, qsizety
     return matches;
 }
 
-QString TextMatcher::replacementFor(const QString& text, IndexRange match, const QString& replacement) const
+QStringList TextMatcher::groupsOf(const QString& text, IndexRange match) const
+{
+    if (!m_query.isRegularExpression)
+        return {text.sliced(match.first, match.count)};
+    // In the whole text: an expression may look at what stands around its match.
+    return m_expression
+        .match(
+            text, match.first, QRegularExpression::NormalMatch, QRegularExpression::AnchorAtOffsetMatchOption)
+        .capturedTexts();
+}
+
+QString TextMatcher::replacementFor(const QStringList& groups, const QString& replacement) const
 {
     if (!m_query.isRegularExpression)
         return replacement;
-    const QRegularExpressionMatch found = m_expression.match(
-        text, match.first, QRegularExpression::NormalMatch, QRegularExpression::AnchorAtOffsetMatchOption);
     QString result;
     for (qsizetype index = 0; index < replacement.size(); ++index) {
         const QChar next = index + 1 < replacement.size() ? replacement[index + 1] : QChar();
         if (replacement[index] == u'\\' && next >= u'0' && next <= u'9')
-            result += found.captured(replacement[++index].digitValue());
+            result += groups.value(replacement[++index].digitValue());
         else if (replacement[index] == u'\\' && next == u'\\')
             result += replacement[++index];
         else

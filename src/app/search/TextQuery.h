@@ -5,6 +5,7 @@
 
 #include <QRegularExpression>
 #include <QString>
+#include <QStringList>
 #include <QStringMatcher>
 
 #include <vector>
@@ -40,11 +41,16 @@ public:
     [[nodiscard]] core::Result<std::vector<IndexRange>> findIn(const QString& text, qsizetype most) const;
 
     /**
-     * What takes the place of a match. In a regular expression "\1" to "\9" are its groups, "\0" is the whole
-     * match, and "\\" a backslash; otherwise the replacement is taken as it is.
+     * What a match of findIn() in the same text consists of: the match as a whole, then the groups of a
+     * regular expression.
      */
-    [[nodiscard]] QString replacementFor(
-        const QString& text, IndexRange match, const QString& replacement) const;
+    [[nodiscard]] QStringList groupsOf(const QString& text, IndexRange match) const;
+
+    /**
+     * What takes the place of a match with these groups. In a regular expression "\1" to "\9" are its groups,
+     * "\0" is the whole match, and "\\" a backslash; otherwise the replacement is taken as it is.
+     */
+    [[nodiscard]] QString replacementFor(const QStringList& groups, const QString& replacement) const;
 
 private:
     explicit TextMatcher(const TextQuery& query);

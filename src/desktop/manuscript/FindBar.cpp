@@ -72,12 +72,13 @@ FindBar::FindBar(const shell::DeskContext& desk, QWidget* parent)
     auto* const all = new QPushButton(tr("Replace &All"), m_replaceRow);
     m_found->setForegroundRole(QPalette::PlaceholderText);
     m_found->setMinimumWidth(m_found->fontMetrics().averageCharWidth() * 14);
+    m_found->setWordWrap(true);
 
     auto* const findRow = new QHBoxLayout;
     for (QWidget* const widget :
-         std::initializer_list<QWidget*>{m_text, previous, next, m_case, m_word, m_expression, m_found})
+         std::initializer_list<QWidget*>{m_text, previous, next, m_case, m_word, m_expression})
         findRow->addWidget(widget);
-    findRow->addStretch(1);
+    findRow->addWidget(m_found, 1);
     findRow->addWidget(closeButton);
     auto* const replaceRow = new QHBoxLayout(m_replaceRow);
     replaceRow->setContentsMargins(0, 0, 0, 0);
@@ -128,7 +129,7 @@ void FindBar::setEditor(BodyEditor* editor, TypingBursts* bursts)
         m_count.start();
 }
 
-FindQuery FindBar::query() const
+app::search::TextQuery FindBar::query() const
 {
     return {m_text->text(), m_case->isChecked(), m_word->isChecked(), m_expression->isChecked()};
 }
@@ -220,7 +221,7 @@ void FindBar::show(const std::optional<FoundPlace>& place)
 void FindBar::countPlaces()
 {
     if (!m_finder.error().isEmpty()) {
-        m_found->setText(tr("Not an expression: %1").arg(m_finder.error()));
+        m_found->setText(m_finder.error());
         m_editor->setFoundPlaces({});
         return;
     }
@@ -251,7 +252,8 @@ void FindBar::replaceOne()
     if (isSelected) {
         m_bursts->applyAsStep(tr("Replace"), [&] {
             QTextCursor edit = cursor;
-            m_editor->replaceText(edit, m_finder.replacementFor(edit.selectedText(), m_replacement->text()));
+            m_editor->replaceText(
+                edit, m_finder.replacementFor(*m_editor->document(), *place, m_replacement->text()));
         });
     }
     step(true);
@@ -273,7 +275,7 @@ void FindBar::replaceAll()
                 edit.setPosition(place->position);
                 edit.setPosition(place->position + place->length, QTextCursor::KeepAnchor);
                 m_editor->replaceText(
-                    edit, m_finder.replacementFor(edit.selectedText(), m_replacement->text()));
+                    edit, m_finder.replacementFor(*m_editor->document(), *place, m_replacement->text()));
             }
             edit.endEditBlock();
         });

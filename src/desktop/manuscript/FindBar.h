@@ -42,7 +42,7 @@ protected:
 
 private:
     [[nodiscard]] QToolButton* addSwitch(const QString& text, const QString& name);
-    [[nodiscard]] FindQuery query() const;
+    [[nodiscard]] app::search::TextQuery query() const;
     void search();
     void searchFrom(int position);
     void show(const std::optional<FoundPlace>& place);

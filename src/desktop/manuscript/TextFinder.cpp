@@ -3,42 +3,33 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
+#include <limits>
+
 namespace tw::desktop::manuscript {
 
-using namespace Qt::Literals::StringLiterals;
-
-TextFinder::TextFinder(const FindQuery& query)
-    : m_isRegularExpression(query.isRegularExpression)
+TextFinder::TextFinder(const app::search::TextQuery& query)
+    : m_isEmpty(query.text.isEmpty())
 {
-    if (query.text.isEmpty())
+    if (m_isEmpty)
         return;
-    QString pattern = query.isRegularExpression ? query.text : QRegularExpression::escape(query.text);
-    if (query.isWholeWord)
-        pattern = u"(?<!\\w)(?:%1)(?!\\w)"_s.arg(pattern);
-    m_pattern.setPattern(pattern);
-    QRegularExpression::PatternOptions options = QRegularExpression::UseUnicodePropertiesOption;
-    if (!query.isCaseSensitive)
-        options |= QRegularExpression::CaseInsensitiveOption;
-    m_pattern.setPatternOptions(options);
-}
-
-QString TextFinder::error() const
-{
-    return m_pattern.isValid() ? QString() : m_pattern.errorString();
+    auto matcher = app::search::TextMatcher::create(query);
+    if (matcher)
+        m_matcher = std::move(matcher.value());
+    else
+        m_error = matcher.message();
 }
 
 void TextFinder::eachIn(
     const QTextBlock& block, const std::function<bool(const FoundPlace& place)>& take) const
 {
-    if (isEmpty() || !m_pattern.isValid())
+    if (!m_matcher)
         return;
-    auto matches = m_pattern.globalMatch(block.text());
-    while (matches.hasNext()) {
-        const QRegularExpressionMatch match = matches.next();
-        const FoundPlace place{
-            block.position() + static_cast<int>(match.capturedStart()),
-            static_cast<int>(match.capturedLength())};
-        if (place.length > 0 && !take(place))
+    // An expression that is too complex for a paragraph finds nothing there.
+    const auto matches = m_matcher->findIn(block.text(), std::numeric_limits<qsizetype>::max());
+    if (!matches)
+        return;
+    for (const app::search::IndexRange& match : matches.value()) {
+        if (!take({block.position() + static_cast<int>(match.first), static_cast<int>(match.count)}))
             return;
     }
 }
@@ -83,27 +74,14 @@ std::optional<FoundPlace> TextFinder::findBefore(const QTextDocument& document, 
     return found;
 }
 
-QString TextFinder::replacementFor(const QString& found, const QString& replacement) const
+QString TextFinder::replacementFor(
+    const QTextDocument& document, const FoundPlace& place, const QString& replacement) const
 {
-    if (!m_isRegularExpression)
-        return replacement;
-    const QRegularExpressionMatch match = m_pattern.match(found);
-    QString result;
-    for (qsizetype index = 0; index < replacement.size(); ++index) {
-        const bool isEscape = replacement[index] == u'\\' && index + 1 < replacement.size();
-        if (!isEscape) {
-            result += replacement[index];
-            continue;
-        }
-        const QChar next = replacement[++index];
-        if (next.isDigit())
-            result += match.captured(next.digitValue());
-        else if (next == u't')
-            result += u'\t';
-        else
-            result += next;
-    }
-    return result;
+    if (!m_matcher)
+        return {};
+    const QTextBlock block = document.findBlock(place.position);
+    const app::search::IndexRange match{place.position - block.position(), place.length};
+    return m_matcher->replacementFor(m_matcher->groupsOf(block.text(), match), replacement);
 }
 
 } // namespace tw::desktop::manuscript

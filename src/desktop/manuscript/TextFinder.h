@@ -1,26 +1,17 @@
 #pragma once
 
-#include <QRegularExpression>
-#include <QTextCursor>
+#include "app/search/TextQuery.h"
+
+#include <QString>
 
 #include <functional>
 #include <optional>
 #include <vector>
 
+class QTextBlock;
 class QTextDocument;
 
 namespace tw::desktop::manuscript {
-
-/** What somebody looks for in a text. */
-struct FindQuery
-{
-    QString text;
-    bool isCaseSensitive = false;
-    bool isWholeWord = false;
-    bool isRegularExpression = false;
-
-    friend bool operator==(const FindQuery&, const FindQuery&) = default;
-};
 
 struct FoundPlace
 {
@@ -35,11 +26,11 @@ class TextFinder
 {
 public:
     TextFinder() = default;
-    explicit TextFinder(const FindQuery& query);
+    explicit TextFinder(const app::search::TextQuery& query);
 
-    [[nodiscard]] bool isEmpty() const { return m_pattern.pattern().isEmpty(); }
+    [[nodiscard]] bool isEmpty() const { return m_isEmpty; }
     /** Why the regular expression cannot be read; empty when it can. */
-    [[nodiscard]] QString error() const;
+    [[nodiscard]] const QString& error() const { return m_error; }
 
     /** In order; no more than `most`. Matches without characters are none. */
     [[nodiscard]] std::vector<FoundPlace> findAll(const QTextDocument& document, std::size_t most) const;
@@ -47,14 +38,17 @@ public:
     [[nodiscard]] std::optional<FoundPlace> findFrom(const QTextDocument& document, int position) const;
     [[nodiscard]] std::optional<FoundPlace> findBefore(const QTextDocument& document, int position) const;
 
-    /** What a found text becomes: \1 to \9 of a regular expression are its groups. */
-    [[nodiscard]] QString replacementFor(const QString& found, const QString& replacement) const;
+    /** What stands at the place afterwards: \1 to \9 of a regular expression are its groups. */
+    [[nodiscard]] QString replacementFor(
+        const QTextDocument& document, const FoundPlace& place, const QString& replacement) const;
 
 private:
     void eachIn(const QTextBlock& block, const std::function<bool(const FoundPlace& place)>& take) const;
 
-    QRegularExpression m_pattern;
-    bool m_isRegularExpression = false;
+    bool m_isEmpty = true;
+    QString m_error;
+    /** None when there is nothing to look for, or no way to. */
+    std::optional<app::search::TextMatcher> m_matcher;
 };
 
 } // namespace tw::desktop::manuscript

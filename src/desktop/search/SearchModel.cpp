@@ -182,9 +182,7 @@ QVariant SearchModel::matchData(const TextMatch& match, int role) const
     case AfterRole:
         return match.after;
     case ReplacementRole:
-        return m_matcher
-                   ? QVariant(m_matcher->replacementFor(match.found, {0, match.found.size()}, m_replacement))
-                   : QVariant();
+        return m_matcher ? QVariant(m_matcher->replacementFor(match.groups, m_replacement)) : QVariant();
     case FieldRole:
         return fieldText(match.field);
     default:

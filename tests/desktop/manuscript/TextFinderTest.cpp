@@ -21,7 +21,7 @@ TEST(TextFinderTest, findsAsAskedAndReplacesGroups)
     document.setPlainText(u"One fish two Fish\nredfish (bluefish)"_s);
     const struct
     {
-        FindQuery query;
+        app::search::TextQuery query;
         std::size_t places;
     } cases[] = {
         {{u"fish"_s}, 4},
@@ -38,8 +38,12 @@ TEST(TextFinderTest, findsAsAskedAndReplacesGroups)
             << sample.query.text.toStdString();
     EXPECT_FALSE(TextFinder({u"("_s, false, false, true}).error().isEmpty());
     const TextFinder groups({u"(red|blue)(fish)"_s, false, false, true});
-    EXPECT_EQ(groups.replacementFor(u"redfish"_s, u"\\2-\\1 \\\\"_s), u"fish-red \\"_s);
-    EXPECT_EQ(TextFinder({u"red"_s}).replacementFor(u"red"_s, u"\\1"_s), u"\\1"_s);
+    const FoundPlace redfish{18, 7};
+    EXPECT_EQ(groups.replacementFor(document, redfish, u"\\2-\\1 \\\\"_s), u"fish-red \\"_s);
+    EXPECT_EQ(TextFinder({u"red"_s}).replacementFor(document, {18, 3}, u"\\1"_s), u"\\1"_s);
+    const TextFinder behind({u"(?<=red)(fish)"_s, false, false, true});
+    EXPECT_EQ(behind.replacementFor(document, {21, 4}, u"[\\1]"_s), u"[fish]"_s)
+        << "looks at what stands before";
     const TextFinder fish({u"fish"_s});
     EXPECT_EQ(fish.findFrom(document, 5)->position, 13);
     EXPECT_EQ(fish.findBefore(document, 13)->position, 4);
