@@ -45,6 +45,11 @@ bool DiskFileSystem::syncFileSystem(const QString& folder)
     return platform::syncFileSystem(folder);
 }
 
+FileHold DiskFileSystem::hold(const QString& path)
+{
+    return platform::holdFile(path);
+}
+
 bool DiskFileSystem::replace(const QString& temporary, const QString& target)
 {
     return platform::replaceFile(temporary, writtenThrough(target));

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace tw::app::persistence {
@@ -33,6 +34,9 @@ enum class Durability
     /** They may be in memory alone until they are synced. */
     Cached,
 };
+
+/** See FileSystem::hold(). */
+using FileHold = std::shared_ptr<const void>;
 
 /**
  * The operations on files that loading and saving need. Passed in by reference, so that tests can stand in a
@@ -67,6 +71,13 @@ public:
      */
     [[nodiscard]] virtual bool syncFileSystem(const QString& folder) = 0;
 
+    /**
+     * Keeps the space of the file at the path in use until the handle is dropped, on whatever thread, even
+     * when the file was replaced: making it free takes longer than replacing it. Null where that cannot be
+     * done.
+     */
+    [[nodiscard]] virtual FileHold hold(const QString& path) = 0;
+
     /** Puts the temporary in the target's place in one step; others see the old file or the new one. */
     [[nodiscard]] virtual bool replace(const QString& temporary, const QString& target) = 0;
 
@@ -90,6 +101,7 @@ public:
         const QString& target, const QByteArray& bytes, Durability durability) override;
     bool syncFile(const QString& path) override;
     bool syncFileSystem(const QString& folder) override;
+    FileHold hold(const QString& path) override;
     bool replace(const QString& temporary, const QString& target) override;
     bool remove(const QString& path) override;
     bool makeFolders(const QString& path) override;

@@ -22,6 +22,7 @@ inline constexpr QLatin1StringView temporaryPrefix(".vellory-save-");
     const QString& target, const QByteArray& bytes, Durability durability);
 [[nodiscard]] bool syncFile(const QString& path);
 [[nodiscard]] bool syncFileSystem(const QString& folder);
+[[nodiscard]] FileHold holdFile(const QString& path);
 [[nodiscard]] bool replaceFile(const QString& from, const QString& to);
 [[nodiscard]] bool syncFolder(const QString& path);
 

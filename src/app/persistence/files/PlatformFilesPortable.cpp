@@ -77,6 +77,11 @@ bool syncFileSystem(const QString&)
     return false;
 }
 
+FileHold holdFile(const QString&)
+{
+    return nullptr;
+}
+
 bool replaceFile(const QString& from, const QString& to)
 {
     std::error_code failure;

@@ -447,6 +447,16 @@ bool syncFileSystem([[maybe_unused]] const QString& folder)
 #endif
 }
 
+FileHold holdFile([[maybe_unused]] const QString& path)
+{
+#ifdef Q_OS_LINUX
+    auto file = std::make_shared<Descriptor>(openPath(QFile::encodeName(path), O_PATH));
+    if (file->isOpen())
+        return file;
+#endif
+    return nullptr;
+}
+
 bool replaceFile(const QString& from, const QString& to)
 {
     return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;

@@ -18,8 +18,8 @@ namespace tw::app::persistence {
 
 namespace {
 
-/** Temporary files that may lie beside their targets at any time. */
-constexpr qsizetype filesInAChunk = 1024;
+/** Temporary files that may lie beside their targets, and files held open, at any time. */
+constexpr qsizetype filesInAChunk = 512;
 constexpr qsizetype filesOfAThread = 16;
 /** More than there are processors: they wait for the medium. */
 constexpr int syncingThreads = 4;
@@ -68,12 +68,27 @@ public:
 
     ~Chunk()
     {
+        parallelFor(std::ssize(m_replaced), filesOfAThread, [this](qsizetype begin, qsizetype end) {
+            std::ranges::fill(
+                std::span(m_replaced)
+                    .subspan(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin)),
+                nullptr);
+        });
         for (const std::optional<core::Result<QString>>& temporary : m_temporaries) {
             if (temporary && temporary->isOk())
                 m_writer.m_fileSystem.remove(temporary->value());
         }
     }
     Q_DISABLE_COPY_MOVE(Chunk)
+
+    /**
+     * Before the file is replaced: what becomes free of its old state is given back on several threads, when
+     * all are replaced. One after another that takes several times as long as replacing them.
+     */
+    void holdTarget(std::size_t index)
+    {
+        m_replaced.push_back(m_writer.m_fileSystem.hold(m_files[index].path));
+    }
 
     /** From here on the temporary is the caller's. */
     core::Result<QString> take(std::size_t index)
@@ -105,6 +120,7 @@ private:
     const SafeWriter& m_writer;
     const std::span<const FileWrite> m_files;
     std::vector<std::optional<core::Result<QString>>> m_temporaries;
+    std::vector<FileHold> m_replaced;
 };
 
 SafeWriter::SafeWriter(FileSystem& fileSystem, RetryPolicy policy, Sleeper sleeper)
@@ -127,7 +143,9 @@ BatchOutcome SafeWriter::writeAll(const QList<FileWrite>& files, const BeforeCom
         const qsizetype count = std::min(filesInAChunk, files.size() - first);
         Chunk chunk(*this, all.subspan(static_cast<std::size_t>(first), static_cast<std::size_t>(count)));
         for (qsizetype index = first; index < first + count; ++index) {
-            const core::Result<QString> temporary = chunk.take(static_cast<std::size_t>(index - first));
+            const auto place = static_cast<std::size_t>(index - first);
+            chunk.holdTarget(place);
+            const core::Result<QString> temporary = chunk.take(place);
             if (!temporary)
                 outcome.result = core::Failure{temporary.message()};
             else

@@ -112,6 +112,7 @@ public:
         return !isReadOnly() && m_disk.makeFolders(path);
     }
 
+    FileHold hold(const QString& path) override { return m_disk.hold(path); }
     bool syncFolder(const QString& path) override
     {
         m_synced.append(path);
