@@ -49,6 +49,11 @@ void DocumentActions::attach(DocumentList list)
     refresh();
 }
 
+void DocumentActions::detach(const QWidget* widget)
+{
+    std::erase_if(m_lists, [widget](const DocumentList& known) { return known.widget == widget; });
+}
+
 QAction* DocumentActions::makeAction(
     const QString& name, Icon icon, const QString& text, const QKeySequence& keys,
     std::function<void()> handler)

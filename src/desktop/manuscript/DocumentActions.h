@@ -46,6 +46,8 @@ public:
 
     /** Gives the list the keys of the actions and a context menu. */
     void attach(DocumentList list);
+    /** Before what the list's functions ask goes away, if the widget lives on for a while. */
+    void detach(const QWidget* widget);
 
     /** Ways to add a document. Their keys work in the whole window. */
     [[nodiscard]] const QList<QAction*>& insertActions() const { return m_insertActions; }

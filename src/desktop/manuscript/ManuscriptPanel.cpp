@@ -51,6 +51,7 @@ ManuscriptPanel::ManuscriptPanel(const shell::DeskContext& desk, QWidget* parent
 ManuscriptPanel::~ManuscriptPanel()
 {
     // The tree goes after this; a name that is still being edited in it is committed on its way out.
+    m_actions->detach(m_tree);
     m_tree->disconnect(this);
     m_desk.session.disconnect(this);
 }

@@ -80,6 +80,8 @@ OverviewPage::OverviewPage(const OverviewContext& context, shell::PageAddress ad
 OverviewPage::~OverviewPage()
 {
     // The list goes after this; a name that is still being edited in it is committed on its way out.
+    if (m_attachedTo)
+        m_attachedTo->detach(m_list);
     m_context.desk.session.disconnect(this);
     m_context.desk.navigator.disconnect(this);
 }
@@ -112,7 +114,8 @@ void OverviewPage::setList(QAbstractItemView& list, const std::function<void(con
                 m_context.desk.navigator.setCurrent(m_filter->idAt(index));
         });
     connect(&m_context.desk.navigator, &shell::Navigator::currentChanged, this, &OverviewPage::selectCurrent);
-    m_context.actions.attach(
+    m_attachedTo = &m_context.actions;
+    m_attachedTo->attach(
         {&list, objectId(), [this] { return m_filter->idAt(m_list->currentIndex()); },
          [this] {
              // Each row once, whatever columns of it are selected, in reading order.

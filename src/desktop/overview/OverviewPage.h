@@ -73,6 +73,8 @@ private:
     void takeRoot();
 
     OverviewContext m_context;
+    /** A closing window may take the actions away before its pages. */
+    QPointer<manuscript::DocumentActions> m_attachedTo;
     DocumentFilter* m_filter;
     QLabel* m_path;
     QLabel* m_hint;
