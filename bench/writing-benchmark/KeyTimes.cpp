@@ -31,6 +31,47 @@ protected:
     }
 };
 
+/** An edit whose cursor stands at the end of a paragraph in the middle of its text. */
+class WatchedEdit
+{
+public:
+    explicit WatchedEdit(QTextEdit& edit)
+        : m_edit(edit)
+        , m_watch(*edit.viewport())
+    {
+        QTextCursor cursor = edit.textCursor();
+        cursor.setPosition(edit.document()->characterCount() / 2);
+        cursor.movePosition(QTextCursor::EndOfBlock);
+        edit.setTextCursor(cursor);
+        edit.ensureCursorVisible();
+        QCoreApplication::processEvents();
+    }
+
+    /** Milliseconds until the letter was painted. */
+    double type(QKeyEvent press)
+    {
+        m_watch.isPainted = false;
+        QElapsedTimer clock;
+        clock.start();
+        QApplication::sendEvent(&m_edit, &press);
+        while (!m_watch.isPainted)
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+        return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    }
+
+private:
+    QTextEdit& m_edit;
+    PaintWatch m_watch;
+};
+
+QKeyEvent keyAt(int index)
+{
+    const bool isBlank = index % wordLength == wordLength - 1;
+    return QKeyEvent(
+        QEvent::KeyPress, isBlank ? Qt::Key_Space : Qt::Key_E, Qt::NoModifier,
+        isBlank ? QStringLiteral(" ") : QStringLiteral("e"));
+}
+
 } // namespace
 
 double KeyTimes::quantile(double share) const
@@ -41,31 +82,20 @@ double KeyTimes::quantile(double share) const
     return sorted[std::min(index, sorted.size() - 1)];
 }
 
-KeyTimes timeKeys(QTextEdit& edit, int keys)
+std::pair<KeyTimes, KeyTimes> timeKeys(QTextEdit& first, QTextEdit& second, int keys)
 {
-    QTextCursor cursor = edit.textCursor();
-    cursor.setPosition(edit.document()->characterCount() / 2);
-    cursor.movePosition(QTextCursor::EndOfBlock);
-    edit.setTextCursor(cursor);
-    edit.ensureCursorVisible();
-    QCoreApplication::processEvents();
-    PaintWatch watch(*edit.viewport());
-    KeyTimes result;
+    WatchedEdit watchedFirst(first);
+    WatchedEdit watchedSecond(second);
+    std::pair<KeyTimes, KeyTimes> results;
     for (int index = 0; index < keys + uncounted; ++index) {
-        const bool isBlank = index % wordLength == wordLength - 1;
-        QKeyEvent press(
-            QEvent::KeyPress, isBlank ? Qt::Key_Space : Qt::Key_E, Qt::NoModifier,
-            isBlank ? QStringLiteral(" ") : QStringLiteral("e"));
-        watch.isPainted = false;
-        QElapsedTimer clock;
-        clock.start();
-        QApplication::sendEvent(&edit, &press);
-        while (!watch.isPainted)
-            QCoreApplication::processEvents(QEventLoop::AllEvents);
-        if (index >= uncounted)
-            result.times.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+        const double firstTime = watchedFirst.type(keyAt(index));
+        const double secondTime = watchedSecond.type(keyAt(index));
+        if (index < uncounted)
+            continue;
+        results.first.times.push_back(firstTime);
+        results.second.times.push_back(secondTime);
     }
-    return result;
+    return results;
 }
 
 } // namespace tw::bench

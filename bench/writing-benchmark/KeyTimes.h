@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 class QTextEdit;
@@ -15,7 +16,10 @@ struct KeyTimes
     [[nodiscard]] double quantile(double share) const;
 };
 
-/** Sends letters to the middle of the text in a shown window, and waits for each to be painted. */
-[[nodiscard]] KeyTimes timeKeys(QTextEdit& edit, int keys);
+/**
+ * Sends letters to the middle of the text of two shown edits in turn, so that whatever else the machine does
+ * meets both alike, and waits for each letter to be painted. Gives the times of the first and of the second.
+ */
+[[nodiscard]] std::pair<KeyTimes, KeyTimes> timeKeys(QTextEdit& first, QTextEdit& second, int keys);
 
 } // namespace tw::bench

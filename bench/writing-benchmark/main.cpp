@@ -95,13 +95,11 @@ bool compareKeys(Desk& desk, qsizetype characters, bench::ResultTable& results)
     const QString text = bench::writtenText(characters);
     desk.setText(text);
     const auto bare = bareEdit(text);
-    const bench::KeyTimes bareTimes = bench::timeKeys(*bare, keys);
-    bare->hide();
     RichPage page(desk.context, desk.id, nullptr);
     page.resize(pageSize);
     page.show();
     QCoreApplication::processEvents();
-    const bench::KeyTimes pageTimes = bench::timeKeys(page, keys);
+    const auto [pageTimes, bareTimes] = bench::timeKeys(page, *bare, keys);
     results.addTitle(u"Key to glyph, %1 kB"_s.arg(characters / 1000));
     results.addTimes(
         u"median"_s, u"a bare text edit"_s, {pageTimes.quantile(0.5) / 1000, bareTimes.quantile(0.5) / 1000},
