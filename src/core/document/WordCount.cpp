@@ -20,38 +20,81 @@ bool joinsWords(QChar character)
            character == u'\u2011' || character == u'_';
 }
 
+/** Where a character stands next, for places that never get smaller: all of them together cost one pass. */
+class NextPlace
+{
+public:
+    NextPlace(QStringView body, QChar character)
+        : m_body(body)
+        , m_character(character)
+    {}
+
+    /** At or behind `from`; the end of the body when there is none. */
+    [[nodiscard]] qsizetype after(qsizetype from)
+    {
+        if (m_next < from) {
+            m_next = m_body.indexOf(m_character, from);
+            if (m_next < 0)
+                m_next = m_body.size();
+        }
+        return m_next;
+    }
+
+private:
+    QStringView m_body;
+    QChar m_character;
+    qsizetype m_next = -1;
+};
+
 /** Finds what counts as absent. Called with places that never get smaller. */
 class Absences
 {
 public:
     explicit Absences(QStringView body)
         : m_body(body)
+        , m_brace(body, u'}')
+        , m_bracket(body, u']')
+        , m_parenthesis(body, u')')
+        , m_line(body, u'\n')
     {}
 
-    /** The end of the group or footnote reference that begins at the brace or bracket; its place when none
-     * does. */
+    /** The end of what begins at the place and is not to be counted; the place when nothing does. */
     [[nodiscard]] qsizetype endAfter(qsizetype place)
     {
         const QStringView rest = m_body.sliced(place);
         if (rest.startsWith(markup::groupStart))
-            return after(place, place + markup::groupStart.size(), u'}', m_hasBraces);
+            return behind(m_brace.after(place + markup::groupStart.size()), place);
         if (rest.startsWith(u"[^") && rest.size() > 2 && rest[2] != u']')
-            return after(place, place + 2, u']', m_hasBrackets);
+            return behind(m_bracket.after(place + 2), place);
+        if (rest.startsWith(u"]("))
+            return endOfTarget(place + 2, place);
+        if (rest.startsWith(u"![")) {
+            const qsizetype end = m_bracket.after(place + 2);
+            if (m_body.sliced(end).startsWith(u"]("))
+                return endOfTarget(end + 2, place);
+        }
         return place;
     }
 
 private:
-    [[nodiscard]] qsizetype after(qsizetype place, qsizetype from, QChar end, bool& isThere) const
+    /** Behind the character found, or `place` when none was. */
+    [[nodiscard]] qsizetype behind(qsizetype found, qsizetype place) const
     {
-        const qsizetype found = isThere ? m_body.indexOf(end, from) : -1;
-        // What is not there now is not there later: looking again for every start would take forever.
-        isThere = found >= 0;
-        return isThere ? found + 1 : place;
+        return found < m_body.size() ? found + 1 : place;
+    }
+
+    /** Where a link or an image leads to is no prose; it ends on its line. */
+    [[nodiscard]] qsizetype endOfTarget(qsizetype from, qsizetype place)
+    {
+        const qsizetype end = m_parenthesis.after(from);
+        return m_line.after(place) < end ? place : behind(end, place);
     }
 
     QStringView m_body;
-    bool m_hasBraces = true;
-    bool m_hasBrackets = true;
+    NextPlace m_brace;
+    NextPlace m_bracket;
+    NextPlace m_parenthesis;
+    NextPlace m_line;
 };
 
 } // namespace
@@ -75,7 +118,7 @@ qint64 countWords(QStringView body)
             place = Place::InWord;
             continue;
         }
-        if (character == u'{' || character == u'[') {
+        if (character == u'{' || character == u'[' || character == u']' || character == u'!') {
             if (const qsizetype end = absences.endAfter(index); end > index) {
                 index = end - 1;
                 continue;

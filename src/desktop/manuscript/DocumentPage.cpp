@@ -110,7 +110,7 @@ void DocumentPage::makeEditor(TextView view)
     connect(bursts, &TypingBursts::settled, this, &DocumentPage::recount);
     connect(m_editor, &QTextEdit::selectionChanged, &m_selectionRest, qOverload<>(&QTimer::start));
     m_findBar->setEditor(m_editor, bursts);
-    m_words = m_editor->words();
+    recount();
     setFocusMode(m_isFocusMode);
 }
 
@@ -276,8 +276,12 @@ QString DocumentPage::statusText() const
     if (document && document->wordCountTarget() > 0)
         return tr("%1 of %Ln words", nullptr, document->wordCountTarget()).arg(QLocale().toString(m_words));
     const QString words = tr("%Ln words", nullptr, static_cast<int>(m_words));
-    return m_screenplay ? tr("%1 · %2").arg(screenplay::elementName(m_screenplay->elementAtCursor()), words)
-                        : words;
+    if (!m_screenplay)
+        return words;
+    return tr("%1 · %2 · %3")
+        .arg(
+            screenplay::elementName(m_screenplay->elementAtCursor()), tr("%Ln pages", nullptr, m_pages),
+            words);
 }
 
 void DocumentPage::followChanges(const core::project::ProjectChanges& changes)
@@ -344,6 +348,7 @@ void DocumentPage::showLock()
 void DocumentPage::recount()
 {
     m_words = m_editor->words();
+    m_pages = m_screenplay ? m_screenplay->pages() : 0;
     emit statusTextChanged();
 }
 

@@ -102,6 +102,8 @@ private:
     bool m_isFocusMode = false;
     bool m_isPlaceRestored = false;
     qint64 m_words = 0;
+    /** Of a screenplay. */
+    int m_pages = 0;
     qint64 m_selectedWords = 0;
 };
 

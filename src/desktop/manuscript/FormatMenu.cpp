@@ -2,11 +2,11 @@
 #include "desktop/manuscript/TextActions.h"
 
 #include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/NamedStylesDialog.h"
 
 #include <QAction>
 #include <QColorDialog>
 #include <QFontDialog>
-#include <QInputDialog>
 #include <QMenu>
 #include <QPainter>
 #include <QTextBlock>
@@ -226,13 +226,14 @@ void TextActions::fillNamedStyles(QMenu& menu)
     menu.clear();
     if (!m_page)
         return;
-    QStringList names;
-    for (QTextBlock block = m_page->document()->begin(); block.isValid(); block = block.next()) {
-        const QString name = rich::shapeOf(block.blockFormat()).attributes.style;
-        if (!name.isEmpty() && !names.contains(name))
+    QStringList names = stylesInText();
+    for (const auto& [name, style] : namedStylesFrom(m_desk.settings)) {
+        if (!names.contains(name))
             names.append(name);
     }
-    names.sort(Qt::CaseInsensitive);
+    std::ranges::sort(names, [](const QString& left, const QString& right) {
+        return namedStyleTitle(left).localeAwareCompare(namedStyleTitle(right)) < 0;
+    });
     const auto use = [this](const QString& name) {
         if (m_page)
             m_page->changeBlocks(
@@ -240,7 +241,7 @@ void TextActions::fillNamedStyles(QMenu& menu)
     };
     const QString present = m_page->currentShape().attributes.style;
     for (const QString& name : std::as_const(names)) {
-        QAction* const action = menu.addAction(QString(name).replace(u'&', u"&&"_s));
+        QAction* const action = menu.addAction(namedStyleTitle(name).replace(u'&', u"&&"_s));
         action->setCheckable(true);
         action->setChecked(name == present);
         connect(action, &QAction::triggered, this, [use, name, present] {
@@ -248,24 +249,30 @@ void TextActions::fillNamedStyles(QMenu& menu)
         });
     }
     menu.addSeparator();
-    QAction* const another = menu.addAction(tr("&New Style…"));
-    another->setEnabled(!m_page->isReadOnly() && takesAttributes(*m_page));
-    connect(another, &QAction::triggered, this, [this] {
-        if (m_page)
-            nameStyle(*m_page);
-    });
+    QAction* const edit = menu.addAction(tr("&Edit Styles…"));
+    connect(edit, &QAction::triggered, this, &TextActions::editNamedStyles);
 }
 
-void TextActions::nameStyle(Page& page)
+QStringList TextActions::stylesInText() const
 {
-    bool isAccepted = false;
-    const QString name = QInputDialog::getText(
-        m_window, tr("New Paragraph Style"), tr("Name of the style, as in “Letter” or “Verse”:"),
-        QLineEdit::Normal, page.currentShape().attributes.style, &isAccepted);
-    if (isAccepted) {
-        page.changeBlocks(
-            tr("Paragraph style"), [&name](BlockShape& shape) { shape.attributes.style = name.trimmed(); });
+    QStringList names;
+    for (QTextBlock block = m_page->document()->begin(); block.isValid(); block = block.next()) {
+        const QString name = rich::shapeOf(block.blockFormat()).attributes.style;
+        if (!name.isEmpty() && !names.contains(name))
+            names.append(name);
     }
+    return names;
+}
+
+void TextActions::editNamedStyles()
+{
+    const QString present = m_page ? m_page->currentShape().attributes.style : QString();
+    NamedStylesDialog dialog(
+        namedStylesFrom(m_desk.settings), m_page ? stylesInText() : QStringList(), present, m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    storeNamedStyles(m_desk.settings, dialog.styles());
+    emit pageStyleChanged();
 }
 
 void TextActions::addAlignments(QMenu& menu)

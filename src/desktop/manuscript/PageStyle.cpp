@@ -36,6 +36,7 @@ PageStyle pageStyleFrom(const QSettings& settings)
     style.lineHeight = std::clamp(
         settings.value(lineHeightKey, style.lineHeight).toReal(), PageLimits::tightest, PageLimits::loosest);
     style.hasFirstLineIndents = settings.value(indentsKey, style.hasFirstLineIndents).toBool();
+    style.namedStyles = namedStylesFrom(settings);
     style.zoom = std::clamp(settings.value("editor/zoom", style.zoom).toReal(), smallestZoom, largestZoom);
     return style;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/manuscript/NamedStyles.h"
+
 #include <QString>
 
 class QFont;
@@ -20,6 +22,7 @@ struct PageStyle
     qreal lineHeight = 1.5;
     /** Paragraphs begin with an indented line rather than after a gap, as in a printed novel. */
     bool hasFirstLineIndents = false;
+    NamedStyles namedStyles = {};
 
     friend bool operator==(const PageStyle&, const PageStyle&) = default;
 };
@@ -37,10 +40,10 @@ struct PageLimits
 
 /**
  * How the user wants pages set: "editor/fontFamily", "editor/fontSize", "editor/pageWidth",
- * "editor/lineHeight", "editor/firstLineIndents", "editor/zoom".
+ * "editor/lineHeight", "editor/firstLineIndents", "editor/zoom", and the named styles.
  */
 [[nodiscard]] PageStyle pageStyleFrom(const QSettings& settings);
-/** Keeps all of it but the zoom, which has its own keys. */
+/** Keeps all of it but the zoom, which has its own keys, and the named styles. */
 void storePageStyle(QSettings& settings, const PageStyle& style);
 /** Back to how pages came. */
 void forgetPageStyle(QSettings& settings);

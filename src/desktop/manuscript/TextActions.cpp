@@ -27,7 +27,7 @@ constexpr int styleButtonCharacters = 14;
 QString TextActions::styleTitle(const rich::BlockShape& shape)
 {
     if (!shape.attributes.style.isEmpty())
-        return shape.attributes.style;
+        return namedStyleTitle(shape.attributes.style);
     switch (shape.kind) {
     case BlockKind::Paragraph:
     case BlockKind::Rule:

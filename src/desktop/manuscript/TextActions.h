@@ -58,6 +58,8 @@ public:
 signals:
     /** Whether there is styled text to work on. */
     void availableChanged(bool isAvailable);
+    /** The settings of pages are others now. */
+    void pageStyleChanged();
 
 private:
     using Page = rich::RichPage;
@@ -77,6 +79,8 @@ private:
     void addParagraphStyles(QMenu& menu);
     void addStyle(QMenu& menu, const ActionText& text, BlockKind kind, int level);
     void fillNamedStyles(QMenu& menu);
+    [[nodiscard]] QStringList stylesInText() const;
+    void editNamedStyles();
     void addAlignments(QMenu& menu);
     void addSpacings(QMenu& menu);
     void addColors(QMenu& menu);
@@ -87,7 +91,6 @@ private:
         Page& page, QString core::document::markup::InlineAttributes::*field, const QString& label);
     void chooseImage(Page& page);
     void chooseLink(Page& page);
-    void nameStyle(Page& page);
     void addNote(Page& page, bool isEndnote);
 
     [[nodiscard]] static QString styleTitle(const rich::BlockShape& shape);

@@ -1,6 +1,6 @@
 #include "desktop/review/FileDifferences.h"
 
-#include "core/foundation/SequenceDiff.h"
+#include "app/text/WordDifference.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -14,6 +14,7 @@ namespace tw::desktop::review {
 using namespace Qt::Literals::StringLiterals;
 using app::persistence::FileVersion;
 using core::foundation::DiffHunk;
+using core::foundation::IndexRange;
 
 namespace {
 
@@ -53,6 +54,42 @@ void append(
 {
     for (qsizetype line = begin; line < end; ++line)
         result.push_back({side, lines.at(line)});
+}
+
+/** Appends lines of one side; `words` count from the start of the first line, in order. */
+void append(
+    std::vector<DifferenceLine>& result, LineSide side, const QStringList& lines,
+    const std::vector<IndexRange>& words)
+{
+    qsizetype start = 0;
+    for (const QString& line : lines) {
+        DifferenceLine shown{side, line};
+        for (const IndexRange& range : words) {
+            const qsizetype begin = std::max(range.first, start) - start;
+            const qsizetype end = std::min(range.end(), start + line.size()) - start;
+            if (begin < end)
+                shown.words.push_back({begin, end - begin});
+        }
+        result.push_back(std::move(shown));
+        start += line.size() + 1;
+    }
+}
+
+void appendChanged(std::vector<DifferenceLine>& result, const QStringList& mine, const QStringList& theirs)
+{
+    std::vector<IndexRange> mineWords;
+    std::vector<IndexRange> theirWords;
+    // A line that only one side has is marked as a whole.
+    if (!mine.isEmpty() && !theirs.isEmpty()) {
+        for (const auto& passage : app::text::compareTexts(mine.join(u'\n'), theirs.join(u'\n'))) {
+            for (const DiffHunk& hunk : passage.words) {
+                mineWords.push_back(hunk.before);
+                theirWords.push_back(hunk.after);
+            }
+        }
+    }
+    append(result, LineSide::Mine, mine, mineWords);
+    append(result, LineSide::Theirs, theirs, theirWords);
 }
 
 } // namespace
@@ -102,8 +139,9 @@ std::vector<DifferenceLine> fileDifferences(const app::persistence::FileMerge& f
         if (trailing < contextBegin)
             result.push_back({LineSide::Gap, {}});
         append(result, LineSide::Both, mine, contextBegin, hunk.before.first);
-        append(result, LineSide::Mine, mine, hunk.before.first, hunk.before.end());
-        append(result, LineSide::Theirs, theirs, hunk.after.first, hunk.after.end());
+        appendChanged(
+            result, mine.sliced(hunk.before.first, hunk.before.count),
+            theirs.sliced(hunk.after.first, hunk.after.count));
         shown = hunk.before.end();
     }
     append(result, LineSide::Both, mine, shown, std::min(mine.size(), shown + contextLines));

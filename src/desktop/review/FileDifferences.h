@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/persistence/merge/FileMerge.h"
+#include "core/foundation/SequenceDiff.h"
 
 #include <QString>
 #include <QStringList>
@@ -22,6 +23,8 @@ struct DifferenceLine
 {
     LineSide side = LineSide::Both;
     QString text;
+    /** The words that the other side has not, where it has a line in this one's place. */
+    std::vector<core::foundation::IndexRange> words = {};
 
     friend bool operator==(const DifferenceLine&, const DifferenceLine&) = default;
 };

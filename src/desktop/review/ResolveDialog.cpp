@@ -211,7 +211,7 @@ void ResolveDialog::showDifferences()
         return;
     QTextCursor cursor(m_differences->document());
     bool isFirst = true;
-    for (const auto& [side, text] : fileDifferences(m_model->file(current.row()))) {
+    for (const auto& [side, text, words] : fileDifferences(m_model->file(current.row()))) {
         const LineLook look = lookOf(side);
         QTextBlockFormat block;
         if (look.background)
@@ -224,6 +224,15 @@ void ResolveDialog::showDifferences()
             cursor.insertBlock(block);
         isFirst = false;
         cursor.insertText(look.mark + text, characters);
+        QTextCharFormat emphasis;
+        emphasis.setFontWeight(QFont::Bold);
+        emphasis.setFontUnderline(true);
+        for (const core::foundation::IndexRange& word : words) {
+            QTextCursor marked(cursor.block());
+            marked.setPosition(cursor.block().position() + static_cast<int>(look.mark.size() + word.first));
+            marked.setPosition(marked.position() + static_cast<int>(word.count), QTextCursor::KeepAnchor);
+            marked.mergeCharFormat(emphasis);
+        }
     }
     m_differences->moveCursor(QTextCursor::Start);
 }

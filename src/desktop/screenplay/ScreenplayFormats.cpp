@@ -7,35 +7,6 @@ namespace tw::desktop::screenplay {
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-/** In characters, from the left edge of a full line. */
-struct Column
-{
-    int indent = 0;
-    int width = lineCharacters;
-};
-
-Column columnOf(Element element)
-{
-    switch (element) {
-    case Element::Character:
-        return {22, lineCharacters - 22};
-    case Element::Dialogue:
-        return {10, 35};
-    case Element::Parenthetical:
-        return {16, 25};
-    case Element::Blank:
-    case Element::SceneHeading:
-    case Element::Action:
-    case Element::Transition:
-        break;
-    }
-    return {};
-}
-
-} // namespace
-
 QString typewriterFamily()
 {
     const QStringList installed = QFontDatabase::families();
@@ -49,7 +20,7 @@ QString typewriterFamily()
 
 QTextBlockFormat formatOf(Element element, qreal characterWidth)
 {
-    const Column column = columnOf(element);
+    const auto column = core::document::screenplay::columnOf(element);
     QTextBlockFormat format;
     format.setLeftMargin(column.indent * characterWidth);
     format.setRightMargin((lineCharacters - column.indent - column.width) * characterWidth);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/document/screenplay/ScreenplayText.h"
+#include "core/document/screenplay/ScreenplayLayout.h"
 
 #include <QCoreApplication>
 #include <QFont>
@@ -13,8 +13,7 @@ using core::document::screenplay::Element;
 /** The typewriter's font that screenplays are set in, of those that are installed. */
 [[nodiscard]] QString typewriterFamily();
 
-/** Characters in a full line of the page. */
-inline constexpr int lineCharacters = 61;
+using core::document::screenplay::lineCharacters;
 
 /**
  * Where an element stands on the page, as the industry sets it: indents and widths in characters of the

@@ -1,11 +1,13 @@
 #include "desktop/screenplay/ScreenplayPage.h"
 
+#include "desktop/manuscript/NameCompletion.h"
 #include "desktop/screenplay/RevisedLines.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextLayout>
@@ -257,6 +259,11 @@ void ScreenplayPage::followCursor()
 {
     const int line = textCursor().blockNumber();
     const int left = std::exchange(m_cursorLine, line);
+    if (left != line) {
+        m_speakersLine = -1;
+        if (m_completion)
+            m_completion->hide();
+    }
     if (left != line && !isApplying() && !isReadOnly())
         settleChoice(document()->findBlockByNumber(left));
     announceElement();
@@ -309,6 +316,8 @@ bool ScreenplayPage::beginNextLine()
 
 void ScreenplayPage::keyPressEvent(QKeyEvent* event)
 {
+    if (m_completion && m_completion->takeKey(*event))
+        return;
     const bool isPlain = !(event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReadOnly() || !isPlain) {
@@ -327,13 +336,87 @@ void ScreenplayPage::keyPressEvent(QKeyEvent* event)
         QKeyEvent capital(
             event->type(), event->key(), event->modifiers(), text.toUpper(), event->isAutoRepeat());
         PlainBodyEditor::keyPressEvent(&capital);
+        offerSpeakers();
         return;
     }
     const Element before = elementAtCursor();
     PlainBodyEditor::keyPressEvent(event);
+    if (event->key() == Qt::Key_Backspace)
+        offerSpeakers();
     // "int. " has just become a scene: what was typed of it is brought to capitals as well.
     if (before != Element::SceneHeading && elementAtCursor() == Element::SceneHeading && !text.isEmpty())
         rewrite(textCursor().block(), Element::SceneHeading);
+}
+
+void ScreenplayPage::offerSpeakers()
+{
+    const QTextCursor cursor = textCursor();
+    const QTextBlock line = cursor.block();
+    const QString begun = line.text();
+    QStringList names;
+    if (elementAtCursor() == Element::Character && cursor.atBlockEnd() && !begun.trimmed().isEmpty()) {
+        if (std::exchange(m_speakersLine, line.blockNumber()) != line.blockNumber())
+            m_speakers = speakersFor(line);
+        names = m_speakers.filter(QRegularExpression(
+            u'^' + QRegularExpression::escape(begun), QRegularExpression::CaseInsensitiveOption));
+        // Nothing is left to complete; Return shall go on to what is said.
+        if (names.contains(begun, Qt::CaseInsensitive))
+            names.clear();
+    }
+    if (!m_completion) {
+        if (names.isEmpty())
+            return;
+        m_completion = new manuscript::NameCompletion(tr("Characters who speak"), this);
+        connect(m_completion, &manuscript::NameCompletion::chosen, this, &ScreenplayPage::completeSpeaker);
+    }
+    const QRect place = cursorRect();
+    m_completion->showNames(names, QRect(viewport()->mapToGlobal(place.topLeft()), place.size()));
+}
+
+QStringList ScreenplayPage::speakersFor(const QTextBlock& line) const
+{
+    // Backwards from the line: in a talk of two, the one who spoke before the last answers.
+    QStringList names;
+    const auto take = [&](const QTextBlock& block) {
+        if (block == line || elementIn(block) != Element::Character)
+            return;
+        const QString text = block.text().trimmed();
+        const QString name = text.left(text.indexOf(u'(')).trimmed();
+        if (!name.isEmpty() && !names.contains(name))
+            names.append(name);
+    };
+    for (QTextBlock block = line.previous(); block.isValid(); block = block.previous())
+        take(block);
+    if (names.size() > 1)
+        names.swapItemsAt(0, 1);
+    for (QTextBlock block = line.next(); block.isValid(); block = block.next())
+        take(block);
+    return names;
+}
+
+void ScreenplayPage::completeSpeaker(const QString& name)
+{
+    QTextCursor cursor = textCursor();
+    cursor.movePosition(QTextCursor::StartOfBlock);
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    cursor.insertText(name);
+    setTextCursor(cursor);
+}
+
+void ScreenplayPage::focusOutEvent(QFocusEvent* event)
+{
+    if (m_completion)
+        m_completion->hide();
+    PlainBodyEditor::focusOutEvent(event);
+}
+
+int ScreenplayPage::pages() const
+{
+    const QString text = document()->toRawText();
+    std::vector<QStringView> lines;
+    for (const QStringView line : QStringView(text).split(QChar::ParagraphSeparator))
+        lines.push_back(line);
+    return fountain::pagesOf(lines);
 }
 
 void ScreenplayPage::announceElement()

@@ -8,6 +8,10 @@
 
 #include <set>
 
+namespace tw::desktop::manuscript {
+class NameCompletion;
+}
+
 namespace tw::desktop::screenplay {
 
 /** How pages of screenplays are set, whatever the writer chose for prose; the zoom is the same. */
@@ -40,6 +44,9 @@ public:
     /** Brings the marks up to the text at once; otherwise that happens in a rest. */
     void markRevisedLines();
 
+    /** How many pages of a printed screenplay the text fills. */
+    [[nodiscard]] int pages() const;
+
 signals:
     void elementChanged(tw::core::document::screenplay::Element element);
 
@@ -48,6 +55,7 @@ protected:
     void takeUpTheme() override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void noteLines(int position, int added);
@@ -63,6 +71,9 @@ private:
     void stepElement(int step);
     bool beginNextLine();
     void announceElement();
+    void offerSpeakers();
+    void completeSpeaker(const QString& name);
+    [[nodiscard]] QStringList speakersFor(const QTextBlock& line) const;
 
     qreal m_characterWidth = 1;
     int m_firstNoted = -1;
@@ -74,6 +85,11 @@ private:
     QString m_baseline;
     std::set<int> m_revisedLines;
     QTimer m_revisionRest;
+    /** Made when first needed. */
+    manuscript::NameCompletion* m_completion = nullptr;
+    /** Who speaks in the other lines, likely ones first; gathered once for a line that names a speaker. */
+    QStringList m_speakers;
+    int m_speakersLine = -1;
 };
 
 } // namespace tw::desktop::screenplay

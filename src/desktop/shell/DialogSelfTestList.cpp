@@ -2,6 +2,7 @@
 #include "desktop/codex/FieldDialog.h"
 #include "desktop/codex/TimedValueDialog.h"
 #include "desktop/goals/GoalsDialog.h"
+#include "desktop/manuscript/NamedStylesDialog.h"
 #include "desktop/project/ExportPackDialog.h"
 #include "desktop/project/NewProjectDialog.h"
 #include "desktop/project/ProjectSettingsDialog.h"
@@ -164,6 +165,12 @@ std::unique_ptr<QDialog> makeGoalsDialog(const DeskContext& desk)
         nullptr);
 }
 
+std::unique_ptr<QDialog> makeNamedStylesDialog(const DeskContext& desk)
+{
+    return std::make_unique<manuscript::NamedStylesDialog>(
+        manuscript::namedStylesFrom(desk.settings), QStringList{u"Selftest"_s}, u"Verse"_s, nullptr);
+}
+
 /** With an action of its own, since those of the window are none of the dialog's business. */
 std::unique_ptr<QDialog> makeSettingsDialog(const DeskContext& desk)
 {
@@ -197,6 +204,7 @@ std::vector<SelfTestDialog> selfTestDialogs()
         {u"restore from a backup"_s, makeRestoreDialog, {}},
         {u"project settings"_s, makeProjectSettingsDialog, checkProjectSettingsDialog},
         {u"writing goals"_s, makeGoalsDialog, {}},
+        {u"paragraph styles"_s, makeNamedStylesDialog, {}},
         {u"export content pack"_s, makeExportPackDialog, {}},
         {u"settings"_s, makeSettingsDialog, {}},
         {u"about"_s, makeAboutDialog, {}},

@@ -317,6 +317,7 @@ void MainWindow::buildFormatBar()
     layout->setSpacing(0);
     layout->addWidget(m_formatBar);
     layout->addWidget(m_workArea, 1);
+    connect(m_textActions, &manuscript::TextActions::pageStyleChanged, this, [this] { zoomPages(0); });
     connect(m_textActions, &manuscript::TextActions::availableChanged, this, [this] {
         followPage(m_workArea->currentPage());
     });

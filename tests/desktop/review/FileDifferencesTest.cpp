@@ -30,7 +30,9 @@ QStringList shown(const FileVersion& mine, const FileVersion& theirs)
 {
     QStringList lines;
     const FileMerge file{app::persistence::objectPath(chapterId), {{}, mine, theirs}, {}, {}, {}};
-    for (const auto& [side, text] : fileDifferences(file)) {
+    for (auto& [side, text, words] : fileDifferences(file)) {
+        for (auto word = words.rbegin(); word != words.rend(); ++word)
+            text.insert(word->end(), u']').insert(word->first, u'[');
         switch (side) {
         case LineSide::Both:
             lines.append(u"  "_s + text);
@@ -70,15 +72,16 @@ TEST(FileDifferencesTest, readsAsAPersonWould)
         EXPECT_EQ(readableLines(json), lines) << json.toStdString();
 }
 
-TEST(FileDifferencesTest, showsParagraphsThatDiffer)
+TEST(FileDifferencesTest, showsParagraphsAndWordsThatDiffer)
 {
-    const QString mine = u"one\ntwo\nthree\nfour\nfive\nsix\nseven\neight\nnine"_s;
-    const QString theirs = u"one\nTWO\nthree\nfour\nfive\nsix\nseven\neight\nnine\nten"_s;
+    const QString mine = u"one\nThe ebb is here.\nthree\nfour\nfive\nsix\nseven\neight\nnine"_s;
+    const QString theirs = u"one\nThe flood is near.\nthree\nfour\nfive\nsix\nseven\neight\nnine\nten"_s;
     EXPECT_EQ(
         shown(chapter(u"Ebb"_s, mine), chapter(u"Ebb"_s, theirs)),
         QStringList(
-            {u"..."_s, u"  body:"_s, u"  one"_s, u"- two"_s, u"+ TWO"_s, u"  three"_s, u"  four"_s, u"..."_s,
-             u"  eight"_s, u"  nine"_s, u"+ ten"_s, u"  bodyFormat: markdown"_s, u"  sortIndex: 0"_s}));
+            {u"..."_s, u"  body:"_s, u"  one"_s, u"- The [ebb] is [here]."_s, u"+ The [flood] is [near]."_s,
+             u"  three"_s, u"  four"_s, u"..."_s, u"  eight"_s, u"  nine"_s, u"+ ten"_s,
+             u"  bodyFormat: markdown"_s, u"  sortIndex: 0"_s}));
 }
 
 TEST(FileDifferencesTest, deletedFileHasNothingInCommon)

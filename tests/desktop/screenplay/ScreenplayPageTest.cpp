@@ -1,5 +1,6 @@
 #include "desktop/screenplay/ScreenplayPage.h"
 
+#include "desktop/manuscript/NameCompletion.h"
 #include "desktop/screenplay/RevisedLines.h"
 #include "desktop/support/TestDesk.h"
 
@@ -113,6 +114,22 @@ TEST_F(ScreenplayPageTest, linesThatDifferFromTheBaselineAreMarked)
     page.applyBody({u"INT. A\n\nSun."_s, {}});
     page.markRevisedLines();
     EXPECT_TRUE(page.revisedLines().empty());
+}
+
+TEST_F(ScreenplayPageTest, namesOfThoseWhoSpeakAreOffered)
+{
+    page.applyBody({u"MARA\nLate.\n\nOLD TOM (O.S.)\nVery.\n\nMARA\nGood.\n\n"_s, {}});
+    page.moveCursor(QTextCursor::End);
+    page.setElement(Element::Character);
+    QTest::keyClicks(&page, u"o"_s);
+    auto* const names = page.findChild<manuscript::NameCompletion*>();
+    ASSERT_TRUE(names && names->isVisible());
+    EXPECT_EQ(names->item(0)->text(), u"OLD TOM"_s);
+    QTest::keyClick(&page, Qt::Key_Return);
+    EXPECT_EQ(page.textCursor().block().text(), u"OLD TOM"_s);
+    EXPECT_FALSE(names->isVisible());
+    QTest::keyClick(&page, Qt::Key_Return);
+    EXPECT_EQ(page.elementAtCursor(), Element::Dialogue) << "a whole name leaves the key to the text";
 }
 
 } // namespace tw::desktop::screenplay

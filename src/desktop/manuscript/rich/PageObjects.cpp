@@ -9,10 +9,12 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QPromise>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QThreadPool>
 #include <QUrl>
 
+#include <algorithm>
 #include <memory>
 
 namespace tw::desktop::manuscript::rich {
@@ -134,12 +136,15 @@ void PageImages::load(const QString& target, Picture& picture)
     });
 }
 
-QSizeF PageImages::intrinsicSize(QTextDocument*, int, const QTextFormat& format)
+QSizeF PageImages::intrinsicSize(QTextDocument* document, int position, const QTextFormat& format)
 {
     const Picture& picture = this->picture(format);
+    const QTextBlockFormat block = document->findBlock(position).blockFormat();
+    const qreal width = std::max(m_columnWidth() - block.leftMargin() - block.rightMargin(), m_formats.em());
     if (picture.file.isEmpty() || picture.size.isEmpty())
-        return {m_columnWidth(), placeholderHeight * m_formats.em()};
-    return picture.size;
+        return {width, placeholderHeight * m_formats.em()};
+    const QSizeF size = picture.size;
+    return size.width() > width ? size.scaled(width, size.height(), Qt::KeepAspectRatio) : size;
 }
 
 void PageImages::drawObject(

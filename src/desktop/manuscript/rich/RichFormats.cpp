@@ -147,7 +147,13 @@ QTextBlockFormat RichFormats::block(const BlockShape& shape) const
 {
     QTextBlockFormat format;
     storeShape(format, shape);
-    const BlockSpace space = spaceOf(shape, m_style.hasFirstLineIndents);
+    const NamedStyle* const named = namedStyle(shape);
+    BlockSpace space = spaceOf(shape, m_style.hasFirstLineIndents);
+    if (named) {
+        space.left += named->leftSteps * step;
+        if (named->isClose)
+            space.above = space.below = 0;
+    }
     qreal lineHeight = m_lineHeightPercent;
     if (shape.attributes.spacing > 0)
         lineHeight *=
@@ -165,12 +171,17 @@ QTextBlockFormat RichFormats::block(const BlockShape& shape) const
         format.setLeftMargin(left * m_em);
     if (shape.kind == BlockKind::Code)
         format.setRightMargin(space.left * m_em);
+    else if (named && named->rightSteps > 0)
+        format.setRightMargin(named->rightSteps * step * m_em);
     if (shape.kind == BlockKind::Rule)
         format.setAlignment(Qt::AlignHCenter);
-    if (m_style.hasFirstLineIndents && shape.kind == BlockKind::Paragraph &&
-        shape.attributes.align != "center"_L1)
+    QString align = shape.attributes.align;
+    if (align.isEmpty() && named)
+        align = named->align;
+    if (m_style.hasFirstLineIndents && shape.kind == BlockKind::Paragraph && align != "center"_L1 &&
+        !(named && named->isClose))
         format.setTextIndent(firstLineIndent * m_em);
-    if (const Qt::Alignment alignment = alignmentOf(shape.attributes.align))
+    if (const Qt::Alignment alignment = alignmentOf(align))
         format.setAlignment(alignment);
     return format;
 }
@@ -258,12 +269,41 @@ void RichFormats::decorate(QTextCharFormat& format, const RunStyle& style) const
     }
 }
 
+const NamedStyle* RichFormats::namedStyle(const BlockShape& shape) const
+{
+    if (shape.attributes.style.isEmpty())
+        return nullptr;
+    const auto found = m_style.namedStyles.find(shape.attributes.style);
+    return found == m_style.namedStyles.end() ? nullptr : &found->second;
+}
+
+void RichFormats::decorate(QTextCharFormat& format, const NamedStyle& style, const BlockShape& shape) const
+{
+    if (!style.fontFamily.isEmpty())
+        format.setFontFamilies({style.fontFamily});
+    // Headings and the like have a size of their own.
+    const qreal present = format.hasProperty(QTextFormat::FontPointSize)
+                              ? format.fontPointSize()
+                              : m_style.fontPointSize * m_style.zoom;
+    if (style.sizePercent != 100 && shape.kind != BlockKind::Table)
+        format.setFontPointSize(present * style.sizePercent / 100);
+    if (style.isBold)
+        format.setFontWeight(QFont::Bold);
+    if (style.isItalic)
+        format.setFontItalic(true);
+}
+
 QTextCharFormat RichFormats::text(const RunStyle& style, const BlockShape& shape) const
 {
     const QTextCharFormat& plain = base(shape.kind, shape.level);
-    if (style == RunStyle())
+    const NamedStyle* const named = namedStyle(shape);
+    if (style == RunStyle() && !named)
         return plain;
     QTextCharFormat format = plain;
+    if (named)
+        decorate(format, *named, shape);
+    if (style == RunStyle())
+        return format;
     storeStyle(format, style);
     decorate(format, style);
     return format;

@@ -38,6 +38,9 @@ private:
     [[nodiscard]] const QTextCharFormat& base(markup::BlockKind kind, int level) const;
     [[nodiscard]] QTextCharFormat makeBase(markup::BlockKind kind, int level) const;
     void decorate(QTextCharFormat& format, const markup::RunStyle& style) const;
+    /** Null when the block has no named style, or one that nobody gave a look. */
+    [[nodiscard]] const NamedStyle* namedStyle(const BlockShape& shape) const;
+    void decorate(QTextCharFormat& format, const NamedStyle& style, const BlockShape& shape) const;
 
     theme::Theme m_theme;
     PageStyle m_style;

@@ -13,15 +13,15 @@
 class QTextTable;
 
 namespace tw::desktop::manuscript {
+class NameCompletion;
 class TypingBursts;
-}
+} // namespace tw::desktop::manuscript
 
 namespace tw::desktop::manuscript::rich {
 
 class EntityCard;
 class EntityNames;
 class FootnoteMarks;
-class NameCompletion;
 class PageImages;
 
 /** What can be switched on and off for a stretch of text. */
@@ -78,7 +78,7 @@ public:
     void insertRule();
     void insertPageBreak();
     void insertTable(int rows, int columns);
-    /** An image of the project's assets. */
+    /** An image of the project's assets, below the paragraph of the cursor. */
     void insertImage(const QString& assetPath, const QString& description);
     void insertFootnoteReference(const QString& label);
     void setLink(const QString& target);

@@ -233,6 +233,13 @@ void RichPage::insertTable(int rows, int columns)
 void RichPage::insertImage(const QString& assetPath, const QString& description)
 {
     asStep(tr("Insert image"), [&](QTextCursor& cursor) {
+        cursor.setPosition(cursor.selectionEnd());
+        // A picture stands by itself, unless it is in a list or a table.
+        if (kindOf(cursor.blockFormat()) == BlockKind::Paragraph && cursor.block().length() > 1) {
+            cursor.movePosition(QTextCursor::EndOfBlock);
+            breakParagraph(cursor);
+            reshapeBlock(cursor.block(), {}, m_formats);
+        }
         const Run run{RunKind::Image, description, assetPath, {}};
         insertPieces(cursor, readRuns({&run, 1}, shapeOf(cursor.blockFormat()), m_formats));
     });

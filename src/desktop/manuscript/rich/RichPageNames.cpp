@@ -1,9 +1,9 @@
 // Names of the codex in the text: found, shown, opened, completed.
 #include "desktop/manuscript/rich/RichPage.h"
 
+#include "desktop/manuscript/NameCompletion.h"
 #include "desktop/manuscript/rich/EntityCard.h"
 #include "desktop/manuscript/rich/EntityNames.h"
-#include "desktop/manuscript/rich/NameCompletion.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -126,7 +126,7 @@ void RichPage::offerNames()
         return;
     }
     if (!m_completion) {
-        m_completion = new NameCompletion(this);
+        m_completion = new NameCompletion(tr("Names of the codex"), this);
         connect(m_completion, &NameCompletion::chosen, this, &RichPage::completeName);
     }
     const QRect line = cursorRect();

@@ -67,6 +67,10 @@ TEST(WordCountTest, countsWhatThePatternsLeave)
         EXPECT_EQ(countWords(body), countWords(prose)) << body.left(200).toStdString();
     }
     EXPECT_EQ(countWords(u"[red]{.tw color=red}"), 1);
+    EXPECT_EQ(countWords(u"[the sea](https://a.example/b-c \"title\") rose"), 3);
+    EXPECT_EQ(countWords(u"![a map](assets/a map.png) here (and) there"), 3);
+    EXPECT_EQ(countWords(u"not [a link]( over\nlines)"), 5);
+    EXPECT_EQ(countWords(QString(u"a]( "_s.repeated(100'000))), 100'000);
     EXPECT_EQ(countWords(u"sea[^1]-side don't 5-6 a--b"), 5);
     EXPECT_EQ(countWords(QString(u"{.tw [^ "_s.repeated(100'000))), 100'000);
 }

@@ -1,9 +1,9 @@
 #include "desktop/manuscript/rich/RichPageFixture.h"
 
 #include "core/entity/Entity.h"
+#include "desktop/manuscript/NameCompletion.h"
 #include "desktop/manuscript/NotesPane.h"
 #include "desktop/manuscript/rich/EntityCard.h"
-#include "desktop/manuscript/rich/NameCompletion.h"
 
 #include <QHelpEvent>
 #include <QSignalSpy>

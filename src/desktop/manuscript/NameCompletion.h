@@ -4,7 +4,7 @@
 
 class QKeyEvent;
 
-namespace tw::desktop::manuscript::rich {
+namespace tw::desktop::manuscript {
 
 /** Names to choose from while one types; never takes the keyboard from the text. */
 class NameCompletion final : public QListWidget
@@ -12,7 +12,8 @@ class NameCompletion final : public QListWidget
     Q_OBJECT
 
 public:
-    explicit NameCompletion(QWidget* parent);
+    /** `description` says what is offered, to those who cannot see it. */
+    NameCompletion(const QString& description, QWidget* parent);
 
     /** Shows the names below a line of text; hides when there are none. */
     void showNames(const QStringList& names, const QRect& globalLine);
@@ -23,4 +24,4 @@ signals:
     void chosen(const QString& name);
 };
 
-} // namespace tw::desktop::manuscript::rich
+} // namespace tw::desktop::manuscript

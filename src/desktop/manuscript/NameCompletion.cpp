@@ -1,11 +1,11 @@
-#include "desktop/manuscript/rich/NameCompletion.h"
+#include "desktop/manuscript/NameCompletion.h"
 
 #include <QKeyEvent>
 #include <QScreen>
 
 #include <algorithm>
 
-namespace tw::desktop::manuscript::rich {
+namespace tw::desktop::manuscript {
 
 namespace {
 
@@ -14,7 +14,7 @@ constexpr int widthCharacters = 36;
 
 } // namespace
 
-NameCompletion::NameCompletion(QWidget* parent)
+NameCompletion::NameCompletion(const QString& description, QWidget* parent)
     : QListWidget(parent)
 {
     setWindowFlags(Qt::ToolTip);
@@ -22,7 +22,7 @@ NameCompletion::NameCompletion(QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setUniformItemSizes(true);
-    setAccessibleName(tr("Names of the codex"));
+    setAccessibleName(description);
     connect(this, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
         hide();
         emit chosen(item->text());
@@ -78,4 +78,4 @@ bool NameCompletion::takeKey(const QKeyEvent& event)
     }
 }
 
-} // namespace tw::desktop::manuscript::rich
+} // namespace tw::desktop::manuscript
