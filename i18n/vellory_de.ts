@@ -332,6 +332,25 @@
     </message>
 </context>
 <context>
+    <name>NamedStyle</name>
+    <message>
+        <source>Letter</source>
+        <translation>Brief</translation>
+    </message>
+    <message>
+        <source>Verse</source>
+        <translation>Vers</translation>
+    </message>
+    <message>
+        <source>Epigraph</source>
+        <translation>Motto</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Nachricht</translation>
+    </message>
+</context>
+<context>
     <name>NewPlace</name>
     <message>
         <source>One file (recommended)</source>
@@ -2982,10 +3001,6 @@
         </translation>
     </message>
     <message>
-        <source>%1 · %2</source>
-        <translation>%1 · %2</translation>
-    </message>
-    <message>
         <source>Note %1 has no text anywhere in this document.</source>
         <translation>Die Anmerkung %1 hat nirgends in diesem Dokument einen Text.</translation>
     </message>
@@ -3000,6 +3015,17 @@
     <message>
         <source>The link “%1” cannot be opened from here.</source>
         <translation>Der Link „%1“ lässt sich von hier nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>%1 · %2 · %3</source>
+        <translation>%1 · %2 · %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln pages</source>
+        <translation>
+            <numerusform>%Ln Seite</numerusform>
+            <numerusform>%Ln Seiten</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3047,10 +3073,6 @@
     <message>
         <source>Find and replace</source>
         <translation>Suchen und ersetzen</translation>
-    </message>
-    <message>
-        <source>Not an expression: %1</source>
-        <translation>Kein Ausdruck: %1</translation>
     </message>
     <message>
         <source>Not found</source>
@@ -3111,6 +3133,117 @@
     <message>
         <source>Open a project, or begin one.</source>
         <translation>Öffnen oder beginnen Sie ein Projekt.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::manuscript::NamedStylesDialog</name>
+    <message>
+        <source>Own &amp;font</source>
+        <translation>Eigene &amp;Schrift</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>&amp;Fett</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>&amp;Kursiv</translation>
+    </message>
+    <message>
+        <source>Paragraphs stand &amp;close together</source>
+        <translation>Absätze stehen &amp;dicht beieinander</translation>
+    </message>
+    <message>
+        <source>Paragraph Styles</source>
+        <translation>Absatzstile</translation>
+    </message>
+    <message>
+        <source>Paragraph styles</source>
+        <translation>Absatzstile</translation>
+    </message>
+    <message>
+        <source>&amp;New…</source>
+        <translation>&amp;Neu…</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source> % of the page&apos;s</source>
+        <translation> % der Seite</translation>
+    </message>
+    <message>
+        <source>As the page</source>
+        <translation>Wie die Seite</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centred</source>
+        <translation>Zentriert</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Justified</source>
+        <translation>Blocksatz</translation>
+    </message>
+    <message>
+        <source>&amp;Size</source>
+        <translation>&amp;Größe</translation>
+    </message>
+    <message>
+        <source>&amp;Alignment</source>
+        <translation>&amp;Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Indent on the &amp;left</source>
+        <translation>Einzug &amp;links</translation>
+    </message>
+    <message>
+        <source>Indent on the &amp;right</source>
+        <translation>Einzug &amp;rechts</translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <translation>Beispiel</translation>
+    </message>
+    <message>
+        <source>Set Styles</source>
+        <translation>Stile festlegen</translation>
+    </message>
+    <message>
+        <source>Re&amp;store</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Have this style look as it came</source>
+        <translation>Diesen Stil aussehen lassen, wie er mitgeliefert wurde</translation>
+    </message>
+    <message>
+        <source>Forget this look; paragraphs keep the name of the style</source>
+        <translation>Dieses Aussehen vergessen; Absätze behalten den Namen des Stils</translation>
+    </message>
+    <message>
+        <source>New Paragraph Style</source>
+        <translation>Neuer Absatzstil</translation>
+    </message>
+    <message>
+        <source>Name of the style, as in “Telegram”:</source>
+        <translation>Name des Stils, etwa „Telegramm“:</translation>
+    </message>
+    <message>
+        <source>The tide came in before the letter did, and both were late.</source>
+        <translation>Die Flut kam vor dem Brief, und beide kamen zu spät.</translation>
     </message>
 </context>
 <context>
@@ -3313,18 +3446,6 @@
     <message>
         <source>&amp;Named Style</source>
         <translation>&amp;Benannte Vorlage</translation>
-    </message>
-    <message>
-        <source>&amp;New Style…</source>
-        <translation>&amp;Neue Vorlage…</translation>
-    </message>
-    <message>
-        <source>New Paragraph Style</source>
-        <translation>Neue Absatzvorlage</translation>
-    </message>
-    <message>
-        <source>Name of the style, as in “Letter” or “Verse”:</source>
-        <translation>Name der Vorlage, etwa „Brief“ oder „Vers“:</translation>
     </message>
     <message>
         <source>Alignment</source>
@@ -3537,19 +3658,16 @@
             <numerusform>Neue Tabelle mit &amp;%n Spalten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Edit Styles…</source>
+        <translation>Stile &amp;bearbeiten…</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::manuscript::rich::EntityCard</name>
     <message>
         <source>Also: %1</source>
         <translation>Auch: %1</translation>
-    </message>
-</context>
-<context>
-    <name>tw::desktop::manuscript::rich::NameCompletion</name>
-    <message>
-        <source>Names of the codex</source>
-        <translation>Namen aus dem Kodex</translation>
     </message>
 </context>
 <context>
@@ -3620,6 +3738,10 @@
     <message>
         <source>Insert name</source>
         <translation>Namen einfügen</translation>
+    </message>
+    <message>
+        <source>Names of the codex</source>
+        <translation>Namen aus dem Codex</translation>
     </message>
 </context>
 <context>
@@ -4325,6 +4447,10 @@
     <message>
         <source>Text of the screenplay</source>
         <translation>Text des Drehbuchs</translation>
+    </message>
+    <message>
+        <source>Characters who speak</source>
+        <translation>Figuren, die sprechen</translation>
     </message>
 </context>
 <context>

@@ -115,6 +115,13 @@
             <numerusform>%1 of %Ln words selected</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln pages</source>
+        <translation>
+            <numerusform>%Ln page</numerusform>
+            <numerusform>%Ln pages</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::manuscript::FindBar</name>

@@ -1,5 +1,6 @@
 #include "desktop/composition/CompositionPage.h"
 
+#include "core/document/ActiveText.h"
 #include "core/document/DocumentTree.h"
 #include "desktop/composition/SceneSlot.h"
 #include "desktop/icons/IconSet.h"
@@ -48,13 +49,21 @@ CompositionPage::CompositionPage(const shell::DeskContext& desk, const ContentId
     : TextPage({rootId, compositionView}, parent)
     , m_desk(desk)
     , m_area(new QScrollArea(this))
+    , m_findBar(new manuscript::FindBar(desk, this))
     , m_text(new QWidget)
     , m_layout(new QVBoxLayout(m_text))
     , m_hint(new QLabel(tr("No documents in here yet. Press Ctrl+Shift+N to write the first one."), m_text))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_area);
+    layout->setSpacing(0);
+    layout->addWidget(m_area, 1);
+    layout->addWidget(m_findBar);
+    m_findBar->setSequence(this);
+    connect(m_findBar, &manuscript::FindBar::placeShown, this, [this] {
+        if (const BodyEditor* const editor = currentEditor())
+            showCursor(*editor);
+    });
     m_area->setWidget(m_text);
     m_area->setWidgetResizable(true);
     m_area->setFrameShape(QFrame::NoFrame);
@@ -192,8 +201,10 @@ void CompositionPage::setCurrentSlot(SceneSlot* slot)
     if (m_current == slot)
         return;
     m_current = slot;
-    if (slot)
+    if (slot) {
+        m_findBar->setEditor(slot->editor(), slot->bursts());
         m_desk.navigator.setCurrent(slot->documentId());
+    }
     emit editorChanged();
     emit statusTextChanged();
 }
@@ -287,6 +298,50 @@ manuscript::rich::RichPage* CompositionPage::richPage() const
 ContentId CompositionPage::editedDocument() const
 {
     return m_current ? m_current->documentId() : ContentId();
+}
+
+manuscript::FindBar* CompositionPage::findBar()
+{
+    if (!currentEditor())
+        takeFocus();
+    return currentEditor() ? m_findBar : nullptr;
+}
+
+bool CompositionPage::hasMatch(const SceneSlot& slot, const manuscript::TextFinder& finder) const
+{
+    const auto* const document = m_desk.session.project().findAs<Document>(slot.documentId());
+    return document && finder.hasMatchIn(core::document::activeText(*document));
+}
+
+bool CompositionPage::goOn(const manuscript::TextFinder& finder, bool isForward)
+{
+    const auto count = static_cast<std::ptrdiff_t>(m_slots.size());
+    const auto present = std::ranges::find(m_slots, m_current.data()) - m_slots.begin();
+    for (std::ptrdiff_t step = 1; step < count; ++step) {
+        SceneSlot& slot =
+            *m_slots[static_cast<std::size_t>((present + (isForward ? step : count - step)) % count)];
+        if (!hasMatch(slot, finder))
+            continue;
+        slot.wake();
+        m_layout->activate();
+        m_text->adjustSize();
+        setCurrentSlot(&slot);
+        return true;
+    }
+    return false;
+}
+
+void CompositionPage::visitAll(const manuscript::TextFinder& finder, const std::function<void()>& work)
+{
+    SceneSlot* const present = m_current;
+    for (SceneSlot* const slot : m_slots) {
+        if (!hasMatch(*slot, finder))
+            continue;
+        slot->wake();
+        setCurrentSlot(slot);
+        work();
+    }
+    setCurrentSlot(present);
 }
 
 void CompositionPage::showNote(const QString&)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/project/ProjectChanges.h"
+#include "desktop/manuscript/FindBar.h"
 #include "desktop/manuscript/TextPage.h"
 #include "desktop/shell/DeskContext.h"
 
@@ -24,7 +25,7 @@ inline constexpr QLatin1StringView compositionView("composition");
  * own, edited in place; the arrow keys lead from one into the next. Editors are made for what is about to be
  * seen, so that a whole manuscript opens at once.
  */
-class CompositionPage final : public manuscript::TextPage
+class CompositionPage final : public manuscript::TextPage, private manuscript::TextSequence
 {
     Q_OBJECT
 
@@ -40,6 +41,7 @@ public:
     [[nodiscard]] manuscript::BodyEditor* currentEditor() const override;
     [[nodiscard]] manuscript::rich::RichPage* richPage() const override;
     [[nodiscard]] core::ContentId editedDocument() const override;
+    [[nodiscard]] manuscript::FindBar* findBar() override;
     /** Notes are written where the document is by itself. */
     void showNote(const QString& label) override;
     void applyStyle() override;
@@ -56,6 +58,9 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    bool goOn(const manuscript::TextFinder& finder, bool isForward) override;
+    void visitAll(const manuscript::TextFinder& finder, const std::function<void()>& work) override;
+    [[nodiscard]] bool hasMatch(const SceneSlot& slot, const manuscript::TextFinder& finder) const;
     [[nodiscard]] std::vector<core::ContentId> documentsInOrder() const;
     void rebuild();
     void followChanges(const core::project::ProjectChanges& changes);
@@ -68,6 +73,7 @@ private:
 
     shell::DeskContext m_desk;
     QScrollArea* m_area;
+    manuscript::FindBar* m_findBar;
     QWidget* m_text;
     QVBoxLayout* m_layout;
     QLabel* m_hint;

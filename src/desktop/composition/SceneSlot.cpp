@@ -75,10 +75,12 @@ BodyEditor& SceneSlot::wake()
     if (m_isEditorForScreenplay) {
         auto* const page = new screenplay::ScreenplayPage(m_desk.themes, this);
         page->setPageStyle(style());
-        new manuscript::TypingBursts(m_desk.session, m_documentId, *page);
+        m_bursts = new manuscript::TypingBursts(m_desk.session, m_documentId, *page);
         m_editor = page;
     } else {
-        m_editor = new manuscript::rich::RichPage(m_desk, m_documentId, this);
+        auto* const page = new manuscript::rich::RichPage(m_desk, m_documentId, this);
+        m_bursts = &page->bursts();
+        m_editor = page;
     }
     m_layout->insertWidget(1, m_editor);
     m_editor->resize(width(), m_editor->height());

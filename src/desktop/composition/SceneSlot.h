@@ -12,7 +12,8 @@ class QVBoxLayout;
 
 namespace tw::desktop::manuscript {
 class BodyEditor;
-}
+class TypingBursts;
+} // namespace tw::desktop::manuscript
 
 namespace tw::desktop::composition {
 
@@ -33,6 +34,8 @@ public:
     [[nodiscard]] manuscript::BodyEditor* editor() const { return m_editor; }
     /** Makes the editor when it is not there. */
     manuscript::BodyEditor& wake();
+    /** What carries typing from the editor to the document; null as the editor. */
+    [[nodiscard]] manuscript::TypingBursts* bursts() const { return m_bursts; }
 
     /** Title and height follow the project. */
     void refresh();
@@ -56,6 +59,7 @@ private:
     QVBoxLayout* m_layout;
     QLabel* m_title;
     manuscript::BodyEditor* m_editor = nullptr;
+    manuscript::TypingBursts* m_bursts = nullptr;
     bool m_isEditorForScreenplay = false;
 };
 

@@ -59,7 +59,7 @@ public:
     /** Goes to the text of a note, in the pane below or in the text itself. */
     void showNote(const QString& label) override;
 
-    [[nodiscard]] FindBar& findBar() { return *m_findBar; }
+    [[nodiscard]] FindBar* findBar() override { return m_findBar; }
 
     void showPassage(const shell::TextPassage& passage) override;
 

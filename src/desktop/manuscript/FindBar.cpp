@@ -4,6 +4,7 @@
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/TypingBursts.h"
 #include "desktop/shell/Navigator.h"
+#include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QHBoxLayout>
@@ -119,6 +120,12 @@ QToolButton* FindBar::addSwitch(const QString& text, const QString& name)
 
 void FindBar::setEditor(BodyEditor* editor, TypingBursts* bursts)
 {
+    if (m_editor == editor)
+        return;
+    if (m_editor) {
+        m_editor->setFoundPlaces({});
+        disconnect(m_editor, nullptr, this, nullptr);
+    }
     m_editor = editor;
     m_bursts = bursts;
     connect(editor, &BodyEditor::edited, this, [this] {
@@ -136,6 +143,8 @@ app::search::TextQuery FindBar::query() const
 
 void FindBar::open(Row row)
 {
+    if (!m_editor)
+        return;
     m_replaceRow->setVisible(row == Row::FindAndReplace && !m_editor->isReadOnly());
     QWidget::show();
     const QTextCursor cursor = m_editor->textCursor();
@@ -152,6 +161,8 @@ void FindBar::open(Row row)
 void FindBar::close()
 {
     hide();
+    if (!m_editor)
+        return;
     m_editor->setFoundPlaces({});
     m_editor->setFocus(Qt::OtherFocusReason);
 }
@@ -173,35 +184,37 @@ void FindBar::keyPressEvent(QKeyEvent* event)
 void FindBar::search()
 {
     m_finder = TextFinder(query());
-    if (m_finder.error().isEmpty() && !m_finder.isEmpty())
+    if (m_editor && m_finder.error().isEmpty() && !m_finder.isEmpty())
         searchFrom(m_editor->textCursor().selectionStart());
     m_count.start();
 }
 
 void FindBar::searchFrom(int position)
 {
-    const QTextDocument& document = *m_editor->document();
-    auto place = m_finder.findFrom(document, position);
+    auto place = m_finder.findFrom(*m_editor->document(), position);
+    if (!place && m_sequence)
+        m_sequence->goOn(m_finder, true);
     if (!place)
-        place = m_finder.findFrom(document, 0);
+        place = m_finder.findFrom(*m_editor->document(), 0);
     show(place);
 }
 
 void FindBar::step(bool isForward)
 {
-    if (m_text->text().isEmpty()) {
+    if (m_text->text().isEmpty() || !m_editor) {
         open(Row::Find);
         return;
     }
     m_finder = TextFinder(query());
-    const QTextDocument& document = *m_editor->document();
     const QTextCursor cursor = m_editor->textCursor();
     if (isForward) {
         searchFrom(cursor.selectionEnd());
     } else {
-        auto place = m_finder.findBefore(document, cursor.selectionStart());
+        auto place = m_finder.findBefore(*m_editor->document(), cursor.selectionStart());
+        if (!place && m_sequence)
+            m_sequence->goOn(m_finder, false);
         if (!place)
-            place = m_finder.findBefore(document, document.characterCount());
+            place = m_finder.findBefore(*m_editor->document(), m_editor->document()->characterCount());
         show(place);
     }
     m_count.start();
@@ -216,10 +229,13 @@ void FindBar::show(const std::optional<FoundPlace>& place)
     cursor.setPosition(place->position + place->length, QTextCursor::KeepAnchor);
     m_editor->setTextCursor(cursor);
     m_editor->ensureCursorVisible();
+    emit placeShown();
 }
 
 void FindBar::countPlaces()
 {
+    if (!m_editor)
+        return;
     if (!m_finder.error().isEmpty()) {
         m_found->setText(m_finder.error());
         m_editor->setFoundPlaces({});
@@ -243,7 +259,7 @@ void FindBar::countPlaces()
 
 void FindBar::replaceOne()
 {
-    if (m_editor->isReadOnly())
+    if (!m_editor || m_editor->isReadOnly())
         return;
     const QTextCursor cursor = m_editor->textCursor();
     const auto place = m_finder.findFrom(*m_editor->document(), cursor.selectionStart());
@@ -261,27 +277,42 @@ void FindBar::replaceOne()
 
 void FindBar::replaceAll()
 {
-    if (m_editor->isReadOnly() || !m_finder.error().isEmpty())
-        return;
     m_finder = TextFinder(query());
+    if (!m_editor || !m_finder.error().isEmpty())
+        return;
+    qsizetype replaced = 0;
+    if (m_sequence) {
+        m_bursts->commit();
+        const auto macro = m_desk.session.macro(tr("Replace all"));
+        m_sequence->visitAll(m_finder, [&] { replaced += replaceAllHere(); });
+    } else {
+        replaced = replaceAllHere();
+    }
+    m_desk.navigator.say(tr("Replaced %Ln places.", nullptr, static_cast<int>(replaced)));
+    countPlaces();
+}
+
+qsizetype FindBar::replaceAllHere()
+{
+    if (m_editor->isReadOnly())
+        return 0;
     const std::vector<FoundPlace> places =
         m_finder.findAll(*m_editor->document(), std::numeric_limits<std::size_t>::max());
-    if (!places.empty()) {
-        m_bursts->applyAsStep(tr("Replace all"), [&] {
-            QTextCursor edit(m_editor->document());
-            edit.beginEditBlock();
-            // From the end, so that the places before stay where they are.
-            for (auto place = places.rbegin(); place != places.rend(); ++place) {
-                edit.setPosition(place->position);
-                edit.setPosition(place->position + place->length, QTextCursor::KeepAnchor);
-                m_editor->replaceText(
-                    edit, m_finder.replacementFor(*m_editor->document(), *place, m_replacement->text()));
-            }
-            edit.endEditBlock();
-        });
-    }
-    m_desk.navigator.say(tr("Replaced %Ln places.", nullptr, static_cast<int>(places.size())));
-    countPlaces();
+    if (places.empty())
+        return 0;
+    m_bursts->applyAsStep(tr("Replace all"), [&] {
+        QTextCursor edit(m_editor->document());
+        edit.beginEditBlock();
+        // From the end, so that the places before stay where they are.
+        for (auto place = places.rbegin(); place != places.rend(); ++place) {
+            edit.setPosition(place->position);
+            edit.setPosition(place->position + place->length, QTextCursor::KeepAnchor);
+            m_editor->replaceText(
+                edit, m_finder.replacementFor(*m_editor->document(), *place, m_replacement->text()));
+        }
+        edit.endEditBlock();
+    });
+    return std::ssize(places);
 }
 
 } // namespace tw::desktop::manuscript

@@ -3,6 +3,7 @@
 #include "desktop/manuscript/TextFinder.h"
 #include "desktop/shell/DeskContext.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
@@ -15,6 +16,21 @@ namespace tw::desktop::manuscript {
 class BodyEditor;
 class TypingBursts;
 
+/** Texts that follow each other on one page; a bar searches one of them at a time. */
+class TextSequence
+{
+public:
+    TextSequence() = default;
+    virtual ~TextSequence() = default;
+    Q_DISABLE_COPY_MOVE(TextSequence)
+
+    /** Has the bar search the nearest other text with a match, around the ends. False when no other has one.
+     */
+    virtual bool goOn(const TextFinder& finder, bool isForward) = 0;
+    /** Has the bar search each text with a match in turn, and does the work on it. */
+    virtual void visitAll(const TextFinder& finder, const std::function<void()>& work) = 0;
+};
+
 /** Finds and replaces in the text above it. Hidden until it is asked for. */
 class FindBar final : public QWidget
 {
@@ -23,8 +39,10 @@ class FindBar final : public QWidget
 public:
     FindBar(const shell::DeskContext& desk, QWidget* parent);
 
-    /** Whose text is searched from now on; both must outlive the bar or be replaced. */
+    /** Whose text is searched from now on. */
     void setEditor(BodyEditor* editor, TypingBursts* bursts);
+    /** For a page of several texts; must outlive the bar. */
+    void setSequence(TextSequence* sequence) { m_sequence = sequence; }
 
     enum class Row
     {
@@ -36,6 +54,10 @@ public:
     void close();
     /** To the next place, or the previous one; begins again at the other end. */
     void step(bool isForward);
+
+signals:
+    /** A place is selected in the text that is searched. */
+    void placeShown();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -49,10 +71,13 @@ private:
     void countPlaces();
     void replaceOne();
     void replaceAll();
+    /** In the text that is searched now; gives how many. */
+    qsizetype replaceAllHere();
 
     shell::DeskContext m_desk;
-    BodyEditor* m_editor = nullptr;
-    TypingBursts* m_bursts = nullptr;
+    QPointer<BodyEditor> m_editor;
+    QPointer<TypingBursts> m_bursts;
+    TextSequence* m_sequence = nullptr;
     TextFinder m_finder;
     QTimer m_count;
     QLineEdit* m_text;

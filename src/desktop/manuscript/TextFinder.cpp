@@ -1,5 +1,7 @@
 #include "desktop/manuscript/TextFinder.h"
 
+#include "app/search/DocumentSearch.h"
+
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -72,6 +74,14 @@ std::optional<FoundPlace> TextFinder::findBefore(const QTextDocument& document, 
         });
     }
     return found;
+}
+
+bool TextFinder::hasMatchIn(const core::document::DocumentBody& body) const
+{
+    if (!m_matcher)
+        return false;
+    const auto matches = app::search::findMatches(*m_matcher, body, 1);
+    return matches && !matches.value().empty();
 }
 
 QString TextFinder::replacementFor(

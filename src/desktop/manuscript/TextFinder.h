@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/search/TextQuery.h"
+#include "core/document/Document.h"
 
 #include <QString>
 
@@ -37,6 +38,9 @@ public:
     /** The first place that begins at or behind `position`, or the last that begins before it. */
     [[nodiscard]] std::optional<FoundPlace> findFrom(const QTextDocument& document, int position) const;
     [[nodiscard]] std::optional<FoundPlace> findBefore(const QTextDocument& document, int position) const;
+
+    /** Whether the prose of a body has a match, as far as that shows without a page. */
+    [[nodiscard]] bool hasMatchIn(const core::document::DocumentBody& body) const;
 
     /** What stands at the place afterwards: \1 to \9 of a regular expression are its groups. */
     [[nodiscard]] QString replacementFor(

@@ -5,6 +5,7 @@
 namespace tw::desktop::manuscript {
 
 class BodyEditor;
+class FindBar;
 
 namespace rich {
 class RichPage;
@@ -24,6 +25,8 @@ public:
     [[nodiscard]] virtual rich::RichPage* richPage() const = 0;
     /** The document whose text that is; null for none. */
     [[nodiscard]] virtual core::ContentId editedDocument() const = 0;
+    /** Finds in the texts of the page; null when there is none to find in. */
+    [[nodiscard]] virtual FindBar* findBar() = 0;
     /** Goes to where the text of a note of that document is written. */
     virtual void showNote(const QString& label) = 0;
     /** Takes up how the settings want pages set. */

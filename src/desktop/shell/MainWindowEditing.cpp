@@ -133,8 +133,9 @@ void MainWindow::addFindActions(QMenu& menu)
     using manuscript::FindBar;
     const auto inText = [this](auto handler) {
         return [this, handler] {
-            if (auto* const page = qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage()))
-                handler(page->findBar());
+            auto* const page = qobject_cast<manuscript::TextPage*>(m_workArea->currentPage());
+            if (FindBar* const bar = page ? page->findBar() : nullptr)
+                handler(*bar);
         };
     };
     addAction(menu, u"edit.find"_s, Icon::Search, tr("&Find…"), QKeySequence::Find, inText([](FindBar& bar) {

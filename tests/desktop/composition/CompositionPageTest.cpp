@@ -6,6 +6,8 @@
 #include "desktop/support/TestDesk.h"
 
 #include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -116,6 +118,40 @@ TEST_F(CompositionPageTest, onlyWhatIsSeenHasEditors)
     QCoreApplication::processEvents();
     EXPECT_TRUE(page->slotsInOrder().back()->editor());
     EXPECT_LT(awake(), 12);
+}
+
+TEST_F(CompositionPageTest, findsAndReplacesAcrossTheDocuments)
+{
+    desk.document(one).setBody({u"A *tide* and a tide."_s, {}});
+    desk.document(two).setBody({u"No tide here."_s, {}});
+    const auto page = show();
+    page->slotsInOrder()[1]->wake().setFocus();
+    manuscript::FindBar* const bar = page->findBar();
+    ASSERT_TRUE(bar);
+    bar->open(manuscript::FindBar::Row::FindAndReplace);
+    const auto fields = bar->findChildren<QLineEdit*>();
+    ASSERT_EQ(fields.size(), 2);
+    QTest::keyClicks(fields[0], u"tide"_s);
+    EXPECT_EQ(page->editedDocument(), one);
+    bar->step(true);
+    bar->step(true);
+    EXPECT_EQ(page->editedDocument(), two) << "from the last place of one scene into the next";
+    EXPECT_EQ(page->currentEditor()->textCursor().selectedText(), u"tide"_s);
+    bar->step(true);
+    EXPECT_EQ(page->editedDocument(), one) << "and around";
+    bar->step(false);
+    EXPECT_EQ(page->editedDocument(), two);
+
+    QTest::keyClicks(fields[1], u"ebb"_s);
+    for (QPushButton* const button : bar->findChildren<QPushButton*>()) {
+        if (button->text().contains(u"All"_s))
+            button->click();
+    }
+    EXPECT_EQ(desk.document(one).body().text, u"A *ebb* and a ebb."_s);
+    EXPECT_EQ(desk.document(two).body().text, u"No ebb here."_s);
+    desk.session.undo();
+    EXPECT_EQ(desk.document(one).body().text, u"A *tide* and a tide."_s) << "one step for all";
+    EXPECT_EQ(desk.document(two).body().text, u"No tide here."_s);
 }
 
 } // namespace tw::desktop::composition

@@ -60,12 +60,12 @@ TEST(FindBarTest, replacesAllInOneStepAndKeepsStyles)
     DocumentPage page(desk.context, id, nullptr);
     page.resize(800, 600);
     page.show();
-    page.findBar().open(FindBar::Row::FindAndReplace);
-    const auto fields = page.findBar().findChildren<QLineEdit*>();
+    page.findBar()->open(FindBar::Row::FindAndReplace);
+    const auto fields = page.findBar()->findChildren<QLineEdit*>();
     ASSERT_EQ(fields.size(), 2);
     QTest::keyClicks(fields[0], u"cat"_s);
     QTest::keyClicks(fields[1], u"dog"_s);
-    for (QPushButton* const button : page.findBar().findChildren<QPushButton*>()) {
+    for (QPushButton* const button : page.findBar()->findChildren<QPushButton*>()) {
         if (button->text().contains(u"All"_s))
             button->click();
     }
@@ -73,10 +73,10 @@ TEST(FindBarTest, replacesAllInOneStepAndKeepsStyles)
     EXPECT_EQ(desk.session.undoText(), u"Replace all"_s);
     desk.session.undo();
     EXPECT_EQ(desk.document(id).body().text, before);
-    page.findBar().step(true);
+    page.findBar()->step(true);
     EXPECT_EQ(page.editor().textCursor().selectedText(), u"cat"_s);
-    QTest::keyClick(&page.findBar(), Qt::Key_Escape);
-    EXPECT_FALSE(page.findBar().isVisible());
+    QTest::keyClick(page.findBar(), Qt::Key_Escape);
+    EXPECT_FALSE(page.findBar()->isVisible());
 }
 
 TEST(ReadingPlacesTest, remembersTheLatestPlacesOfEveryProject)
