@@ -51,7 +51,11 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return m_makers.empty(); }
 
-    /** Runs the edits in order. The caller has a macro open when they are to be one step. */
+    using Runner = std::function<void(std::unique_ptr<core::undo::Command>)>;
+
+    /** Has the edits run in order, each before the next is made; none is null. The caller makes them one
+     * step. */
+    void push(core::project::Project& project, const Runner& run) const;
     void push(core::project::Project& project, core::undo::UndoStack& undoStack) const;
 
 private:

@@ -6,7 +6,7 @@
 #include "app/mcp/world/WorldTools.h"
 #include "core/document/ActiveText.h"
 #include "core/document/Document.h"
-#include "core/document/markup/LegacyHtml.h"
+#include "core/document/markup/PlainText.h"
 #include "core/entity/Schema.h"
 #include "core/timeline/TimelineEvent.h"
 
@@ -117,9 +117,14 @@ private:
     /** How often one of its names stands there; "Captain Marda" is one mention although both are names. */
     [[nodiscard]] qsizetype countIn(const Document& document) const
     {
-        const QString text = core::document::markup::markdownOf(core::document::activeText(document));
+        const core::document::DocumentBody body = core::document::activeText(document);
+        const QStringList names = QStringList{m_entity.name()} + m_entity.aliases();
+        // Only what holds a name at all is read as prose.
+        if (std::ranges::none_of(names, [&body](const QString& name) { return body.text.contains(name); }))
+            return 0;
+        const QString text = core::document::markup::plainText(body);
         std::vector<core::foundation::IndexRange> places;
-        for (const QString& name : QStringList{m_entity.name()} + m_entity.aliases())
+        for (const QString& name : names)
             std::ranges::move(codex::findName(text, name.trimmed()), std::back_inserter(places));
         std::ranges::sort(places, {}, [](const auto& place) { return std::pair(place.first, -place.count); });
         qsizetype count = 0;
