@@ -28,14 +28,16 @@ bool ContentObject::isVisibleTo(const QString& audience) const
 void ContentObject::touch()
 {
     ++m_revision;
-    if (m_changedIds)
-        m_changedIds->insert(m_id);
+    if (!m_notes)
+        return;
+    m_notes->unannounced.insert(m_id);
+    m_notes->noteForIndex(m_id);
 }
 
-void ContentObject::enterProject(quint64 firstRevision, std::set<ContentId>* changedIds)
+void ContentObject::enterProject(quint64 firstRevision, ChangeNotes* notes)
 {
     m_revision = firstRevision;
-    m_changedIds = changedIds;
+    m_notes = notes;
 }
 
 bool operator==(const ContentObject& left, const ContentObject& right)

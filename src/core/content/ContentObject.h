@@ -12,6 +12,22 @@ namespace tw::core::content {
 /** Names kept unique and in sorted order: audiences, tags. */
 using NameSet = std::set<QString>;
 
+/** Where the objects of a project note that they moved, once for each who asks about it later. */
+struct ChangeNotes
+{
+    /** For Project::takeChanges(). */
+    std::set<ContentId> unannounced;
+    /** For the index of names; nothing is noted while there is none. */
+    std::set<ContentId> unindexed;
+    bool hasIndex = false;
+
+    void noteForIndex(const ContentId& id)
+    {
+        if (hasIndex)
+            unindexed.insert(id);
+    }
+};
+
 /**
  * The common base of everything a project holds. Objects are owned by a Project, or by the command that
  * took them out of it; they live on the main thread, but may be built on another one before they are added.
@@ -57,11 +73,11 @@ public:
     void touch();
 
     /**
-     * For Project alone: from here on revisions start at `firstRevision` and touch() notes the id in
-     * `changedIds`, which outlives the object's stay.
+     * For Project alone: from here on revisions start at `firstRevision` and touch() leaves its id in
+     * `notes`, which outlive the object's stay.
      */
-    void enterProject(quint64 firstRevision, std::set<ContentId>* changedIds);
-    void leaveProject() { m_changedIds = nullptr; }
+    void enterProject(quint64 firstRevision, ChangeNotes* notes);
+    void leaveProject() { m_notes = nullptr; }
 
     friend bool operator==(const ContentObject& left, const ContentObject& right);
 
@@ -80,7 +96,7 @@ private:
     NameSet m_tags;
     QStringList m_plotThreadIds;
     quint64 m_revision = 0;
-    std::set<ContentId>* m_changedIds = nullptr;
+    ChangeNotes* m_notes = nullptr;
 };
 
 /** The object as its concrete class when its kind is that class's; none otherwise. */

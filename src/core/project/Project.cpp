@@ -1,6 +1,7 @@
 #include "core/project/Project.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tw::core::project {
 
@@ -56,7 +57,7 @@ void Project::insert(std::unique_ptr<ContentObject> object)
 {
     Q_ASSERT(object && !contains(object->id()));
     ContentObject* const inserted = object.get();
-    inserted->enterProject(++m_insertions << revisionRangeBits, &m_changes.changed);
+    inserted->enterProject(++m_insertions << revisionRangeBits, &m_notes);
     m_objects.emplace_hint(m_objects.end(), inserted->id(), std::move(object));
 
     auto& sameKind = kindList(inserted->kind());
@@ -67,6 +68,19 @@ void Project::insert(std::unique_ptr<ContentObject> object)
 
     m_changes.removed.erase(inserted->id());
     m_changes.added.insert(m_changes.added.end(), inserted->id());
+    m_notes.noteForIndex(inserted->id());
+}
+
+const NameIndex& Project::names() const
+{
+    if (!m_notes.hasIndex) {
+        m_notes.hasIndex = true;
+        for (const auto& [id, object] : m_objects)
+            m_names.update(id, object.get());
+    }
+    for (const ContentId& id : std::exchange(m_notes.unindexed, {}))
+        m_names.update(id, find(id));
+    return m_names;
 }
 
 std::unique_ptr<ContentObject> Project::take(ContentId id)
@@ -82,7 +96,8 @@ std::unique_ptr<ContentObject> Project::take(ContentId id)
 
     object->leaveProject();
     m_changes.added.erase(id);
-    m_changes.changed.erase(id);
+    m_notes.unannounced.erase(id);
+    m_notes.noteForIndex(id);
     m_changes.removed.insert(id);
     return object;
 }
@@ -103,13 +118,8 @@ void Project::setPinned(const ContentId& id, bool on)
 
 ProjectChanges Project::takeChanges()
 {
-    // Swapped field by field: the objects hold the address of `changed`.
-    ProjectChanges changes;
-    std::swap(changes.added, m_changes.added);
-    std::swap(changes.removed, m_changes.removed);
-    std::swap(changes.changed, m_changes.changed);
-    std::swap(changes.isTaxonomyChanged, m_changes.isTaxonomyChanged);
-    std::swap(changes.areSettingsChanged, m_changes.areSettingsChanged);
+    ProjectChanges changes = std::exchange(m_changes, {});
+    changes.changed = std::exchange(m_notes.unannounced, {});
     return changes;
 }
 

@@ -5,6 +5,7 @@
 #include "core/content/ContentObject.h"
 #include "core/entity/EntityTemplate.h"
 #include "core/plot/Plot.h"
+#include "core/project/NameIndex.h"
 #include "core/project/ProjectChanges.h"
 #include "core/project/ProjectSettings.h"
 #include "core/taxonomy/Taxonomy.h"
@@ -60,6 +61,12 @@ public:
 
     /** All objects of a kind, by id. The span holds until an object is added or taken. */
     [[nodiscard]] std::span<content::ContentObject* const> objectsOfKind(content::ContentKind kind) const;
+
+    /**
+     * Objects by name. Made when it is first asked for, and brought up to date with every change since then
+     * when it is asked for again; the reference holds until the project changes.
+     */
+    [[nodiscard]] const NameIndex& names() const;
 
     /** Inserts a new object; one without audiences receives the default audiences. The id must be free. */
     void add(std::unique_ptr<content::ContentObject> object);
@@ -190,7 +197,10 @@ private:
     ObjectMap m_objects;
     std::array<std::vector<content::ContentObject*>, content::allContentKinds.size()> m_byKind;
     taxonomy::Taxonomy m_taxonomy;
+    /** What moved, without the changed objects, which stand in the notes. */
     ProjectChanges m_changes;
+    mutable content::ChangeNotes m_notes;
+    mutable NameIndex m_names;
     quint64 m_insertions = 0;
 
     QString m_name;

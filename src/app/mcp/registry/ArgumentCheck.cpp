@@ -1,0 +1,209 @@
+#include "app/mcp/registry/ArgumentCheck.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tw::app::mcp {
+
+using namespace Qt::Literals::StringLiterals;
+using core::Failure;
+using core::Result;
+
+namespace {
+
+QStringList textsOf(const QJsonValue& array)
+{
+    QStringList texts;
+    for (const QJsonValue& text : array.toArray())
+        texts.append(text.toString());
+    return texts;
+}
+
+QString quoted(const QString& argument)
+{
+    return u"\"%1\""_s.arg(argument);
+}
+
+bool isOfType(const QJsonValue& value, const QString& type)
+{
+    if (type == "string"_L1)
+        return value.isString();
+    if (type == "integer"_L1)
+        return wholeNumber(value).has_value();
+    if (type == "number"_L1)
+        return finiteNumber(value).has_value();
+    if (type == "boolean"_L1)
+        return value.isBool();
+    if (type == "array"_L1)
+        return value.isArray();
+    return value.isObject();
+}
+
+/** The type in the schema is one name, or a list of names any of which will do. */
+bool isOfPropertyType(const QJsonValue& value, const QJsonObject& property)
+{
+    const QJsonValue type = property.value(u"type");
+    if (type.isString())
+        return isOfType(value, type.toString());
+    const QStringList types = textsOf(type);
+    return std::ranges::any_of(types, [&value](const QString& name) { return isOfType(value, name); });
+}
+
+QString typeWords(const QJsonObject& property)
+{
+    const QString type = property.value(u"type").toString();
+    if (type == "string"_L1)
+        return u"a text"_s;
+    if (type == "integer"_L1)
+        return u"a whole number"_s;
+    if (type == "number"_L1)
+        return u"a number"_s;
+    if (type == "boolean"_L1)
+        return u"true or false"_s;
+    if (type == "array"_L1)
+        return u"a list"_s;
+    if (type == "object"_L1)
+        return u"an object"_s;
+    return u"a text or a number"_s;
+}
+
+Result<void> checkChoice(const QString& name, const QJsonValue& value, const QJsonObject& property)
+{
+    QStringList choices = textsOf(property.value(u"enum"));
+    if (choices.contains(value.toString()))
+        return {};
+    const QString byDefault = property.value(u"default").toString();
+    for (QString& choice : choices) {
+        if (choice == byDefault)
+            choice += " (default)"_L1;
+    }
+    return Failure{
+        u"Unknown %1 '%2'; use %3."_s.arg(quoted(name), value.toString(), enumerated(choices, u"or"_s))};
+}
+
+Result<void> checkRecord(const QString& owner, const QJsonObject& record, const QJsonObject& schema);
+
+/** Checks what is inside a value that is of its property's type. `name` is how a message calls it. */
+Result<void> checkInside(const QString& name, const QJsonValue& value, const QJsonObject& property)
+{
+    if (property.contains(u"enum"))
+        return checkChoice(name, value, property);
+    if (value.isObject() && property.contains(u"properties"))
+        return checkRecord(quoted(name), value.toObject(), property);
+    if (value.isObject() && property.contains(u"additionalProperties")) {
+        const QJsonObject values = value.toObject();
+        const QJsonObject inner = property.value(u"additionalProperties").toObject();
+        for (auto entry = values.begin(); entry != values.end(); ++entry) {
+            if (!entry->isNull() && !isOfPropertyType(*entry, inner)) {
+                return Failure{
+                    u"%1 in %2 must be %3."_s.arg(quoted(entry.key()), quoted(name), typeWords(inner))};
+            }
+        }
+    }
+    if (value.isArray()) {
+        const QJsonObject item = property.value(u"items").toObject();
+        int number = 0;
+        for (const QJsonValue& element : value.toArray()) {
+            ++number;
+            const QString place = u"Entry %1 of %2"_s.arg(QString::number(number), quoted(name));
+            if (!isOfPropertyType(element, item))
+                return Failure{u"%1 must be %2."_s.arg(place, typeWords(item))};
+            if (auto checked = element.isObject() && item.contains(u"properties")
+                                   ? checkRecord(place, element.toObject(), item)
+                                   : checkInside(name, element, item);
+                !checked)
+                return checked;
+        }
+    }
+    return {};
+}
+
+/** Checks all but what is missing at the top, where the message is another. */
+Result<void> checkPresent(const QJsonObject& record, const QJsonObject& properties)
+{
+    for (auto property = properties.begin(); property != properties.end(); ++property) {
+        const QJsonValue value = record.value(property.key());
+        if (value.isUndefined() || value.isNull())
+            continue;
+        const QJsonObject schema = property->toObject();
+        if (!isOfPropertyType(value, schema))
+            return Failure{u"%1 must be %2."_s.arg(quoted(property.key()), typeWords(schema))};
+        if (auto checked = checkInside(property.key(), value, schema); !checked)
+            return checked;
+    }
+    return {};
+}
+
+bool isMissing(const QString& name, const QJsonObject& record, const QJsonObject& properties)
+{
+    return !isOfPropertyType(record.value(name), properties.value(name).toObject());
+}
+
+Result<void> checkRecord(const QString& owner, const QJsonObject& record, const QJsonObject& schema)
+{
+    const QJsonObject properties = schema.value(u"properties").toObject();
+    const QStringList required = textsOf(schema.value(u"required"));
+    QStringList names;
+    bool isAnyMissing = false;
+    for (const QString& name : required) {
+        names.append(quoted(name));
+        isAnyMissing = isAnyMissing || isMissing(name, record, properties);
+    }
+    if (isAnyMissing)
+        return Failure{u"%1 needs %2."_s.arg(owner, enumerated(names, u"and"_s))};
+    return checkPresent(record, properties);
+}
+
+} // namespace
+
+std::optional<qint64> wholeNumber(const QJsonValue& value)
+{
+    const std::optional<double> number = finiteNumber(value);
+    // The limits of 64 bits as doubles; the upper one is already beyond them.
+    constexpr double least = -9223372036854775808.0;
+    constexpr double beyond = 9223372036854775808.0;
+    if (!number || std::trunc(*number) != *number || *number < least || *number > beyond)
+        return std::nullopt;
+    // Integers are kept apart from fractions, so that the largest one survives its look as a double.
+    const qint64 whole = value.toInteger();
+    return *number == beyond && whole == 0 ? std::nullopt : std::optional(whole);
+}
+
+std::optional<double> finiteNumber(const QJsonValue& value)
+{
+    if (!value.isDouble() || !std::isfinite(value.toDouble()))
+        return std::nullopt;
+    return value.toDouble();
+}
+
+Result<void> checkArguments(const McpToolSpec& spec, const QString& subject, const QJsonObject& arguments)
+{
+    const QJsonObject properties = spec.inputSchema.value(u"properties").toObject();
+    QStringList needed;
+    bool isAnyMissing = false;
+    if (!subject.isEmpty()) {
+        needed.append(u"%1 (or \"id\")"_s.arg(quoted(subject)));
+        isAnyMissing = isMissing(subject, arguments, properties) && isMissing(u"id"_s, arguments, properties);
+    }
+    for (const QString& name : textsOf(spec.inputSchema.value(u"required"))) {
+        needed.append(quoted(name));
+        isAnyMissing = isAnyMissing || isMissing(name, arguments, properties);
+    }
+    if (isAnyMissing)
+        return Failure{u"%1 needs %2."_s.arg(spec.name, enumerated(needed, u"and"_s))};
+    return checkPresent(arguments, properties);
+}
+
+QString enumerated(const QStringList& parts, const QString& conjunction)
+{
+    if (parts.size() <= 1)
+        return parts.join(QString());
+    const QString last = parts.constLast();
+    if (parts.size() == 2)
+        return u"%1 %2 %3"_s.arg(parts.constFirst(), conjunction, last);
+    return u"%1, %2 %3"_s.arg(parts.first(parts.size() - 1).join(u", "_s), conjunction, last);
+}
+
+} // namespace tw::app::mcp
