@@ -30,18 +30,18 @@ enum class FieldType : qint32
 struct Field
 {
     /** The identity within a schema; values are stored under it. Case-sensitive. */
-    QString key;
-    QString label;
+    QString key = {};
+    QString label = {};
     FieldType type = FieldType::Text;
     bool isRequired = false;
     /** A fixed field's value stands once on the category; everything beneath shows it read-only. */
     bool isFixed = false;
-    QString description;
+    QString description = {};
     /** The choices of a choice field. */
-    QStringList options;
+    QStringList options = {};
     /** The category whose entities a reference may point at; null for any. */
-    CategoryId referenceCategory;
-    QString fixedValue;
+    CategoryId referenceCategory = {};
+    QString fixedValue = {};
 
     /** The label, or the key when there is none. */
     [[nodiscard]] const QString& displayName() const { return label.isEmpty() ? key : label; }

@@ -56,7 +56,7 @@ namespace {
 QString withAbsoluteYear(const QString& text)
 {
     static const QRegularExpression written(
-        u"^\\s*(?<day>.*), Year .*?(?<time>, \\d{1,2}:\\d{2})? \\[year (?<year>-?\\d+)\\]\\s*$"_s);
+        u"^\\s*(?<day>.*?), Year .*?(?<time>, \\d{1,2}:\\d{2})? \\[year (?<year>-?\\d+)\\]\\s*$"_s);
     const QRegularExpressionMatch match = written.match(text);
     if (!match.hasMatch())
         return text;
