@@ -24,7 +24,7 @@ QString appendedMarkdown(const QString& body, QStringView text)
     QString joined = body;
     while (!joined.endsWith(u"\n\n"))
         joined += u'\n';
-    return joined + text;
+    return joined.append(text);
 }
 
 QString appendedHtml(const QString& body, QStringView text)
