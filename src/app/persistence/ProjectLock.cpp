@@ -24,6 +24,19 @@ QString lockPath(const QString& projectPath, const QString& dataFolder)
     return dataFolder + u"/locks/"_s + QString::fromLatin1(hash.first(32)) + u".lock"_s;
 }
 
+/**
+ * Whoever died between making the file and writing into it left one that names nobody, and that nobody would
+ * ever take away. A living holder writes at once, and keeps the file from being removed.
+ */
+bool takeOverUnnamed(QLockFile& file)
+{
+    qint64 processId = 0;
+    QString host;
+    QString application;
+    return !file.getLockInfo(&processId, &host, &application) && file.removeStaleLockFile() &&
+           file.tryLock(0);
+}
+
 } // namespace
 
 core::Result<ProjectLock> ProjectLock::acquire(const QString& projectPath, const QString& dataFolder)
@@ -37,7 +50,7 @@ core::Result<ProjectLock> ProjectLock::acquire(const QString& projectPath, const
     auto file = std::make_unique<QLockFile>(path);
     // A crashed holder is known by its process id; age alone says nothing about a slow disk.
     file->setStaleLockTime(0);
-    if (!file->tryLock(static_cast<int>(longestWait.count()))) {
+    if (!file->tryLock(static_cast<int>(longestWait.count())) && !takeOverUnnamed(*file)) {
         return core::Failure{
             QCoreApplication::translate(
                 "Persistence", "Another program is saving this project right now: %1. Try again in a moment.")
