@@ -22,11 +22,11 @@ struct TextMatch
     /** Where it stands in the body as Markdown; as `range` in the other fields. */
     IndexRange source;
     /** A little of the line before and after, in one line. */
-    QString before;
-    QString found;
-    QString after;
+    QString before = {};
+    QString found = {};
+    QString after = {};
     /** As TextMatcher::groupsOf() gives them. */
-    QStringList groups;
+    QStringList groups = {};
 
     friend bool operator==(const TextMatch&, const TextMatch&) = default;
 };
