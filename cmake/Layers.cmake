@@ -29,7 +29,8 @@ set(TW_LAYER_tw_desktop
     xcb
 )
 set(TW_LAYER_vellory tw_desktop)
-set(TW_LAYER_vellory-mcp tw_tools Qt6::Core)
+set(TW_LAYER_tw_companion tw_core tw_project tw_tools Qt6::Core)
+set(TW_LAYER_vellory-mcp tw_companion Qt6::Core)
 
 # Fails when `target` is to link a library outside its row.
 function(tw_check_links target)

@@ -67,6 +67,17 @@ DocumentTree documentTree(const Project& project)
     return tree;
 }
 
+std::vector<ContentId> documentsInReadingOrder(const Project& project)
+{
+    const DocumentTree tree = documentTree(project);
+    std::vector<ContentId> result;
+    if (const auto roots = tree.find(ContentId()); roots != tree.end()) {
+        for (const ContentId& root : roots->second)
+            appendSubtree(tree, root, result);
+    }
+    return result;
+}
+
 std::vector<ContentId> documentSubtree(const Project& project, const ContentId& rootId)
 {
     std::vector<ContentId> result;

@@ -248,6 +248,11 @@ Result<std::size_t> chooseByName(const QStringList& names, const QString& name, 
     return chosen;
 }
 
+qsizetype countNamed(const QStringList& names, const QString& name)
+{
+    return std::ranges::count(names, foldedName(name), [](const QString& each) { return foldedName(each); });
+}
+
 namespace {
 
 bool isTaken(const Project& project, ContentKind kind, const QString& name, const ContentObject* self)

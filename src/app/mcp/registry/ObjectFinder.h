@@ -111,6 +111,9 @@ template <class Kind>
 [[nodiscard]] core::Result<std::size_t> chooseByName(
     const QStringList& names, const QString& name, const QString& kindWord);
 
+/** How many of the names are the same as that one. */
+[[nodiscard]] qsizetype countNamed(const QStringList& names, const QString& name);
+
 /** Refuses a name that is blank or that another object of the kind has. Objects excluded from AI do not
  * count. */
 [[nodiscard]] core::Result<void> checkNewName(

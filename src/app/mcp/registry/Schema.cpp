@@ -55,10 +55,11 @@ QJsonObject numberProperty(const QString& description)
     return property("number"_L1, description);
 }
 
-QJsonObject booleanProperty(const QString& description, bool defaultValue)
+QJsonObject booleanProperty(const QString& description, std::optional<bool> defaultValue)
 {
     QJsonObject boolean = property("boolean"_L1, description);
-    boolean.insert(u"default"_s, defaultValue);
+    if (defaultValue)
+        boolean.insert(u"default"_s, *defaultValue);
     return boolean;
 }
 

@@ -36,7 +36,9 @@ namespace tw::app::mcp {
 [[nodiscard]] QJsonObject integerProperty(
     const QString& description, std::optional<qint64> defaultValue = std::nullopt);
 [[nodiscard]] QJsonObject numberProperty(const QString& description);
-[[nodiscard]] QJsonObject booleanProperty(const QString& description, bool defaultValue = false);
+/** Without a default where leaving it out means that something stays as it is. */
+[[nodiscard]] QJsonObject booleanProperty(
+    const QString& description, std::optional<bool> defaultValue = false);
 
 /** Whether an enumerated argument may be left out. */
 enum class Default

@@ -1,0 +1,149 @@
+#include "app/persistence/files/FileSystem.h"
+#include "app/workspace/Workspace.h"
+#include "mcp/server/InputReader.h"
+#include "mcp/server/Options.h"
+#include "mcp/server/ProjectRefresher.h"
+#include "mcp/server/ProtocolServer.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+
+#ifdef Q_OS_WIN
+#include <fcntl.h>
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+using namespace tw;
+using namespace tw::mcp::server;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/** The names of the program itself: locks, working copies and backups lie where its own do. */
+void nameApplication()
+{
+    QCoreApplication::setApplicationName(u"Vellory"_s);
+    QCoreApplication::setOrganizationName(u"Vellory"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(TW_VERSION));
+}
+
+void prepareStreams()
+{
+#ifdef Q_OS_WIN
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
+#else
+    // A client that goes away ends the writing, not the process in the middle of a save.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+}
+
+void writeLog(const QString& line)
+{
+    const QByteArray bytes = "vellory-mcp: " + line.toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
+}
+
+int fail(const QString& message)
+{
+    writeLog(message);
+    return 1;
+}
+
+std::chrono::nanoseconds steadyNow()
+{
+    return std::chrono::steady_clock::now().time_since_epoch();
+}
+
+/** What has arrived on standard input, as soon as anything has: the buffered readers wait until they are
+ * full. */
+qsizetype readInput(char* buffer, qsizetype size)
+{
+#ifdef Q_OS_WIN
+    return _read(_fileno(stdin), buffer, static_cast<unsigned int>(size));
+#else
+    ssize_t count = 0;
+    do {
+        count = ::read(STDIN_FILENO, buffer, static_cast<std::size_t>(size));
+    } while (count < 0 && errno == EINTR);
+    return count;
+#endif
+}
+
+/** False when nobody reads any more. */
+bool writeLine(const QByteArray& line)
+{
+    const QByteArray bytes = line + '\n';
+    const auto size = static_cast<std::size_t>(bytes.size());
+    return std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+}
+
+/** Answers messages one after another until the input ends or nobody reads the answers. */
+void serve(ProtocolServer& server)
+{
+    InputReader reader(readInput);
+    MessageQueue queue;
+    for (;;) {
+        if (queue.isEmpty()) {
+            const QByteArray bytes = reader.waitForInput();
+            queue.append(bytes);
+            if (bytes.isEmpty()) {
+                queue.finish();
+                if (queue.isEmpty())
+                    return;
+            }
+        }
+        // What has arrived behind the next message may cancel it.
+        queue.append(reader.takeArrived());
+        const std::optional<InputMessage> message = queue.takeNext();
+        if (!message)
+            continue;
+        const std::optional<QByteArray> answer = server.answer(*message);
+        if (answer && !writeLine(*answer))
+            return;
+    }
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication application(argc, argv);
+    nameApplication();
+    prepareStreams();
+    const auto options =
+        readOptions(QCoreApplication::arguments().mid(1), QCoreApplication::applicationVersion());
+    if (!options)
+        return fail(options.message());
+    if (!options.value().information.isEmpty()) {
+        std::fputs(qPrintable(options.value().information), stdout);
+        return 0;
+    }
+
+    app::persistence::DiskFileSystem fileSystem;
+    const app::persistence::StorageEnvironment environment{
+        fileSystem, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)};
+    const auto workspace = app::workspace::Workspace::open(environment, options.value().projectPath);
+    if (!workspace)
+        return fail(workspace.message());
+    app::mcp::McpChangeLog changeLog;
+    const auto catalogue = ToolCatalogue::create(
+        *workspace.value(), changeLog, options.value().tools, QCoreApplication::applicationVersion());
+    if (!catalogue)
+        return fail(catalogue.message());
+
+    ProjectRefresher refresher(*workspace.value(), steadyNow, writeLog);
+    const ProjectResources resources(*workspace.value(), catalogue.value());
+    ProtocolServer server(catalogue.value(), resources, [&refresher] { refresher.refresh(); });
+    serve(server);
+    if (workspace.value()->isModified())
+        writeLog(
+            u"Changes that could not be saved are lost with this session; see the answers that said so."_s);
+    return 0;
+}

@@ -1,0 +1,62 @@
+#include "mcp/server/ProjectRefresher.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace tw::mcp::server {
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::chrono::nanoseconds leastPause = 2s;
+/** Looking takes at most this part of the time: one in so many. */
+constexpr int restPerLook = 50;
+
+} // namespace
+
+ProjectRefresher::ProjectRefresher(app::workspace::Workspace& workspace, SteadyClock clock, Log log)
+    : m_workspace(workspace)
+    , m_clock(std::move(clock))
+    , m_log(std::move(log))
+    , m_seenTimes(folderTimes())
+    , m_nextLook(m_clock() + leastPause)
+{}
+
+ProjectRefresher::FolderTimes ProjectRefresher::folderTimes() const
+{
+    const QString folder = m_workspace.folderPath();
+    const auto time = [](const QString& path) { return QFileInfo(path).lastModified().toMSecsSinceEpoch(); };
+    return {{time(folder), time(folder + u"/objects"_s), time(folder + u"/taxonomy"_s)}};
+}
+
+bool ProjectRefresher::isChangedOnDisk()
+{
+    if (m_workspace.hasSingleFile() && m_workspace.isBundleChangedOnDisk())
+        return true;
+    const FolderTimes times = folderTimes();
+    const auto now = m_clock();
+    if (times == m_seenTimes && now < m_nextLook)
+        return false;
+    const bool isChanged = !m_workspace.externalChanges().isEmpty();
+    m_seenTimes = times;
+    m_nextLook = m_clock() + std::max(leastPause, (m_clock() - now) * restPerLook);
+    return isChanged;
+}
+
+void ProjectRefresher::refresh()
+{
+    if (m_workspace.isModified() || !isChangedOnDisk())
+        return;
+    if (const auto reloaded = m_workspace.reload(); !reloaded) {
+        m_log(u"The project changed on disk but could not be read again: %1"_s.arg(reloaded.message()));
+        return;
+    }
+    m_log(u"The project changed on disk and was read again."_s);
+    m_seenTimes = folderTimes();
+}
+
+} // namespace tw::mcp::server

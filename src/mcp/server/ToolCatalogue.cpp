@@ -1,0 +1,95 @@
+#include "mcp/server/ToolCatalogue.h"
+
+#include "app/mcp/ToolFamilies.h"
+
+#include <algorithm>
+
+namespace tw::mcp::server {
+
+using namespace Qt::Literals::StringLiterals;
+using app::mcp::Tool;
+using app::mcp::ToolAccess;
+using app::mcp::ToolTable;
+
+namespace {
+
+struct Family
+{
+    QLatin1String name;
+    ToolTable (*tools)();
+};
+
+constexpr std::array families{
+    Family{"core"_L1, app::mcp::coreTools},
+    Family{"document"_L1, app::mcp::documentTools},
+};
+
+/** The keys that clients of all versions look for. */
+QJsonObject listed(const Tool& tool)
+{
+    const bool isReadOnly = tool.access == ToolAccess::ReadOnly;
+    return {
+        {u"name"_s, tool.spec.name},
+        {u"title"_s, tool.title},
+        {u"description"_s, tool.spec.description},
+        {u"inputSchema"_s, tool.spec.inputSchema},
+        {u"annotations"_s, QJsonObject{
+                               {u"title"_s, tool.title},
+                               {u"readOnlyHint"_s, isReadOnly},
+                               {u"destructiveHint"_s, tool.hints.isDestructive},
+                               {u"idempotentHint"_s, isReadOnly || tool.hints.isIdempotent},
+                               {u"openWorldHint"_s, tool.hints.isOpenWorld}}}};
+}
+
+core::Result<void> checkFamilies(const QStringList& names)
+{
+    const QStringList known = familyNames();
+    for (const QString& name : names) {
+        if (!known.contains(name)) {
+            return core::Failure{u"There is no family of tools called \"%1\". Choose from: %2."_s.arg(
+                name, known.join(u", "_s))};
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+QStringList familyNames()
+{
+    QStringList names;
+    for (const Family& family : families)
+        names.append(family.name);
+    return names;
+}
+
+core::Result<ToolCatalogue> ToolCatalogue::create(
+    app::workspace::Workspace& workspace, app::mcp::McpChangeLog& changeLog, const ToolChoice& choice,
+    const QString& version)
+{
+    if (const auto checked = checkFamilies(choice.families); !checked)
+        return core::Failure{checked.message()};
+    ToolCatalogue catalogue(app::mcp::McpServer(
+        u"vellory"_s, version,
+        u"Tools for one Vellory project: its manuscript, codex, timeline and more. Objects are addressed by "
+        u"the names "
+        "the writer gave them. Every change is saved at once and is one step of the undo history."_s));
+    for (const Family& family : families) {
+        if (!choice.families.isEmpty() && !choice.families.contains(family.name))
+            continue;
+        ToolTable tools = family.tools();
+        if (choice.isReadOnly)
+            std::erase_if(tools, [](const Tool& tool) { return tool.access != ToolAccess::ReadOnly; });
+        app::mcp::registerTools(catalogue.m_server, workspace, changeLog, tools);
+        for (const Tool& tool : tools)
+            catalogue.m_listing.append(listed(tool));
+    }
+    return catalogue;
+}
+
+bool ToolCatalogue::hasTool(const QString& name) const
+{
+    return std::ranges::find(m_server.tools(), name, &app::mcp::McpToolSpec::name) != m_server.tools().end();
+}
+
+} // namespace tw::mcp::server

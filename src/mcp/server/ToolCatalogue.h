@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/mcp/registry/McpServer.h"
+#include "app/mcp/registry/ToolTable.h"
+#include "core/foundation/Result.h"
+
+#include <QJsonArray>
+#include <QStringList>
+
+namespace tw::mcp::server {
+
+/** Which tools are offered. */
+struct ToolChoice
+{
+    /** Only those that change neither the project nor a file. */
+    bool isReadOnly = false;
+    /** Families by name; all when empty. */
+    QStringList families;
+};
+
+/** The names by which families are chosen, in the order of the catalogue. */
+[[nodiscard]] QStringList familyNames();
+
+/** The tools of one project as a client sees them. The workspace and the log outlive it. */
+class ToolCatalogue
+{
+public:
+    /** Fails for a family that does not exist; the message lists those that do. */
+    [[nodiscard]] static core::Result<ToolCatalogue> create(
+        app::workspace::Workspace& workspace, app::mcp::McpChangeLog& changeLog, const ToolChoice& choice,
+        const QString& version);
+
+    [[nodiscard]] const app::mcp::McpServer& server() const { return m_server; }
+    [[nodiscard]] bool hasTool(const QString& name) const;
+    /** The entries of tools/list, always the same. */
+    [[nodiscard]] const QJsonArray& listing() const { return m_listing; }
+
+private:
+    explicit ToolCatalogue(app::mcp::McpServer server)
+        : m_server(std::move(server))
+    {}
+
+    app::mcp::McpServer m_server;
+    QJsonArray m_listing;
+};
+
+} // namespace tw::mcp::server

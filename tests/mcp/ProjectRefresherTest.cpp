@@ -1,0 +1,84 @@
+#include "mcp/server/ProjectRefresher.h"
+
+#include "core/document/DocumentCommands.h"
+#include "mcp/ServerFixture.h"
+
+namespace tw::mcp::server {
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+using core::document::Document;
+using core::document::SetDocumentTitleCommand;
+
+class ProjectRefresherTest : public ServerFixture
+{
+protected:
+    ProjectRefresherTest()
+    {
+        workspace->projectForEdit().add(
+            std::make_unique<Document>(id, core::document::DocumentKind::Prose, u"Old"_s));
+        EXPECT_TRUE(workspace->save());
+        refresher = std::make_unique<ProjectRefresher>(
+            *workspace, [this] { return now; }, [this](const QString& line) { logged.append(line); });
+    }
+
+    QString title() const { return workspace->project().findAs<Document>(id)->title(); }
+
+    static void rename(app::workspace::Workspace& of, const core::ContentId& id, const QString& title)
+    {
+        of.undoStack().push(std::make_unique<SetDocumentTitleCommand>(
+            *of.projectForEdit().findAsForEdit<Document>(id), title));
+    }
+
+    /** As the program does it: another workspace on the same folder. */
+    void renameElsewhere(const QString& newTitle)
+    {
+        auto other = app::workspace::Workspace::open(environment, workspace->folderPath());
+        ASSERT_TRUE(other);
+        rename(*other.value(), id, newTitle);
+        ASSERT_TRUE(other.value()->save());
+    }
+
+    core::ContentId id = core::ContentId::create();
+    std::chrono::nanoseconds now = 0s;
+    QStringList logged;
+    std::unique_ptr<ProjectRefresher> refresher;
+};
+
+TEST_F(ProjectRefresherTest, readsTheProjectAnewWhenOthersSavedIt)
+{
+    refresher->refresh();
+    EXPECT_TRUE(logged.isEmpty());
+    renameElsewhere(u"New"_s);
+    now += 1min;
+    refresher->refresh();
+    EXPECT_EQ(title(), u"New"_s);
+    EXPECT_EQ(logged, QStringList{u"The project changed on disk and was read again."_s});
+    refresher->refresh();
+    EXPECT_EQ(logged.size(), 1);
+}
+
+TEST_F(ProjectRefresherTest, leavesUnsavedChangesAlone)
+{
+    rename(*workspace, id, u"Mine"_s);
+    renameElsewhere(u"Theirs"_s);
+    now += 1min;
+    refresher->refresh();
+    EXPECT_EQ(title(), u"Mine"_s);
+    EXPECT_FALSE(workspace->save()) << "saving is refused instead";
+}
+
+TEST_F(ProjectRefresherTest, keepsTheProjectWhileTheFilesCannotBeRead)
+{
+    QFile file(workspace->folderPath() + u"/objects/"_s + id.toString() + u".json"_s);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write("{ half");
+    file.close();
+    now += 1min;
+    refresher->refresh();
+    EXPECT_EQ(title(), u"Old"_s);
+    ASSERT_EQ(logged.size(), 1);
+    EXPECT_TRUE(logged.first().startsWith(u"The project changed on disk but could not be read again: "));
+}
+
+} // namespace tw::mcp::server
