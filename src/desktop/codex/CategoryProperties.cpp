@@ -14,7 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 using core::CategoryId;
 using core::Failure;
 using core::Result;
-using core::entity::Entity;
 using core::entity::ResolvedField;
 using core::entity::Schema;
 using core::project::Project;
@@ -81,49 +80,6 @@ void applyFields(shell::ProjectSession& session, const CategoryId& id, const Fie
 CategoryProperties propertiesOf(const Category& category)
 {
     return {category.fields, category.inheritedKeys, category.excludedKeys};
-}
-
-Schema fieldsFromAbove(const Project& project, const Category& category)
-{
-    if (const auto* const entity = project.findAs<Entity>(category.parentEntityId))
-        return core::entity::schemaOfEntity(project, *entity);
-    return core::entity::schemaOfCategory(project, category.parentId);
-}
-
-QString keyFromLabel(QStringView label)
-{
-    QString key;
-    bool startsWord = false;
-    for (const QChar character : label) {
-        if (!character.isLetterOrNumber() && !character.isMark() && !character.isSurrogate()) {
-            startsWord = !key.isEmpty();
-            continue;
-        }
-        key += startsWord ? character.toUpper() : key.isEmpty() ? character.toLower() : character;
-        startsWord = false;
-    }
-    return key;
-}
-
-QString keyForNewField(const QString& label, const FieldList& fields, const Schema& fromAbove)
-{
-    const QString name = label.trimmed();
-    const QString suggested = keyFromLabel(name);
-    if (suggested.isEmpty())
-        return {};
-    const auto isSame = [&](const ResolvedField& resolved) {
-        return resolved.field.displayName().compare(name, Qt::CaseInsensitive) == 0 &&
-               !holdsKey(fields, resolved.field.key);
-    };
-    if (const auto above = std::ranges::find_if(fromAbove, isSame); above != fromAbove.end())
-        return above->field.key;
-    const auto isTaken = [&](const QString& key) {
-        return holdsKey(fields, key) || core::entity::findField(fromAbove, key) != nullptr;
-    };
-    QString key = suggested;
-    for (int number = 2; isTaken(key); ++number)
-        key = suggested + QString::number(number);
-    return key;
 }
 
 Result<void> checkFieldBeside(const Field& field, const FieldList& others)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/codex/FieldKeys.h"
 #include "core/entity/Schema.h"
 #include "core/foundation/Result.h"
 #include "core/taxonomy/Category.h"
@@ -22,22 +23,9 @@ struct CategoryProperties
 
 [[nodiscard]] CategoryProperties propertiesOf(const core::taxonomy::Category& category);
 
-/**
- * What could come to the category from above: all that reaches its parent category, or all that the entity
- * has under which it hangs. Nothing for a top-level category.
- */
-[[nodiscard]] core::entity::Schema fieldsFromAbove(
-    const core::project::Project& project, const core::taxonomy::Category& category);
-
-/** The key that a label suggests: "Hair colour" gives "hairColour". Empty when it has no letter or digit. */
-[[nodiscard]] QString keyFromLabel(QStringView label);
-
-/**
- * The key for a new field beside `fields`: that of a field from above with the same name, which the new one
- * is then a version of, else one made from the label that nothing here uses.
- */
-[[nodiscard]] QString keyForNewField(
-    const QString& label, const core::taxonomy::FieldList& fields, const core::entity::Schema& fromAbove);
+using app::codex::fieldsFromAbove;
+using app::codex::keyForNewField;
+using app::codex::keyFromLabel;
 
 /** Refuses what the category could not hold beside its other fields. */
 [[nodiscard]] core::Result<void> checkFieldBeside(

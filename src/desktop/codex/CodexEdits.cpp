@@ -1,5 +1,6 @@
 #include "desktop/codex/CodexEdits.h"
 
+#include "app/codex/CategoryEdits.h"
 #include "core/content/ContentCommands.h"
 #include "core/entity/EntityCommands.h"
 #include "core/entity/Schema.h"
@@ -9,7 +10,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <set>
 
 namespace tw::desktop::codex {
 
@@ -40,15 +40,6 @@ std::vector<CategoryId> siblingsUnder(const Project& project, const CategoryPare
 {
     return parent.entityId.isNull() ? project.taxonomy().childrenOf(parent.categoryId)
                                     : project.taxonomy().childrenUnderEntity(parent.entityId);
-}
-
-qint32 indexAtTheEnd(const Project& project, const CategoryParent& parent)
-{
-    const std::vector<CategoryId> siblings = siblingsUnder(project, parent);
-    if (siblings.empty())
-        return 0;
-    const qint32 last = project.taxonomy().category(siblings.back())->sortIndex;
-    return last == std::numeric_limits<qint32>::max() ? last : last + 1;
 }
 
 /** Puts categories under a category, before a sibling, and numbers those that stand otherwise anew. */
@@ -92,28 +83,13 @@ Result<void> checkMove(const Project& project, const CategoryId& id, const Categ
                                     : core::entity::checkMoveToEntity(project, id, parent.entityId);
 }
 
-/** The categories that hang under one of the entities. */
-std::vector<CategoryId> categoriesUnder(const Project& project, const std::vector<ContentId>& entities)
-{
-    const std::set<ContentId> removed(entities.begin(), entities.end());
-    std::vector<CategoryId> result;
-    for (const auto& [id, category] : project.taxonomy().categories()) {
-        if (removed.contains(category.parentEntityId))
-            result.push_back(id);
-    }
-    return result;
-}
-
-/** Takes a category off its entity and puts it where the entity itself stands. */
-void rescueCategory(ProjectSession& session, const CategoryId& id)
+/** Puts what hangs under an entity where the entity itself stands. */
+void rescueCategories(ProjectSession& session, const ContentId& entityId)
 {
     Project& project = session.projectForCommands();
-    const auto* const entity = project.findAs<Entity>(project.taxonomy().category(id)->parentEntityId);
-    CategoryId parentId = entity ? entity->categoryId() : CategoryId();
-    if (!core::entity::checkMoveToCategory(project, id, parentId))
-        parentId = {};
-    session.apply(std::make_unique<ReparentCategoryCommand>(
-        project, id, parentId, indexAtTheEnd(project, {parentId, {}})));
+    app::codex::EditPlan plan;
+    app::codex::planRescueCategories(plan, project, entityId);
+    plan.push(project, [&session](auto command) { session.apply(std::move(command)); });
 }
 
 QString removalLabel(const CodexSelection& removed)
@@ -190,7 +166,7 @@ CategoryId addCategory(ProjectSession& session, const CategoryPlace& place, cons
     category.name = name;
     category.parentId = place.parent.categoryId;
     category.parentEntityId = place.parent.entityId;
-    category.sortIndex = indexAtTheEnd(project, place.parent);
+    category.sortIndex = app::codex::sortIndexAtEnd(project, place.parent.categoryId, place.parent.entityId);
     const CategoryId id = category.id;
     const auto step = session.macro(label(QT_TRANSLATE_NOOP("CodexEdits", "Add category")));
     session.apply(std::make_unique<core::taxonomy::AddCategoryCommand>(project, std::move(category)));
@@ -248,8 +224,8 @@ void removeFromCodex(ProjectSession& session, const CodexSelection& removed)
 {
     Project& project = session.projectForCommands();
     const auto step = session.macro(removalLabel(removed));
-    for (const CategoryId& id : categoriesUnder(project, removed.entities))
-        rescueCategory(session, id);
+    for (const ContentId& id : removed.entities)
+        rescueCategories(session, id);
     for (const ContentId& id : removed.entities) {
         if (project.findAs<Entity>(id))
             session.apply(std::make_unique<core::content::RemoveObjectCommand>(project, id));
