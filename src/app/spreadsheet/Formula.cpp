@@ -194,8 +194,9 @@ private:
         }
         const auto count = static_cast<int>(node.operands.size());
         if (node.function && (count < node.function->fewestArguments || count > node.function->mostArguments))
-            return fail(translated(QT_TRANSLATE_NOOP("Spreadsheet", "%1 does not take %2 argument(s)."))
-                            .arg(name, QString::number(count)));
+            return fail(QCoreApplication::translate(
+                            "Spreadsheet", "%1 does not take %n argument(s).", nullptr, count)
+                            .arg(name));
         return closed(add(std::move(node)));
     }
 
