@@ -4871,6 +4871,65 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::settings::AssistantPage</name>
+    <message>
+        <source>The assistant may only &amp;read</source>
+        <translation>Der Assistent darf nur &amp;lesen</translation>
+    </message>
+    <message>
+        <source>JSON with “mcpServers” – most assistants</source>
+        <translation>JSON mit „mcpServers“ – die meisten Assistenten</translation>
+    </message>
+    <message>
+        <source>JSON with “servers” – editors for code</source>
+        <translation>JSON mit „servers“ – Editoren für Quelltext</translation>
+    </message>
+    <message>
+        <source>TOML – assistants in a terminal</source>
+        <translation>TOML – Assistenten im Terminal</translation>
+    </message>
+    <message>
+        <source>The command by itself</source>
+        <translation>Nur der Befehl</translation>
+    </message>
+    <message>
+        <source>Text for the settings of the assistant</source>
+        <translation>Text für die Einstellungen des Assistenten</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Form</source>
+        <translation>&amp;Form</translation>
+    </message>
+    <message>
+        <source>An assistant of your choice can read this project and work in it through the program vellory-mcp, as long as it speaks the Model Context Protocol. Put this text into its settings and start it anew. Every change is saved at once; what is excluded from AI stays hidden.</source>
+        <translation>Ein Assistent Ihrer Wahl kann dieses Projekt über das Programm vellory-mcp lesen und darin arbeiten, sofern er das Model Context Protocol spricht. Fügen Sie diesen Text in seine Einstellungen ein und starten Sie ihn neu. Jede Änderung wird sofort gespeichert; was von KI ausgeschlossen ist, bleibt verborgen.</translation>
+    </message>
+    <message>
+        <source>Copied. Paste it into the settings of the assistant.</source>
+        <translation>Kopiert. Fügen Sie es in die Einstellungen des Assistenten ein.</translation>
+    </message>
+    <message>
+        <source>PATH OF YOUR PROJECT</source>
+        <translation>PFAD IHRES PROJEKTS</translation>
+    </message>
+    <message>
+        <source>Open a saved project, and its path stands here by itself.</source>
+        <translation>Öffnen Sie ein gespeichertes Projekt, dann steht sein Pfad von selbst hier.</translation>
+    </message>
+    <message>
+        <source>vellory-mcp is not installed beside Vellory: it must be found by its name.</source>
+        <translation>vellory-mcp liegt nicht neben Vellory: Es muss über seinen Namen gefunden werden.</translation>
+    </message>
+    <message>
+        <source>Another project needs an entry of its own.</source>
+        <translation>Ein anderes Projekt braucht einen eigenen Eintrag.</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::settings::EditorPage</name>
     <message>
         <source> pt</source>
@@ -5122,6 +5181,10 @@
     <message>
         <source>Proofreading</source>
         <translation>Korrektur</translation>
+    </message>
+    <message>
+        <source>Connect an assistant</source>
+        <translation>Assistenten verbinden</translation>
     </message>
 </context>
 <context>

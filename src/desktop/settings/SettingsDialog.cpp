@@ -2,6 +2,7 @@
 
 #include "desktop/icons/IconSet.h"
 #include "desktop/settings/AppearancePage.h"
+#include "desktop/settings/AssistantPage.h"
 #include "desktop/settings/EditorPage.h"
 #include "desktop/settings/KeysPage.h"
 #include "desktop/settings/ProofreadingPage.h"
@@ -48,6 +49,7 @@ SettingsDialog::SettingsDialog(
     addPage(tr("Proofreading"), desk.icons.icon(Icon::Check), new ProofreadingPage(desk, proofreading, this));
     addPage(tr("Saving"), desk.icons.icon(Icon::Save), new SavingPage(desk, this));
     addPage(tr("Keys"), desk.icons.icon(Icon::Menu), new KeysPage(desk, shortcuts, this));
+    addPage(tr("Connect an assistant"), desk.icons.icon(Icon::Link), new AssistantPage(desk, this));
     connect(m_list, &QListWidget::currentRowChanged, m_pages, &QStackedWidget::setCurrentIndex);
     connect(&desk.themes, &theme::ThemeManager::themeChanged, this, &SettingsDialog::fitPageList);
 

@@ -12,6 +12,7 @@ enum class SettingsPage : qint32
     Proofreading = 2,
     Saving = 3,
     Keys = 4,
+    Assistants = 5,
 };
 
 } // namespace tw::desktop::settings

@@ -4,6 +4,7 @@
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/goals/WritingSession.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/assistant/ProjectTools.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/manuscript/TextActions.h"
 #include "desktop/project/ProjectFileDialogs.h"
@@ -81,6 +82,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_textActions(new manuscript::TextActions(desk, this))
     , m_screenplayActions(new screenplay::ScreenplayActions(desk, this))
     , m_focusMode(nullptr)
+    , m_tools(new assistant::ProjectTools(desk.session, this))
 {
     setObjectName(u"mainWindow"_s);
     setAcceptDrops(true);

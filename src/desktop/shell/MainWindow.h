@@ -34,6 +34,10 @@ namespace tw::desktop::problems {
 class ProblemsPanel;
 }
 
+namespace tw::desktop::assistant {
+class ProjectTools;
+}
+
 namespace tw::desktop::proofreading {
 class ProofreadingService;
 }
@@ -154,6 +158,7 @@ private:
     manuscript::TextActions* m_textActions;
     screenplay::ScreenplayActions* m_screenplayActions;
     FocusMode* m_focusMode;
+    assistant::ProjectTools* m_tools;
     QMenu* m_recentMenu = nullptr;
     QAction* m_undoAction = nullptr;
     QAction* m_redoAction = nullptr;

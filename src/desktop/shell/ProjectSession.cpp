@@ -56,6 +56,18 @@ void ProjectSession::redo()
     announce();
 }
 
+void ProjectSession::runOnWorkspace(const std::function<void(Workspace& workspace)>& work)
+{
+    prepareSave();
+    const bool wasModified = m_workspace->isModified();
+    const core::undo::UndoStack::Position before = m_workspace->history().position();
+    work(*m_workspace);
+    announce();
+    const bool hasWorked = wasModified || m_workspace->history().position() != before;
+    if (hasWorked && !m_workspace->isModified())
+        static_cast<void>(noteSave({}));
+}
+
 void ProjectSession::commitPendingEdits()
 {
     // The edits that come out of this are commands themselves.

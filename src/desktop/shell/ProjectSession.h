@@ -102,6 +102,12 @@ public:
     [[nodiscard]] QString undoText() const { return m_workspace->history().undoText(); }
     [[nodiscard]] QString redoText() const { return m_workspace->history().redoText(); }
 
+    /**
+     * Lets something that works on the workspace itself do so, a tool of an assistant say, and announces what
+     * it changed or saved. The project stays the same one.
+     */
+    void runOnWorkspace(const std::function<void(app::workspace::Workspace& workspace)>& work);
+
     /** Has editors push the typing they hold. */
     void commitPendingEdits();
     /** An editor holds typing that is not in the project yet, or no longer does. */
