@@ -46,11 +46,15 @@ using ToolHandler = McpToolResult (*)(ToolContext& context, const ToolArguments&
  *     // light/LampTools.h declares the handler, light/LampTools.cpp defines it:
  *     McpToolResult renameLamp(ToolContext& context, const ToolArguments& arguments)
  *     {
- *         const auto lamp = findForChange<Lamp>(context.workspace, arguments, u"title");       //
- * ObjectFinder.h if (!lamp) return McpToolResult::failure(lamp.message()); const QString newTitle =
- * arguments.text(u"new_title"); return applyAsUndoStep(context.workspace, context.changeLog, u"MCP: rename
- * lamp"_s, [&] { context.workspace.undoStack().push(std::make_unique<SetLampTitleCommand>(*lamp.value(),
- * newTitle)); return McpToolResult::success(u"Renamed to '%1'."_s.arg(newTitle));
+ *         // ObjectFinder.h: by name or id, refusing what cannot be changed.
+ *         const auto lamp = findForChange<Lamp>(context.workspace, arguments, u"title");
+ *         if (!lamp)
+ *             return McpToolResult::failure(lamp.message());
+ *         const QString title = arguments.text(u"new_title");
+ *         return applyAsUndoStep(context.workspace, context.changeLog, u"MCP: rename lamp"_s, [&] {
+ *             auto command = std::make_unique<SetLampTitleCommand>(*lamp.value(), title);
+ *             context.workspace.undoStack().push(std::move(command));
+ *             return McpToolResult::success(u"Renamed to '%1'."_s.arg(title));
  *         });
  *     }
  *
@@ -71,8 +75,7 @@ using ToolHandler = McpToolResult (*)(ToolContext& context, const ToolArguments&
  *
  * The check before the call answers for missing and mistyped arguments and unknown choices; a handler reads,
  * resolves names, builds commands and words the answer. Texts with names in them use arg(a, b, c) in one
- * call: a name may hold
- * "%1".
+ * call: a name may hold "%1".
  */
 struct Tool
 {
