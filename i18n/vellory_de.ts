@@ -95,6 +95,121 @@
     </message>
 </context>
 <context>
+    <name>Continuity</name>
+    <message>
+        <source>must start after</source>
+        <translation>muss beginnen nach</translation>
+    </message>
+    <message>
+        <source>must end before</source>
+        <translation>muss enden vor</translation>
+    </message>
+    <message>
+        <source>must happen during</source>
+        <translation>muss stattfinden während</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; happens at a location that no longer exists.</source>
+        <translation>„%1“ spielt an einem Ort, den es nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; lists a participant that no longer exists.</source>
+        <translation>„%1“ nennt jemanden, den es nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>%1 is in two places at once: &quot;%2&quot; and &quot;%3&quot;.</source>
+        <translation>%1 ist an zwei Orten zugleich: „%2“ und „%3“.</translation>
+    </message>
+    <message>
+        <source>%1 takes part in &quot;%2&quot; before being born.</source>
+        <translation>%1 nimmt an „%2“ vor der eigenen Geburt teil.</translation>
+    </message>
+    <message>
+        <source>%1 takes part in &quot;%2&quot; after death.</source>
+        <translation>%1 nimmt an „%2“ nach dem eigenen Tod teil.</translation>
+    </message>
+    <message>
+        <source>%1 cannot travel from %2 to %3 in time between &quot;%4&quot; and &quot;%5&quot;.</source>
+        <translation>%1 kommt zwischen „%4“ und „%5“ nicht rechtzeitig von %2 nach %3.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; %2 &quot;%3&quot;, but does not.</source>
+        <translation>„%1“ %2 „%3“, tut es aber nicht.</translation>
+    </message>
+    <message>
+        <source>must be</source>
+        <translation>muss sein</translation>
+    </message>
+    <message>
+        <source>must not be</source>
+        <translation>darf nicht sein</translation>
+    </message>
+    <message>
+        <source>must contain</source>
+        <translation>muss enthalten</translation>
+    </message>
+    <message>
+        <source>must not contain</source>
+        <translation>darf nicht enthalten</translation>
+    </message>
+    <message>
+        <source>must be less than</source>
+        <translation>muss kleiner sein als</translation>
+    </message>
+    <message>
+        <source>must be at most</source>
+        <translation>darf höchstens sein</translation>
+    </message>
+    <message>
+        <source>must be greater than</source>
+        <translation>muss größer sein als</translation>
+    </message>
+    <message>
+        <source>must be at least</source>
+        <translation>muss mindestens sein</translation>
+    </message>
+    <message>
+        <source>must be empty</source>
+        <translation>muss leer sein</translation>
+    </message>
+    <message>
+        <source>must be non-empty</source>
+        <translation>darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>must be one of</source>
+        <translation>muss eines sein von</translation>
+    </message>
+    <message>
+        <source>%1&apos;s %2 %3</source>
+        <translation>%2 von %1 %3</translation>
+    </message>
+    <message>
+        <source> &quot;%1&quot;</source>
+        <translation> „%1“</translation>
+    </message>
+    <message>
+        <source>Rule &quot;%1&quot; refers to an entity that is no longer in the project.</source>
+        <translation>Die Regel „%1“ betrifft einen Eintrag, der nicht mehr im Projekt ist.</translation>
+    </message>
+    <message>
+        <source>Rule &quot;%1&quot;: %2, but is &quot;%3&quot;.</source>
+        <translation>Regel „%1“: %2, ist aber „%3“.</translation>
+    </message>
+    <message>
+        <source>(unset)</source>
+        <translation>(nicht gesetzt)</translation>
+    </message>
+    <message>
+        <source>An entity</source>
+        <translation>Ein Eintrag</translation>
+    </message>
+    <message>
+        <source>Untitled event</source>
+        <translation>Ereignis ohne Titel</translation>
+    </message>
+</context>
+<context>
     <name>CrashRecovery</name>
     <message numerus="yes">
         <source>Vellory did not end properly the last time. Changes to %n items of “%1” were noted, but not saved. Bring them back?</source>
@@ -942,6 +1057,44 @@
     <message>
         <source>The word list “%1” cannot be written: %2. Check the folder&apos;s permissions and the free space.</source>
         <translation>Die Wortliste „%1“ lässt sich nicht schreiben: %2. Prüfen Sie die Rechte des Ordners und den freien Platz.</translation>
+    </message>
+</context>
+<context>
+    <name>Spreadsheet</name>
+    <message>
+        <source>The formula is nested too deeply. Split it over several cells.</source>
+        <translation>Die Formel ist zu tief verschachtelt. Verteilen Sie sie auf mehrere Zellen.</translation>
+    </message>
+    <message>
+        <source>A closing parenthesis is missing.</source>
+        <translation>Eine schließende Klammer fehlt.</translation>
+    </message>
+    <message>
+        <source>The formula ends too early.</source>
+        <translation>Die Formel endet zu früh.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot stand where it does.</source>
+        <translation>„%1“ kann nicht an dieser Stelle stehen.</translation>
+    </message>
+    <message>
+        <source>A text is not closed: a quotation mark is missing.</source>
+        <translation>Ein Text ist nicht geschlossen: Ein Anführungszeichen fehlt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no meaning here.</source>
+        <translation>„%1“ hat hier keine Bedeutung.</translation>
+    </message>
+    <message>
+        <source>The formula is longer than %1 characters. Split it over several cells.</source>
+        <translation>Die Formel ist länger als %1 Zeichen. Verteilen Sie sie auf mehrere Zellen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 does not take %n argument(s).</source>
+        <translation>
+            <numerusform>%1 nimmt nicht ein Argument.</numerusform>
+            <numerusform>%1 nimmt nicht %n Argumente.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2561,6 +2714,99 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::continuity::ContinuityProblems</name>
+    <message>
+        <source>Continuity</source>
+        <translation>Kontinuität</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::continuity::RuleForm</name>
+    <message>
+        <source>On</source>
+        <translation>Am</translation>
+    </message>
+    <message>
+        <source>Na&amp;me</source>
+        <translation>Na&amp;me</translation>
+    </message>
+    <message>
+        <source>&amp;Entity</source>
+        <translation>&amp;Eintrag</translation>
+    </message>
+    <message>
+        <source>&amp;Property</source>
+        <translation>Ei&amp;genschaft</translation>
+    </message>
+    <message>
+        <source>&amp;Comparison</source>
+        <translation>&amp;Vergleich</translation>
+    </message>
+    <message>
+        <source>&amp;Value</source>
+        <translation>&amp;Wert</translation>
+    </message>
+    <message>
+        <source>Without a date, what the property says at present counts.</source>
+        <translation>Ohne Datum zählt, was die Eigenschaft gegenwärtig sagt.</translation>
+    </message>
+    <message>
+        <source>The entity of this rule is no longer there.</source>
+        <translation>Den Eintrag dieser Regel gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>There is no entity, or more than one, called “%1”.</source>
+        <translation>Es gibt keinen Eintrag namens „%1“, oder mehr als einen.</translation>
+    </message>
+    <message>
+        <source>One value, or another: red|green</source>
+        <translation>Ein Wert, oder ein anderer: rot|grün</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::continuity::RulesDialog</name>
+    <message>
+        <source>Every rule needs a name.</source>
+        <translation>Jede Regel braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>Two rules are called “%1”. Give one of them another name.</source>
+        <translation>Zwei Regeln heißen „%1“. Geben Sie einer einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Choose the entity that “%1” is about.</source>
+        <translation>Wählen Sie den Eintrag, den „%1“ betrifft.</translation>
+    </message>
+    <message>
+        <source>Choose the property that “%1” looks at.</source>
+        <translation>Wählen Sie die Eigenschaft, die „%1“ prüft.</translation>
+    </message>
+    <message>
+        <source>Continuity rules</source>
+        <translation>Kontinuitätsregeln</translation>
+    </message>
+    <message>
+        <source>No rules: add one to hear when an entity is not what the story needs.</source>
+        <translation>Keine Regeln: Fügen Sie eine hinzu, um zu erfahren, wenn ein Eintrag nicht so ist, wie die Geschichte ihn braucht.</translation>
+    </message>
+    <message>
+        <source>Continuity Rules</source>
+        <translation>Kontinuitätsregeln</translation>
+    </message>
+    <message>
+        <source>&amp;Add Rule</source>
+        <translation>Regel &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>Apply Rules</source>
+        <translation>Regeln übernehmen</translation>
+    </message>
+    <message>
+        <source>New rule</source>
+        <translation>Neue Regel</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::fields::BooleanValueEditor</name>
     <message>
         <source>Yes, no, not set: a click goes on to the next</source>
@@ -3697,6 +3943,13 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::problems::ProblemsModel</name>
+    <message>
+        <source>Project</source>
+        <translation>Projekt</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::problems::ProblemsPanel</name>
     <message>
         <source>Filter the problems</source>
@@ -3711,10 +3964,6 @@
         <translation>Ganzes Manuskript</translation>
     </message>
     <message>
-        <source>Problems of all documents instead of the open one</source>
-        <translation>Probleme aller Dokumente statt des geöffneten</translation>
-    </message>
-    <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
     </message>
@@ -3725,10 +3974,6 @@
     <message>
         <source>Reading…</source>
         <translation>Wird gelesen …</translation>
-    </message>
-    <message>
-        <source>Open a document to see its problems, or choose the whole manuscript above.</source>
-        <translation>Öffnen Sie ein Dokument, um seine Probleme zu sehen, oder wählen Sie oben das ganze Manuskript.</translation>
     </message>
     <message>
         <source>Nothing to complain about.</source>
@@ -3754,12 +3999,20 @@
         <translation>Durch „%1“ ersetzen</translation>
     </message>
     <message>
-        <source>&amp;Show in the Text</source>
-        <translation>Im Text &amp;zeigen</translation>
-    </message>
-    <message>
         <source>&amp;Ignore Here</source>
         <translation>Hier ü&amp;bergehen</translation>
+    </message>
+    <message>
+        <source>Problems of all documents, and of the story, instead of what is open</source>
+        <translation>Probleme aller Dokumente und der Geschichte statt des Geöffneten</translation>
+    </message>
+    <message>
+        <source>Open a document or an entity to see its problems, or choose the whole manuscript above.</source>
+        <translation>Öffnen Sie ein Dokument oder einen Eintrag, um dessen Probleme zu sehen, oder wählen Sie oben das ganze Manuskript.</translation>
+    </message>
+    <message>
+        <source>&amp;Show the Place</source>
+        <translation>Die &amp;Stelle zeigen</translation>
     </message>
 </context>
 <context>
@@ -5127,6 +5380,14 @@
     <message>
         <source>&amp;Check Spelling While Typing</source>
         <translation>&amp;Rechtschreibung beim Schreiben prüfen</translation>
+    </message>
+    <message>
+        <source>Check C&amp;ontinuity</source>
+        <translation>K&amp;ontinuität prüfen</translation>
+    </message>
+    <message>
+        <source>Continuity R&amp;ules…</source>
+        <translation>Kontinuitätsrege&amp;ln …</translation>
     </message>
 </context>
 <context>

@@ -36,6 +36,16 @@
     </message>
 </context>
 <context>
+    <name>Spreadsheet</name>
+    <message numerus="yes">
+        <source>%1 does not take %n argument(s).</source>
+        <translation>
+            <numerusform>%1 does not take one argument.</numerusform>
+            <numerusform>%1 does not take %n arguments.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::codex::CodexPanel</name>
     <message numerus="yes">
         <source>Removed %n things from the codex. Undo brings them back.</source>

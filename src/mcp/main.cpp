@@ -1,22 +1,19 @@
 #include "app/persistence/files/FileSystem.h"
 #include "app/workspace/Workspace.h"
-#include "mcp/server/InputReader.h"
 #include "mcp/server/Options.h"
 #include "mcp/server/ProjectRefresher.h"
 #include "mcp/server/ProtocolServer.h"
+#include "mcp/server/StandardInput.h"
 
 #include <QCoreApplication>
 #include <QStandardPaths>
 
-#include <cerrno>
 #include <csignal>
 #include <cstdio>
 
 #ifdef Q_OS_WIN
 #include <fcntl.h>
 #include <io.h>
-#else
-#include <unistd.h>
 #endif
 
 using namespace tw;
@@ -61,21 +58,6 @@ std::chrono::nanoseconds steadyNow()
     return std::chrono::steady_clock::now().time_since_epoch();
 }
 
-/** What has arrived on standard input, as soon as anything has: the buffered readers wait until they are
- * full. */
-qsizetype readInput(char* buffer, qsizetype size)
-{
-#ifdef Q_OS_WIN
-    return _read(_fileno(stdin), buffer, static_cast<unsigned int>(size));
-#else
-    ssize_t count = 0;
-    do {
-        count = ::read(STDIN_FILENO, buffer, static_cast<std::size_t>(size));
-    } while (count < 0 && errno == EINTR);
-    return count;
-#endif
-}
-
 /** False when nobody reads any more. */
 bool writeLine(const QByteArray& line)
 {
@@ -87,26 +69,21 @@ bool writeLine(const QByteArray& line)
 /** Answers messages one after another until the input ends or nobody reads the answers. */
 void serve(ProtocolServer& server)
 {
-    InputReader reader(readInput);
     MessageQueue queue;
-    for (;;) {
-        if (queue.isEmpty()) {
-            const QByteArray bytes = reader.waitForInput();
-            queue.append(bytes);
-            if (bytes.isEmpty()) {
-                queue.finish();
-                if (queue.isEmpty())
-                    return;
-            }
+    for (bool isAtEnd = false; !isAtEnd;) {
+        const QByteArray bytes = waitForInput();
+        isAtEnd = bytes.isEmpty();
+        queue.append(bytes);
+        if (isAtEnd)
+            queue.finish();
+        while (!queue.isEmpty()) {
+            // What has arrived behind the next message may cancel it.
+            queue.append(takeArrivedInput());
+            const std::optional<InputMessage> message = queue.takeNext();
+            const std::optional<QByteArray> answer = message ? server.answer(*message) : std::nullopt;
+            if (answer && !writeLine(*answer))
+                return;
         }
-        // What has arrived behind the next message may cancel it.
-        queue.append(reader.takeArrived());
-        const std::optional<InputMessage> message = queue.takeNext();
-        if (!message)
-            continue;
-        const std::optional<QByteArray> answer = server.answer(*message);
-        if (answer && !writeLine(*answer))
-            return;
     }
 }
 
@@ -140,7 +117,9 @@ int main(int argc, char* argv[])
 
     ProjectRefresher refresher(*workspace.value(), steadyNow, writeLog);
     const ProjectResources resources(*workspace.value(), catalogue.value());
-    ProtocolServer server(catalogue.value(), resources, [&refresher] { refresher.refresh(); });
+    ProtocolServer server(
+        catalogue.value(), resources,
+        {[&refresher] { refresher.refresh(); }, [&refresher] { refresher.acceptOwnSaves(); }});
     serve(server);
     if (workspace.value()->isModified())
         writeLog(

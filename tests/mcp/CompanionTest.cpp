@@ -97,6 +97,30 @@ TEST_F(CompanionTest, servesAFolderAndASingleFileUntilTheInputEnds)
     }
 }
 
+TEST_F(CompanionTest, aCallThatIsCancelledBeforeItsTurnIsNotRun)
+{
+    companion.setArguments({makeProject(u"project"_s)});
+    companion.start();
+    const auto create = [](const QByteArray& id) {
+        return R"({"jsonrpc":"2.0","id":)" + id +
+               R"(,"method":"tools/call","params":{"name":"create_document","arguments":{"title":"D)" + id +
+               "\"}}}\n";
+    };
+    // In one piece, so that all has arrived when the first is about to run.
+    companion.write(
+        create("1") + create("2") +
+        R"({"jsonrpc":"2.0","method":"notifications/cancelled","params":{"requestId":2,"reason":"changed my mind"}})"
+        "\n" +
+        create("3"));
+    EXPECT_EQ(receive().value(u"id"), 1);
+    EXPECT_EQ(receive().value(u"id"), 3);
+    send(R"({"jsonrpc":"2.0","id":4,"method":"tools/call","params":{"name":"get_recent_changes"}})");
+    const QJsonObject result = receive().value(u"result").toObject();
+    EXPECT_EQ(
+        result.value(u"content").toArray().first().toObject().value(u"text"),
+        u"Created document 'D1'.\nCreated document 'D3'."_s);
+}
+
 TEST_F(CompanionTest, saysInOneLineWhyItCannotBegin)
 {
     const QString project = makeProject(u"project"_s);

@@ -58,6 +58,35 @@ TEST_F(ProjectRefresherTest, readsTheProjectAnewWhenOthersSavedIt)
     EXPECT_EQ(logged.size(), 1);
 }
 
+TEST_F(ProjectRefresherTest, looksAtOnceAfterASaveAndLaterForAnEditInPlace)
+{
+    renameElsewhere(u"Saved"_s);
+    refresher->refresh();
+    EXPECT_EQ(title(), u"Saved"_s);
+
+    const QString path = workspace->folderPath() + u"/objects/"_s + id.toString() + u".json"_s;
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const QByteArray edited = file.readAll().replace("Saved", "Typed");
+    file.seek(0);
+    file.write(edited);
+    file.close();
+    now += 1s;
+    refresher->refresh();
+    EXPECT_EQ(title(), u"Saved"_s);
+    now += 2s;
+    refresher->refresh();
+    EXPECT_EQ(title(), u"Typed"_s);
+
+    // What was saved here is no reason to look.
+    rename(*workspace, id, u"Own"_s);
+    ASSERT_TRUE(workspace->save());
+    refresher->acceptOwnSaves();
+    refresher->refresh();
+    EXPECT_EQ(logged.size(), 2);
+    EXPECT_TRUE(workspace->history().canUndo());
+}
+
 TEST_F(ProjectRefresherTest, leavesUnsavedChangesAlone)
 {
     rename(*workspace, id, u"Mine"_s);

@@ -27,7 +27,8 @@ protected:
         EXPECT_TRUE(created) << created.message().toStdString();
         catalogue = std::make_unique<ToolCatalogue>(std::move(created).value());
         resources = std::make_unique<ProjectResources>(*workspace, *catalogue);
-        server = std::make_unique<ProtocolServer>(*catalogue, *resources, [this] { ++timesRefreshed; });
+        server = std::make_unique<ProtocolServer>(
+            *catalogue, *resources, ProtocolServer::UseHooks{[this] { ++timesRefreshed; }, [] {}});
     }
 
     /** Empty for no answer. */

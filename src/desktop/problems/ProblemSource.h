@@ -48,6 +48,11 @@ public:
     [[nodiscard]] virtual std::vector<ProblemCategory> categories() const = 0;
     [[nodiscard]] virtual QColor colorOf(const QString& categoryId) const = 0;
 
+    /**
+     * What the source looks at by itself, because it is no document: the objects with problems, in the order
+     * to list them; null stands for the project. They are listed with the whole manuscript.
+     */
+    [[nodiscard]] virtual std::vector<core::ContentId> ownObjects() const { return {}; }
     /** The objects that are looked at, in their order; what is known of the others is kept. */
     virtual void setObjects(const std::vector<core::ContentId>& objects) = 0;
     /** In the order of the object; empty when nothing is known yet. */
@@ -61,6 +66,8 @@ public:
     [[nodiscard]] virtual QStringList suggestions(const core::ContentId& object, const Problem& problem) = 0;
     virtual void replace(
         const core::ContentId& object, const Problem& problem, const QString& suggestion) = 0;
+    /** False when every problem has to be settled: the three below are not asked for then. */
+    [[nodiscard]] virtual bool canIgnore() const = 0;
     virtual void ignore(const core::ContentId& object, const Problem& problem) = 0;
     /** Whether problems of the object are ignored. */
     [[nodiscard]] virtual bool hasIgnored(const core::ContentId& object) = 0;
@@ -70,6 +77,7 @@ public:
 signals:
     /** The problems of these objects are others now. */
     void problemsChanged(const std::vector<tw::core::ContentId>& objects);
+    void ownObjectsChanged();
     void busyChanged(bool isBusy);
 };
 

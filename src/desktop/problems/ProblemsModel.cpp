@@ -176,8 +176,16 @@ int ProblemsModel::columnCount(const QModelIndex&) const
 
 QString ProblemsModel::titleOf(const Group& group) const
 {
+    if (group.object.isNull())
+        return tr("Project");
     const auto* const object = m_desk.session.project().find(group.object);
     return object ? shell::objectTitle(*object) : QString();
+}
+
+QIcon ProblemsModel::iconOf(const Group& group) const
+{
+    const auto* const object = m_desk.session.project().find(group.object);
+    return m_desk.icons.icon(object ? icons::iconForKind(object->kind()) : icons::Icon::Manuscript);
 }
 
 QVariant ProblemsModel::data(const QModelIndex& index, int role) const
@@ -192,7 +200,7 @@ QVariant ProblemsModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return titleOf(group);
     case Qt::DecorationRole:
-        return m_desk.icons.icon(icons::Icon::Document);
+        return iconOf(group);
     case TreeRole::IdRole:
         return group.object.toString();
     case TreeRole::CountRole:
@@ -207,9 +215,11 @@ QVariant ProblemsModel::problemData(const Group& group, const Row& row, int role
     const Problem& problem = row.problem;
     switch (role) {
     case Qt::DisplayRole:
-        return u"%1   %2"_s.arg(problem.message, problem.context);
+        return problem.context.isEmpty() ? problem.message
+                                         : u"%1   %2"_s.arg(problem.message, problem.context);
     case Qt::ToolTipRole:
-        return u"%1\n%2"_s.arg(problem.message, problem.context);
+        return problem.context.isEmpty() ? problem.message
+                                         : u"%1\n%2"_s.arg(problem.message, problem.context);
     case TreeRole::IdRole:
         return u"%1 %2 %3 %4"_s.arg(
             group.object.toString(), problem.categoryId, QString::number(problem.ordinal), problem.text);

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemModel>
 #include <QHash>
+#include <QIcon>
 #include <QSet>
 
 #include <memory>
@@ -75,6 +76,7 @@ private:
     void recount();
     [[nodiscard]] QVariant problemData(const Group& group, const Row& row, int role) const;
     [[nodiscard]] QString titleOf(const Group& group) const;
+    [[nodiscard]] QIcon iconOf(const Group& group) const;
 
     shell::DeskContext m_desk;
     std::vector<ProblemSource*> m_sources;

@@ -63,8 +63,10 @@ ProblemsPanel::ProblemsPanel(
     connect(m_tree, &trees::NavigatorTree::sourceActivated, this, &ProblemsPanel::activate);
     connect(m_tree, &QWidget::customContextMenuRequested, this, &ProblemsPanel::showContextMenu);
     connect(m_model, &ProblemsModel::countsChanged, this, &ProblemsPanel::refreshTexts);
-    for (ProblemSource* const source : m_sources)
+    for (ProblemSource* const source : m_sources) {
         connect(source, &ProblemSource::busyChanged, this, &ProblemsPanel::refreshTexts);
+        connect(source, &ProblemSource::ownObjectsChanged, this, &ProblemsPanel::refreshObjects);
+    }
     connect(
         &desk.session, &shell::ProjectSession::changed, this,
         [this](const core::project::ProjectChanges& changes) {
@@ -84,7 +86,7 @@ void ProblemsPanel::makeActions()
     m_wholeManuscript = new QAction(m_desk.icons.icon(Icon::Manuscript), tr("Whole Manuscript"), this);
     m_wholeManuscript->setObjectName(u"problems.wholeManuscript"_s);
     m_wholeManuscript->setCheckable(true);
-    m_wholeManuscript->setToolTip(tr("Problems of all documents instead of the open one"));
+    m_wholeManuscript->setToolTip(tr("Problems of all documents, and of the story, instead of what is open"));
     m_wholeManuscript->setChecked(m_desk.settings.value(scopeKey, u"false"_s).toString() == "true"_L1);
     connect(m_wholeManuscript, &QAction::toggled, this, [this](bool isOn) {
         m_desk.settings.setValue(scopeKey, isOn ? u"true"_s : u"false"_s);
@@ -114,7 +116,7 @@ void ProblemsPanel::fillCategoryMenu()
     std::vector<std::pair<ProblemSource*, core::ContentId>> ignoring;
     for (ProblemSource* const source : m_sources) {
         for (const core::ContentId& object : wantedObjects()) {
-            if (source->hasIgnored(object))
+            if (source->canIgnore() && source->hasIgnored(object))
                 ignoring.emplace_back(source, object);
         }
     }
@@ -126,11 +128,11 @@ void ProblemsPanel::fillCategoryMenu()
     });
 }
 
-void ProblemsPanel::setDocument(const core::ContentId& document)
+void ProblemsPanel::setObject(const core::ContentId& object)
 {
-    if (document == m_document)
+    if (object == m_object)
         return;
-    m_document = document;
+    m_object = object;
     if (!m_wholeManuscript->isChecked())
         refreshObjects();
 }
@@ -151,8 +153,7 @@ std::vector<core::ContentId> ProblemsPanel::wantedObjects() const
 {
     const core::project::Project& project = m_desk.session.project();
     if (!m_wholeManuscript->isChecked())
-        return project.findAs<core::document::Document>(m_document) ? std::vector{m_document}
-                                                                    : std::vector<core::ContentId>();
+        return project.contains(m_object) ? std::vector{m_object} : std::vector<core::ContentId>();
     const core::document::DocumentTree tree = core::document::documentTree(project);
     std::vector<core::ContentId> objects;
     std::vector<core::ContentId> open{core::ContentId()};
@@ -164,7 +165,16 @@ std::vector<core::ContentId> ProblemsPanel::wantedObjects() const
         if (const auto children = tree.find(id); children != tree.end())
             open.insert(open.end(), children->second.rbegin(), children->second.rend());
     }
+    for (const ProblemSource* const source : m_sources) {
+        const std::vector<core::ContentId> own = source->ownObjects();
+        objects.insert(objects.end(), own.begin(), own.end());
+    }
     return objects;
+}
+
+void ProblemsPanel::showWholeManuscript()
+{
+    m_wholeManuscript->setChecked(true);
 }
 
 void ProblemsPanel::refreshObjects()
@@ -179,9 +189,9 @@ void ProblemsPanel::refreshTexts()
     const int shown = m_model->shownCount();
     if (isBusy)
         m_tree->setEmptyHint(tr("Reading…"));
-    else if (!m_wholeManuscript->isChecked() && m_document.isNull())
+    else if (!m_wholeManuscript->isChecked() && m_object.isNull())
         m_tree->setEmptyHint(
-            tr("Open a document to see its problems, or choose the whole manuscript above."));
+            tr("Open a document or an entity to see its problems, or choose the whole manuscript above."));
     else
         m_tree->setEmptyHint(tr("Nothing to complain about."));
     int all = 0;
@@ -222,11 +232,13 @@ void ProblemsPanel::showContextMenu(const QPoint& place)
     }
     menu->addSeparator();
     connect(
-        menu->addAction(tr("&Show in the Text")), &QAction::triggered, this,
+        menu->addAction(tr("&Show the Place")), &QAction::triggered, this,
         [source = source, object = object, problem = problem] { source->show(object, problem); });
-    connect(
-        menu->addAction(tr("&Ignore Here")), &QAction::triggered, this,
-        [source = source, object = object, problem = problem] { source->ignore(object, problem); });
+    if (source->canIgnore()) {
+        connect(
+            menu->addAction(tr("&Ignore Here")), &QAction::triggered, this,
+            [source = source, object = object, problem = problem] { source->ignore(object, problem); });
+    }
     menu->popup(m_tree->viewport()->mapToGlobal(place));
 }
 

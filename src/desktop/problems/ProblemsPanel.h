@@ -23,8 +23,8 @@ namespace tw::desktop::problems {
 class ProblemsModel;
 
 /**
- * What is wrong in the open document, or in the whole manuscript, by document: go there, take a suggestion,
- * ignore it. Looks at nothing while it is hidden.
+ * What is wrong in the open document or entity, or everywhere, by object: go there, take a suggestion, ignore
+ * it. Looks at nothing while it is hidden.
  */
 class ProblemsPanel final : public QWidget
 {
@@ -35,8 +35,10 @@ public:
     ProblemsPanel(
         const shell::DeskContext& desk, const std::vector<ProblemSource*>& sources, QWidget* parent);
 
-    /** The document whose page is in front; null for none. */
-    void setDocument(const core::ContentId& document);
+    /** The object whose page is in front; null for none. */
+    void setObject(const core::ContentId& object);
+    /** Lists everything, from now on. */
+    void showWholeManuscript();
     /** The model, for tests that look what the panel lists. */
     [[nodiscard]] ProblemsModel& model() { return *m_model; }
 
@@ -60,7 +62,7 @@ private:
     trees::NavigatorTree* m_tree;
     QLabel* m_summary;
     QAction* m_wholeManuscript = nullptr;
-    core::ContentId m_document;
+    core::ContentId m_object;
     QTimer m_treeRest;
 };
 

@@ -40,6 +40,7 @@ public:
         const core::ContentId& object, const problems::Problem& problem) override;
     void replace(
         const core::ContentId& object, const problems::Problem& problem, const QString& suggestion) override;
+    [[nodiscard]] bool canIgnore() const override { return true; }
     void ignore(const core::ContentId& object, const problems::Problem& problem) override;
     [[nodiscard]] bool hasIgnored(const core::ContentId& object) override;
     void restoreIgnored(const core::ContentId& object) override;

@@ -1,6 +1,7 @@
 #include "desktop/codex/CategoryPropertiesDialog.h"
 #include "desktop/codex/FieldDialog.h"
 #include "desktop/codex/TimedValueDialog.h"
+#include "desktop/continuity/RulesDialog.h"
 #include "desktop/goals/GoalsDialog.h"
 #include "desktop/project/ExportPackDialog.h"
 #include "desktop/project/NewProjectDialog.h"
@@ -144,6 +145,27 @@ QStringList checkProjectSettingsDialog(const DeskContext& desk)
     return dialog.settings() == settings ? QStringList() : QStringList{u"changes settings by itself"_s};
 }
 
+continuity::RuleList throwAwayRules()
+{
+    const core::ContentId entity = core::ContentId::create();
+    return {
+        {u"Selftest 1"_s, entity, u"selftest1"_s, u"oneOf"_s, u"a|b"_s, 0},
+        {u"Selftest 2"_s, entity, u"selftest2"_s, u"unknown"_s, u"c"_s, {}}};
+}
+
+std::unique_ptr<QDialog> makeRulesDialog(const DeskContext& desk)
+{
+    return std::make_unique<continuity::RulesDialog>(desk, throwAwayRules(), nullptr);
+}
+
+/** Rules that nobody touched come out as they went in, also those that mean nothing. */
+QStringList checkRulesDialog(const DeskContext& desk)
+{
+    const continuity::RuleList rules = throwAwayRules();
+    const continuity::RulesDialog dialog(desk, rules, nullptr);
+    return dialog.rules() == rules ? QStringList() : QStringList{u"changes rules by itself"_s};
+}
+
 std::unique_ptr<QDialog> makeExportPackDialog(const DeskContext& desk)
 {
     return std::make_unique<project::ExportPackDialog>(
@@ -197,6 +219,7 @@ std::vector<SelfTestDialog> selfTestDialogs()
         {u"restore from a backup"_s, makeRestoreDialog, {}},
         {u"project settings"_s, makeProjectSettingsDialog, checkProjectSettingsDialog},
         {u"writing goals"_s, makeGoalsDialog, {}},
+        {u"continuity rules"_s, makeRulesDialog, checkRulesDialog},
         {u"export content pack"_s, makeExportPackDialog, {}},
         {u"settings"_s, makeSettingsDialog, {}},
         {u"about"_s, makeAboutDialog, {}},

@@ -27,6 +27,9 @@ class TextActions;
 namespace tw::desktop::screenplay {
 class ScreenplayActions;
 }
+namespace tw::desktop::continuity {
+class ContinuityProblems;
+}
 namespace tw::desktop::problems {
 class ProblemsPanel;
 }
@@ -116,6 +119,7 @@ private:
     void readAloud();
     void addProofreadingActions(QMenu& menu);
     void buildHelpMenu();
+    void showProblems();
     void showSettings(settings::SettingsPage page);
     void restoreWindow();
 
@@ -162,6 +166,7 @@ private:
     manuscript::ManuscriptPanel* m_manuscript = nullptr;
     codex::CodexPanel* m_codex = nullptr;
     proofreading::ProofreadingService* m_proofreading = nullptr;
+    continuity::ContinuityProblems* m_continuity = nullptr;
     problems::ProblemsPanel* m_problems = nullptr;
     search::SearchPanel* m_search = nullptr;
     snapshots::SnapshotsPanel* m_snapshots = nullptr;

@@ -1,6 +1,8 @@
 #include "desktop/shell/MainWindow.h"
 
 #include "desktop/codex/CodexPanel.h"
+#include "desktop/continuity/ContinuityProblems.h"
+#include "desktop/continuity/RulesDialog.h"
 #include "desktop/goals/GoalsDialog.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/BodyEditor.h"
@@ -201,10 +203,23 @@ void MainWindow::addProofreadingActions(QMenu& menu)
     addAction(
         menu, u"tools.suggestions"_s, Icon::ChevronDown, tr("Su&ggestions at the Cursor"),
         QKeySequence(Qt::CTRL | Qt::Key_Period), [this] { m_proofreading->popUpSuggestions(); });
-    addAction(menu, u"tools.problems"_s, Icon::Warning, tr("P&roblems"), {}, [this] {
-        m_docks->showPanel(u"problems"_s);
-        m_problems->setFocus(Qt::ShortcutFocusReason);
-    });
+    addAction(menu, u"tools.problems"_s, Icon::Warning, tr("P&roblems"), {}, [this] { showProblems(); });
+    menu.addSeparator();
+    m_projectActions.append(
+        addAction(menu, u"tools.continuity"_s, Icon::Timeline, tr("Check C&ontinuity"), {}, [this] {
+            m_problems->showWholeManuscript();
+            showProblems();
+            m_continuity->checkNow();
+        }));
+    m_projectActions.append(addAction(
+        menu, u"tools.continuityRules"_s, Icon::TimelineEvent, tr("Continuity R&ules…"), {},
+        [this] { continuity::editContinuityRules(m_desk, this); }));
+}
+
+void MainWindow::showProblems()
+{
+    m_docks->showPanel(u"problems"_s);
+    m_problems->setFocus(Qt::ShortcutFocusReason);
 }
 
 void MainWindow::showSettings(settings::SettingsPage page)

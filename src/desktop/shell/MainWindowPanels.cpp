@@ -3,6 +3,7 @@
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/codex/EntityPage.h"
 #include "desktop/composition/CompositionPage.h"
+#include "desktop/continuity/ContinuityProblems.h"
 #include "desktop/inspector/InspectorPanel.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/DocumentPage.h"
@@ -71,10 +72,11 @@ void MainWindow::addProblemsPanel()
 {
     m_proofreading = new proofreading::ProofreadingService(m_desk, proofreading::usualSpellingPlaces(), this);
     auto* const prose = new proofreading::ProseProblems(m_desk, *m_proofreading, this);
-    m_problems = new problems::ProblemsPanel(m_desk, {prose}, this);
+    m_continuity = new continuity::ContinuityProblems(m_desk, this);
+    m_problems = new problems::ProblemsPanel(m_desk, {prose, m_continuity}, this);
     m_docks->addPanel({u"problems"_s, tr("Problems"), Icon::Warning, DockPlace::Bottom, false}, m_problems);
     connect(m_workArea, &WorkArea::currentPageChanged, m_problems, [this](const WorkPage* page) {
-        m_problems->setDocument(page ? page->objectId() : core::ContentId());
+        m_problems->setObject(page ? page->objectId() : core::ContentId());
     });
 }
 

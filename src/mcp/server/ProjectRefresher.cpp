@@ -1,8 +1,5 @@
 #include "mcp/server/ProjectRefresher.h"
 
-#include <QDateTime>
-#include <QFileInfo>
-
 #include <algorithm>
 
 namespace tw::mcp::server {
@@ -22,27 +19,29 @@ ProjectRefresher::ProjectRefresher(app::workspace::Workspace& workspace, SteadyC
     : m_workspace(workspace)
     , m_clock(std::move(clock))
     , m_log(std::move(log))
-    , m_seenTimes(folderTimes())
+    , m_seen(folderStamps())
     , m_nextLook(m_clock() + leastPause)
 {}
 
-ProjectRefresher::FolderTimes ProjectRefresher::folderTimes() const
+ProjectRefresher::FolderStamps ProjectRefresher::folderStamps() const
 {
-    const QString folder = m_workspace.folderPath();
-    const auto time = [](const QString& path) { return QFileInfo(path).lastModified().toMSecsSinceEpoch(); };
-    return {{time(folder), time(folder + u"/objects"_s), time(folder + u"/taxonomy"_s)}};
+    app::persistence::FileSystem& fileSystem = m_workspace.environment().fileSystem;
+    const QString& folder = m_workspace.folderPath();
+    return {
+        fileSystem.stamp(folder), fileSystem.stamp(folder + u"/objects"_s),
+        fileSystem.stamp(folder + u"/taxonomy"_s)};
 }
 
 bool ProjectRefresher::isChangedOnDisk()
 {
     if (m_workspace.hasSingleFile() && m_workspace.isBundleChangedOnDisk())
         return true;
-    const FolderTimes times = folderTimes();
+    const FolderStamps stamps = folderStamps();
     const auto now = m_clock();
-    if (times == m_seenTimes && now < m_nextLook)
+    if (stamps == m_seen && now < m_nextLook)
         return false;
     const bool isChanged = !m_workspace.externalChanges().isEmpty();
-    m_seenTimes = times;
+    m_seen = stamps;
     m_nextLook = m_clock() + std::max(leastPause, (m_clock() - now) * restPerLook);
     return isChanged;
 }
@@ -56,7 +55,7 @@ void ProjectRefresher::refresh()
         return;
     }
     m_log(u"The project changed on disk and was read again."_s);
-    m_seenTimes = folderTimes();
+    m_seen = folderStamps();
 }
 
 } // namespace tw::mcp::server

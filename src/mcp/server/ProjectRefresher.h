@@ -5,6 +5,7 @@
 #include <array>
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace tw::mcp::server {
 
@@ -27,23 +28,20 @@ public:
 
     /** To be called before the project is used. */
     void refresh();
+    /** To be called after it: what came to the folders meanwhile was saved by the call itself. */
+    void acceptOwnSaves() { m_seen = folderStamps(); }
 
 private:
-    /** The times at which entries of the project's folders last came or went. */
-    struct FolderTimes
-    {
-        std::array<qint64, 3> milliseconds{};
+    /** Of the project's folders: they tell when entries last came or went, as they do with every save. */
+    using FolderStamps = std::array<std::optional<app::persistence::FileStamp>, 3>;
 
-        friend bool operator==(const FolderTimes&, const FolderTimes&) = default;
-    };
-
-    [[nodiscard]] FolderTimes folderTimes() const;
+    [[nodiscard]] FolderStamps folderStamps() const;
     [[nodiscard]] bool isChangedOnDisk();
 
     app::workspace::Workspace& m_workspace;
     SteadyClock m_clock;
     Log m_log;
-    FolderTimes m_seenTimes;
+    FolderStamps m_seen;
     std::chrono::nanoseconds m_nextLook;
 };
 

@@ -79,10 +79,10 @@ const ProtocolServer::Method* ProtocolServer::findMethod(const QString& name)
 }
 
 ProtocolServer::ProtocolServer(
-    const ToolCatalogue& catalogue, const ProjectResources& resources, std::function<void()> beforeUse)
+    const ToolCatalogue& catalogue, const ProjectResources& resources, UseHooks hooks)
     : m_catalogue(catalogue)
     , m_resources(resources)
-    , m_beforeUse(std::move(beforeUse))
+    , m_hooks(std::move(hooks))
 {}
 
 std::optional<QByteArray> ProtocolServer::answer(const InputMessage& message)
@@ -238,8 +238,9 @@ RpcOutcome ProtocolServer::callTool(const Request& request)
         return invalidParams(u"\"arguments\" must be an object."_s);
     if (!m_catalogue.hasTool(name.toString()))
         return invalidParams(m_catalogue.server().callTool(name.toString(), {}).text);
-    m_beforeUse();
+    m_hooks.before();
     const auto result = m_catalogue.server().callTool(name.toString(), arguments.toObject());
+    m_hooks.after();
     const QJsonObject content{{u"type"_s, u"text"_s}, {u"text"_s, result.text}};
     return QJsonObject{{u"content"_s, QJsonArray{content}}, {u"isError"_s, !result.ok}};
 }
@@ -249,7 +250,7 @@ RpcOutcome ProtocolServer::listResources(const Request& request)
     const QJsonValue cursor = request.params.value(u"cursor");
     if (!cursor.isUndefined() && !cursor.isString())
         return invalidParams(u"\"cursor\" must be a text."_s);
-    m_beforeUse();
+    m_hooks.before();
     auto list = m_resources.list(cursor.toString());
     if (!list)
         return invalidParams(list.message());
@@ -266,7 +267,7 @@ RpcOutcome ProtocolServer::readResource(const Request& request)
     const QJsonValue uri = request.params.value(u"uri");
     if (!uri.isString())
         return invalidParams(u"resources/read needs \"uri\"."_s);
-    m_beforeUse();
+    m_hooks.before();
     if (auto contents = m_resources.read(uri.toString()))
         return *contents;
     const bool isStateless = request.generation == Generation::Stateless;

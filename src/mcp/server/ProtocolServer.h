@@ -22,9 +22,15 @@ namespace tw::mcp::server {
 class ProtocolServer
 {
 public:
-    /** `beforeUse` runs before anything of the project is read. All outlive the server. */
-    ProtocolServer(
-        const ToolCatalogue& catalogue, const ProjectResources& resources, std::function<void()> beforeUse);
+    /** What runs around everything that reads or changes the project. */
+    struct UseHooks
+    {
+        std::function<void()> before;
+        std::function<void()> after;
+    };
+
+    /** The catalogue and the resources outlive the server. */
+    ProtocolServer(const ToolCatalogue& catalogue, const ProjectResources& resources, UseHooks hooks);
 
     /** The line to answer with, without its end; none for notifications and for responses. */
     [[nodiscard]] std::optional<QByteArray> answer(const InputMessage& message);
@@ -66,7 +72,7 @@ private:
 
     const ToolCatalogue& m_catalogue;
     const ProjectResources& m_resources;
-    std::function<void()> m_beforeUse;
+    UseHooks m_hooks;
     /** What `initialize` came to; empty before. */
     QString m_sessionVersion;
 };

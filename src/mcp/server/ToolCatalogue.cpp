@@ -13,17 +13,6 @@ using app::mcp::ToolTable;
 
 namespace {
 
-struct Family
-{
-    QLatin1String name;
-    ToolTable (*tools)();
-};
-
-constexpr std::array families{
-    Family{"core"_L1, app::mcp::coreTools},
-    Family{"document"_L1, app::mcp::documentTools},
-};
-
 /** The keys that clients of all versions look for. */
 QJsonObject listed(const Tool& tool)
 {
@@ -55,10 +44,18 @@ core::Result<void> checkFamilies(const QStringList& names)
 
 } // namespace
 
+std::vector<ToolFamily> toolFamilies()
+{
+    return {
+        {u"core"_s, u"Session"_s, app::mcp::coreTools()},
+        {u"document"_s, u"Documents"_s, app::mcp::documentTools()},
+    };
+}
+
 QStringList familyNames()
 {
     QStringList names;
-    for (const Family& family : families)
+    for (const ToolFamily& family : toolFamilies())
         names.append(family.name);
     return names;
 }
@@ -74,10 +71,10 @@ core::Result<ToolCatalogue> ToolCatalogue::create(
         u"Tools for one Vellory project: its manuscript, codex, timeline and more. Objects are addressed by "
         u"the names "
         "the writer gave them. Every change is saved at once and is one step of the undo history."_s));
-    for (const Family& family : families) {
+    for (const ToolFamily& family : toolFamilies()) {
         if (!choice.families.isEmpty() && !choice.families.contains(family.name))
             continue;
-        ToolTable tools = family.tools();
+        ToolTable tools = family.tools;
         if (choice.isReadOnly)
             std::erase_if(tools, [](const Tool& tool) { return tool.access != ToolAccess::ReadOnly; });
         app::mcp::registerTools(catalogue.m_server, workspace, changeLog, tools);

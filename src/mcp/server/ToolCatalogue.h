@@ -7,7 +7,22 @@
 #include <QJsonArray>
 #include <QStringList>
 
+#include <vector>
+
 namespace tw::mcp::server {
+
+/** A group of tools that can be offered or left out as one. */
+struct ToolFamily
+{
+    /** As options call it. */
+    QString name;
+    /** For people. */
+    QString title;
+    app::mcp::ToolTable tools;
+};
+
+/** All families, in the order of the catalogue. */
+[[nodiscard]] std::vector<ToolFamily> toolFamilies();
 
 /** Which tools are offered. */
 struct ToolChoice
@@ -18,7 +33,7 @@ struct ToolChoice
     QStringList families;
 };
 
-/** The names by which families are chosen, in the order of the catalogue. */
+/** The names by which families are chosen. */
 [[nodiscard]] QStringList familyNames();
 
 /** The tools of one project as a client sees them. The workspace and the log outlive it. */

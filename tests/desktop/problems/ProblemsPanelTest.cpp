@@ -60,7 +60,7 @@ TEST_F(ProblemsPanelTest, listsTheOpenDocumentOrTheWholeManuscriptInReadingOrder
     desk.announce();
     panel.show();
     EXPECT_EQ(listed(), QStringList());
-    panel.setDocument(id);
+    panel.setObject(id);
     EXPECT_EQ(listed(), (QStringList{u"Chapter"_s, u"- shipp"_s, u"- quickly"_s}));
     wholeManuscript();
     EXPECT_EQ(
@@ -78,7 +78,7 @@ TEST_F(ProblemsPanelTest, followsEditsIgnoringAndWords)
 {
     open(u"the shipp and the dawnn"_s);
     panel.show();
-    panel.setDocument(id);
+    panel.setObject(id);
     EXPECT_EQ(listed().size(), 3);
     prose.ignore(id, *panel.model().problemAt(panel.model().index(0, 0, panel.model().index(0, 0))).problem);
     EXPECT_EQ(listed(), (QStringList{u"Chapter"_s, u"- dawnn"_s}));
@@ -97,7 +97,7 @@ TEST_F(ProblemsPanelTest, goesToTheRightOneOfEqualWordsAndReplacesIt)
 {
     open(u"shipp\n\n*the* shipp and the **shipp**"_s);
     panel.show();
-    panel.setDocument(id);
+    panel.setObject(id);
     ASSERT_EQ(listed().size(), 4);
     const ProblemsModel& model = panel.model();
     const Problem third = *model.problemAt(model.index(2, 0, model.index(0, 0))).problem;
@@ -119,7 +119,7 @@ TEST_F(ProblemsPanelTest, opensThePlaceOfTheRowByTheKeyboard)
 {
     open(u"the ship\n\nthe dawnn"_s);
     panel.show();
-    panel.setDocument(id);
+    panel.setObject(id);
     ASSERT_EQ(listed().size(), 2);
     auto* const tree = panel.findChild<QTreeView*>();
     tree->setCurrentIndex(tree->model()->index(0, 0, tree->model()->index(0, 0)));

@@ -1,0 +1,136 @@
+#include "app/persistence/files/FileSystem.h"
+#include "app/workspace/Workspace.h"
+#include "bench/Measurement.h"
+#include "bench/ProjectGenerator.h"
+#include "bench/mcp-benchmark/LineProcess.h"
+#include "core/document/DocumentCommands.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include <thread>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace tw;
+using namespace std::chrono_literals;
+using core::document::Document;
+
+namespace {
+
+/** A call may take as long again as the way there and back. */
+constexpr double readAim = 2.0;
+/** What a changing call may take beyond the save that it ends with. */
+constexpr double changeAllowance = 0.002;
+constexpr int callsOfARun = 1000;
+
+constexpr auto echoArgument = "--echo";
+
+QByteArray toolCall(const QByteArray& tool, const QByteArray& arguments)
+{
+    return R"({"jsonrpc":"2.0","id":1,"method":"tools/call","params":{"name":")" + tool +
+           R"(","arguments":)" + arguments + "}}";
+}
+
+/** A generated project on disk. It rests, because a younger stamp is never trusted. */
+QString makeProject(
+    const app::persistence::StorageEnvironment& environment, const QString& folder, int objects)
+{
+    app::workspace::Workspace workspace(environment);
+    bench::generateProject(workspace.projectForEdit(), {objects, 1});
+    if (const auto saved = workspace.saveAs(folder); !saved)
+        qFatal("%s", qPrintable(saved.message()));
+    return folder;
+}
+
+/** The title of the document that all calls are about. */
+QByteArray titleIn(const core::project::Project& project)
+{
+    return core::project::objectsOf<Document>(project).front()->title().toUtf8();
+}
+
+bench::Comparison compareReading(bench::LineProcess& companion, const QByteArray& title, int repetitions)
+{
+    bench::LineProcess echo(QCoreApplication::applicationFilePath(), {QString::fromLatin1(echoArgument)});
+    const QByteArray call = toolCall("get_document_versions", "{\"title\":\"" + title + "\"}");
+    const QByteArray answer = companion.roundTrip(call).trimmed();
+    if (!answer.contains("\"isError\":false"))
+        qFatal("%s", answer.constData());
+    // The echo carries as many bytes each way, on the whole.
+    const auto ask = [](bench::LineProcess& process, const QByteArray& line) {
+        for (int count = 0; count < callsOfARun; ++count)
+            process.roundTrip(line);
+    };
+    return bench::compare(
+        {repetitions, bench::Counted::Best}, {[&] { ask(echo, call); }}, {[&] { ask(companion, call); }});
+}
+
+bench::Comparison compareChanging(
+    bench::LineProcess& companion, app::workspace::Workspace& plain, const QByteArray& title, int repetitions)
+{
+    Document& document = *plain.projectForEdit().findAsForEdit<Document>(
+        core::project::objectsOf<Document>(plain.project()).front()->id());
+    int edits = 0;
+    bench::Comparison times = bench::compare(
+        {repetitions, bench::Counted::MiddlePair}, {[&] {
+            plain.undoStack().push(std::make_unique<core::document::SetDocumentStatusCommand>(
+                document, QString::number(++edits)));
+            if (const auto saved = plain.save(); !saved)
+                qFatal("%s", qPrintable(saved.message()));
+        }},
+        {[&] {
+            const QByteArray status = QByteArray::number(++edits);
+            const QByteArray answer = companion.roundTrip(
+                toolCall("update_document", "{\"title\":\"" + title + "\",\"status\":\"" + status + "\"}"));
+            if (!answer.contains("\"isError\":false"))
+                qFatal("%s", answer.constData());
+        }});
+    times.reference += changeAllowance;
+    return times;
+}
+
+} // namespace
+
+/** Prints how calls of tools compare with the pipe they come through and the save they end with; 1 when an
+ * aim is missed. */
+int main(int argc, char** argv)
+{
+    if (argc == 2 && qstrcmp(argv[1], echoArgument) == 0) {
+        bench::echoLines();
+        return 0;
+    }
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Measures calls of tools through the companion executable."_s);
+    parser.addHelpOption();
+    const QCommandLineOption objects(u"objects"_s, u"Objects of the project."_s, u"count"_s, u"50000"_s);
+    const QCommandLineOption repetitions(u"repetitions"_s, u"Runs of each."_s, u"count"_s, u"5"_s);
+    parser.addOptions({objects, repetitions});
+    parser.process(application);
+    const int runs = parser.value(repetitions).toInt();
+    const int size = parser.value(objects).toInt();
+    if (runs < 1 || size < bench::fewestObjects)
+        parser.showHelp(2);
+
+    const QTemporaryDir root;
+    app::persistence::DiskFileSystem files;
+    const app::persistence::StorageEnvironment environment{files, root.filePath(u"data"_s)};
+    const QString served = makeProject(environment, root.filePath(u"served"_s), size);
+    const QString plainFolder = makeProject(environment, root.filePath(u"plain"_s), size);
+    std::this_thread::sleep_for(2500ms);
+    const auto plain = app::workspace::Workspace::open(environment, plainFolder);
+    if (!plain)
+        qFatal("%s", qPrintable(plain.message()));
+    const QByteArray title = titleIn(plain.value()->project());
+    bench::LineProcess companion(QStringLiteral(TW_COMPANION), {served});
+
+    bench::ResultTable table;
+    table.addTitle(u"%1 objects"_s.arg(size));
+    table.addTimes(
+        u"call a tool that reads, %1 times"_s.arg(callsOfARun), u"a server that echoes the line"_s,
+        compareReading(companion, title, runs), readAim);
+    table.addTimes(
+        u"call a tool that changes"_s, u"a save after one edit, and 2 ms"_s,
+        compareChanging(companion, *plain.value(), title, runs), 1.0);
+    return table.areAimsReached() ? 0 : 1;
+}

@@ -1,0 +1,190 @@
+#include "app/timeline/ContinuityValidator.h"
+
+#include "app/timeline/PairSweep.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <numeric>
+
+namespace tw::app::timeline {
+
+using core::timeline::ConstraintKind;
+using Event = TimelineFacts::Event;
+using Thing = TimelineFacts::Thing;
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Continuity", text);
+}
+
+/** None for kinds without a meaning, which always hold. */
+const char* phraseOf(ConstraintKind kind)
+{
+    switch (kind) {
+    case ConstraintKind::StartsAfter:
+        return QT_TRANSLATE_NOOP("Continuity", "must start after");
+    case ConstraintKind::EndsBefore:
+        return QT_TRANSLATE_NOOP("Continuity", "must end before");
+    case ConstraintKind::HappensDuring:
+        return QT_TRANSLATE_NOOP("Continuity", "must happen during");
+    }
+    return nullptr;
+}
+
+bool holds(ConstraintKind kind, const TimeSpan& span, const TimeSpan& other)
+{
+    switch (kind) {
+    case ConstraintKind::StartsAfter:
+        return span.start >= other.end;
+    case ConstraintKind::EndsBefore:
+        return span.end <= other.start;
+    case ConstraintKind::HappensDuring:
+        return other.start <= span.start && span.end <= other.end;
+    }
+    return true;
+}
+
+/** The stages write into one list, each after the other. */
+class ConflictFinder
+{
+public:
+    explicit ConflictFinder(const TimelineFacts& facts)
+        : m_facts(facts)
+        , m_sweep(facts)
+    {}
+
+    std::vector<ContinuityConflict> find()
+    {
+        findMissing();
+        const std::vector<quint32> participants = participantsById();
+        for (const quint32 participant : participants)
+            findClashes(participant);
+        findOutsideLifespans();
+        if (!m_facts.routes.isEmpty()) {
+            for (const quint32 participant : participants)
+                findHurries(participant);
+        }
+        findBrokenConstraints();
+        return std::move(m_conflicts);
+    }
+
+private:
+    void add(QString message, std::vector<core::ContentId> ids)
+    {
+        m_conflicts.push_back({std::move(message), std::move(ids)});
+    }
+
+    std::vector<quint32> participantsById() const
+    {
+        std::vector<quint32> numbers(m_facts.things.size());
+        std::iota(numbers.begin(), numbers.end(), 0);
+        std::erase_if(numbers, [this](quint32 number) { return !m_facts.things[number].exists; });
+        std::ranges::sort(numbers, {}, [this](quint32 number) { return m_facts.things[number].id; });
+        return numbers;
+    }
+
+    void findMissing()
+    {
+        for (const Event& event : m_facts.events) {
+            if (event.place != TimelineFacts::noPlace && !m_facts.things[event.place].exists) {
+                add(translated(QT_TRANSLATE_NOOP(
+                                   "Continuity", "\"%1\" happens at a location that no longer exists."))
+                        .arg(event.name),
+                    {event.id});
+            }
+            for (const quint32 participant : event.participants) {
+                if (m_facts.things[participant].exists)
+                    continue;
+                add(translated(
+                        QT_TRANSLATE_NOOP("Continuity", "\"%1\" lists a participant that no longer exists."))
+                        .arg(event.name),
+                    {event.id});
+            }
+        }
+    }
+
+    void findClashes(quint32 participant)
+    {
+        for (const EventPair& pair : m_sweep.clashes(m_sweep.itinerary(participant))) {
+            const Event& first = m_facts.events[pair.first];
+            const Event& second = m_facts.events[pair.second];
+            add(translated(QT_TRANSLATE_NOOP("Continuity", "%1 is in two places at once: \"%2\" and \"%3\"."))
+                    .arg(m_facts.things[participant].name, first.name, second.name),
+                {first.id, second.id});
+        }
+    }
+
+    void findOutsideLifespans()
+    {
+        for (const Event& event : m_facts.events) {
+            for (const quint32 participant : event.participants) {
+                const Thing& thing = m_facts.things[participant];
+                if (thing.lifespan.birth && event.span.start < *thing.lifespan.birth) {
+                    add(translated(
+                            QT_TRANSLATE_NOOP("Continuity", "%1 takes part in \"%2\" before being born."))
+                            .arg(thing.name, event.name),
+                        {event.id});
+                }
+                if (thing.lifespan.death && event.span.end > *thing.lifespan.death) {
+                    add(translated(QT_TRANSLATE_NOOP("Continuity", "%1 takes part in \"%2\" after death."))
+                            .arg(thing.name, event.name),
+                        {event.id});
+                }
+            }
+        }
+    }
+
+    void findHurries(quint32 participant)
+    {
+        for (const EventPair& pair : m_sweep.hurries(m_sweep.itinerary(participant))) {
+            const Event& first = m_facts.events[pair.first];
+            const Event& second = m_facts.events[pair.second];
+            const bool isFirstEarlier = first.span.start <= second.span.start;
+            const Event& earlier = isFirstEarlier ? first : second;
+            const Event& later = isFirstEarlier ? second : first;
+            add(translated(
+                    QT_TRANSLATE_NOOP(
+                        "Continuity", "%1 cannot travel from %2 to %3 in time between \"%4\" and \"%5\"."))
+                    .arg(
+                        m_facts.things[participant].name, m_facts.things[earlier.place].name,
+                        m_facts.things[later.place].name, earlier.name, later.name),
+                {earlier.id, later.id});
+        }
+    }
+
+    void findBrokenConstraints()
+    {
+        for (const Event& event : m_facts.events) {
+            for (const auto& constraint : event.constraints) {
+                const Event& other = m_facts.events[constraint.other];
+                if (holds(constraint.kind, event.span, other.span))
+                    continue;
+                add(translated(QT_TRANSLATE_NOOP("Continuity", "\"%1\" %2 \"%3\", but does not."))
+                        .arg(event.name, translated(phraseOf(constraint.kind)), other.name),
+                    {event.id, other.id});
+            }
+        }
+    }
+
+    const TimelineFacts& m_facts;
+    PairSweep m_sweep;
+    std::vector<ContinuityConflict> m_conflicts;
+};
+
+} // namespace
+
+std::vector<ContinuityConflict> findConflicts(const TimelineFacts& facts)
+{
+    return ConflictFinder(facts).find();
+}
+
+std::vector<ContinuityConflict> validateTimeline(
+    const core::project::Project& project, const ContinuityScope& scope)
+{
+    return findConflicts(gatherFacts(project, scope));
+}
+
+} // namespace tw::app::timeline

@@ -1,0 +1,80 @@
+#include "app/timeline/ContinuityValidator.h"
+#include "app/timeline/RuleComparison.h"
+#include "app/timeline/ScopedLookup.h"
+#include "core/entity/Schema.h"
+
+#include <QCoreApplication>
+
+namespace tw::app::timeline {
+
+using core::entity::Entity;
+using core::entity::ResolvedField;
+using core::project::Project;
+using core::timeline::ContinuityRule;
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("Continuity", text);
+}
+
+std::optional<QString> valueRead(const Project& owner, const Entity& entity, const ContinuityRule& rule)
+{
+    const auto schema = schemaOfEntity(owner, entity);
+    // A field that no longer reaches the entity hides its value but keeps it; a rule still reads that.
+    ResolvedField hidden;
+    hidden.field.key = rule.fieldKey;
+    const ResolvedField* declared = findField(schema, rule.fieldKey);
+    const ResolvedField& field = declared ? *declared : hidden;
+    return rule.instant ? shownValueAt(field, entity, *rule.instant) : shownValue(field, entity);
+}
+
+/** "Ann's mood must be "glad"": a comparison that nobody knows is told by its own name and never holds. */
+QString expectation(const ContinuityRule& rule, const QString& name)
+{
+    const auto comparison = ruleComparisonFromKey(rule.comparison);
+    const QString stated =
+        translated(QT_TRANSLATE_NOOP("Continuity", "%1's %2 %3"))
+            .arg(name, rule.fieldKey, comparison ? ruleComparisonPhrase(*comparison) : rule.comparison);
+    if (comparison && !takesOperand(*comparison))
+        return stated;
+    const QString operand = comparison ? shownOperand(*comparison, rule.value) : rule.value;
+    return stated + translated(QT_TRANSLATE_NOOP("Continuity", " \"%1\"")).arg(operand);
+}
+
+} // namespace
+
+std::vector<ContinuityConflict> validateRules(
+    const Project& project, std::span<const ContinuityRule> rules, const ContinuityScope& scope)
+{
+    const ScopedLookup lookup(project, scope);
+    std::vector<ContinuityConflict> conflicts;
+    for (const ContinuityRule& rule : rules) {
+        const auto* entity = core::content::objectCast<Entity>(lookup.find(rule.entityId));
+        if (!entity) {
+            conflicts.push_back(
+                {translated(
+                     QT_TRANSLATE_NOOP(
+                         "Continuity", "Rule \"%1\" refers to an entity that is no longer in the project."))
+                     .arg(rule.name),
+                 {}});
+            continue;
+        }
+        if (lookup.isHidden(*entity))
+            continue;
+        const auto value = valueRead(lookup.ownerOf(rule.entityId), *entity, rule);
+        const auto comparison = ruleComparisonFromKey(rule.comparison);
+        if (comparison && ruleHolds(*comparison, value, rule.value))
+            continue;
+        conflicts.push_back(
+            {translated(QT_TRANSLATE_NOOP("Continuity", "Rule \"%1\": %2, but is \"%3\"."))
+                 .arg(
+                     rule.name, expectation(rule, entityName(entity)),
+                     value.value_or(translated(QT_TRANSLATE_NOOP("Continuity", "(unset)")))),
+             {rule.entityId}});
+    }
+    return conflicts;
+}
+
+} // namespace tw::app::timeline

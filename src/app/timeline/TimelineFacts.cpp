@@ -1,0 +1,185 @@
+#include "app/timeline/TimelineFacts.h"
+
+#include "app/timeline/ScopedLookup.h"
+#include "core/map/Map.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tw::app::timeline {
+
+using core::ContentId;
+using core::content::ContentObject;
+using core::entity::Entity;
+using core::map::Map;
+using core::project::Project;
+using core::timeline::EventDetails;
+using core::timeline::TimelineEvent;
+
+namespace {
+
+constexpr double minutesPerHour = 60;
+
+quint64 routeKey(quint32 from, quint32 to)
+{
+    const auto [smaller, larger] = std::minmax(from, to);
+    return quint64{smaller} << 32 | larger;
+}
+
+QString eventName(const TimelineEvent& event)
+{
+    return event.title().isEmpty() ? QCoreApplication::translate("Continuity", "Untitled event")
+                                   : event.title();
+}
+
+/** Gives each object that events speak of a number, and resolves it at its first appearance. */
+class FactsGatherer
+{
+public:
+    FactsGatherer(const Project& project, const ContinuityScope& scope)
+        : m_project(project)
+        , m_lookup(project, scope)
+    {}
+
+    TimelineFacts gather()
+    {
+        std::vector<const TimelineEvent*> events;
+        for (const TimelineEvent* event : objectsOf<TimelineEvent>(m_project)) {
+            if (m_lookup.isHidden(*event))
+                continue;
+            m_eventNumbers.insert(event->id(), static_cast<quint32>(events.size()));
+            events.push_back(event);
+        }
+        m_facts.events.reserve(events.size());
+        for (const TimelineEvent* event : events)
+            addEvent(*event);
+        for (const Map* map : objectsOf<Map>(m_project))
+            addRoutes(*map);
+        return std::move(m_facts);
+    }
+
+private:
+    quint32 numberOf(const ContentId& id)
+    {
+        const qsizetype known = m_thingNumbers.size();
+        quint32& number = m_thingNumbers[id];
+        if (m_thingNumbers.size() > known) {
+            number = static_cast<quint32>(m_facts.things.size());
+            m_facts.things.push_back(resolved(id));
+        }
+        return number;
+    }
+
+    TimelineFacts::Thing resolved(const ContentId& id) const
+    {
+        const ContentObject* object = m_lookup.find(id);
+        TimelineFacts::Thing thing;
+        thing.id = id;
+        thing.name = entityName(object);
+        thing.exists = object != nullptr;
+        thing.isHidden = object && m_lookup.isHidden(*object);
+        if (const auto* entity = core::content::objectCast<Entity>(object)) {
+            thing.isEntity = true;
+            thing.lifespan = entity->lifespan();
+        }
+        return thing;
+    }
+
+    void addEvent(const TimelineEvent& event)
+    {
+        const EventDetails& details = event.details();
+        const auto eventNumber = static_cast<quint32>(m_facts.events.size());
+        TimelineFacts::Event& fact = m_facts.events.emplace_back();
+        fact.id = event.id();
+        fact.name = eventName(event);
+        fact.span = {details.startMinute, event.endMinute()};
+        if (!details.locationId.isNull())
+            fact.place = numberOf(details.locationId);
+        fact.participants.reserve(details.participants.size());
+        for (const ContentId& id : details.participants) {
+            if (!id.isNull())
+                addParticipant(fact, eventNumber, numberOf(id));
+        }
+        for (const auto& constraint : details.constraints) {
+            const auto other = m_eventNumbers.constFind(constraint.otherId);
+            if (other != m_eventNumbers.cend() && *other != eventNumber)
+                fact.constraints.push_back({*other, constraint.kind});
+        }
+    }
+
+    void addParticipant(TimelineFacts::Event& fact, quint32 eventNumber, quint32 participant)
+    {
+        m_lastEventOf.resize(m_facts.things.size(), notSeen);
+        if (m_facts.things[participant].isHidden || m_lastEventOf[participant] == eventNumber)
+            return;
+        m_lastEventOf[participant] = eventNumber;
+        fact.participants.push_back(participant);
+    }
+
+    void addRoutes(const Map& map)
+    {
+        for (const auto& route : map.routes()) {
+            const double speed = travelSettingsFor(map, route).travelSpeedPerHour.value_or(0);
+            if (!(speed > 0) || !(route.distance >= 0))
+                continue;
+            // Places that no event speaks of have no number, and no journey to them is ever looked for.
+            const auto from = m_thingNumbers.constFind(route.fromEntityId);
+            const auto to = m_thingNumbers.constFind(route.toEntityId);
+            if (from == m_thingNumbers.cend() || to == m_thingNumbers.cend() || *from == *to)
+                continue;
+            if (!m_facts.things[*from].isHidden && !m_facts.things[*to].isHidden)
+                m_facts.routes.add(*from, *to, route.distance / speed * minutesPerHour);
+        }
+    }
+
+    static constexpr quint32 notSeen = 0xffff'ffff;
+
+    const Project& m_project;
+    ScopedLookup m_lookup;
+    TimelineFacts m_facts;
+    QHash<ContentId, quint32> m_eventNumbers;
+    QHash<ContentId, quint32> m_thingNumbers;
+    /** By number of the thing, so that a second mention in one event is noticed. */
+    std::vector<quint32> m_lastEventOf;
+};
+
+} // namespace
+
+bool overlaps(const TimeSpan& left, const TimeSpan& right)
+{
+    if (left.isMoment() && right.isMoment())
+        return left.start == right.start;
+    if (left.isMoment())
+        return right.start <= left.start && left.start < right.end;
+    if (right.isMoment())
+        return left.start <= right.start && right.start < left.end;
+    return left.start < right.end && right.start < left.end;
+}
+
+void RouteTable::add(quint32 from, quint32 to, double minutes)
+{
+    if (std::isnan(minutes))
+        return;
+    const quint64 key = routeKey(from, to);
+    const double fastest = std::min(minutes, m_minutes.value(key, minutes));
+    m_minutes.insert(key, fastest);
+    for (const quint32 place : {from, to}) {
+        double& longest = m_longest[place];
+        longest = std::max(longest, fastest);
+    }
+}
+
+std::optional<double> RouteTable::minutesBetween(quint32 from, quint32 to) const
+{
+    const auto route = m_minutes.constFind(routeKey(from, to));
+    return route == m_minutes.cend() ? std::nullopt : std::optional(*route);
+}
+
+TimelineFacts gatherFacts(const Project& project, const ContinuityScope& scope)
+{
+    return FactsGatherer(project, scope).gather();
+}
+
+} // namespace tw::app::timeline

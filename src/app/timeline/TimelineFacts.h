@@ -1,0 +1,95 @@
+#pragma once
+
+#include "app/timeline/ContinuityValidator.h"
+#include "core/entity/Entity.h"
+#include "core/timeline/TimelineEvent.h"
+
+#include <QHash>
+
+#include <optional>
+#include <vector>
+
+namespace tw::app::timeline {
+
+/** A stretch of story time, its end not before its start; a moment when both are equal. */
+struct TimeSpan
+{
+    core::calendar::StoryInstant start = 0;
+    core::calendar::StoryInstant end = 0;
+
+    [[nodiscard]] bool isMoment() const { return start == end; }
+};
+
+/**
+ * Spans that merely touch do not overlap; a moment overlaps the span that it stands in or at the start of,
+ * and an equal moment.
+ */
+[[nodiscard]] bool overlaps(const TimeSpan& left, const TimeSpan& right);
+
+/** How long direct journeys take. Places are numbers in TimelineFacts::things. */
+class RouteTable
+{
+public:
+    /** Of several routes between two places the fastest counts. */
+    void add(quint32 from, quint32 to, double minutes);
+
+    [[nodiscard]] bool isEmpty() const { return m_minutes.isEmpty(); }
+    /** None without a direct route. */
+    [[nodiscard]] std::optional<double> minutesBetween(quint32 from, quint32 to) const;
+    /** The longest of the routes that end at a place; 0 without one. */
+    [[nodiscard]] double longestAt(quint32 place) const { return m_longest.value(place, 0); }
+
+private:
+    QHash<quint64, double> m_minutes;
+    /** Never too short; longer than need be when a faster route joined the same places later. */
+    QHash<quint32, double> m_longest;
+};
+
+/**
+ * What the validator needs of a project, resolved once and numbered: a copy that may be looked through on any
+ * thread. Hidden events and participants are left out.
+ */
+struct TimelineFacts
+{
+    static constexpr quint32 noPlace = 0xffff'ffff;
+
+    /** Whatever an event refers to as a participant or a place. */
+    struct Thing
+    {
+        core::ContentId id;
+        QString name;
+        bool exists = false;
+        bool isEntity = false;
+        bool isHidden = false;
+        core::entity::Lifespan lifespan;
+    };
+
+    struct Constraint
+    {
+        /** Number of the other event. */
+        quint32 other = 0;
+        core::timeline::ConstraintKind kind = core::timeline::ConstraintKind::StartsAfter;
+    };
+
+    struct Event
+    {
+        core::ContentId id;
+        QString name;
+        TimeSpan span;
+        quint32 place = noPlace;
+        /** Each once, in the order of first appearance. */
+        std::vector<quint32> participants;
+        std::vector<Constraint> constraints;
+    };
+
+    std::vector<Event> events;
+    std::vector<Thing> things;
+    RouteTable routes;
+};
+
+[[nodiscard]] TimelineFacts gatherFacts(const core::project::Project& project, const ContinuityScope& scope);
+
+/** The same as validateTimeline(), of facts gathered before. */
+[[nodiscard]] std::vector<ContinuityConflict> findConflicts(const TimelineFacts& facts);
+
+} // namespace tw::app::timeline

@@ -1,0 +1,193 @@
+#include "desktop/continuity/ContinuityProblems.h"
+
+#include "app/timeline/TimelineFacts.h"
+#include "desktop/shell/Navigator.h"
+#include "desktop/shell/ProjectSession.h"
+#include "desktop/theme/ThemeManager.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace tw::desktop::continuity {
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+using app::timeline::ContinuityConflict;
+using app::timeline::ContinuityScope;
+using core::content::ContentKind;
+using problems::Problem;
+
+namespace {
+
+constexpr auto checkRest = 900ms;
+
+ContinuityScope scopeOf(const shell::ProjectSession& session)
+{
+    ContinuityScope scope;
+    for (const app::workspace::MountedLibrary& library : session.workspace().libraries())
+        scope.libraries.push_back(library.project.get());
+    return scope;
+}
+
+} // namespace
+
+ContinuityProblems::ContinuityProblems(const shell::DeskContext& desk, QObject* parent)
+    : ProblemSource(parent)
+    , m_desk(desk)
+{
+    m_pool.setMaxThreadCount(1);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(checkRest);
+    connect(&m_rest, &QTimer::timeout, this, &ContinuityProblems::checkNow);
+    connect(&desk.session, &shell::ProjectSession::changed, this, &ContinuityProblems::followChanges);
+    connect(&desk.session, &shell::ProjectSession::librariesRead, &m_rest, qOverload<>(&QTimer::start));
+    m_rest.start();
+}
+
+ContinuityProblems::~ContinuityProblems()
+{
+    m_pool.waitForDone();
+}
+
+std::vector<problems::ProblemCategory> ContinuityProblems::categories() const
+{
+    return {{u"continuity"_s, tr("Continuity")}};
+}
+
+QColor ContinuityProblems::colorOf(const QString& /*categoryId*/) const
+{
+    return m_desk.themes.theme().color(theme::Role::Thread2);
+}
+
+const std::vector<Problem>& ContinuityProblems::problemsOf(const core::ContentId& object) const
+{
+    static const std::vector<Problem> none;
+    const auto known = m_problems.find(object);
+    return known == m_problems.end() ? none : known->second;
+}
+
+bool ContinuityProblems::mayMatter(const core::project::ProjectChanges& changes) const
+{
+    // What is gone may have been anything; edits of texts, which come all the time, change nothing here.
+    const auto matters = [this](const core::ContentId& id) {
+        const auto* const object = m_desk.session.project().find(id);
+        return object && (object->kind() == ContentKind::TimelineEvent ||
+                          object->kind() == ContentKind::Entity || object->kind() == ContentKind::Map);
+    };
+    return changes.isEverything || changes.isTaxonomyChanged || changes.areSettingsChanged ||
+           !changes.removed.empty() || std::ranges::any_of(changes.added, matters) ||
+           std::ranges::any_of(changes.changed, matters);
+}
+
+void ContinuityProblems::followChanges(const core::project::ProjectChanges& changes)
+{
+    if (!mayMatter(changes))
+        return;
+    m_isStale = m_isChecking;
+    if (changes.isEverything) {
+        m_problems.clear();
+        m_order.clear();
+        emit ownObjectsChanged();
+    }
+    m_rest.start();
+}
+
+void ContinuityProblems::checkNow()
+{
+    m_rest.stop();
+    if (m_isChecking) {
+        m_isStale = true;
+        return;
+    }
+    m_isChecking = true;
+    m_isStale = false;
+    emit busyChanged(true);
+    // The rules are few and read the schema, which is no copy; the events may be many, and are one.
+    const core::project::Project& project = m_desk.session.project();
+    const ContinuityScope scope = scopeOf(m_desk.session);
+    ConflictList broken = validateRules(project, project.continuityRules(), scope);
+    m_pool.start([this, facts = gatherFacts(project, scope), broken = std::move(broken)] {
+        ConflictList conflicts = findConflicts(facts);
+        conflicts.insert(conflicts.end(), broken.begin(), broken.end());
+        QMetaObject::invokeMethod(
+            this, [this, conflicts = std::move(conflicts)] { finish(conflicts); }, Qt::QueuedConnection);
+    });
+}
+
+void ContinuityProblems::finish(const ConflictList& conflicts)
+{
+    m_isChecking = false;
+    if (m_isStale) {
+        checkNow();
+        return;
+    }
+    const auto former = std::exchange(m_problems, {});
+    const auto formerOrder = std::exchange(m_order, {});
+    for (const ContinuityConflict& conflict : conflicts) {
+        const core::ContentId object = conflict.ids.empty() ? core::ContentId() : conflict.ids.front();
+        auto& problems = m_problems[object];
+        if (problems.empty())
+            m_order.push_back(object);
+        Problem problem;
+        problem.categoryId = u"continuity"_s;
+        problem.message = conflict.message;
+        problem.ordinal = static_cast<int>(problems.size());
+        problems.push_back(std::move(problem));
+    }
+    std::vector<core::ContentId> changed;
+    for (const core::ContentId& object : formerOrder) {
+        if (problemsOf(object) != former.at(object))
+            changed.push_back(object);
+    }
+    for (const core::ContentId& object : m_order) {
+        if (!former.contains(object))
+            changed.push_back(object);
+    }
+    if (!changed.empty())
+        emit problemsChanged(changed);
+    if (m_order != formerOrder)
+        emit ownObjectsChanged();
+    emit busyChanged(false);
+}
+
+void ContinuityProblems::finishNow()
+{
+    checkNow();
+    while (m_isChecking) {
+        m_pool.waitForDone();
+        QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+    }
+}
+
+void ContinuityProblems::show(const core::ContentId& object, const Problem& problem)
+{
+    if (object.isNull()) {
+        m_desk.navigator.say(problem.message);
+        return;
+    }
+    m_desk.navigator.setCurrent(object);
+    m_desk.navigator.open(object);
+}
+
+QStringList ContinuityProblems::suggestions(const core::ContentId& /*object*/, const Problem& /*problem*/)
+{
+    return {};
+}
+
+void ContinuityProblems::replace(
+    const core::ContentId& /*object*/, const Problem& /*problem*/, const QString& /*suggestion*/)
+{}
+
+void ContinuityProblems::ignore(const core::ContentId& /*object*/, const Problem& /*problem*/) {}
+
+bool ContinuityProblems::hasIgnored(const core::ContentId& /*object*/)
+{
+    return false;
+}
+
+void ContinuityProblems::restoreIgnored(const core::ContentId& /*object*/) {}
+
+} // namespace tw::desktop::continuity

@@ -1,0 +1,147 @@
+#include "desktop/continuity/RulesDialog.h"
+
+#include "core/timeline/TimelineCommands.h"
+#include "desktop/continuity/RuleForm.h"
+#include "desktop/fields/NoteLabel.h"
+#include "desktop/project/ListEditor.h"
+#include "desktop/shell/ProjectSession.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSet>
+#include <QVBoxLayout>
+
+namespace tw::desktop::continuity {
+
+using namespace Qt::Literals::StringLiterals;
+using core::timeline::ContinuityRule;
+
+namespace {
+
+constexpr int charactersWide = 96;
+constexpr int linesHigh = 22;
+constexpr int ruleRole = Qt::UserRole;
+
+} // namespace
+
+QString faultIn(const RuleList& rules)
+{
+    QSet<QString> names;
+    for (const ContinuityRule& rule : rules) {
+        const QString name = rule.name.trimmed();
+        if (name.isEmpty())
+            return RulesDialog::tr("Every rule needs a name.");
+        if (names.contains(name.toCaseFolded()))
+            return RulesDialog::tr("Two rules are called “%1”. Give one of them another name.").arg(name);
+        names.insert(name.toCaseFolded());
+        if (rule.entityId.isNull())
+            return RulesDialog::tr("Choose the entity that “%1” is about.").arg(name);
+        if (rule.fieldKey.isEmpty())
+            return RulesDialog::tr("Choose the property that “%1” looks at.").arg(name);
+    }
+    return {};
+}
+
+RulesDialog::RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget* parent)
+    : QDialog(parent)
+    , m_rules(std::move(rules))
+    , m_list(new project::ListEditor(
+          desk, tr("Continuity rules"),
+          tr("No rules: add one to hear when an entity is not what the story needs."), this))
+    , m_form(new RuleForm(desk, this))
+    , m_note(new fields::NoteLabel(desk.themes, this))
+{
+    setWindowTitle(tr("Continuity Rules"));
+    setSizeGripEnabled(true);
+    connect(m_list->addButton(tr("&Add Rule")), &QPushButton::clicked, this, &RulesDialog::addRule);
+    connect(m_list, &project::ListEditor::removeRequested, this, &RulesDialog::removeRow);
+    connect(&m_list->list(), &QListWidget::currentRowChanged, this, &RulesDialog::showCurrent);
+    connect(m_form, &RuleForm::edited, this, &RulesDialog::takeForm);
+    for (std::size_t rule = 0; rule < m_rules.size(); ++rule)
+        addRow(rule);
+
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
+    buttons->addButton(tr("Apply Rules"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &RulesDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &RulesDialog::reject);
+    auto* const columns = new QHBoxLayout;
+    columns->addWidget(m_list, 1);
+    columns->addWidget(m_form, 1);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(columns, 1);
+    layout->addWidget(m_note);
+    layout->addWidget(buttons);
+    resize(fontMetrics().averageCharWidth() * charactersWide, fontMetrics().height() * linesHigh);
+    m_list->list().setCurrentRow(0);
+    showCurrent();
+}
+
+RuleList RulesDialog::rules() const
+{
+    RuleList rules;
+    for (int row = 0; row < m_list->list().count(); ++row)
+        rules.push_back(m_rules[m_list->list().item(row)->data(ruleRole).toULongLong()]);
+    return rules;
+}
+
+void RulesDialog::addRow(std::size_t rule)
+{
+    auto* const item = new QListWidgetItem(m_rules[rule].name, &m_list->list());
+    item->setData(ruleRole, static_cast<qulonglong>(rule));
+}
+
+void RulesDialog::addRule()
+{
+    ContinuityRule rule;
+    rule.name = tr("New rule");
+    m_rules.push_back(std::move(rule));
+    addRow(m_rules.size() - 1);
+    m_list->list().setCurrentRow(m_list->list().count() - 1);
+    m_form->focusName();
+}
+
+void RulesDialog::removeRow(int row)
+{
+    delete m_list->list().takeItem(row);
+}
+
+void RulesDialog::showCurrent()
+{
+    const QListWidgetItem* const item = m_list->list().currentItem();
+    m_form->setEnabled(item);
+    m_form->setRule(item ? m_rules[item->data(ruleRole).toULongLong()] : ContinuityRule());
+}
+
+void RulesDialog::takeForm()
+{
+    QListWidgetItem* const item = m_list->list().currentItem();
+    if (!item)
+        return;
+    ContinuityRule& rule = m_rules[item->data(ruleRole).toULongLong()];
+    rule = m_form->rule();
+    item->setText(rule.name);
+    m_note->setNote({});
+}
+
+void RulesDialog::accept()
+{
+    if (!m_form->commit())
+        return;
+    const QString fault = faultIn(rules());
+    m_note->setNote(fault, fields::NoteLabel::Tone::Error);
+    if (fault.isEmpty())
+        QDialog::accept();
+}
+
+void editContinuityRules(const shell::DeskContext& desk, QWidget* parent)
+{
+    RulesDialog dialog(desk, desk.session.project().continuityRules(), parent);
+    if (dialog.exec() != QDialog::Accepted || dialog.rules() == desk.session.project().continuityRules())
+        return;
+    desk.session.apply(std::make_unique<core::timeline::SetContinuityRulesCommand>(
+        desk.session.projectForCommands(), dialog.rules()));
+}
+
+} // namespace tw::desktop::continuity

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "core/timeline/ContinuityRule.h"
+#include "desktop/shell/DeskContext.h"
+
+#include <QDialog>
+
+#include <vector>
+
+namespace tw::desktop::fields {
+class NoteLabel;
+}
+namespace tw::desktop::project {
+class ListEditor;
+}
+
+namespace tw::desktop::continuity {
+
+class RuleForm;
+
+using RuleList = std::vector<core::timeline::ContinuityRule>;
+
+/** What keeps the rules from being stored, for the writer; empty when nothing does. */
+[[nodiscard]] QString faultIn(const RuleList& rules);
+
+/** The writer's continuity rules in a list, with a form for the current one. Changes nothing by itself. */
+class RulesDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget* parent);
+
+    [[nodiscard]] RuleList rules() const;
+    /** Refused, with a note, while a rule is not complete. */
+    void accept() override;
+
+private:
+    void addRow(std::size_t rule);
+    void addRule();
+    void removeRow(int row);
+    void showCurrent();
+    void takeForm();
+
+    /** The rows of the list know their numbers here; removed ones stay. */
+    RuleList m_rules;
+    project::ListEditor* m_list;
+    RuleForm* m_form;
+    fields::NoteLabel* m_note;
+};
+
+/** Asks, and stores the answer as one step. */
+void editContinuityRules(const shell::DeskContext& desk, QWidget* parent);
+
+} // namespace tw::desktop::continuity

@@ -1,0 +1,116 @@
+#include "app/mcp/ChangingToolFixture.h"
+#include "app/mcp/ToolFamilies.h"
+#include "core/entity/Entity.h"
+#include "core/timeline/TimelineEvent.h"
+
+namespace tw::app::mcp {
+
+using namespace Qt::Literals::StringLiterals;
+using core::entity::Entity;
+
+namespace {
+
+class ContinuityToolsTest : public ChangingToolFixture
+{
+protected:
+    ContinuityToolsTest()
+        : ChangingToolFixture({registerTimelineTools})
+    {
+        core::taxonomy::Field mood;
+        mood.key = u"mood_1"_s;
+        mood.label = u"Mood"_s;
+        core::taxonomy::Category people;
+        people.id = core::CategoryId::create();
+        people.name = u"People"_s;
+        people.fields = {mood};
+        workspace.projectForEdit().taxonomyForEdit().insert(people);
+        ann = &add<Entity>(people.id, u"Ann"_s);
+        ann->setValue(u"mood_1"_s, u"glad"_s);
+        add<Entity>(people.id, u"Secret"_s).setAiExcluded(true);
+    }
+
+    Entity* ann = nullptr;
+};
+
+const QString createLabel = u"MCP: create continuity rule"_s;
+
+} // namespace
+
+TEST_F(ContinuityToolsTest, conflictsAreNumbered)
+{
+    EXPECT_EQ(call("get_conflicts").text, u"No conflicts found."_s);
+    ann->setLifespan({100, {}});
+    core::timeline::EventDetails feast;
+    feast.title = u"Feast %1"_s;
+    feast.participants = {ann->id(), core::ContentId::create()};
+    core::timeline::TimelineEvent& event = add<core::timeline::TimelineEvent>(feast);
+    EXPECT_EQ(
+        call("get_conflicts").text,
+        u"1. \"Feast %1\" lists a participant that no longer exists.\n2. Ann takes part in \"Feast %1\" before being born."_s);
+    event.setAiExcluded(true);
+    EXPECT_EQ(call("get_conflicts").text, u"No conflicts found."_s);
+    expectNothingToDo("get_conflicts", {{"{}", u"No conflicts found."_s}});
+}
+
+TEST_F(ContinuityToolsTest, rulesAreMadeOfFieldsThatReachTheEntity)
+{
+    EXPECT_EQ(call("list_continuity_rules").text, u"There are no continuity rules in this project."_s);
+    expectChange(
+        "create_continuity_rule", createLabel,
+        {R"({"name":"Glad","entity":"ann","field":"mood","value":"glad"})",
+         u"Created continuity rule 'Glad'."_s});
+    expectChange(
+        "create_continuity_rule", createLabel,
+        {R"({"name":"Sad","entity":"Ann","field":"mood_1","comparison":"oneOf","value":"sad|blue","date":"5"})",
+         u"Created continuity rule 'Sad'. It does not hold now: Rule \"Sad\": Ann's mood_1 must be one of \"sad, blue\", but is \"glad\"."_s});
+    expectChange(
+        "create_continuity_rule", createLabel,
+        {R"({"name":"Any","entity":"Ann","field":"Mood","comparison":"isNonEmpty"})",
+         u"Created continuity rule 'Any'."_s});
+    auto rules = project().continuityRules();
+    rules.push_back({u"Odd"_s, ann->id(), u"mood_1"_s, u"rhymes"_s, u"x"_s, {}});
+    rules.push_back(
+        {u"Hidden"_s, project().names().named(u"Secret").front(), u"mood_1"_s, u"equals"_s, u"x"_s, {}});
+    workspace.projectForEdit().setContinuityRules(rules);
+    EXPECT_EQ(
+        call("list_continuity_rules").text,
+        u"- Glad: Ann's mood_1 must be \"glad\", at any time\n"
+        "- Sad: Ann's mood_1 must be one of \"sad, blue\", on 1 January, Year 5 CE\n"
+        "- Any: Ann's mood_1 must be non-empty, at any time\n"
+        "- Odd: Ann's mood_1 (unknown comparison 'rhymes') \"x\", at any time\n"
+        "- Hidden: (an entity excluded from AI)"_s);
+    EXPECT_EQ(
+        call("get_conflicts").text.section(u'\n', 0, 0),
+        u"1. Rule \"Sad\": Ann's mood_1 must be one of \"sad, blue\", but is \"glad\"."_s);
+    expectChange(
+        "delete_continuity_rule", u"MCP: delete continuity rule"_s,
+        {R"({"name":"sad"})", u"Deleted continuity rule 'Sad'."_s});
+}
+
+TEST_F(ContinuityToolsTest, rulesThatMeanNothingAreRefused)
+{
+    workspace.projectForEdit().setContinuityRules({{u"Glad"_s, ann->id(), u"mood_1"_s, u"equals"_s, {}, {}}});
+    expectRefused(
+        "create_continuity_rule",
+        {{"{}", u"create_continuity_rule needs \"name\", \"entity\", and \"field\"."_s},
+         {R"({"name":"","entity":"Ann","field":"Mood","value":"x"})", u"A non-empty name is required."_s},
+         {R"({"name":"GLAD","entity":"Ann","field":"Mood","value":"x"})",
+          u"A continuity rule named 'GLAD' already exists."_s},
+         {R"({"name":"R","entity":"Bert","field":"Mood","value":"x"})", u"No entity named 'Bert' exists."_s},
+         {R"({"name":"R","entity":"Secret","field":"Mood","value":"x"})",
+          u"'Secret' is excluded from AI and cannot be used here."_s},
+         {R"({"name":"R","entity":"Ann","field":"Hair","value":"x"})", u"'Ann' has no field 'Hair'."_s},
+         {R"({"name":"R","entity":"Ann","field":"Mood"})",
+          u"create_continuity_rule needs \"value\" for the comparison equals."_s},
+         {R"({"name":"R","entity":"Ann","field":"Mood","comparison":"rhymes","value":"x"})",
+          u"Unknown \"comparison\" 'rhymes'; use equals (default), notEquals, contains, notContains, "
+          u"lessThan, "
+          "lessOrEqual, greaterThan, greaterOrEqual, isEmpty, isNonEmpty, or oneOf."_s},
+         {R"({"name":"R","entity":"Ann","field":"Mood","value":"x","date":"then"})",
+          u"The date 'then' was not understood; use the project calendar (e.g. \"25 Harvestmoon 1250\" or \"1250\")."_s}});
+    expectRefused(
+        "delete_continuity_rule", {{"{}", u"delete_continuity_rule needs \"name\"."_s},
+                                   {R"({"name":"Other"})", u"No continuity rule named 'Other' exists."_s}});
+}
+
+} // namespace tw::app::mcp
