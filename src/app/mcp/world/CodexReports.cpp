@@ -220,13 +220,11 @@ Tool listCategoryTool()
         .spec =
             {u"list_category"_s,
              u"Lists the entities of a named codex category with one-line summaries. The summary is the "
-             u"entity's "
-             "Summary field, or the first text it has, cut short. Only the category's own entities are "
-             "listed; its "
-             "subcategories are named below, each to be listed by its own call. A category that only a "
-             "mounted "
-             "library has is listed from there. Entities excluded from AI are left out and counted. "
-             "get_project_overview shows which categories there are, get_entity reads one entity."_s,
+             "entity's Summary field, or the first text it has, cut short. Only the category's own entities "
+             "are listed; its subcategories are named below, each to be listed by its own call. A category "
+             "that only a mounted library has is listed from there. Entities excluded from AI are left out "
+             "and counted. get_project_overview shows which categories there are, get_entity reads one "
+             "entity."_s,
              makeObjectSchema({{u"category"_s, textProperty(u"The category's name."_s)}}, {u"category"_s})},
         .handler = listCategory,
     };
@@ -240,14 +238,10 @@ Tool getRelationshipsTool()
         .spec =
             {u"get_relationships"_s,
              u"The codex relationship graph as text: the Reference-field links between entities (spanning "
-             u"mounted "
-             "libraries). One link a line, \"Marda --Spouse--> Tom\". Without \"entity\" it lists every link "
-             "in the "
-             "project; with it, only the links that go out from that entity or lead to it. An entity "
-             "excluded from "
-             "AI is never named, and \"(missing)\" marks a reference whose entity is gone. To make a link "
-             "set the "
-             "reference field with update_entity."_s,
+             "mounted libraries). One link a line, \"Marda --Spouse--> Tom\". Without \"entity\" it lists "
+             "every link in the project; with it, only the links that go out from that entity or lead to it. "
+             "An entity excluded from AI is never named, and \"(missing)\" marks a reference whose entity is "
+             "gone. To make a link set the reference field with update_entity."_s,
              makeObjectSchema(
                  {{u"entity"_s, textProperty(u"Only the links of this entity."_s)},
                   {u"id"_s,
@@ -264,18 +258,12 @@ Tool getCategoryTool()
         .spec =
             {u"get_category"_s,
              u"Shows a category's parent, subcategories, entity count, and its full field schema (each "
-             u"field's "
-             "type, options, whether required, and own vs inherited) -- the read side of add_field / "
-             "remove_field / "
-             "move_field. Call it before create_entity to learn which fields an entity takes, and before "
-             "changing "
-             "the schema. Fields marked fixed get their value from the category that defines them. Own "
-             "fields can "
-             "be removed, moved and converted here; inherited ones only on the category named beside them, "
-             "or "
-             "dropped for this branch with update_category's \"excluded\". Categories of mounted libraries "
-             "can be "
-             "read, not changed."_s,
+             "field's type, options, whether required, and own vs inherited) -- the read side of add_field / "
+             "remove_field / move_field. Call it before create_entity to learn which fields an entity takes, "
+             "and before changing the schema. Fields marked fixed get their value from the category that "
+             "defines them. Own fields can be removed, moved and converted here; inherited ones only on the "
+             "category named beside them, or dropped for this branch with update_category's \"excluded\". "
+             "Categories of mounted libraries can be read, not changed."_s,
              makeObjectSchema({{u"name"_s, textProperty(u"The category's name."_s)}}, {u"name"_s})},
         .handler = getCategory,
     };

@@ -3,7 +3,6 @@
 #include "app/mcp/world/CommentLookup.h"
 #include "app/mcp/world/WorldLookup.h"
 #include "app/mcp/world/WorldTools.h"
-#include "core/content/ObjectName.h"
 
 #include <algorithm>
 #include <map>
@@ -82,7 +81,7 @@ private:
         const ContentObject* const object = m_project.find(target);
         if (!object)
             return u"On an object that is gone"_s;
-        return u"On the %1 '%2'"_s.arg(kindWord(object->kind()), core::content::objectName(*object));
+        return u"On the %1 '%2'"_s.arg(kindWord(object->kind()), shownName(*object));
     }
 
     void add(const std::vector<const Comment*>& thread, const Comment& comment, int depth)
@@ -132,7 +131,7 @@ McpToolResult listComments(ToolContext& context, const ToolArguments& arguments)
     const auto& [object, library] = target.value();
     const Project& project = library ? *library->project : context.workspace.project();
     const QString text = CommentThreads(project, show).textOf(object->id());
-    const QString name = core::content::objectName(*object);
+    const QString name = shownName(*object);
     if (text.isEmpty())
         return McpToolResult::success(u"%1 on '%2'."_s.arg(none, name));
     const QString heading = u"On the %1 '%2'"_s.arg(kindWord(object->kind()), name);
@@ -150,12 +149,11 @@ Tool listCommentsTool()
         .spec =
             {u"list_comments"_s,
              u"Lists comment threads: for one target, or grouped by target across the whole project. Each "
-             u"comment comes "
-             "with its id in square brackets -- what reply_comment and resolve_comment take -- its author, "
-             "time and "
-             "state, the quoted words it is about, and its replies indented below it, oldest first. Without "
-             "\"target\" all threads of the open project are listed. Resolved threads are left out unless "
-             "\"include_resolved\" is true (default false). Comments on objects excluded from AI are never shown."_s,
+             "comment comes with its id in square brackets -- what reply_comment and resolve_comment take -- "
+             "its author, time and state, the quoted words it is about, and its replies indented below it, "
+             "oldest first. Without \"target\" all threads of the open project are listed. Resolved threads "
+             "are left out unless \"include_resolved\" is true (default false). Comments on objects excluded "
+             "from AI are never shown."_s,
              makeObjectSchema(
                  {{u"target"_s, textProperty(u"Only the comments on this object."_s)},
                   {u"id"_s, textProperty(u"The id, in place of \"target\", when several share the name."_s)},

@@ -4,7 +4,6 @@
 #include "app/mcp/world/WorldLookup.h"
 #include "app/mcp/world/WorldTools.h"
 #include "core/content/ContentCommands.h"
-#include "core/content/ObjectName.h"
 #include "core/document/ActiveText.h"
 #include "core/document/markup/PlainText.h"
 #include "core/research/ResearchCommands.h"
@@ -59,15 +58,17 @@ McpToolResult addComment(ToolContext& context, const ToolArguments& arguments)
     if (!target)
         return McpToolResult::failure(target.message());
     const ContentObject& object = *target.value().object;
+    if (object.kind() == core::content::ContentKind::Comment)
+        return McpToolResult::failure(u"To answer a comment call reply_comment with its id."_s);
     const QString body = arguments.text(u"body").trimmed();
     if (body.isEmpty())
         return McpToolResult::failure(u"A non-empty \"body\" is required."_s);
     const QString anchor = arguments.text(u"anchor");
-    const QString name = core::content::objectName(object);
+    const QString name = shownName(object);
     if (isAnchorMissing(object, anchor)) {
         return McpToolResult::failure(u"The words of \"anchor\" do not stand in '%1'. Quote them exactly as "
-                                      u"get_document shows them, or leave "
-                                      "\"anchor\" out to comment on the whole."_s.arg(name));
+                                      "get_document shows them, or leave \"anchor\" out to comment on the "
+                                      "whole."_s.arg(name));
     }
     const QString time = timeText(context);
     auto comment = std::make_unique<Comment>(
@@ -132,16 +133,12 @@ Tool addCommentTool()
         .spec =
             {u"add_comment"_s,
              u"Adds a review comment on a named object (Markdown body permitted). \"target\" is the title or "
-             u"name of any "
-             "object of the project; pass \"type\" when several kinds share the name. \"anchor\" quotes the "
-             "words of a "
-             "document that the comment is about and must stand there exactly; without it the comment is "
-             "about the "
-             "whole object. \"author\" is \"Assistant\" unless given. The target itself is not changed, so a "
-             "locked one "
-             "may be commented on; one excluded from AI or in a mounted library may not. The answer gives "
-             "the id that "
-             "reply_comment and resolve_comment take. Prefer a comment over an edit when the writer should decide."_s,
+             "name of any object of the project; pass \"type\" when several kinds share the name. \"anchor\" "
+             "quotes the words of a document that the comment is about and must stand there exactly; without "
+             "it the comment is about the whole object. \"author\" is \"Assistant\" unless given. The target "
+             "itself is not changed, so a locked one may be commented on; one excluded from AI or in a "
+             "mounted library may not. The answer gives the id that reply_comment and resolve_comment take. "
+             "Prefer a comment over an edit when the writer should decide."_s,
              makeSubjectSchema(
                  u"target"_s, u"The object to comment on."_s,
                  {{u"body"_s, textProperty(u"The comment."_s)},
@@ -163,10 +160,8 @@ Tool replyCommentTool()
         .spec =
             {u"reply_comment"_s,
              u"Posts a threaded reply to an existing comment (address it by the id list_comments prints). "
-             u"The reply "
-             "hangs on the same object as the comment it answers, which stays open or resolved as it is. "
-             "\"author\" is "
-             "\"Assistant\" unless given."_s,
+             "The reply hangs on the same object as the comment it answers, which stays open or resolved as "
+             "it is. \"author\" is \"Assistant\" unless given."_s,
              makeObjectSchema(
                  {{u"comment_id"_s, textProperty(u"The id of the comment to answer."_s)},
                   {u"body"_s, textProperty(u"The reply; Markdown is permitted."_s)},
@@ -185,12 +180,9 @@ Tool resolveCommentTool()
         .spec =
             {u"resolve_comment"_s,
              u"Marks a comment resolved (or reopens it with resolved: false). Takes the id that "
-             u"list_comments prints. "
-             "Resolve the first comment of a thread to close the thread; list_comments leaves resolved "
-             "threads out "
-             "unless asked for them. Nothing is deleted. Resolve a comment of the writer's only when what it "
-             "asks for "
-             "is done."_s,
+             "list_comments prints. Resolve the first comment of a thread to close the thread; list_comments "
+             "leaves resolved threads out unless asked for them. Nothing is deleted. Resolve a comment of "
+             "the writer's only when what it asks for is done."_s,
              makeObjectSchema(
                  {{u"comment_id"_s, textProperty(u"The comment's id."_s)},
                   {u"resolved"_s, booleanProperty(u"False reopens it."_s, true)}},

@@ -32,6 +32,17 @@ Result<const Entity*> findEntity(const Workspace& workspace, const QString& name
     return static_cast<const Entity*>(found.value().object);
 }
 
+/** What only some might see must not come to others unnoticed. */
+QString visibilityWarning(const Entity& source, const Entity& target)
+{
+    const core::content::NameSet& secret = source.visibleTo();
+    if (secret.empty() || secret == target.visibleTo())
+        return {};
+    const QStringList names(secret.begin(), secret.end());
+    return u" Note: '%1' was visible only to %2, and what came from it is now visible to whoever sees '%3'; "
+           "set_visibility changes that."_s.arg(source.name(), names.join(u", "_s), target.name());
+}
+
 McpToolResult mergeEntities(ToolContext& context, const ToolArguments& arguments)
 {
     const Project& project = context.workspace.project();
@@ -49,8 +60,10 @@ McpToolResult mergeEntities(ToolContext& context, const ToolArguments& arguments
         checkHolders(project, plan.value().holders, u"re-point its references to '%1'"_s.arg(sourceName));
     if (!checked)
         return McpToolResult::failure(checked.message());
-    const QString answer = u"Merged '%1' into '%2': %3 reference(s) re-pointed."_s.arg(
-        sourceName, target.value()->name(), QString::number(plan.value().repointedCount));
+    const QString answer =
+        u"Merged '%1' into '%2': %3 reference(s) re-pointed."_s.arg(
+            sourceName, target.value()->name(), QString::number(plan.value().repointedCount)) +
+        visibilityWarning(*source.value(), *target.value());
     return applyAsUndoStep(context.workspace, context.changeLog, u"MCP: merge entities"_s, [&] {
         plan.value().edits.push(context.workspace.projectForEdit(), context.workspace.undoStack());
         return McpToolResult::success(answer);
@@ -106,21 +119,15 @@ Tool mergeEntitiesTool()
         .spec =
             {u"merge_entities"_s,
              u"Merges the source entity into the target: fills gaps in the target, re-points every reference "
-             u"from the "
-             "source, then removes the source. Where both hold a value the target's stays, so read both with "
-             "get_entity first and carry over what would be lost. The source's name and aliases become "
-             "aliases of the "
-             "target, and tags, gallery, plot threads and states over time are joined. References are "
-             "followed "
-             "everywhere: fields now and over time, event participants and places, map pins, regions, tokens "
-             "and "
-             "routes, boards, comments, tasks, languages, plot threads, continuity rules, templates, "
-             "categories that "
-             "hang under the source, and links in text. Text that only mentions the source's name stays as "
-             "written; "
-             "rename_object changes it. Refused when an object that would have to change is locked or "
-             "excluded from "
-             "AI. Either argument may be an id when two entities share a name. One undo step."_s,
+             "from the source, then removes the source. Where both hold a value the target's stays, so read "
+             "both with get_entity first and carry over what would be lost. The source's name and aliases "
+             "become aliases of the target, and tags, gallery, plot threads and states over time are joined. "
+             "References are followed everywhere: fields now and over time, event participants and places, "
+             "map pins, regions, tokens and routes, boards, comments, tasks, languages, plot threads, "
+             "continuity rules, templates, categories that hang under the source, and links in text. Text "
+             "that only mentions the source's name stays as written; rename_object changes it. Refused when "
+             "an object that would have to change is locked or excluded from AI. Either argument may be an "
+             "id when two entities share a name. One undo step."_s,
              makeObjectSchema(
                  {{u"source"_s, textProperty(u"The entity that goes: its name or id."_s)},
                   {u"target"_s, textProperty(u"The entity that stays: its name or id."_s)}},
@@ -137,14 +144,11 @@ Tool splitEntityTool()
         .spec =
             {u"split_entity"_s,
              u"Carves a new entity off an existing one (the inverse of merge_entities): the new entity is "
-             u"created in the "
-             "source's category, copying the chosen fields (and optionally the lifespan). \"fields\" names "
-             "the fields "
-             "to copy, with their states over time; without it only the name is set. \"copy_lifespan\" "
-             "(default false) "
-             "takes birth and death along. The source keeps everything, and references to it stay with it: "
-             "clear "
-             "what has moved with update_entity. \"new_name\" must be new among entities; call check_name first."_s,
+             "created in the source's category, copying the chosen fields (and optionally the lifespan). "
+             "\"fields\" names the fields to copy, with their states over time; without it only the name is "
+             "set. \"copy_lifespan\" (default false) takes birth and death along. The source keeps "
+             "everything, and references to it stay with it: clear what has moved with update_entity. "
+             "\"new_name\" must be new among entities; call check_name first."_s,
              makeObjectSchema(
                  {{u"source"_s, textProperty(u"The entity to copy from: its name or id."_s)},
                   {u"new_name"_s, textProperty(u"The new entity's name."_s)},

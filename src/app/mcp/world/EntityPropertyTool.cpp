@@ -201,20 +201,13 @@ Tool entityPropertyTool()
         .spec =
             {u"entity_property"_s,
              u"A property that belongs to ONE entity -- Vaertis's noble houses, not every kingdom's. "
-             u"\"action\" is add "
-             "(default), remove, or promote. add defines the property on the entity, with \"type\" (default "
-             "text), "
-             "\"options\" for a choice, \"description\", and its \"value\" in the same call; one that is "
-             "already "
-             "there is changed. A property of the same name that the category gives is overridden for this "
-             "entity "
-             "alone, unless it is fixed there, which is refused. remove takes the definition away and keeps "
-             "the "
-             "value, hidden. promote moves the definition up to the entity's category, so that every entity "
-             "in it "
-             "gets the field; values stay. For a field of a whole category use add_field; to set the value "
-             "of a "
-             "property that exists use update_entity."_s,
+             "\"action\" is add (default), remove, or promote. add defines the property on the entity, with "
+             "\"type\" (default text), \"options\" for a choice, \"description\", and its \"value\" in the "
+             "same call; one that is already there is changed. A property of the same name that the category "
+             "gives is overridden for this entity alone, unless it is fixed there, which is refused. remove "
+             "takes the definition away and keeps the value, hidden. promote moves the definition up to the "
+             "entity's category, so that every entity in it gets the field; values stay. For a field of a "
+             "whole category use add_field; to set the value of a property that exists use update_entity."_s,
              makeSubjectSchema(
                  u"entity"_s, u"The entity's name."_s,
                  {{u"property"_s, textProperty(u"The property's name as people see it."_s)},

@@ -196,19 +196,14 @@ Tool getEntityTool()
         .spec =
             {u"get_entity"_s,
              u"One entity: category, aliases, tags, lifespan in the project calendar, field values "
-             u"(references "
-             "resolved to names), state over time, gallery size, and where it is mentioned. Finds it by "
-             "name, by "
-             "one of its aliases, or in a mounted library, which the answer then says. Fields marked [fixed] "
-             "get "
-             "their value from the category and cannot be set on the entity; those marked [own] belong to "
-             "this "
-             "entity alone. Values longer than 300 characters are shortened unless \"full\" is true (default "
-             "false): ask for the full values before you edit one, or its unseen tail is lost. Mentions are "
-             "whole "
-             "words in the text of documents, and timeline events. Entities excluded from AI are not found. "
-             "Call "
-             "list_category or search when you do not know the name."_s,
+             "(references resolved to names), state over time, gallery size, and where it is mentioned. "
+             "Finds it by name, by one of its aliases, or in a mounted library, which the answer then says. "
+             "Fields marked [fixed] get their value from the category and cannot be set on the entity; those "
+             "marked [own] belong to this entity alone. Values longer than 300 characters are shortened "
+             "unless \"full\" is true (default false): ask for the full values before you edit one, or its "
+             "unseen tail is lost. Mentions are whole words in the text of documents, and timeline events. "
+             "Entities excluded from AI are not found. Call list_category or search when you do not know the "
+             "name."_s,
              makeSubjectSchema(
                  u"name"_s, u"The entity's name or one of its aliases."_s,
                  {{u"full"_s, booleanProperty(u"Show every value in full length."_s)}})},

@@ -115,8 +115,8 @@ private:
         for (const core::CategoryId& id : project.taxonomy().childrenUnderEntity(m_entity.id())) {
             if (core::entity::isCategoryBeneath(project, target, id)) {
                 return Failure{
-                    u"Can't move '%1' to '%2': that category hangs somewhere beneath the entity, so the "
-                    "tree would loop."_s.arg(m_entity.name(), *name)};
+                    u"Can't move '%1' to '%2': that category hangs somewhere beneath the entity, so the tree "
+                    "would loop."_s.arg(m_entity.name(), *name)};
             }
         }
         change<core::entity::SetEntityCategoryCommand>(m_entity.categoryId(), target);
@@ -185,20 +185,14 @@ Tool createEntityTool()
         .spec =
             {u"create_entity"_s,
              u"Creates a codex entity, optionally with its aliases, tags, lifespan, and references in the "
-             u"SAME call (one "
-             "undo step) -- no follow-up update_entity needed. \"name\" must be new among entities: call "
-             "check_name "
-             "first, also for near matches. \"category\" must exist; get_category lists the fields it takes, "
-             "which "
-             "\"fields\" then names by label, values written as people write them (dates in the project's "
-             "calendar, "
-             "true or false, one of the choices). \"references\" sets reference fields by the names of "
-             "entities, one "
-             "or a list; they may be in a mounted library, but must exist, so create the other one first. "
-             "\"birth\" "
-             "and \"death\" are dates. An unknown field, a fixed one, or a value that does not suit refuses "
-             "the whole "
-             "call. Required fields left empty are named in the answer."_s,
+             "SAME call (one undo step) -- no follow-up update_entity needed. \"name\" must be new among "
+             "entities: call check_name first, also for near matches. \"category\" must exist; get_category "
+             "lists the fields it takes, which \"fields\" then names by label, values written as people "
+             "write them (dates in the project's calendar, true or false, one of the choices). "
+             "\"references\" sets reference fields by the names of entities, one or a list; they may be in a "
+             "mounted library, but must exist, so create the other one first. \"birth\" and \"death\" are "
+             "dates. An unknown field, a fixed one, or a value that does not suit refuses the whole call. "
+             "Required fields left empty are named in the answer."_s,
              makeObjectSchema(properties, {u"name"_s, u"category"_s})},
         .handler = createEntity,
     };
@@ -226,19 +220,13 @@ Tool updateEntityTool()
         .spec =
             {u"update_entity"_s,
              u"Sparse update of one entity: only the provided keys change, absent keys leave the entity "
-             u"untouched. "
-             "\"fields\" and \"references\" set the fields they name and no others; null or an empty text "
-             "makes a "
-             "field unset. \"aliases\" and \"tags\" replace the whole list. \"timed_values\" adds states "
-             "that hold from "
-             "a date on. \"new_name\" renames the entity itself and refuses a name that another entity has; "
-             "to rename "
-             "it everywhere it is written call rename_object. \"category\" moves it: values whose field does "
-             "not reach "
-             "it there are hidden, not lost. Call get_entity with \"full\": true before you rewrite a long "
-             "value, or "
-             "the part you have not seen is lost. Locked entities, entities excluded from AI and those of "
-             "mounted "
+             "untouched. \"fields\" and \"references\" set the fields they name and no others; null or an "
+             "empty text makes a field unset. \"aliases\" and \"tags\" replace the whole list. "
+             "\"timed_values\" adds states that hold from a date on. \"new_name\" renames the entity itself "
+             "and refuses a name that another entity has; to rename it everywhere it is written call "
+             "rename_object. \"category\" moves it: values whose field does not reach it there are hidden, "
+             "not lost. Call get_entity with \"full\": true before you rewrite a long value, or the part you "
+             "have not seen is lost. Locked entities, entities excluded from AI and those of mounted "
              "libraries are refused."_s,
              makeSubjectSchema(u"name"_s, u"The entity's present name or an alias."_s, properties)},
         .subject = u"name"_s,

@@ -104,21 +104,15 @@ Tool convertFieldTool()
         .spec =
             {u"convert_field"_s,
              u"Changes a category's OWN field to a new type (text/number/boolean/date/reference/choice/url) "
-             u"-- the way "
-             "to make a field created as text (e.g. \"Spouse\") a real reference, with the values already "
-             "entered "
-             "taken along. Converts the current values and the states over time of every entity that has the "
-             "field, "
-             "and those of templates: names become references, dates of the project's calendar become dates, "
-             "\"yes\" and \"no\" become true and false, and back into words again. A value that does not "
-             "suit the "
-             "new type is never lost: it stays as literal text, and the answer lists it. \"options\" is "
-             "needed for "
-             "a choice, \"reference_category\" limits a reference. Converting to the type that the field "
-             "already "
-             "has changes nothing. An inherited field is converted on the category that defines it; "
-             "get_category "
-             "says which. Values of locked entities and entities excluded from AI stay as they are."_s,
+             "-- the way to make a field created as text (e.g. \"Spouse\") a real reference, with the values "
+             "already entered taken along. Converts the current values and the states over time of every "
+             "entity that has the field, and those of templates: names become references, dates of the "
+             "project's calendar become dates, \"yes\" and \"no\" become true and false, and back into words "
+             "again. A value that does not suit the new type is never lost: it stays as literal text, and "
+             "the answer lists it. \"options\" is needed for a choice, \"reference_category\" limits a "
+             "reference. Converting to the type that the field already has changes nothing. An inherited "
+             "field is converted on the category that defines it; get_category says which. Values of locked "
+             "entities and entities excluded from AI stay as they are."_s,
              makeObjectSchema(
                  {{u"category"_s, textProperty(u"The category that defines the field."_s)},
                   {u"field"_s, textProperty(u"The field's label or key."_s)},

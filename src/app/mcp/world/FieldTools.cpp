@@ -178,20 +178,15 @@ Tool addFieldTool()
         .spec =
             {u"add_field"_s,
              u"Defines a typed field on a codex category's schema (or replaces the same-named field already "
-             u"on it). "
-             "\"label\" is what people see; \"type\" is text (default), number, boolean, date, reference, "
-             "choice or "
-             "url. A choice needs \"options\"; a reference may be limited to the entities of "
-             "\"reference_category\" "
-             "and what lies beneath it. \"required\" marks the field as one to fill in. \"fixed\": true with "
-             "\"fixed_value\" gives every entity beneath the category that one value, read-only; a field "
-             "cannot be "
-             "both fixed and required. Every category beneath inherits the field. Replacing keeps its place "
-             "and "
-             "takes the whole definition from this call; values already entered stay as they are, so call "
-             "convert_field instead when the type changes. For a property of a single entity use "
-             "entity_property. "
-             "Call get_category first to see what is there and what is inherited."_s,
+             "on it). \"label\" is what people see; \"type\" is text (default), number, boolean, date, "
+             "reference, choice or url. A choice needs \"options\"; a reference may be limited to the "
+             "entities of \"reference_category\" and what lies beneath it. \"required\" marks the field as "
+             "one to fill in. \"fixed\": true with \"fixed_value\" gives every entity beneath the category "
+             "that one value, read-only; a field cannot be both fixed and required. Every category beneath "
+             "inherits the field. Replacing keeps its place and takes the whole definition from this call; "
+             "values already entered stay as they are, so call convert_field instead when the type changes. "
+             "For a property of a single entity use entity_property. Call get_category first to see what is "
+             "there and what is inherited."_s,
              makeObjectSchema(
                  {{u"category"_s, textProperty(u"The category that gets the field."_s)},
                   {u"label"_s, textProperty(u"The field's name as people see it."_s)},
@@ -217,13 +212,10 @@ Tool removeFieldTool()
         .spec =
             {u"remove_field"_s,
              u"Removes a field from a codex category's own schema. Values already entered are kept -- but "
-             u"nothing will "
-             "show them until a field of the same name is defined again or the call is undone. An inherited "
-             "field "
-             "is refused with the category that defines it; to drop one for this branch only, name it in "
-             "update_category's \"excluded\". A field can be named by its label or its key, as get_category "
-             "lists "
-             "it."_s,
+             "nothing will show them until a field of the same name is defined again or the call is undone. "
+             "An inherited field is refused with the category that defines it; to drop one for this branch "
+             "only, name it in update_category's \"excluded\". A field can be named by its label or its key, "
+             "as get_category lists it."_s,
              makeObjectSchema(
                  {{u"category"_s, textProperty(u"The category that defines the field."_s)},
                   {u"field"_s, textProperty(u"The field's label or key."_s)}},
@@ -241,12 +233,10 @@ Tool moveFieldTool()
         .spec =
             {u"move_field"_s,
              u"Reorders a field within a codex category's own schema, changing the order fields are shown. "
-             u"Pass exactly "
-             "one of \"index\" (the 0-based position among the category's own fields; beyond the end is the "
-             "end), "
-             "\"before\", or \"after\" (another own field). Inherited fields come before a category's own "
-             "ones and "
-             "are ordered where they are defined. Call get_category first to see the order."_s,
+             "Pass exactly one of \"index\" (the 0-based position among the category's own fields; beyond "
+             "the end is the end), \"before\", or \"after\" (another own field). Inherited fields come "
+             "before a category's own ones and are ordered where they are defined. Call get_category first "
+             "to see the order."_s,
              makeObjectSchema(
                  {{u"category"_s, textProperty(u"The category that defines the field."_s)},
                   {u"field"_s, textProperty(u"The field to move: its label or key."_s)},

@@ -4,7 +4,6 @@
 #include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/ObjectFinder.h"
 #include "app/mcp/world/WorldLookup.h"
-#include "core/content/ObjectName.h"
 
 namespace tw::app::mcp {
 

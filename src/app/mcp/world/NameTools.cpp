@@ -182,24 +182,17 @@ Tool renameObjectTool()
         .spec =
             {u"rename_object"_s,
              u"Renames every textual occurrence of a name across the whole project -- object names and "
-             u"aliases, "
-             "document bodies, synopses, points of view and statuses, entity field values and "
-             "state-over-time "
-             "values, task and timeline-event descriptions, comment text, and plot-thread names and "
-             "descriptions. "
-             "Matches whole words in exactly the case given, so renaming 'Marda' never touches 'Mardana' or "
-             "'MARDA'; a possessive or a name in italics is matched. Variants and footnotes of documents are "
-             "included, version snapshots are history and stay, and so do formatting, link targets, and "
-             "values "
-             "that are no text (references follow the object by themselves). Locked objects, objects "
-             "excluded from "
-             "AI and mounted libraries are left alone, and the answer says where the name remains. Refused "
-             "when an "
-             "object would get a name that another one of its kind already has. Call it with \"dry_run\": "
-             "true "
-             "first to see every object it would change, and call check_name for the new name. The whole "
-             "rename is "
-             "one undo step. To change only one entity's name and nothing else use update_entity."_s,
+             "aliases, document bodies, synopses, points of view and statuses, entity field values and "
+             "state-over-time values, task and timeline-event descriptions, comment text, and plot-thread "
+             "names and descriptions. Matches whole words in exactly the case given, so renaming 'Marda' "
+             "never touches 'Mardana' or 'MARDA'; a possessive or a name in italics is matched. Variants and "
+             "footnotes of documents are included, version snapshots are history and stay, and so do "
+             "formatting, link targets, and values that are no text (references follow the object by "
+             "themselves). Locked objects, objects excluded from AI and mounted libraries are left alone, "
+             "and the answer says where the name remains. Refused when an object would get a name that "
+             "another one of its kind already has. Call it with \"dry_run\": true first to see every object "
+             "it would change, and call check_name for the new name. The whole rename is one undo step. To "
+             "change only one entity's name and nothing else use update_entity."_s,
              makeObjectSchema(
                  {{u"old_name"_s, textProperty(u"The name as it stands in the text, in its exact case."_s)},
                   {u"new_name"_s, textProperty(u"What takes its place everywhere."_s)},
@@ -217,16 +210,11 @@ Tool checkNameTool()
         .spec =
             {u"check_name"_s,
              u"Near-matches for a proposed name across every object title and entity alias, by edit "
-             u"distance. Call "
-             "it before create_entity, create_document or rename_object, so that readers are not left with a "
-             "Mara "
-             "and a Marra. Upper and lower case do not count. \"max_distance\" (default 2, at most 10) is "
-             "how many "
-             "letters may be inserted, removed or replaced; 0 lists only names that are the same. Nearest "
-             "names "
-             "come first, and one that is already taken is marked ALREADY IN USE. Mounted libraries are "
-             "included, "
-             "objects excluded from AI are not."_s,
+             "distance. Call it before create_entity, create_document or rename_object, so that readers are "
+             "not left with a Mara and a Marra. Upper and lower case do not count. \"max_distance\" (default "
+             "2, at most 10) is how many letters may be inserted, removed or replaced; 0 lists only names "
+             "that are the same. Nearest names come first, and one that is already taken is marked ALREADY "
+             "IN USE. Mounted libraries are included, objects excluded from AI are not."_s,
              makeObjectSchema(
                  {{u"name"_s, textProperty(u"The proposed name."_s)},
                   {u"max_distance"_s,

@@ -6,7 +6,6 @@
 #include "app/mcp/world/WorldLookup.h"
 #include "app/mcp/world/WorldTools.h"
 #include "core/content/ContentCommands.h"
-#include "core/content/ObjectName.h"
 
 namespace tw::app::mcp {
 
@@ -41,8 +40,7 @@ McpToolResult deleteObject(ToolContext& context, const ToolArguments& arguments)
             u"Comments have no title and are not deleted by tools; close one with resolve_comment."_s);
     }
     const codex::RemovalPlan plan = codex::planRemoval(context.workspace.project(), object);
-    QString answer =
-        u"Deleted the %1 '%2'."_s.arg(kindWord(object.kind()), core::content::objectName(object));
+    QString answer = u"Deleted the %1 '%2'."_s.arg(kindWord(object.kind()), shownName(object));
     if (plan.danglingCount > 0) {
         answer +=
             u" %1 reference(s) to it elsewhere are now dangling."_s.arg(QString::number(plan.danglingCount));
@@ -90,7 +88,7 @@ McpToolResult setVisibility(ToolContext& context, const ToolArguments& arguments
     const auto audiences = readAudiences(context.workspace.project(), arguments.textList(u"audiences"));
     if (!audiences)
         return McpToolResult::failure(audiences.message());
-    const QString name = core::content::objectName(object);
+    const QString name = shownName(object);
     if (audiences.value() == object.visibleTo()) {
         return McpToolResult::success(
             u"The visibility of '%1' already matches; nothing changed."_s.arg(name));
@@ -143,8 +141,7 @@ McpToolResult setAiExclusion(ToolContext& context, const ToolArguments& argument
     if (!found)
         return McpToolResult::failure(found.message());
     ContentObject& object = *found.value();
-    const QString title = core::content::objectName(object);
-    const QString name = title.isEmpty() ? object.id().toString() : title;
+    const QString name = shownName(object);
     const bool excludes = arguments.boolean(u"excluded", true);
     if (object.isAiExcluded() == excludes) {
         return McpToolResult::success((excludes ? u"'%1' is already excluded from AI."_s
@@ -154,8 +151,7 @@ McpToolResult setAiExclusion(ToolContext& context, const ToolArguments& argument
     if (object.isLocked())
         return McpToolResult::failure(locked(name));
     const QString text = excludes ? u"'%1' is now excluded from AI features (its content is withheld from "
-                                    u"the agent snapshot, the world "
-                                    "index, and consistency checks)."_s
+                                    "the agent snapshot, the world index, and consistency checks)."_s
                                   : u"'%1' is included in AI features again."_s;
     return applyAsUndoStep(context.workspace, context.changeLog, u"MCP: set AI exclusion"_s, [&] {
         context.workspace.undoStack().push(
@@ -182,19 +178,13 @@ Tool deleteObjectTool()
         .spec =
             {u"delete_object"_s,
              u"Deletes any titled object (entity, document, map, spreadsheet, timeline event, ...) by name "
-             u"and states "
-             "what type it deleted. When objects of several types share the name, pass \"type\", or \"id\" "
-             "when two "
-             "of one type do. References to it elsewhere are left dangling, and the documents under a "
-             "deleted "
-             "document are no longer in the manuscript: the answer counts both, and undo_last takes the "
-             "deletion "
-             "back with everything. Categories that hung under a deleted entity move up. To combine two "
-             "entities "
-             "without losing references call merge_entities. Locked objects, objects excluded from AI and "
-             "those of "
-             "mounted libraries are refused; categories are deleted with update_category, plot threads with "
-             "delete_plot_thread."_s,
+             "and states what type it deleted. When objects of several types share the name, pass \"type\", "
+             "or \"id\" when two of one type do. References to it elsewhere are left dangling, and the "
+             "documents under a deleted document are no longer in the manuscript: the answer counts both, "
+             "and undo_last takes the deletion back with everything. Categories that hung under a deleted "
+             "entity move up. To combine two entities without losing references call merge_entities. Locked "
+             "objects, objects excluded from AI and those of mounted libraries are refused; categories are "
+             "deleted with update_category, plot threads with delete_plot_thread."_s,
              makeSubjectSchema(u"name"_s, u"The object's title or name."_s, narrowingProperties({}))},
         .subject = u"name"_s,
         .handler = deleteObject,
@@ -210,14 +200,10 @@ Tool setVisibilityTool()
         .spec =
             {u"set_visibility"_s,
              u"Restricts an object to the named audiences (an empty array makes it visible to everyone). "
-             u"\"audiences\" "
-             "replaces the present set and takes only audiences that the project defines, in their exact "
-             "spelling; "
-             "get_project_overview lists them. Works on any titled object; pass \"type\" when several kinds "
-             "share the "
-             "name. Visibility decides what previews, websites and exports for an audience show. It is no "
-             "protection "
-             "from AI: for that use set_ai_exclusion."_s,
+             "\"audiences\" replaces the present set and takes only audiences that the project defines, in "
+             "their exact spelling; get_project_overview lists them. Works on any titled object; pass "
+             "\"type\" when several kinds share the name. Visibility decides what previews, websites and "
+             "exports for an audience show. It is no protection from AI: for that use set_ai_exclusion."_s,
              makeSubjectSchema(
                  u"name"_s, u"The object's title or name."_s,
                  narrowingProperties(
@@ -239,14 +225,10 @@ Tool setAiExclusionTool()
         .spec =
             {u"set_ai_exclusion"_s,
              u"Toggles whether an object is excluded from AI features (per-object privacy). \"excluded\" "
-             u"(default true) "
-             "excludes it: from then on tools neither list nor find nor change it, and its content is "
-             "withheld from "
-             "the assistant. \"excluded\": false includes it again; do that only when the writer asks for "
-             "it. Works on "
-             "any titled object; pass \"type\" when several kinds share the name. Locked objects and objects "
-             "of "
-             "mounted libraries are refused."_s,
+             "(default true) excludes it: from then on tools neither list nor find nor change it, and its "
+             "content is withheld from the assistant. \"excluded\": false includes it again; do that only "
+             "when the writer asks for it. Works on any titled object; pass \"type\" when several kinds "
+             "share the name. Locked objects and objects of mounted libraries are refused."_s,
              makeSubjectSchema(
                  u"name"_s, u"The object's title or name."_s,
                  narrowingProperties(

@@ -147,12 +147,11 @@ Tool getProjectOverviewTool()
         .spec =
             {u"get_project_overview"_s,
              u"The project at a glance: object counts per content type, the category tree with entity "
-             u"counts, "
-             "the calendar, the audience registry, and the mounted libraries with their permissions. Takes "
-             "no "
-             "arguments. Call it first in a session: the names it lists are the ones that list_category, "
-             "get_category, create_entity and set_visibility expect. For the manuscript itself call "
-             "get_manuscript_tree. Entities excluded from AI are counted among the objects but never named."_s,
+             "counts, the calendar, the audience registry, and the mounted libraries with their permissions. "
+             "Takes no arguments. Call it first in a session: the names it lists are the ones that "
+             "list_category, get_category, create_entity and set_visibility expect. For the manuscript "
+             "itself call get_manuscript_tree. Entities excluded from AI are counted among the objects but "
+             "never named."_s,
              makeObjectSchema({})},
         .handler = getProjectOverview,
     };

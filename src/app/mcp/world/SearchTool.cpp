@@ -2,7 +2,6 @@
 #include "app/mcp/registry/Schema.h"
 #include "app/mcp/world/WorldLookup.h"
 #include "app/mcp/world/WorldTools.h"
-#include "core/content/ObjectName.h"
 #include "core/research/Comment.h"
 
 namespace tw::app::mcp {
@@ -29,9 +28,8 @@ bool isHidden(const Project& project, const ContentObject& object)
 
 QString hitText(const TextHit& hit, const workspace::MountedLibrary* library)
 {
-    const QString name = core::content::objectName(*hit.object);
-    const QString text = u"- %1 '%2': %3"_s.arg(
-        kindWord(hit.object->kind()), name.isEmpty() ? hit.object->id().toString() : name, hit.snippet);
+    const QString text =
+        u"- %1 '%2': %3"_s.arg(kindWord(hit.object->kind()), shownName(*hit.object), hit.snippet);
     return library ? u"%1 (from the mounted library '%2')"_s.arg(text, library->name) : text;
 }
 
@@ -82,22 +80,15 @@ Tool searchTool()
         .spec =
             {u"search"_s,
              u"Full-text search across the project and its mounted libraries. Finds \"query\" exactly as "
-             u"typed but "
-             "in letters of any case, also inside longer words, in titles, names and aliases, in the prose "
-             "of "
-             "documents and of their variants, and in every other text: field values, descriptions, "
-             "comments, "
-             "cells, dictionary entries, tags. Formatting marks do not count, and older version snapshots "
-             "are not "
-             "searched. One line per object with the place it was found, objects with a matching title "
-             "first; "
-             "search for one telling word rather than for a sentence. \"type\" narrows it to one content "
-             "type and "
-             "\"limit\" (default 50, at most 500) says how many objects to list. Objects excluded from AI "
-             "are never "
-             "found. To read what was found call get_entity or get_document; to find where text stands "
-             "inside "
-             "documents call find_replace without \"replace\"."_s,
+             "typed but in letters of any case, also inside longer words, in titles, names and aliases, in "
+             "the prose of documents and of their variants, and in every other text: field values, "
+             "descriptions, comments, cells, dictionary entries, tags. Formatting marks do not count, and "
+             "older version snapshots are not searched. One line per object with the place it was found, "
+             "objects with a matching title first; search for one telling word rather than for a sentence. "
+             "\"type\" narrows it to one content type and \"limit\" (default 50, at most 500) says how many "
+             "objects to list. Objects excluded from AI are never found. To read what was found call "
+             "get_entity or get_document; to find where text stands inside documents call find_replace "
+             "without \"replace\"."_s,
              makeObjectSchema(
                  {{u"query"_s, textProperty(u"The text to look for; not a pattern."_s)},
                   {u"type"_s, objectTypeProperty(u"Only objects of this type."_s)},

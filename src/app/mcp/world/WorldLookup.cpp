@@ -97,6 +97,12 @@ Result<const Category*> findCategoryForChange(const Workspace& workspace, const 
     return found.value().category;
 }
 
+QString shownName(const core::content::ContentObject& object)
+{
+    const QString name = core::content::objectName(object);
+    return name.isEmpty() ? object.id().toString() : name;
+}
+
 QString entityText(const Workspace& workspace, const ContentId& id)
 {
     const Entity* entity = workspace.project().findAs<Entity>(id);
@@ -135,10 +141,8 @@ Result<void> checkHolders(const Project& project, const std::set<ContentId>& hol
                 u"Something that is excluded from AI would have to be changed to %1, so tools cannot do it. "
                 "Ask the writer to do it in the desktop app."_s.arg(change)};
         }
-        if (object->isLocked()) {
-            const QString name = core::content::objectName(*object);
-            return Failure{locked(name.isEmpty() ? id.toString() : name)};
-        }
+        if (object->isLocked())
+            return Failure{locked(shownName(*object))};
     }
     return {};
 }

@@ -36,6 +36,9 @@ struct FoundCategory
 [[nodiscard]] core::Result<const core::taxonomy::Category*> findCategoryForChange(
     const workspace::Workspace& workspace, const QString& name);
 
+/** The object's name as answers give it: the id of one that has none. */
+[[nodiscard]] QString shownName(const core::content::ContentObject& object);
+
 /** A reference in words, also to mounted libraries: the name, "(an entity excluded from AI)" or "(missing)".
  */
 [[nodiscard]] QString entityText(const workspace::Workspace& workspace, const core::ContentId& id);

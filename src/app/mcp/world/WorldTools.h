@@ -21,8 +21,9 @@ namespace tw::app::mcp {
 [[nodiscard]] Tool listCategoryTool();
 [[nodiscard]] Tool getRelationshipsTool();
 [[nodiscard]] Tool getCategoryTool();
-// CategoryTools.cpp
+// CategoryCreation.cpp
 [[nodiscard]] Tool createCategoryTool();
+// CategoryUpdate.cpp
 [[nodiscard]] Tool updateCategoryTool();
 // FieldTools.cpp
 [[nodiscard]] Tool addFieldTool();

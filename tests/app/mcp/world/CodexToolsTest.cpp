@@ -21,8 +21,8 @@ TEST_F(CodexToolsTest, categoriesAreCreatedUnderCategoriesAndEntities)
          u"Created category 'Towns' under 'Places'."_s},
         {"create_category", R"({"name": "Houses", "parent_entity": "Vaertis"})", oneStep,
          u"Created category 'Houses' under the entity 'Vaertis'. It starts with NO inherited properties -- "
-         u"nothing "
-         "crosses an entity boundary by default; name what it should take with update_category's \"inherited\"."_s},
+         "nothing crosses an entity boundary by default; name what it should take with update_category's "
+         "\"inherited\"."_s},
         {"create_category", "{}", failure, u"create_category needs a non-empty \"name\"."_s},
         {"create_category", R"({"name": "  "})", failure, u"create_category needs a non-empty \"name\"."_s},
         {"create_category", R"({"name": 7})", failure, u"\"name\" must be a text."_s},
@@ -68,8 +68,7 @@ TEST_F(CodexToolsTest, categoriesAreRenamedMovedAndDeleted)
          "subcategories."_s},
         {"update_category", R"({"name": "Characters", "parent_entity": "Tom"})", failure,
          u"Can't hang 'Characters' from 'Tom': that entity is already somewhere beneath it, so the tree "
-         u"would "
-         "loop."_s},
+         "would loop."_s},
         // What was already pushed is taken back.
         {"update_category", R"({"name": "Characters", "new_name": "People", "parent": "Nobles"})", failure,
          u"Can't move 'People' under 'Nobles': that would nest a category inside one of its own subcategories."_s},
@@ -79,8 +78,7 @@ TEST_F(CodexToolsTest, categoriesAreRenamedMovedAndDeleted)
          u"A non-empty name is required."_s},
         {"update_category", R"({"name": "Nobles", "inherited": ["Age"]})", failure,
          u"'Nobles' does not hang under an entity, so it inherits everything from above already; use "
-         u"\"excluded\" "
-         "to drop properties."_s},
+         "\"excluded\" to drop properties."_s},
         {"update_category", R"({"name": "Nobles", "excluded": ["Crest"]})", failure,
          u"Nothing named 'Crest' comes to 'Nobles' from above; get_category of its parent lists what does."_s},
         {"update_category", R"({"name": "Nobles", "excluded": "Age"})", failure,
@@ -158,13 +156,12 @@ TEST_F(CodexToolsTest, fieldsAreConvertedWithTheirValues)
          u"Converted field 'Age' on 'Characters' from number to text. Migrated 3 value(s)."_s},
         {"convert_field", R"({"category": "Characters", "field": "Rank", "type": "reference"})", oneStep,
          u"Converted field 'Rank' on 'Characters' from choice to reference. Migrated 0 value(s). Kept 2 "
-         u"value(s) that "
-         "name no entity, as literal text: 'Captain', 'Marda's guard'."_s},
+         "value(s) that name no entity, as literal text: 'Captain', 'Marda's guard'."_s},
         {"convert_field",
          R"({"category": "Characters", "field": "Spouse", "type": "choice", "options": ["Tom"]})", oneStep,
          u"Converted field 'Spouse' on 'Characters' from reference to choice. Migrated 1 value(s). Kept 4 "
-         u"value(s) that "
-         "are none of the options, as literal text: 'Marda Mardana', 'Marda', 'Mardana', 'Marda'."_s},
+         "value(s) that are none of the options, as literal text: 'Marda Mardana', 'Marda', 'Mardana', "
+         "'Marda'."_s},
         {"convert_field", R"({"category": "Characters", "field": "Age", "type": "number"})", none,
          u"Field 'Age' on 'Characters' is already a number field; nothing changed."_s},
         {"convert_field", R"({"category": "Characters", "field": "Age", "type": "choice"})", failure,
@@ -181,8 +178,7 @@ TEST_F(CodexToolsTest, fieldsAreConvertedWithTheirValues)
     expectCall(
         {"convert_field", R"({"category": "Characters", "field": "Age", "type": "text"})", oneStep,
          u"Converted field 'Age' on 'Characters' from number to text. Migrated 2 value(s). Left 1 value(s) "
-         u"of "
-         "locked entities or entities excluded from AI as they were."_s});
+         "of locked entities or entities excluded from AI as they were."_s});
 }
 
 TEST_F(CodexToolsTest, anEntityHasPropertiesOfItsOwn)
@@ -192,13 +188,11 @@ TEST_F(CodexToolsTest, anEntityHasPropertiesOfItsOwn)
          u"Added property 'Noble Houses' to 'Vaertis'."_s},
         {"entity_property", R"({"entity": "Marda", "property": "Age", "type": "text", "value": 42})", oneStep,
          u"Added property 'Age' to 'Marda'. “Age” already comes from the category “Characters”. Adding it "
-         u"here gives "
-         "this entity its own version, which overrides the inherited one for it alone."_s},
+         "here gives this entity its own version, which overrides the inherited one for it alone."_s},
         {"entity_property", R"({"entity": "Tom", "property": "Liege"})", failure,
          u"“Liege” is a fixed property of the category “Nobles”, which supplies its value for everything "
-         u"beneath it. "
-         "An entity cannot hold its own — change it on the category, or give this one a differently-named "
-         "property."_s},
+         "beneath it. An entity cannot hold its own — change it on the category, or give this one a "
+         "differently-named property."_s},
         {"entity_property", R"({"entity": "Tom", "property": "X", "type": "number", "value": "many"})",
          failure,
          u"'many' does not suit the number field 'X', which takes a number such as \"3\" or \"2.5\"."_s},
@@ -234,22 +228,19 @@ TEST_F(CodexToolsTest, categoriesAndTheirSchemasAreRead)
     expectCalls({
         {"list_category", R"({"category": "characters"})", none,
          u"- Marda: Marda sails. MARDA drinks; Mardana does not.\nSubcategories: Nobles\n1 entity(ies) "
-         u"excluded from "
-         "AI were omitted."_s},
+         "excluded from AI were omitted."_s},
         {"list_category", R"({"category": "Cities"})", none, u"- Salthaven: Nobody"_s},
         {"list_category", R"({"category": "Nowhere"})", failure, u"No category named 'Nowhere' exists."_s},
         {"list_category", "{}", failure, u"list_category needs \"category\"."_s},
         {"get_category", R"({"name": "Nobles"})", none,
-         u"# Nobles\nParent: Characters\nEntities: 1\nDropped from above: age\n\nFields\n"
-         "- Summary (text; inherited from 'Characters')\n"
-         "- Spouse (reference; inherited from 'Characters')\n"
-         "- Rank (choice: Captain, Marda's guard; inherited from 'Characters')\n"
-         "- First Met (date; inherited from 'Characters')\n"
-         "- Alive (boolean; inherited from 'Characters')\n"
-         "- Liege (reference; fixed to 'Marda'; own)"_s},
+         u"# Nobles\nParent: Characters\nEntities: 1\nDropped from above: age\n\nFields\n- Summary (text; "
+         "inherited from 'Characters')\n- Spouse (reference; inherited from 'Characters')\n- Rank (choice: "
+         "Captain, Marda's guard; inherited from 'Characters')\n- First Met (date; inherited from "
+         "'Characters')\n- Alive (boolean; inherited from 'Characters')\n- Liege (reference; fixed to "
+         "'Marda'; own)"_s},
         {"get_category", R"({"name": "Cities"})", none,
-         u"# Cities\nUnder the entity: Vaertis\nEntities: 1\nTaken through the entity: ruler\n\nFields\n"
-         "- Ruler (text; inherited from 'Places')"_s},
+         u"# Cities\nUnder the entity: Vaertis\nEntities: 1\nTaken through the entity: ruler\n\nFields\n- "
+         "Ruler (text; inherited from 'Places')"_s},
     });
 }
 

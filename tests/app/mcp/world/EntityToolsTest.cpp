@@ -88,8 +88,7 @@ TEST_F(EntityToolsTest, anEntityIsUpdatedSparsely)
          u"Entry 1 of \"timed_values\" needs \"field\" and \"date\"."_s},
         {"update_entity", R"({"name": "Vaertis", "category": "Cities"})", failure,
          u"Can't move 'Vaertis' to 'Cities': that category hangs somewhere beneath the entity, so the tree "
-         u"would "
-         "loop."_s},
+         "would loop."_s},
         {"update_entity", R"({"id": "5eed000a", "fields": {}})", failure,
          u"No entity with id '5eed000a' exists."_s},
         {"update_entity", R"({"fields": {"Age": 1}})", failure,
@@ -122,20 +121,18 @@ TEST_F(EntityToolsTest, anEntityIsReadWithAllItHolds)
     expectCall(
         {"get_entity", R"({"name": "captain marda"})", none,
          u"# Marda\nId: %1\nCategory: Characters\nAliases: Captain Marda, The Gull\nTags: crew\nLifespan: "
-         u"born %2\n\n"
-         "Fields\n- Summary: Marda sails. MARDA drinks; Mardana does not.\n- Spouse: (unset)\n- Rank: "
-         "Captain\n- Age: 41\n"
-         "- First Met: %3\n- Alive: (unset)\n\nState over time\n- Rank from %4: Marda's guard\n\n"
-         "Gallery: 1 image(s)\n\nMentioned in\n- document 'Marda at Sea' (3)\n- document 'The Quay' (2)\n"
-         "- timeline event 'Marda returns' (participant)"_s.arg(
+         "born %2\n\nFields\n- Summary: Marda sails. MARDA drinks; Mardana does not.\n- Spouse: (unset)\n- "
+         "Rank: Captain\n- Age: 41\n- First Met: %3\n- Alive: (unset)\n\nState over time\n- Rank from %4: "
+         "Marda's guard\n\nGallery: 1 image(s)\n\nMentioned in\n- document 'Marda at Sea' (3)\n- document "
+         "'The Quay' (2)\n- timeline event 'Marda returns' (participant)"_s.arg(
              ids.marda.toString(), project().calendar().formatInstant(0),
              project().calendar().formatInstant(1250), project().calendar().formatInstant(100))});
     const QString shortened = run("get_entity", R"({"name": "Tom"})");
     EXPECT_TRUE(shortened.contains(u"- Summary: "_s + QString(300, u'x') + u"...\n"_s));
     EXPECT_TRUE(shortened.endsWith(
         u"NOTE: one or more field values above were shortened for brevity. Call get_entity again with "
-        u"\"full\": true "
-        "before editing any of them, or the unseen tail will be lost when you write the field back."_s));
+        "\"full\": true before editing any of them, or the unseen tail will be lost when you write the field "
+        "back."_s));
     EXPECT_TRUE(shortened.contains(u"- Liege [fixed]: Marda\n"_s));
     const QString full = run("get_entity", R"({"name": "Tom", "full": true})");
     EXPECT_TRUE(full.contains(QString(301, u'x')) && !full.contains(u"NOTE"_s));
@@ -151,8 +148,7 @@ TEST_F(EntityToolsTest, entitiesAreMergedAndSplit)
          u"An entity cannot be merged into itself."_s},
         {"merge_entities", R"({"source": "Vaertis", "target": "Salthaven"})", failure,
          u"Can't hang 'Cities' from 'Salthaven': that entity is already somewhere beneath it, so the tree "
-         u"would "
-         "loop."_s},
+         "would loop."_s},
         {"merge_entities", R"({"source": "Marda"})", failure,
          u"merge_entities needs \"source\" and \"target\"."_s},
         {"split_entity",
@@ -165,6 +161,13 @@ TEST_F(EntityToolsTest, entitiesAreMergedAndSplit)
         {"split_entity", R"({"source": "Nobody", "new_name": "Tomas"})", failure,
          u"No entity named 'Nobody' exists."_s},
     });
+    entity(ids.marda).setVisibleTo({u"Editors"_s});
+    save();
+    expectCall(
+        {"merge_entities", R"({"source": "Marda", "target": "Mardana"})", oneStep,
+         u"Merged 'Marda' into 'Mardana': 20 reference(s) re-pointed. Note: 'Marda' was visible only to "
+         "Editors, and what came from it is now visible to whoever sees 'Mardana'; set_visibility changes "
+         "that."_s});
     workspace.projectForEdit().findForEdit(ids.map)->setLocked(true);
     save();
     expectCall(
@@ -176,8 +179,7 @@ TEST_F(EntityToolsTest, entitiesAreMergedAndSplit)
     expectCall(
         {"merge_entities", R"({"source": "Marda", "target": "Mardana"})", failure,
          u"Something that is excluded from AI would have to be changed to re-point its references to "
-         u"'Marda', "
-         "so tools cannot do it. Ask the writer to do it in the desktop app."_s});
+         "'Marda', so tools cannot do it. Ask the writer to do it in the desktop app."_s});
     // Two of one name are told apart by their ids.
     Entity& twin = add<Entity>(ids.characters, u"Tom"_s);
     expectCalls({
@@ -188,8 +190,7 @@ TEST_F(EntityToolsTest, entitiesAreMergedAndSplit)
          oneStep, u"Merged 'Tom' into 'Tom': 0 reference(s) re-pointed."_s},
         {"merge_entities", R"({"source": "Tom", "target": "Vaertis"})", failure,
          u"The name 'Tom' matches 2 entitys: 'Tom'; 'Tom'. Make the name unique in the desktop app, or use a "
-         u"more "
-         "specific name."_s},
+         "more specific name."_s},
     });
 }
 
@@ -222,8 +223,7 @@ TEST_F(EntityToolsTest, librariesAreReadButNeverChanged)
         Q_UNUSED(this);
     });
     const QString edited = u"'Orm' lives in the mounted library 'Lore'; this server edits only the open "
-                           u"project. Open the library as its own "
-                           "project to change it."_s;
+                           "project. Open the library as its own project to change it."_s;
     expectCalls({
         {"list_category", R"({"category": "Gods"})", none,
          u"From the mounted library 'Lore'.\n- Orm: (no summary)"_s},

@@ -28,18 +28,15 @@ TEST_F(ObjectToolsTest, objectsOfAnyKindAreDeleted)
         {"delete_object", R"({"name": "weather"})", oneStep, u"Deleted the random table 'Weather'."_s},
         {"delete_object", R"({"name": "Marda at Sea"})", oneStep,
          u"Deleted the document 'Marda at Sea'. 1 reference(s) to it elsewhere are now dangling. 1 "
-         u"document(s) under it "
-         "are now unreachable from the manuscript; move them or undo."_s},
+         "document(s) under it are now unreachable from the manuscript; move them or undo."_s},
         {"delete_object", R"({"name": "Vaertis", "type": "entity"})", oneStep,
          u"Deleted the entity 'Vaertis'. 1 reference(s) to it elsewhere are now dangling. 1 category(ies) "
-         u"that hung "
-         "under it moved up to its own category."_s},
+         "that hung under it moved up to its own category."_s},
         {"delete_object", R"({"name": "Vaertis", "type": "map"})", failure,
          u"No map named 'Vaertis' exists."_s},
         {"delete_object", R"({"name": "Vaertis", "type": "ship"})", failure,
          u"Unknown object type 'ship'; use one of: document, entity, spreadsheet, chart, map, timeline, "
-         u"timeline_event, "
-         "media, source, task, canvas, comment, language, random_table, stat_block."_s},
+         "timeline_event, media, source, task, canvas, comment, language, random_table, stat_block."_s},
         {"delete_object", R"({"name": "nothing"})", failure, u"No object named 'nothing' exists."_s},
         {"delete_object", "{}", failure, u"delete_object needs \"name\" (or \"id\")."_s},
         {"delete_object", R"({"name": false})", failure, u"delete_object needs \"name\" (or \"id\")."_s},
@@ -51,8 +48,7 @@ TEST_F(ObjectToolsTest, objectsOfAnyKindAreDeleted)
     expectCalls({
         {"delete_object", R"({"name": "coast"})", failure,
          u"The name 'coast' matches 2 objects: 'Coast'; 'Coast'. Make the name unique in the desktop app, or "
-         u"use a more "
-         "specific name."_s},
+         "use a more specific name."_s},
         {"delete_object", R"({"name": "coast", "type": "map"})", oneStep, u"Deleted the map 'Coast'."_s},
     });
 }
@@ -82,8 +78,7 @@ TEST_F(ObjectToolsTest, exclusionFromAiIsSetAndTakenBack)
     expectCalls({
         {"set_ai_exclusion", R"({"name": "Marda at Sea"})", oneStep,
          u"'Marda at Sea' is now excluded from AI features (its content is withheld from the agent snapshot, "
-         u"the world "
-         "index, and consistency checks)."_s},
+         "the world index, and consistency checks)."_s},
         {"set_ai_exclusion", R"({"name": "Tom", "excluded": false})", none,
          u"'Tom' is already included in AI features."_s},
         {"set_ai_exclusion", R"({"name": "nobody"})", failure, u"No object named 'nobody' exists."_s},
@@ -108,8 +103,9 @@ TEST_F(ObjectToolsTest, commentsAreWrittenAnsweredAndResolved)
          u"A non-empty \"body\" is required."_s},
         {"add_comment", R"({"target": "Marda at Sea", "body": "x", "anchor": "no such words"})", failure,
          u"The words of \"anchor\" do not stand in 'Marda at Sea'. Quote them exactly as get_document shows "
-         u"them, or "
-         "leave \"anchor\" out to comment on the whole."_s},
+         "them, or leave \"anchor\" out to comment on the whole."_s},
+        {"add_comment", R"({"id": ")" + id.toUtf8() + R"(", "body": "x"})", failure,
+         u"To answer a comment call reply_comment with its id."_s},
         {"add_comment", R"({"body": "x"})", failure,
          u"add_comment needs \"target\" (or \"id\") and \"body\"."_s},
         {"reply_comment", onComment(R"(, "body": "No.")"), oneStep, u"Replied to comment %1."_s.arg(id)},
@@ -192,8 +188,8 @@ TEST_F(ObjectToolsTest, namesAreSearchedCheckedAndRenamed)
     expectCall(
         {"rename_object", R"({"old_name": "Marda", "new_name": "Ysolde"})", oneStep,
          u"Renamed 'Marda' to 'Ysolde': 22 occurrence(s) in 9 object(s).\nLeft alone because it is locked: "
-         u"document "
-         "'The Quay' (2 occurrence(s)).\nLeft alone because they are excluded from AI: 1 object(s)."_s});
+         "document 'The Quay' (2 occurrence(s)).\nLeft alone because they are excluded from AI: 1 "
+         "object(s)."_s});
 }
 
 TEST_F(ObjectToolsTest, theOverviewNamesEverythingByItsPlace)

@@ -1,15 +1,12 @@
 #include "app/codex/CategoryEdits.h"
 #include "app/codex/FieldKeys.h"
-#include "app/mcp/registry/Refusals.h"
 #include "app/mcp/registry/Schema.h"
 #include "app/mcp/registry/UndoStep.h"
+#include "app/mcp/world/CategoryPlace.h"
 #include "app/mcp/world/WorldLookup.h"
 #include "app/mcp/world/WorldTools.h"
-#include "core/content/ObjectName.h"
 #include "core/entity/Schema.h"
 #include "core/taxonomy/TaxonomyCommands.h"
-
-#include <algorithm>
 
 namespace tw::app::mcp {
 
@@ -23,101 +20,8 @@ using core::entity::Schema;
 using core::project::Project;
 using core::taxonomy::Category;
 using core::taxonomy::CategoryKeyList;
-using core::taxonomy::Field;
-using workspace::Workspace;
 
 namespace {
-
-/** Where a category is to stand: nothing given, the top level, under a category, or under an entity. */
-struct GivenPlace
-{
-    bool isGiven = false;
-    CategoryId parentId;
-    ContentId entityId;
-    /** What the answer calls it. */
-    QString name;
-};
-
-Result<GivenPlace> readPlace(const Workspace& workspace, const ToolArguments& arguments)
-{
-    const QString entityName = arguments.text(u"parent_entity").trimmed();
-    const QString parentName = arguments.text(u"parent").trimmed();
-    if (!entityName.isEmpty() && !parentName.isEmpty())
-        return Failure{u"Pass at most one of \"parent\" or \"parent_entity\"."_s};
-    if (!entityName.isEmpty()) {
-        const auto entity = resolveByName(workspace, entityName, u"entity"_s, Purpose::Use);
-        if (!entity)
-            return Failure{entity.message()};
-        return GivenPlace{
-            true, {}, entity.value().object->id(), core::content::objectName(*entity.value().object)};
-    }
-    if (parentName.isEmpty())
-        return GivenPlace{arguments.has(u"parent") || arguments.has(u"parent_entity"), {}, {}, {}};
-    const auto parent = findCategoryForChange(workspace, parentName);
-    if (!parent)
-        return Failure{parent.message()};
-    return GivenPlace{true, parent.value()->id, {}, parent.value()->name};
-}
-
-bool isNameTaken(const Project& project, const QString& name, const CategoryId& except)
-{
-    const QString wanted = core::content::foldedName(name);
-    return std::ranges::any_of(project.taxonomy().categories(), [&](const auto& entry) {
-        return entry.first != except && core::content::foldedName(entry.second.name) == wanted;
-    });
-}
-
-Field summaryField()
-{
-    Field field;
-    field.key = u"summary"_s;
-    field.label = u"Summary"_s;
-    return field;
-}
-
-QString createdText(const Category& category, const GivenPlace& place)
-{
-    if (!place.entityId.isNull()) {
-        return u"Created category '%1' under the entity '%2'. It starts with NO inherited properties -- "
-               u"nothing crosses "
-               "an entity boundary by default; name what it should take with update_category's \"inherited\"."_s
-                   .arg(category.name, place.name);
-    }
-    if (!place.parentId.isNull())
-        return u"Created category '%1' under '%2'."_s.arg(category.name, place.name);
-    return u"Created category '%1'."_s.arg(category.name);
-}
-
-McpToolResult createCategory(ToolContext& context, const ToolArguments& arguments)
-{
-    const Project& project = context.workspace.project();
-    if (arguments.text(u"name").trimmed().isEmpty())
-        return McpToolResult::failure(u"create_category needs a non-empty \"name\"."_s);
-    const auto name = readNewName(arguments, u"name");
-    if (!name)
-        return McpToolResult::failure(name.message());
-    if (isNameTaken(project, name.value(), {}))
-        return McpToolResult::failure(u"Category '%1' already exists."_s.arg(name.value()));
-    const auto place = readPlace(context.workspace, arguments);
-    if (!place)
-        return McpToolResult::failure(place.message());
-
-    Category category;
-    category.id = CategoryId::create();
-    category.name = name.value();
-    category.parentId = place.value().parentId;
-    category.parentEntityId = place.value().entityId;
-    category.sortIndex = codex::sortIndexAtEnd(project, category.parentId, category.parentEntityId);
-    // What comes from the parent serves here as well.
-    const Schema above = core::entity::schemaOfCategory(project, category.parentId);
-    if (!core::entity::findField(above, summaryField().key))
-        category.fields = {summaryField()};
-    return applyAsUndoStep(context.workspace, context.changeLog, u"MCP: create category"_s, [&] {
-        context.workspace.undoStack().push(std::make_unique<core::taxonomy::AddCategoryCommand>(
-            context.workspace.projectForEdit(), category));
-        return McpToolResult::success(createdText(category, place.value()));
-    });
-}
 
 /** One call of update_category; every step pushes what differs. */
 class CategoryUpdate
@@ -162,7 +66,7 @@ private:
         const auto name = readNewName(m_arguments, u"new_name");
         if (!name)
             return Failure{name.message()};
-        if (isNameTaken(project(), name.value(), m_id)) {
+        if (isCategoryNameTaken(project(), name.value(), m_id)) {
             return Failure{
                 u"A category named '%1' already exists; renaming onto it would leave both unreachable by "
                 "name."_s.arg(name.value())};
@@ -174,7 +78,7 @@ private:
 
     [[nodiscard]] Result<void> move()
     {
-        const auto place = readPlace(m_context.workspace, m_arguments);
+        const auto place = readCategoryPlace(m_context.workspace, m_arguments);
         if (!place)
             return Failure{place.message()};
         const GivenPlace& to = place.value();
@@ -293,31 +197,6 @@ McpToolResult updateCategory(ToolContext& context, const ToolArguments& argument
 
 } // namespace
 
-Tool createCategoryTool()
-{
-    return {
-        .access = ToolAccess::Changing,
-        .title = u"Create a category"_s,
-        .spec =
-            {u"create_category"_s,
-             u"Creates a codex category (with a standard Summary field). \"name\" is needed and must be new. "
-             u"Without "
-             "a place it stands at the top level; \"parent\" puts it under another category, all of whose "
-             "properties it inherits (the Summary with them); \"parent_entity\" hangs it under one entity of "
-             "the "
-             "project -- the cities of one kingdom rather than cities in general -- where it inherits "
-             "nothing "
-             "until update_category names what it takes. Pass at most one of the two. Add further properties "
-             "with "
-             "add_field, entities with create_entity."_s,
-             makeObjectSchema(
-                 {{u"name"_s, textProperty(u"The new category's name. Needed."_s)},
-                  {u"parent"_s, textProperty(u"The category to put it under."_s)},
-                  {u"parent_entity"_s, textProperty(u"The entity to hang it under."_s)}})},
-        .handler = createCategory,
-    };
-}
-
 Tool updateCategoryTool()
 {
     const QJsonObject names = textProperty(u"A field's name."_s);
@@ -328,19 +207,13 @@ Tool updateCategoryTool()
         .spec =
             {u"update_category"_s,
              u"Renames, moves, or deletes a codex category. Only what you pass changes. \"new_name\" renames "
-             u"it. "
-             "\"parent\" moves it under another category (null or empty: to the top level), "
-             "\"parent_entity\" hangs it "
-             "under an entity; moving it into its own branch is refused. \"excluded\" replaces the list of "
-             "inherited "
-             "properties that it drops for its whole branch: values already entered stay and come back when "
-             "a name "
-             "is left out of the list again. \"inherited\", only for a category under an entity, replaces "
-             "the list of "
-             "properties that it takes through that entity. \"delete\": true removes the category, whatever "
-             "else is "
-             "passed; its entities and subcategories move up to its parent, and nothing of them is lost. "
-             "Refused when "
+             "it. \"parent\" moves it under another category (null or empty: to the top level), "
+             "\"parent_entity\" hangs it under an entity; moving it into its own branch is refused. "
+             "\"excluded\" replaces the list of inherited properties that it drops for its whole branch: "
+             "values already entered stay and come back when a name is left out of the list again. "
+             "\"inherited\", only for a category under an entity, replaces the list of properties that it "
+             "takes through that entity. \"delete\": true removes the category, whatever else is passed; its "
+             "entities and subcategories move up to its parent, and nothing of them is lost. Refused when "
              "one of those entities is locked or excluded from AI. Call get_category first."_s,
              makeObjectSchema(
                  {{u"name"_s, textProperty(u"The category to change."_s)},
