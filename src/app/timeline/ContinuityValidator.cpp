@@ -53,16 +53,21 @@ class ConflictFinder
 public:
     explicit ConflictFinder(const TimelineFacts& facts)
         : m_facts(facts)
-        , m_sweep(facts)
+        , m_itineraries(facts)
     {}
 
     std::vector<ContinuityConflict> find()
     {
-        findMissing();
+        // Two stages look at every participation, and mostly nobody is missing or mortal.
+        if (std::ranges::any_of(m_facts.things, [](const Thing& thing) { return !thing.exists; }))
+            findMissing();
         const std::vector<quint32> participants = participantsById();
         for (const quint32 participant : participants)
             findClashes(participant);
-        findOutsideLifespans();
+        if (std::ranges::any_of(m_facts.things, [](const Thing& thing) {
+                return thing.lifespan != core::entity::Lifespan();
+            }))
+            findOutsideLifespans();
         if (!m_facts.routes.isEmpty()) {
             for (const quint32 participant : participants)
                 findHurries(participant);
@@ -88,14 +93,15 @@ private:
 
     void findMissing()
     {
-        for (const Event& event : m_facts.events) {
+        for (quint32 number = 0; number < m_facts.eventCount(); ++number) {
+            const Event& event = m_facts.events[number];
             if (event.place != TimelineFacts::noPlace && !m_facts.things[event.place].exists) {
                 add(translated(QT_TRANSLATE_NOOP(
                                    "Continuity", "\"%1\" happens at a location that no longer exists."))
                         .arg(event.name),
                     {event.id});
             }
-            for (const quint32 participant : event.participants) {
+            for (const quint32 participant : m_facts.participantsOf(number)) {
                 if (m_facts.things[participant].exists)
                     continue;
                 add(translated(
@@ -108,7 +114,7 @@ private:
 
     void findClashes(quint32 participant)
     {
-        for (const EventPair& pair : m_sweep.clashes(m_sweep.itinerary(participant))) {
+        for (const EventPair& pair : clashes(m_itineraries.of(participant))) {
             const Event& first = m_facts.events[pair.first];
             const Event& second = m_facts.events[pair.second];
             add(translated(QT_TRANSLATE_NOOP("Continuity", "%1 is in two places at once: \"%2\" and \"%3\"."))
@@ -119,8 +125,9 @@ private:
 
     void findOutsideLifespans()
     {
-        for (const Event& event : m_facts.events) {
-            for (const quint32 participant : event.participants) {
+        for (quint32 number = 0; number < m_facts.eventCount(); ++number) {
+            const Event& event = m_facts.events[number];
+            for (const quint32 participant : m_facts.participantsOf(number)) {
                 const Thing& thing = m_facts.things[participant];
                 if (thing.lifespan.birth && event.span.start < *thing.lifespan.birth) {
                     add(translated(
@@ -139,7 +146,7 @@ private:
 
     void findHurries(quint32 participant)
     {
-        for (const EventPair& pair : m_sweep.hurries(m_sweep.itinerary(participant))) {
+        for (const EventPair& pair : hurries(m_itineraries.of(participant), m_facts.routes)) {
             const Event& first = m_facts.events[pair.first];
             const Event& second = m_facts.events[pair.second];
             const bool isFirstEarlier = first.span.start <= second.span.start;
@@ -157,8 +164,9 @@ private:
 
     void findBrokenConstraints()
     {
-        for (const Event& event : m_facts.events) {
-            for (const auto& constraint : event.constraints) {
+        for (quint32 number = 0; number < m_facts.eventCount(); ++number) {
+            const Event& event = m_facts.events[number];
+            for (const auto& constraint : m_facts.constraintsOf(number)) {
                 const Event& other = m_facts.events[constraint.other];
                 if (holds(constraint.kind, event.span, other.span))
                     continue;
@@ -170,7 +178,7 @@ private:
     }
 
     const TimelineFacts& m_facts;
-    PairSweep m_sweep;
+    Itineraries m_itineraries;
     std::vector<ContinuityConflict> m_conflicts;
 };
 

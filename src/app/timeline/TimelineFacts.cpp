@@ -45,16 +45,13 @@ public:
 
     TimelineFacts gather()
     {
-        std::vector<const TimelineEvent*> events;
-        for (const TimelineEvent* event : objectsOf<TimelineEvent>(m_project)) {
-            if (m_lookup.isHidden(*event))
-                continue;
-            m_eventNumbers.insert(event->id(), static_cast<quint32>(events.size()));
-            events.push_back(event);
+        const auto events = m_project.objectsOfKind(TimelineEvent::staticKind);
+        m_facts.events.reserve(events.size() + 1);
+        for (const ContentObject* object : events) {
+            if (!m_lookup.isHidden(*object))
+                addEvent(static_cast<const TimelineEvent&>(*object));
         }
-        m_facts.events.reserve(events.size());
-        for (const TimelineEvent* event : events)
-            addEvent(*event);
+        resolveConstraints();
         for (const Map* map : objectsOf<Map>(m_project))
             addRoutes(*map);
         return std::move(m_facts);
@@ -63,12 +60,11 @@ public:
 private:
     quint32 numberOf(const ContentId& id)
     {
-        const qsizetype known = m_thingNumbers.size();
-        quint32& number = m_thingNumbers[id];
-        if (m_thingNumbers.size() > known) {
-            number = static_cast<quint32>(m_facts.things.size());
-            m_facts.things.push_back(resolved(id));
-        }
+        if (const auto known = m_thingNumbers.constFind(id); known != m_thingNumbers.cend())
+            return *known;
+        const auto number = static_cast<quint32>(m_facts.things.size());
+        m_thingNumbers.insert(id, number);
+        m_facts.things.push_back(resolved(id));
         return number;
     }
 
@@ -80,42 +76,55 @@ private:
         thing.name = entityName(object);
         thing.exists = object != nullptr;
         thing.isHidden = object && m_lookup.isHidden(*object);
-        if (const auto* entity = core::content::objectCast<Entity>(object)) {
-            thing.isEntity = true;
+        if (const auto* entity = core::content::objectCast<Entity>(object))
             thing.lifespan = entity->lifespan();
-        }
         return thing;
     }
 
     void addEvent(const TimelineEvent& event)
     {
         const EventDetails& details = event.details();
-        const auto eventNumber = static_cast<quint32>(m_facts.events.size());
-        TimelineFacts::Event& fact = m_facts.events.emplace_back();
+        const quint32 eventNumber = m_facts.eventCount();
+        TimelineFacts::Event& fact = m_facts.events.back();
         fact.id = event.id();
         fact.name = eventName(event);
         fact.span = {details.startMinute, event.endMinute()};
         if (!details.locationId.isNull())
             fact.place = numberOf(details.locationId);
-        fact.participants.reserve(details.participants.size());
         for (const ContentId& id : details.participants) {
             if (!id.isNull())
-                addParticipant(fact, eventNumber, numberOf(id));
+                addParticipant(eventNumber, numberOf(id));
         }
-        for (const auto& constraint : details.constraints) {
-            const auto other = m_eventNumbers.constFind(constraint.otherId);
-            if (other != m_eventNumbers.cend() && *other != eventNumber)
-                fact.constraints.push_back({*other, constraint.kind});
-        }
+        for (const auto& constraint : details.constraints)
+            m_constraints.push_back({eventNumber, constraint});
+        m_facts.events.emplace_back().firstParticipant = static_cast<quint32>(m_facts.participants.size());
     }
 
-    void addParticipant(TimelineFacts::Event& fact, quint32 eventNumber, quint32 participant)
+    void addParticipant(quint32 eventNumber, quint32 participant)
     {
         m_lastEventOf.resize(m_facts.things.size(), notSeen);
         if (m_facts.things[participant].isHidden || m_lastEventOf[participant] == eventNumber)
             return;
         m_lastEventOf[participant] = eventNumber;
-        fact.participants.push_back(participant);
+        m_facts.participants.push_back(participant);
+    }
+
+    /** Once all events are known, which stand in the order of their ids. */
+    void resolveConstraints()
+    {
+        const std::span events(m_facts.events.data(), m_facts.eventCount());
+        quint32 next = 0;
+        for (const auto& [event, constraint] : m_constraints) {
+            while (next <= event)
+                m_facts.events[next++].firstConstraint = static_cast<quint32>(m_facts.constraints.size());
+            const auto other =
+                std::ranges::lower_bound(events, constraint.otherId, {}, &TimelineFacts::Event::id);
+            const auto number = static_cast<quint32>(other - events.begin());
+            if (other != events.end() && other->id == constraint.otherId && number != event)
+                m_facts.constraints.push_back({number, constraint.kind});
+        }
+        while (next <= events.size())
+            m_facts.events[next++].firstConstraint = static_cast<quint32>(m_facts.constraints.size());
     }
 
     void addRoutes(const Map& map)
@@ -139,7 +148,8 @@ private:
     const Project& m_project;
     ScopedLookup m_lookup;
     TimelineFacts m_facts;
-    QHash<ContentId, quint32> m_eventNumbers;
+    /** With the numbers of their events. */
+    std::vector<std::pair<quint32, core::timeline::RelativeConstraint>> m_constraints;
     QHash<ContentId, quint32> m_thingNumbers;
     /** By number of the thing, so that a second mention in one event is noticed. */
     std::vector<quint32> m_lastEventOf;
@@ -165,10 +175,9 @@ void RouteTable::add(quint32 from, quint32 to, double minutes)
     const quint64 key = routeKey(from, to);
     const double fastest = std::min(minutes, m_minutes.value(key, minutes));
     m_minutes.insert(key, fastest);
-    for (const quint32 place : {from, to}) {
-        double& longest = m_longest[place];
-        longest = std::max(longest, fastest);
-    }
+    m_longest.resize(std::max<std::size_t>(m_longest.size(), std::max(from, to) + 1), 0);
+    for (const quint32 place : {from, to})
+        m_longest[place] = std::max(m_longest[place], fastest);
 }
 
 std::optional<double> RouteTable::minutesBetween(quint32 from, quint32 to) const

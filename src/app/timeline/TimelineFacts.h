@@ -7,6 +7,7 @@
 #include <QHash>
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace tw::app::timeline {
@@ -37,12 +38,15 @@ public:
     /** None without a direct route. */
     [[nodiscard]] std::optional<double> minutesBetween(quint32 from, quint32 to) const;
     /** The longest of the routes that end at a place; 0 without one. */
-    [[nodiscard]] double longestAt(quint32 place) const { return m_longest.value(place, 0); }
+    [[nodiscard]] double longestAt(quint32 place) const
+    {
+        return place < m_longest.size() ? m_longest[place] : 0;
+    }
 
 private:
     QHash<quint64, double> m_minutes;
-    /** Never too short; longer than need be when a faster route joined the same places later. */
-    QHash<quint32, double> m_longest;
+    /** By place. Never too short; longer than need be when a faster route joined the same places later. */
+    std::vector<double> m_longest;
 };
 
 /**
@@ -59,7 +63,6 @@ struct TimelineFacts
         core::ContentId id;
         QString name;
         bool exists = false;
-        bool isEntity = false;
         bool isHidden = false;
         core::entity::Lifespan lifespan;
     };
@@ -77,12 +80,30 @@ struct TimelineFacts
         QString name;
         TimeSpan span;
         quint32 place = noPlace;
-        /** Each once, in the order of first appearance. */
-        std::vector<quint32> participants;
-        std::vector<Constraint> constraints;
+        /** Where those of the event begin in `participants` and `constraints`; they end with the next
+         * event's. */
+        quint32 firstParticipant = 0;
+        quint32 firstConstraint = 0;
     };
 
-    std::vector<Event> events;
+    /** Each once, in the order of first appearance. */
+    [[nodiscard]] std::span<const quint32> participantsOf(quint32 event) const
+    {
+        const quint32 first = events[event].firstParticipant;
+        return std::span(participants).subspan(first, events[event + 1].firstParticipant - first);
+    }
+    [[nodiscard]] std::span<const Constraint> constraintsOf(quint32 event) const
+    {
+        const quint32 first = events[event].firstConstraint;
+        return std::span(constraints).subspan(first, events[event + 1].firstConstraint - first);
+    }
+    [[nodiscard]] quint32 eventCount() const { return static_cast<quint32>(events.size()) - 1; }
+
+    /** With one more behind the last, which says where that one's lists end. */
+    std::vector<Event> events = std::vector<Event>(1);
+    /** Numbers of things, of all events. */
+    std::vector<quint32> participants;
+    std::vector<Constraint> constraints;
     std::vector<Thing> things;
     RouteTable routes;
 };

@@ -6,6 +6,8 @@
 #include "app/spreadsheet/SheetCalculator.h"
 #include "core/spreadsheet/SpreadsheetCommands.h"
 
+#include <algorithm>
+
 namespace tw::app::mcp {
 
 using namespace Qt::Literals::StringLiterals;
@@ -55,6 +57,8 @@ Result<CellTexts> changedCells(const Spreadsheet& sheet, const ToolArguments& ce
 /** " B4 is now 12; B5 is now #DIV/0!." for the formulas among the cells. */
 QString formulaValues(const SheetGrid& grid, const CellTexts& cells)
 {
+    if (std::ranges::none_of(cells, [](const auto& entry) { return spreadsheet::isFormula(entry.second); }))
+        return {};
     const spreadsheet::SheetCalculator sheet(grid);
     QStringList values;
     for (const auto& [position, text] : cells) {
@@ -62,7 +66,7 @@ QString formulaValues(const SheetGrid& grid, const CellTexts& cells)
             values +=
                 u"%1 is now %2"_s.arg(spreadsheet::addressText(position), displayText(sheet.value(position)));
     }
-    return values.isEmpty() ? QString() : u' ' + values.join(u"; "_s) + u'.';
+    return u' ' + values.join(u"; "_s) + u'.';
 }
 
 } // namespace

@@ -95,7 +95,7 @@ Result<ContinuityRule> readRule(const Workspace& workspace, const ToolArguments&
     rule.name = arguments.text(u"name").trimmed();
     if (rule.name.isEmpty())
         return Failure{u"A non-empty name is required."_s};
-    if (namesOf(rules).contains(rule.name, Qt::CaseInsensitive))
+    if (countNamed(namesOf(rules), rule.name) > 0)
         return Failure{u"A continuity rule named '%1' already exists."_s.arg(rule.name)};
     const auto entity = resolveByName(
         workspace, arguments.text(u"entity"), kindWord(core::content::ContentKind::Entity), Purpose::Refer);

@@ -35,11 +35,14 @@ const Timeline* firstTimeline(const Project& project)
     return first == timelines.end() ? nullptr : *first;
 }
 
-/** The named timeline, the first one without a name; null when one has to be made. */
+/**
+ * The named timeline, the first one without a name; null when one has to be made. It may be locked: events
+ * are none of its own data.
+ */
 Result<ContentId> timelineFor(const Workspace& workspace, const ToolArguments& arguments)
 {
     if (const QString name = arguments.text(u"timeline"); !name.isEmpty()) {
-        const auto found = resolveByName(workspace, name, kindWord(ContentKind::Timeline), Purpose::Change);
+        const auto found = resolveByName(workspace, name, kindWord(ContentKind::Timeline), Purpose::Use);
         if (!found)
             return Failure{found.message()};
         return found.value().object->id();

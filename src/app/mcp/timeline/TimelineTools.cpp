@@ -39,7 +39,7 @@ Result<void> checkNewEraName(const EraList& eras, const QString& name)
 {
     if (name.isEmpty())
         return Failure{u"A non-empty name is required."_s};
-    if (namesOf(eras).contains(name, Qt::CaseInsensitive))
+    if (countNamed(namesOf(eras), name) > 0)
         return Failure{u"An era named '%1' already exists."_s.arg(name)};
     return {};
 }

@@ -91,7 +91,9 @@ TEST_F(EventToolsTest, createsAnEventWithAllThatBelongsToIt)
 TEST_F(EventToolsTest, refusesEventsThatCannotBe)
 {
     addEvent(u"Storm"_s, 0);
-    add<Timeline>(u"Locked"_s).setLocked(true);
+    mountLibrary(u"Atlas"_s, [](core::project::Project& library) {
+        library.add(std::make_unique<Timeline>(core::ContentId::create(), u"Far"_s));
+    });
     const auto excluded = u"'Secret' is excluded from AI and cannot be used here."_s;
     expectRefused(
         "create_timeline_event",
@@ -104,8 +106,8 @@ TEST_F(EventToolsTest, refusesEventsThatCannotBe)
          {R"({"title":"A","date":"5","end":"soon"})", notUnderstood(u"soon"_s)},
          {R"({"title":"A","date":"5","end":"4"})", u"The end date '4' is before the event's start."_s},
          {R"({"title":"A","date":"5","timeline":"Moon"})", u"No timeline named 'Moon' exists."_s},
-         {R"({"title":"A","date":"5","timeline":"Locked"})",
-          u"'Locked' is locked. Only the person writing it can unlock it, from the app -- there is no tool for that."_s},
+         {R"({"title":"A","date":"5","timeline":"Far"})",
+          u"'Far' lives in the mounted library 'Atlas'; this server works on the open project's own content."_s},
          {R"({"title":"A","date":"5","participants":["Bert"]})", u"No entity named 'Bert' exists."_s},
          {R"({"title":"A","date":"5","participants":["Secret"]})", excluded},
          {R"({"title":"A","date":"5","location":"Secret","create_missing_entities":true})", excluded},
