@@ -17,7 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 TEST(ProjectToolsTest, aToolIsOneStepThatThePanelsHearOf)
 {
     test::TestDesk desk;
-    ASSERT_TRUE(desk.session.saveAs(desk.folder + u"/tide"_s));
+    ASSERT_TRUE(desk.session.saveAs(desk.folder.filePath(u"tide"_s)));
     ProjectTools tools(desk.session, nullptr);
     ASSERT_TRUE(tools.server());
     int announced = 0;
@@ -44,7 +44,7 @@ TEST(ProjectToolsTest, aToolIsOneStepThatThePanelsHearOf)
 TEST(ProjectToolsTest, anotherProjectGetsItsOwnToolsAndAnEmptyLog)
 {
     test::TestDesk desk;
-    ASSERT_TRUE(desk.session.saveAs(desk.folder + u"/tide"_s));
+    ASSERT_TRUE(desk.session.saveAs(desk.folder.filePath(u"tide"_s)));
     ProjectTools tools(desk.session, nullptr);
     ASSERT_TRUE(tools.call(u"create_document"_s, {{u"title"_s, u"The Ebb"_s}}).ok);
     desk.session.startNew(u"Second"_s);
@@ -77,7 +77,7 @@ TEST(ClientConfigurationTest, everyFormKeepsPathsAsTheyAre)
 TEST(AssistantPageTest, showsTheOpenProject)
 {
     test::TestDesk desk;
-    const QString path = desk.folder + u"/tide"_s;
+    const QString path = desk.folder.filePath(u"tide"_s);
     EXPECT_FALSE(settings::AssistantPage(desk.context, nullptr).snippet().contains(path));
     ASSERT_TRUE(desk.session.saveAs(path));
     settings::AssistantPage page(desk.context, nullptr);
