@@ -28,7 +28,9 @@ class RandomCallsTest : public ToolFixture
 {
 protected:
     RandomCallsTest()
-        : ToolFixture({registerMcpCoreTools, registerMcpWorldTools, registerMcpDocumentTools})
+        : ToolFixture(
+              {registerMcpCoreTools, registerMcpWorldTools, registerMcpDocumentTools,
+               registerMcpTimeAndSpaceTools})
     {
         test::fillWithEveryKind(workspace.projectForEdit());
         test::fillSampleWorld(workspace.projectForEdit());
@@ -118,15 +120,15 @@ protected:
 
     ProjectFileMap filesOnDisk() const
     {
-        ProjectFileMap files;
-        const QDir root(folder());
+        ProjectFileMap onDisk;
+        const QDir base(folder());
         QDirIterator entries(folder(), {u"*.json"_s}, QDir::Files, QDirIterator::Subdirectories);
         while (entries.hasNext()) {
             QFile file(entries.next());
             EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-            files.emplace(root.relativeFilePath(file.fileName()), file.readAll());
+            onDisk.emplace(base.relativeFilePath(file.fileName()), file.readAll());
         }
-        return files;
+        return onDisk;
     }
 
     /** One call and a look at what it left behind. */
