@@ -48,7 +48,12 @@ std::vector<ToolFamily> toolFamilies()
 {
     return {
         {u"core"_s, u"Session"_s, app::mcp::coreTools()},
+        {u"world"_s, u"Codex and project"_s, app::mcp::worldTools()},
         {u"document"_s, u"Documents"_s, app::mcp::documentTools()},
+        {u"calendar"_s, u"Calendar"_s, app::mcp::calendarTools()},
+        {u"map"_s, u"Maps and media"_s, app::mcp::mapMediaTools()},
+        {u"spreadsheet"_s, u"Spreadsheets and charts"_s, app::mcp::spreadsheetTools()},
+        {u"timeline"_s, u"Timeline"_s, app::mcp::timelineTools()},
     };
 }
 

@@ -28,7 +28,9 @@ class RandomCallsTest : public ToolFixture
 {
 protected:
     RandomCallsTest()
-        : ToolFixture({registerMcpCoreTools, registerMcpWorldTools, registerMcpDocumentTools})
+        : ToolFixture(
+              {registerMcpCoreTools, registerMcpWorldTools, registerMcpDocumentTools,
+               registerMcpTimeAndSpaceTools})
     {
         test::fillWithEveryKind(workspace.projectForEdit());
         test::fillSampleWorld(workspace.projectForEdit());
