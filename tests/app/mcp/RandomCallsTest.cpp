@@ -189,7 +189,7 @@ TEST_F(RandomCallsTest, eachCallIsOneStepOrNothing)
     QStringList changing;
     for (const QString& name : changingTools)
         changing.append(name);
-    EXPECT_GT(changing.size(), 20) << changing.join(u' ').toStdString();
+    EXPECT_GT(changing.size(), 30) << changing.join(u' ').toStdString();
     EXPECT_EQ(steps(), std::ssize(snapshots));
     while (!snapshots.empty() && !HasFailure()) {
         workspace.undoStack().undo();
