@@ -172,7 +172,6 @@ TEST_F(EventToolsTest, updatesOnlyWhatIsGiven)
 
 TEST_F(EventToolsTest, stubsAreMadeForNamesThatNothingHas)
 {
-    project();
     core::taxonomy::Category category;
     category.id = core::CategoryId::create();
     category.name = u"People"_s;
