@@ -194,9 +194,9 @@ private:
         }
         const auto count = static_cast<int>(node.operands.size());
         if (node.function && (count < node.function->fewestArguments || count > node.function->mostArguments))
-            return fail(QCoreApplication::translate(
-                            "Spreadsheet", "%1 does not take %n argument(s).", nullptr, count)
-                            .arg(name));
+            return fail(
+                QCoreApplication::translate("Spreadsheet", "%1 does not take %n argument(s).", nullptr, count)
+                    .arg(name));
         return closed(add(std::move(node)));
     }
 

@@ -3,8 +3,6 @@
 #include "app/timeline/ScopedLookup.h"
 #include "core/map/Map.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cmath>
 
@@ -26,12 +24,6 @@ quint64 routeKey(quint32 from, quint32 to)
 {
     const auto [smaller, larger] = std::minmax(from, to);
     return quint64{smaller} << 32 | larger;
-}
-
-QString eventName(const TimelineEvent& event)
-{
-    return event.title().isEmpty() ? QCoreApplication::translate("Continuity", "Untitled event")
-                                   : event.title();
 }
 
 /** Gives each object that events speak of a number, and resolves it at its first appearance. */
@@ -87,7 +79,6 @@ private:
         const quint32 eventNumber = m_facts.eventCount();
         TimelineFacts::Event& fact = m_facts.events.back();
         fact.id = event.id();
-        fact.name = eventName(event);
         fact.span = {details.startMinute, event.endMinute()};
         if (!details.locationId.isNull())
             fact.place = numberOf(details.locationId);

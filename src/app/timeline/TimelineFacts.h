@@ -77,7 +77,6 @@ struct TimelineFacts
     struct Event
     {
         core::ContentId id;
-        QString name;
         TimeSpan span;
         quint32 place = noPlace;
         /** Where those of the event begin in `participants` and `constraints`; they end with the next
@@ -109,8 +108,5 @@ struct TimelineFacts
 };
 
 [[nodiscard]] TimelineFacts gatherFacts(const core::project::Project& project, const ContinuityScope& scope);
-
-/** The same as validateTimeline(), of facts gathered before. */
-[[nodiscard]] std::vector<ContinuityConflict> findConflicts(const TimelineFacts& facts);
 
 } // namespace tw::app::timeline

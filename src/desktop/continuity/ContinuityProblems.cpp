@@ -1,6 +1,6 @@
 #include "desktop/continuity/ContinuityProblems.h"
 
-#include "app/timeline/TimelineFacts.h"
+#include "app/timeline/ConflictFinder.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <memory>
 #include <utility>
 
 namespace tw::desktop::continuity {
@@ -109,21 +110,27 @@ void ContinuityProblems::checkNow()
     const core::project::Project& project = m_desk.session.project();
     const ContinuityScope scope = scopeOf(m_desk.session);
     ConflictList broken = validateRules(project, project.continuityRules(), scope);
-    m_pool.start([this, facts = gatherFacts(project, scope), broken = std::move(broken)] {
-        ConflictList conflicts = findConflicts(facts);
-        conflicts.insert(conflicts.end(), broken.begin(), broken.end());
-        QMetaObject::invokeMethod(
-            this, [this, conflicts = std::move(conflicts)] { finish(conflicts); }, Qt::QueuedConnection);
+    const auto facts = std::make_shared<const app::timeline::TimelineFacts>(gatherFacts(project, scope));
+    m_pool.start([this, facts, broken = std::move(broken)] {
+        auto found = findConflicts(*facts);
+        const auto end = [this, facts, found = std::move(found), broken] {
+            m_isChecking = false;
+            if (m_isStale) {
+                checkNow();
+                return;
+            }
+            // Words need the project, which is still as it was.
+            ConflictList conflicts = wordConflicts(m_desk.session.project(), *facts, found);
+            conflicts.insert(conflicts.end(), broken.begin(), broken.end());
+            list(conflicts);
+            emit busyChanged(false);
+        };
+        QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
     });
 }
 
-void ContinuityProblems::finish(const ConflictList& conflicts)
+void ContinuityProblems::list(const ConflictList& conflicts)
 {
-    m_isChecking = false;
-    if (m_isStale) {
-        checkNow();
-        return;
-    }
     const auto former = std::exchange(m_problems, {});
     const auto formerOrder = std::exchange(m_order, {});
     for (const ContinuityConflict& conflict : conflicts) {
@@ -150,7 +157,6 @@ void ContinuityProblems::finish(const ConflictList& conflicts)
         emit problemsChanged(changed);
     if (m_order != formerOrder)
         emit ownObjectsChanged();
-    emit busyChanged(false);
 }
 
 void ContinuityProblems::finishNow()

@@ -54,7 +54,7 @@ private:
 
     void followChanges(const core::project::ProjectChanges& changes);
     [[nodiscard]] bool mayMatter(const core::project::ProjectChanges& changes) const;
-    void finish(const ConflictList& conflicts);
+    void list(const ConflictList& conflicts);
 
     shell::DeskContext m_desk;
     /** Null for conflicts that no object stands for. */

@@ -137,14 +137,17 @@ void RuleForm::takeEntity()
         isLost ? tr("There is no entity, or more than one, called “%1”.").arg(name) : QString(),
         NoteLabel::Tone::Error);
     fillFields();
-    emit edited();
+    // The property may have been typed by its name before anybody knew whose it is.
+    takeField();
 }
 
 void RuleForm::takeField()
 {
     // Typed text may be a name in the list, or the key of a property that the entity no longer has.
     const QString text = m_field->currentText().trimmed();
-    const int known = m_field->findText(text, Qt::MatchFixedString);
+    int known = m_field->currentIndex();
+    if (known < 0 || m_field->itemText(known) != text)
+        known = m_field->findText(text, Qt::MatchFixedString);
     m_rule.fieldKey = known < 0 ? text : m_field->itemData(known).toString();
     emit edited();
 }
