@@ -120,15 +120,15 @@ protected:
 
     ProjectFileMap filesOnDisk() const
     {
-        ProjectFileMap onDisk;
-        const QDir base(folder());
+        ProjectFileMap found;
+        const QDir place(folder());
         QDirIterator entries(folder(), {u"*.json"_s}, QDir::Files, QDirIterator::Subdirectories);
         while (entries.hasNext()) {
             QFile file(entries.next());
             EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-            onDisk.emplace(base.relativeFilePath(file.fileName()), file.readAll());
+            found.emplace(place.relativeFilePath(file.fileName()), file.readAll());
         }
-        return onDisk;
+        return found;
     }
 
     /** One call and a look at what it left behind. */
