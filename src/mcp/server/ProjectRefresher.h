@@ -28,7 +28,7 @@ public:
 
     /** To be called before the project is used. */
     void refresh();
-    /** To be called after it: what came to the folders meanwhile was saved by the call itself. */
+    /** To be called after a call that may have saved: what came to the folders meanwhile was its own. */
     void acceptOwnSaves() { m_seen = folderStamps(); }
 
 private:

@@ -238,9 +238,10 @@ RpcOutcome ProtocolServer::callTool(const Request& request)
         return invalidParams(u"\"arguments\" must be an object."_s);
     if (!m_catalogue.hasTool(name.toString()))
         return invalidParams(m_catalogue.server().callTool(name.toString(), {}).text);
-    m_hooks.before();
+    m_hooks.beforeUse();
     const auto result = m_catalogue.server().callTool(name.toString(), arguments.toObject());
-    m_hooks.after();
+    if (m_catalogue.access(name.toString()) == app::mcp::ToolAccess::Changing)
+        m_hooks.afterChange();
     const QJsonObject content{{u"type"_s, u"text"_s}, {u"text"_s, result.text}};
     return QJsonObject{{u"content"_s, QJsonArray{content}}, {u"isError"_s, !result.ok}};
 }
@@ -250,7 +251,7 @@ RpcOutcome ProtocolServer::listResources(const Request& request)
     const QJsonValue cursor = request.params.value(u"cursor");
     if (!cursor.isUndefined() && !cursor.isString())
         return invalidParams(u"\"cursor\" must be a text."_s);
-    m_hooks.before();
+    m_hooks.beforeUse();
     auto list = m_resources.list(cursor.toString());
     if (!list)
         return invalidParams(list.message());
@@ -267,7 +268,7 @@ RpcOutcome ProtocolServer::readResource(const Request& request)
     const QJsonValue uri = request.params.value(u"uri");
     if (!uri.isString())
         return invalidParams(u"resources/read needs \"uri\"."_s);
-    m_hooks.before();
+    m_hooks.beforeUse();
     if (auto contents = m_resources.read(uri.toString()))
         return *contents;
     const bool isStateless = request.generation == Generation::Stateless;

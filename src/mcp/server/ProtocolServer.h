@@ -22,11 +22,12 @@ namespace tw::mcp::server {
 class ProtocolServer
 {
 public:
-    /** What runs around everything that reads or changes the project. */
     struct UseHooks
     {
-        std::function<void()> before;
-        std::function<void()> after;
+        /** Runs before anything of the project is read. */
+        std::function<void()> beforeUse;
+        /** Runs after a tool that may have changed and saved it. */
+        std::function<void()> afterChange;
     };
 
     /** The catalogue and the resources outlive the server. */

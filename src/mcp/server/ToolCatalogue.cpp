@@ -2,8 +2,6 @@
 
 #include "app/mcp/ToolFamilies.h"
 
-#include <algorithm>
-
 namespace tw::mcp::server {
 
 using namespace Qt::Literals::StringLiterals;
@@ -83,15 +81,12 @@ core::Result<ToolCatalogue> ToolCatalogue::create(
         if (choice.isReadOnly)
             std::erase_if(tools, [](const Tool& tool) { return tool.access != ToolAccess::ReadOnly; });
         app::mcp::registerTools(catalogue.m_server, workspace, changeLog, tools);
-        for (const Tool& tool : tools)
+        for (const Tool& tool : tools) {
             catalogue.m_listing.append(listed(tool));
+            catalogue.m_access.insert(tool.spec.name, tool.access);
+        }
     }
     return catalogue;
-}
-
-bool ToolCatalogue::hasTool(const QString& name) const
-{
-    return std::ranges::find(m_server.tools(), name, &app::mcp::McpToolSpec::name) != m_server.tools().end();
 }
 
 } // namespace tw::mcp::server

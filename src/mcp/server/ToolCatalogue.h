@@ -4,6 +4,7 @@
 #include "app/mcp/registry/ToolTable.h"
 #include "core/foundation/Result.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QStringList>
 
@@ -46,7 +47,9 @@ public:
         const QString& version);
 
     [[nodiscard]] const app::mcp::McpServer& server() const { return m_server; }
-    [[nodiscard]] bool hasTool(const QString& name) const;
+    [[nodiscard]] bool hasTool(const QString& name) const { return m_access.contains(name); }
+    /** For a tool that is there. */
+    [[nodiscard]] app::mcp::ToolAccess access(const QString& name) const { return m_access.value(name); }
     /** The entries of tools/list, always the same. */
     [[nodiscard]] const QJsonArray& listing() const { return m_listing; }
 
@@ -56,6 +59,7 @@ private:
     {}
 
     app::mcp::McpServer m_server;
+    QHash<QString, app::mcp::ToolAccess> m_access;
     QJsonArray m_listing;
 };
 
