@@ -1,10 +1,10 @@
 #include "desktop/shell/MainWindow.h"
 
 #include "core/document/DocumentTree.h"
+#include "desktop/assistant/ProjectTools.h"
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/goals/WritingSession.h"
 #include "desktop/icons/IconSet.h"
-#include "desktop/assistant/ProjectTools.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
 #include "desktop/manuscript/TextActions.h"
 #include "desktop/project/ProjectFileDialogs.h"

@@ -29,7 +29,8 @@ constexpr qint64 mostGridColumns = 1000;
 
 Result<MapGrid> readGrid(const ToolArguments& arguments)
 {
-    const GridKind kind = core::map::gridKindFromName(arguments.text(u"grid", u"none"_s)).value_or(GridKind::None);
+    const GridKind kind =
+        core::map::gridKindFromName(arguments.text(u"grid", u"none"_s)).value_or(GridKind::None);
     const auto columns = arguments.integer(u"grid_columns");
     if (kind == GridKind::None)
         return MapGrid{};
