@@ -29,7 +29,8 @@ protected:
     QStringList hits(const TextSearch& search) const
     {
         QStringList names;
-        for (const TextHit& hit : searchTexts(project, search).value())
+        const auto found = searchTexts(project, search);
+        for (const TextHit& hit : found.value())
             names.append(core::content::objectName(*hit.object) + u": "_s + hit.snippet);
         return names;
     }
