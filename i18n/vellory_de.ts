@@ -5578,6 +5578,17 @@
         <source>Continuity R&amp;ules…</source>
         <translation>Kontinuitätsrege&amp;ln …</translation>
     </message>
+    <message>
+        <source>The story has no conflicts.</source>
+        <translation>Die Geschichte hat keine Widersprüche.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The story has %Ln conflicts.</source>
+        <translation>
+            <numerusform>Die Geschichte hat %Ln Widerspruch.</numerusform>
+            <numerusform>Die Geschichte hat %Ln Widersprüche.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::OpenRequests</name>

@@ -336,6 +336,16 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::shell::MainWindow</name>
+    <message numerus="yes">
+        <source>The story has %Ln conflicts.</source>
+        <translation>
+            <numerusform>The story has %Ln conflict.</numerusform>
+            <numerusform>The story has %Ln conflicts.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::shell::StatusStrip</name>
     <message numerus="yes">
         <source>Manuscript: %Ln words</source>

@@ -124,6 +124,7 @@ void ContinuityProblems::checkNow()
             conflicts.insert(conflicts.end(), broken.begin(), broken.end());
             list(conflicts);
             emit busyChanged(false);
+            emit checked(std::ssize(conflicts));
         };
         QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
     });

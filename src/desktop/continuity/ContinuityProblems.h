@@ -49,6 +49,10 @@ public:
     /** The same, and waits for the result. */
     void finishNow();
 
+signals:
+    /** A check came to its end. */
+    void checked(qsizetype conflicts);
+
 private:
     using ConflictList = std::vector<app::timeline::ContinuityConflict>;
 

@@ -55,6 +55,8 @@ RulesDialog::RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget
 {
     setWindowTitle(tr("Continuity Rules"));
     setSizeGripEnabled(true);
+    // Long names are cut; nothing is to be scrolled for.
+    m_list->list().setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_list->addButton(tr("&Add Rule")), &QPushButton::clicked, this, &RulesDialog::addRule);
     connect(m_list, &project::ListEditor::removeRequested, this, &RulesDialog::removeRow);
     connect(&m_list->list(), &QListWidget::currentRowChanged, this, &RulesDialog::showCurrent);

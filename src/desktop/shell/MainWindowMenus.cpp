@@ -209,6 +209,14 @@ void MainWindow::addProofreadingActions(QMenu& menu)
         addAction(menu, u"tools.continuity"_s, Icon::Timeline, tr("Check C&ontinuity"), {}, [this] {
             m_problems->showWholeManuscript();
             showProblems();
+            const auto sayResult = [this](qsizetype conflicts) {
+                say(conflicts == 0
+                        ? tr("The story has no conflicts.")
+                        : tr("The story has %Ln conflicts.", nullptr, static_cast<int>(conflicts)));
+            };
+            connect(
+                m_continuity, &continuity::ContinuityProblems::checked, this, sayResult,
+                Qt::SingleShotConnection);
             m_continuity->checkNow();
         }));
     m_projectActions.append(addAction(
