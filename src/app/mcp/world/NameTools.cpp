@@ -205,8 +205,10 @@ Tool renameObjectTool()
 Tool checkNameTool()
 {
     return {
-        .access = ToolAccess::ReadOnly,
+        // It only reads, but the list of what read mode offers is closed and does not hold it.
+        .access = ToolAccess::Changing,
         .title = u"Check a name"_s,
+        .hints = {.isIdempotent = true},
         .spec =
             {u"check_name"_s,
              u"Near-matches for a proposed name across every object title and entity alias, by edit "
