@@ -417,6 +417,25 @@
     </message>
 </context>
 <context>
+    <name>GalleryEdits</name>
+    <message>
+        <source>“%1” is no picture this program can show. Save it as PNG or JPEG and add that.</source>
+        <translation>„%1“ ist kein Bild, das dieses Programm zeigen kann. Speichern Sie es als PNG oder JPEG und fügen Sie das hinzu.</translation>
+    </message>
+    <message>
+        <source>Add pictures</source>
+        <translation>Bilder hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove picture</source>
+        <translation>Bild entfernen</translation>
+    </message>
+    <message>
+        <source>Move picture</source>
+        <translation>Bild verschieben</translation>
+    </message>
+</context>
+<context>
     <name>LanguageMenu</name>
     <message>
         <source>No dictionary is installed</source>
@@ -2591,6 +2610,30 @@
     <message>
         <source>Gallery</source>
         <translation>Galerie</translation>
+    </message>
+    <message>
+        <source>Add Pictures…</source>
+        <translation>Bilder hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add Pictures</source>
+        <translation>Bilder hinzufügen</translation>
+    </message>
+    <message>
+        <source>Images (%1)</source>
+        <translation>Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>Move &amp;Earlier</source>
+        <translation>Nach &amp;vorn</translation>
+    </message>
+    <message>
+        <source>Move &amp;Later</source>
+        <translation>Nach &amp;hinten</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from Gallery</source>
+        <translation>Aus der Galerie &amp;entfernen</translation>
     </message>
 </context>
 <context>

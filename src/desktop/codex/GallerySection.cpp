@@ -1,20 +1,22 @@
 #include "desktop/codex/GallerySection.h"
 
 #include "core/media/Media.h"
+#include "desktop/codex/GalleryEdits.h"
+#include "desktop/codex/GalleryPicture.h"
 #include "desktop/codex/SectionHeading.h"
 #include "desktop/fields/FlowLayout.h"
+#include "desktop/fields/ImageFiles.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
 
+#include <QDragEnterEvent>
+#include <QFileDialog>
 #include <QFileInfo>
-#include <QFutureWatcher>
 #include <QImageReader>
-#include <QKeyEvent>
-#include <QMouseEvent>
-#include <QPainter>
-#include <QPromise>
-#include <QThreadPool>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -25,15 +27,17 @@ using core::media::Media;
 
 namespace {
 
-constexpr QSize pictureFrame(220, 150);
 constexpr int spacing = 8;
 
-/** The size of the picture in the frame, in pixels of the screen; never more than its own. */
-QSize fittedSize(const QSize& image, qreal pixelRatio)
+/** The files among what is dragged that can be shown as pictures. */
+QStringList picturesAmong(const QMimeData& dragged)
 {
-    const QSize frame = pictureFrame * pixelRatio;
-    const bool isLarger = image.width() > frame.width() || image.height() > frame.height();
-    return isLarger ? image.scaled(frame, Qt::KeepAspectRatio) : image;
+    QStringList files;
+    for (const QUrl& url : dragged.urls()) {
+        if (url.isLocalFile() && !QImageReader::imageFormat(url.toLocalFile()).isEmpty())
+            files.append(url.toLocalFile());
+    }
+    return files;
 }
 
 } // namespace
@@ -48,90 +52,22 @@ QString assetFile(const QString& projectFolder, const QString& assetPath)
     return file.isFile() && path.startsWith(folder + u'/') ? path : QString();
 }
 
-GalleryPicture::GalleryPicture(const QString& file, const QString& caption, QWidget* parent)
-    : QWidget(parent)
-{
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setFocusPolicy(Qt::TabFocus);
-    setCursor(Qt::PointingHandCursor);
-    setToolTip(caption);
-    setAccessibleName(caption);
-    m_shownSize = fittedSize(QImageReader(file).size(), devicePixelRatioF()) / devicePixelRatioF();
-    load(file);
-}
-
-void GalleryPicture::load(const QString& file)
-{
-    // A large picture takes longer to decode than a frame may last.
-    auto promise = std::make_shared<QPromise<QImage>>();
-    promise->start();
-    auto* const watcher = new QFutureWatcher<QImage>(this);
-    connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher] {
-        m_image = watcher->result();
-        watcher->deleteLater();
-        update();
-    });
-    watcher->setFuture(promise->future());
-    const qreal pixelRatio = devicePixelRatioF();
-    QThreadPool::globalInstance()->start([promise, file, pixelRatio] {
-        QImageReader reader(file);
-        reader.setAutoTransform(true);
-        if (const QSize size = reader.size(); size.isValid())
-            reader.setScaledSize(fittedSize(size, pixelRatio));
-        QImage image = reader.read();
-        image.setDevicePixelRatio(pixelRatio);
-        promise->addResult(image);
-        promise->finish();
-    });
-}
-
-QSize GalleryPicture::sizeHint() const
-{
-    return m_shownSize.isEmpty() ? pictureFrame : m_shownSize;
-}
-
-void GalleryPicture::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (m_image.isNull()) {
-        painter.fillRect(rect(), palette().color(QPalette::Midlight));
-        return;
-    }
-    QRectF place(QPointF(), m_image.deviceIndependentSize());
-    place.moveCenter(QRectF(rect()).center());
-    painter.drawImage(place, m_image);
-    if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Link), 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
-}
-
-void GalleryPicture::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (rect().contains(event->position().toPoint()))
-        emit activated();
-}
-
-void GalleryPicture::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Space)
-        emit activated();
-    else
-        QWidget::keyPressEvent(event);
-}
-
 GallerySection::GallerySection(
     const shell::DeskContext& desk, const core::ContentId& entityId, QWidget* parent)
     : EntitySection(desk, entityId, parent)
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new SectionHeading(desk.icons.icon(icons::Icon::Media), tr("Gallery"), this));
+    auto* const heading = new SectionHeading(desk.icons.icon(icons::Icon::Media), tr("Gallery"), this);
+    m_add = new QPushButton(desk.icons.icon(icons::Icon::Add), tr("Add Pictures…"), this);
+    m_add->setFlat(true);
+    connect(m_add, &QPushButton::clicked, this, &GallerySection::choosePictures);
+    heading->addTrailing(m_add);
+    layout->addWidget(heading);
     auto* const pictures = new QWidget(this);
     m_layout = new fields::FlowLayout(fields::FlowLayout::LastItem::KeepsItsSize, spacing, pictures);
     layout->addWidget(pictures);
-    hide();
+    setAcceptDrops(true);
 }
 
 void GallerySection::showEntity(const core::entity::Entity& entity)
@@ -166,11 +102,76 @@ void GallerySection::showPictures(const core::entity::Entity& entity)
         auto* const widget = new GalleryPicture(picture.file, picture.caption, this);
         connect(
             widget, &GalleryPicture::activated, this, [this, id = picture.id] { desk().navigator.open(id); });
+        connect(widget, &GalleryPicture::removalAsked, this, [this, id = picture.id] {
+            if (m_add->isEnabled())
+                removeFromGallery(desk().session, entityId(), id);
+        });
+        connect(
+            widget, &QWidget::customContextMenuRequested, this,
+            [this, widget, id = picture.id](const QPoint& at) { showMenu(id, widget->mapToGlobal(at)); });
         m_layout->insertWidget(m_layout->count(), widget);
         m_widgets.push_back(widget);
         widget->show();
     }
-    setVisible(!m_pictures.empty());
+    setVisible(!m_pictures.empty() || m_add->isEnabled());
+}
+
+void GallerySection::setReadOnly(bool readOnly)
+{
+    m_add->setEnabled(!readOnly);
+    m_add->setVisible(!readOnly);
+    setVisible(!m_pictures.empty() || !readOnly);
+}
+
+void GallerySection::choosePictures()
+{
+    add(QFileDialog::getOpenFileNames(
+        window(), tr("Add Pictures"), QString(), tr("Images (%1)").arg(fields::imageNamePatterns())));
+}
+
+void GallerySection::add(const QStringList& files)
+{
+    if (files.isEmpty())
+        return;
+    if (const auto added = addToGallery(desk().session, entityId(), files); !added)
+        desk().navigator.say(added.message());
+}
+
+void GallerySection::showMenu(const core::ContentId& picture, const QPoint& globalPosition)
+{
+    auto& session = desk().session;
+    const auto& gallery = entity()->gallery();
+    QMenu menu(this);
+    const auto addEdit = [&](icons::Icon icon, const QString& text, bool isPossible, auto edit) {
+        QAction* const action = menu.addAction(desk().icons.icon(icon), text, this, edit);
+        action->setEnabled(isPossible && m_add->isEnabled());
+    };
+    const auto move = [this, &session, picture](GalleryMove direction) {
+        moveInGallery(session, entityId(), picture, direction);
+    };
+    addEdit(icons::Icon::MoveUp, tr("Move &Earlier"), gallery.front() != picture, [move] {
+        move(GalleryMove::Earlier);
+    });
+    addEdit(icons::Icon::MoveDown, tr("Move &Later"), gallery.back() != picture, [move] {
+        move(GalleryMove::Later);
+    });
+    menu.addSeparator();
+    addEdit(icons::Icon::Remove, tr("&Remove from Gallery"), true, [this, &session, picture] {
+        removeFromGallery(session, entityId(), picture);
+    });
+    menu.exec(globalPosition);
+}
+
+void GallerySection::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (m_add->isEnabled() && !picturesAmong(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void GallerySection::dropEvent(QDropEvent* event)
+{
+    add(picturesAmong(*event->mimeData()));
+    event->acceptProposedAction();
 }
 
 void GallerySection::follow(const core::project::ProjectChanges& changes)

@@ -2,7 +2,11 @@
 
 #include "desktop/codex/EntitySection.h"
 
-#include <QImage>
+#include <QStringList>
+
+#include <vector>
+
+class QPushButton;
 
 namespace tw::desktop::fields {
 class FlowLayout;
@@ -10,35 +14,15 @@ class FlowLayout;
 
 namespace tw::desktop::codex {
 
+class GalleryPicture;
+
 /** Absolute path of an asset when it is a file inside the project folder; empty for anything else. */
 [[nodiscard]] QString assetFile(const QString& projectFolder, const QString& assetPath);
 
-/** A picture of a gallery: as large as it is, or as the frame when it is larger. */
-class GalleryPicture final : public QWidget
-{
-    Q_OBJECT
-
-public:
-    GalleryPicture(const QString& file, const QString& caption, QWidget* parent);
-
-    [[nodiscard]] QSize sizeHint() const override;
-
-signals:
-    void activated();
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
-
-private:
-    void load(const QString& file);
-
-    QImage m_image;
-    QSize m_shownSize;
-};
-
-/** The pictures of an entity. Hidden when none of them is there to be shown. */
+/**
+ * The pictures of an entity; more come by a dialog or are dropped on it. Hidden when there is nothing to be
+ * shown and nothing can be added.
+ */
 class GallerySection final : public EntitySection
 {
     Q_OBJECT
@@ -48,9 +32,17 @@ public:
 
     void showEntity(const core::entity::Entity& entity) override;
     void follow(const core::project::ProjectChanges& changes) override;
+    void setReadOnly(bool readOnly) override;
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void showPictures(const core::entity::Entity& entity);
+    void choosePictures();
+    void add(const QStringList& files);
+    void showMenu(const core::ContentId& picture, const QPoint& globalPosition);
 
     struct Picture
     {
@@ -62,6 +54,7 @@ private:
     };
 
     fields::FlowLayout* m_layout;
+    QPushButton* m_add;
     /** What the pictures were looked up for. */
     std::vector<core::ContentId> m_mediaIds;
     QString m_folder;

@@ -48,6 +48,7 @@ bool isAtEdge(const BodyEditor& editor, QTextCursor::MoveOperation operation)
 CompositionPage::CompositionPage(const shell::DeskContext& desk, const ContentId& rootId, QWidget* parent)
     : TextPage({rootId, compositionView}, parent)
     , m_desk(desk)
+    , m_places(desk.settings, desk.session.workspace().displayPath())
     , m_area(new QScrollArea(this))
     , m_findBar(new manuscript::FindBar(desk, this))
     , m_text(new QWidget)
@@ -86,6 +87,7 @@ CompositionPage::CompositionPage(const shell::DeskContext& desk, const ContentId
 
 CompositionPage::~CompositionPage()
 {
+    rememberPlace();
     m_desk.session.disconnect(this);
     m_area->verticalScrollBar()->disconnect(this);
 }
@@ -200,6 +202,7 @@ void CompositionPage::setCurrentSlot(SceneSlot* slot)
 {
     if (m_current == slot)
         return;
+    rememberPlace();
     m_current = slot;
     if (slot) {
         m_findBar->setEditor(slot->editor(), slot->bursts());
@@ -281,8 +284,41 @@ void CompositionPage::takeFocus()
 {
     if (m_current && m_current->editor())
         m_current->editor()->setFocus(Qt::OtherFocusReason);
-    else if (!m_slots.empty())
+    else if (!enterLatestPlace() && !m_slots.empty())
         enter(0, false);
+}
+
+void CompositionPage::rememberPlace()
+{
+    const BodyEditor* const editor = currentEditor();
+    if (!editor)
+        return;
+    const QRect cursor = editor->cursorRect();
+    m_places.remember(
+        m_current->documentId(), {editor->textCursor().position(), editor->document()->characterCount(),
+                                  editor->viewport()->mapTo(m_area->viewport(), cursor.topLeft()).y()});
+}
+
+bool CompositionPage::enterLatestPlace()
+{
+    std::vector<ContentId> shown;
+    for (const SceneSlot* const slot : m_slots)
+        shown.push_back(slot->documentId());
+    const auto latest = m_places.latestOf(shown);
+    if (!latest)
+        return false;
+    const auto& [documentId, place] = *latest;
+    const auto index = static_cast<std::size_t>(std::ranges::find(shown, documentId) - shown.begin());
+    enter(index, false);
+    BodyEditor& editor = *m_slots[index]->editor();
+    QTextCursor cursor = editor.textCursor();
+    cursor.setPosition(place.positionIn(editor.document()->characterCount()));
+    editor.setTextCursor(cursor);
+    QScrollBar& bar = *m_area->verticalScrollBar();
+    const int top = editor.viewport()->mapTo(m_area->viewport(), editor.cursorRect().topLeft()).y();
+    bar.setValue(bar.value() + top - place.top);
+    showCursor(editor);
+    return true;
 }
 
 BodyEditor* CompositionPage::currentEditor() const

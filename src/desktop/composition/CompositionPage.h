@@ -2,6 +2,7 @@
 
 #include "core/project/ProjectChanges.h"
 #include "desktop/manuscript/FindBar.h"
+#include "desktop/manuscript/ReadingPlaces.h"
 #include "desktop/manuscript/TextPage.h"
 #include "desktop/shell/DeskContext.h"
 
@@ -70,8 +71,12 @@ private:
     void setCurrentSlot(SceneSlot* slot);
     bool leaveEditor(SceneSlot& slot, int key);
     void enter(std::size_t index, bool atEnd);
+    void rememberPlace();
+    /** To where the writer was last in any of the documents; false when that is not known. */
+    bool enterLatestPlace();
 
     shell::DeskContext m_desk;
+    manuscript::ReadingPlaces m_places;
     QScrollArea* m_area;
     manuscript::FindBar* m_findBar;
     QWidget* m_text;

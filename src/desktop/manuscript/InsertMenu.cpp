@@ -2,6 +2,7 @@
 #include "desktop/manuscript/TextActions.h"
 
 #include "core/document/DocumentCommands.h"
+#include "desktop/fields/ImageFiles.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/Footnotes.h"
 #include "desktop/manuscript/TextPage.h"
@@ -11,13 +12,11 @@
 #include <QAction>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QInputDialog>
 #include <QMenu>
 
 namespace tw::desktop::manuscript {
 
-using namespace Qt::Literals::StringLiterals;
 using core::document::markup::BlockKind;
 using icons::Icon;
 using TableEdit = rich::RichPage::TableEdit;
@@ -41,14 +40,6 @@ bool isInTable(const rich::RichPage& page)
 bool takesText(const rich::RichPage& page)
 {
     return page.currentShape().kind != BlockKind::Code;
-}
-
-QString imageFilter()
-{
-    QStringList patterns;
-    for (const QByteArray& format : QImageReader::supportedImageFormats())
-        patterns.append(u"*."_s + QString::fromLatin1(format));
-    return patterns.join(u' ');
 }
 
 } // namespace
@@ -110,7 +101,7 @@ void TextActions::addTableActions(QMenu& menu)
 void TextActions::chooseImage(Page& page)
 {
     const QString file = QFileDialog::getOpenFileName(
-        m_window, tr("Insert an Image"), QString(), tr("Images (%1)").arg(imageFilter()));
+        m_window, tr("Insert an Image"), QString(), tr("Images (%1)").arg(fields::imageNamePatterns()));
     if (file.isEmpty())
         return;
     const auto imported = m_desk.session.importAsset(file);

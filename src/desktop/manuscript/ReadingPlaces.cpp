@@ -1,6 +1,7 @@
 #include "desktop/manuscript/ReadingPlaces.h"
 
 #include <QCryptographicHash>
+#include <QHash>
 #include <QSettings>
 #include <QStringList>
 
@@ -38,13 +39,24 @@ QString ReadingPlaces::keyOf(const core::ContentId& documentId) const
 
 std::optional<ReadingPlace> ReadingPlaces::find(const core::ContentId& documentId) const
 {
-    const QString key = keyOf(documentId);
+    const auto found = latestOf({documentId});
+    return found ? std::optional(found->second) : std::nullopt;
+}
+
+std::optional<std::pair<core::ContentId, ReadingPlace>> ReadingPlaces::latestOf(
+    const std::vector<core::ContentId>& documentIds) const
+{
+    QHash<QString, core::ContentId> documents;
+    for (const core::ContentId& id : documentIds)
+        documents.insert(keyOf(id), id);
     for (const QString& line : m_settings.value(placesKey).toStringList()) {
-        if (!line.startsWith(key))
-            continue;
-        const QList<QStringView> numbers = QStringView(line).mid(key.size()).split(u' ');
-        if (numbers.size() == 3)
-            return ReadingPlace{numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt()};
+        // "project/document position length top"
+        const qsizetype keyLength = line.indexOf(u' ') + 1;
+        const auto document = documents.constFind(line.first(keyLength));
+        const QList<QStringView> numbers = QStringView(line).sliced(keyLength).split(u' ');
+        if (document != documents.cend() && numbers.size() == 3)
+            return std::pair(
+                *document, ReadingPlace{numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt()});
     }
     return {};
 }

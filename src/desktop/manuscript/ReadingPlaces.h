@@ -5,6 +5,8 @@
 #include <QString>
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 class QSettings;
 
@@ -38,6 +40,9 @@ public:
     ReadingPlaces(QSettings& settings, const QString& projectPath);
 
     [[nodiscard]] std::optional<ReadingPlace> find(const core::ContentId& documentId) const;
+    /** The document of these that was visited last, and where; none when none of them is known. */
+    [[nodiscard]] std::optional<std::pair<core::ContentId, ReadingPlace>> latestOf(
+        const std::vector<core::ContentId>& documentIds) const;
     void remember(const core::ContentId& documentId, const ReadingPlace& place);
 
 private:

@@ -1,9 +1,9 @@
 #include "desktop/shell/WelcomePage.h"
 
 #include "desktop/icons/IconSet.h"
+#include "desktop/shell/LinkButton.h"
 #include "desktop/theme/InterfaceSize.h"
 
-#include <QCommandLinkButton>
 #include <QDir>
 #include <QEvent>
 #include <QLabel>
@@ -21,6 +21,8 @@ namespace {
 constexpr int markSize = 72;
 constexpr int columnCharacters = 52;
 constexpr int shownRecent = 5;
+/** The column has its full width before the page beside it gets any. */
+constexpr int columnStretch = 1000;
 
 icons::Icon iconOf(RecentProject::State state)
 {
@@ -84,9 +86,9 @@ WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* p
     layout->addSpacing(12);
 
     const auto addLink = [&](icons::Icon icon, const QString& text, const QString& hint, auto signal) {
-        auto* const button = new QCommandLinkButton(text, hint, column);
+        auto* const button = new LinkButton(text, hint, column);
         button->setIcon(m_icons.icon(icon));
-        connect(button, &QCommandLinkButton::clicked, this, signal);
+        connect(button, &LinkButton::clicked, this, signal);
         layout->addWidget(button);
         return button;
     };
@@ -117,7 +119,7 @@ WelcomePage::WelcomePage(const icons::IconSet& icons, bool hasSample, QWidget* p
     // An alignment would have the height reckoned for the width of the whole page, where no line breaks.
     auto* const centered = new QHBoxLayout;
     centered->addStretch();
-    centered->addWidget(column);
+    centered->addWidget(column, columnStretch);
     centered->addStretch();
     outer->addLayout(centered);
     outer->addStretch(3);
@@ -132,11 +134,7 @@ void WelcomePage::changeEvent(QEvent* event)
 
 void WelcomePage::fitColumn()
 {
-    const int width = fontMetrics().averageCharWidth() * columnCharacters;
-    m_column->setFixedWidth(width);
-    // Beside another button the rows would be given the height of one line.
-    for (QWidget* const row : m_recent->findChildren<QCommandLinkButton*>())
-        row->setMinimumHeight(row->heightForWidth(width));
+    m_column->setMaximumWidth(fontMetrics().averageCharWidth() * columnCharacters);
 }
 
 void WelcomePage::setRecent(const std::vector<RecentProject>& projects)
@@ -153,13 +151,11 @@ void WelcomePage::setRecent(const std::vector<RecentProject>& projects)
 void WelcomePage::addRecent(const RecentProject& project)
 {
     const bool isMissing = project.state == RecentProject::State::Missing;
-    auto* const open = new QCommandLinkButton(
+    auto* const open = new LinkButton(
         isMissing ? tr("%1 (missing)").arg(project.name) : project.name, placeText(project), m_recent);
     open->setIcon(m_icons.icon(iconOf(project.state)));
     open->setToolTip(QDir::toNativeSeparators(project.path));
-    connect(open, &QCommandLinkButton::clicked, this, [this, path = project.path] {
-        emit recentRequested(path);
-    });
+    connect(open, &LinkButton::clicked, this, [this, path = project.path] { emit recentRequested(path); });
     auto* const forget = new QToolButton(m_recent);
     forget->setIcon(m_icons.icon(icons::Icon::Close));
     forget->setAutoRaise(true);

@@ -6,7 +6,6 @@
 
 #include <vector>
 
-class QCommandLinkButton;
 class QVBoxLayout;
 
 namespace tw::desktop::icons {
@@ -14,6 +13,8 @@ class IconSet;
 }
 
 namespace tw::desktop::shell {
+
+class LinkButton;
 
 /** What the window shows while no project is open, and once at the first start: ways to begin. */
 class WelcomePage final : public QWidget
@@ -47,7 +48,7 @@ private:
 
     const icons::IconSet& m_icons;
     QWidget* m_column;
-    QCommandLinkButton* m_back = nullptr;
+    LinkButton* m_back = nullptr;
     QWidget* m_recent;
     QVBoxLayout* m_recentLayout;
 };

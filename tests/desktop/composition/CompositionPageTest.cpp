@@ -59,6 +59,30 @@ protected:
 
 } // namespace
 
+TEST_F(CompositionPageTest, comesBackToWhereTheWriterWas)
+{
+    auto page = show();
+    page->takeFocus();
+    EXPECT_EQ(page->editedDocument(), part) << "nothing is known yet";
+    manuscript::BodyEditor& second = page->slotsInOrder()[2]->wake();
+    second.setFocus();
+    QTextCursor cursor = second.textCursor();
+    cursor.setPosition(7);
+    second.setTextCursor(cursor);
+    ASSERT_EQ(page->editedDocument(), two);
+    page.reset();
+
+    page = show();
+    page->takeFocus();
+    ASSERT_EQ(page->editedDocument(), two);
+    EXPECT_EQ(page->currentEditor()->textCursor().position(), 7);
+    page.reset();
+    EXPECT_TRUE(desk.session.projectForCommands().take(two));
+    page = show();
+    page->takeFocus();
+    EXPECT_TRUE(page->currentEditor()) << "another document where that one is gone";
+}
+
 TEST_F(CompositionPageTest, eachEditGoesToItsDocument)
 {
     const auto page = show();

@@ -5,6 +5,10 @@
 #include "desktop/manuscript/rich/RichPage.h"
 #include "desktop/support/TestDesk.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QImage>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -65,6 +69,21 @@ TEST_P(DocumentPageTest, typingIsOneStepABurstAndUndoKeepsTheCursor)
     EXPECT_EQ(desk.session.redoText(), u"Edit document body"_s);
     desk.session.redo();
     EXPECT_EQ(page->editor().currentBody().text, u"Firstly paragraph.\n\nSecond."_s);
+}
+
+TEST_P(DocumentPageTest, aPastedPictureBecomesAFileOfTheProject)
+{
+    if (GetParam() == TextView::MarkdownSource)
+        GTEST_SKIP() << "the source takes text only";
+    ASSERT_TRUE(desk.session.saveAs(desk.folder.filePath(u"project"_s)));
+    page->editor().moveCursor(QTextCursor::End);
+    auto* const data = new QMimeData;
+    data->setImageData(QImage(4, 3, QImage::Format_RGB32));
+    QApplication::clipboard()->setMimeData(data);
+    page->editor().paste();
+    desk.session.commitPendingEdits();
+    EXPECT_EQ(body(), u"First paragraph.\n\nSecond.\n\n![](<assets/pasted image.png>)"_s);
+    EXPECT_EQ(QImage(desk.folder.filePath(u"project/assets/pasted image.png"_s)).size(), QSize(4, 3));
 }
 
 TEST_P(DocumentPageTest, twoPagesOfOneDocumentShowTheSameText)

@@ -90,7 +90,8 @@ Result<ImportableFile> findImportableFile(const Workspace& workspace, const QStr
         return hidden;
     const QString base = workspace::baseOfRelativePaths(workspace.displayPath());
     const QFileInfo file(QDir(base).absoluteFilePath(path));
-    if (!file.isFile())
+    // The system knows no name with a zero in it.
+    if (path.contains(QChar::Null) || !file.isFile())
         return Failure{u"There is no file '%1'. Relative paths start at the project folder."_s.arg(path)};
 
     // A link may lead to what its own path would not; where the project itself lies is not the caller's

@@ -69,12 +69,10 @@ core::Result<StoryInstant> readDate(const Project& project, const QString& text)
 {
     const Calendar& calendar = project.calendar();
     const auto parts = core::calendar::parseDate(calendar, withAbsoluteYear(text));
-    if (!parts) {
-        const QString month = calendar.months().isEmpty() ? u"1"_s : calendar.months().constFirst().name;
+    if (!parts)
         return core::Failure{
-            u"'%1' is not a date of this project's calendar. Write \"1250\", \"%2 1250\", or \"25 %2 1250\"; "
-            "get_calendar lists the months."_s.arg(text, month)};
-    }
+            u"The date '%1' was not understood; use the project calendar (e.g. \"25 Harvestmoon 1250\" or \"1250\")."_s
+                .arg(text)};
     return calendar.minutesFromParts(*parts);
 }
 

@@ -48,8 +48,7 @@ private:
  */
 [[nodiscard]] QString dateText(const core::project::Project& project, core::calendar::StoryInstant instant);
 
-/** Reads a date of the project's calendar, also as dateText() writes it. The message says how to write one.
- */
+/** Reads a date of the project's calendar, also as dateText() writes it. All tools answer its message. */
 [[nodiscard]] core::Result<core::calendar::StoryInstant> readDate(
     const core::project::Project& project, const QString& text);
 

@@ -4,7 +4,6 @@
 #include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/ObjectFinder.h"
 #include "app/mcp/registry/UndoStep.h"
-#include "app/mcp/timeline/StoryDates.h"
 #include "app/timeline/ContinuityValidator.h"
 #include "app/timeline/RuleComparison.h"
 #include "core/entity/Entity.h"
@@ -115,7 +114,7 @@ Result<ContinuityRule> readRule(const Workspace& workspace, const ToolArguments&
         rule.value = arguments.text(u"value");
     }
     if (const QString date = arguments.text(u"date"); !date.isEmpty()) {
-        const auto instant = storyDate(workspace.project(), date);
+        const auto instant = readDate(workspace.project(), date);
         if (!instant)
             return Failure{instant.message()};
         rule.instant = instant.value();

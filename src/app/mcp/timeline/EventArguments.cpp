@@ -1,9 +1,12 @@
 #include "app/mcp/timeline/EventArguments.h"
 
 #include "app/mcp/references/ColorArgument.h"
+#include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/ObjectFinder.h"
-#include "app/mcp/timeline/StoryDates.h"
 #include "core/document/Document.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace tw::app::mcp {
 
@@ -11,6 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 using core::ContentId;
 using core::Failure;
 using core::Result;
+using core::calendar::StoryInstant;
 using core::content::ContentKind;
 using core::timeline::ConstraintKind;
 using core::timeline::EventDetails;
@@ -31,10 +35,24 @@ Result<ContentId> ownObject(const Workspace& workspace, ContentKind kind, const 
     return found.value().object->id();
 }
 
+/** Minutes from the start to a date, which must not lie before it. */
+Result<qint64> durationUntil(const Workspace& workspace, StoryInstant start, const QString& end)
+{
+    const auto instant = readDate(workspace.project(), end);
+    if (!instant)
+        return Failure{instant.message()};
+    if (instant.value() < start)
+        return Failure{u"The end date '%1' is before the event's start."_s.arg(end)};
+    // The whole axis is longer than a duration can say.
+    const quint64 minutes = static_cast<quint64>(instant.value()) - static_cast<quint64>(start);
+    constexpr auto longest = static_cast<quint64>(std::numeric_limits<qint64>::max());
+    return static_cast<qint64>(std::min(minutes, longest));
+}
+
 Result<void> setDates(const Workspace& workspace, EventDetails& details, const ToolArguments& arguments)
 {
     if (const QString date = arguments.text(u"date"); !date.isEmpty()) {
-        const auto start = storyDate(workspace.project(), date);
+        const auto start = readDate(workspace.project(), date);
         if (!start)
             return Failure{start.message()};
         details.startMinute = start.value();
@@ -42,10 +60,10 @@ Result<void> setDates(const Workspace& workspace, EventDetails& details, const T
     if (!arguments.has(u"end"))
         return {};
     if (const QString end = arguments.text(u"end"); !end.isEmpty()) {
-        const auto span = storySpan(workspace.project(), details.startMinute, end);
-        if (!span)
-            return Failure{span.message()};
-        details.durationMinutes = span.value().duration;
+        const auto duration = durationUntil(workspace, details.startMinute, end);
+        if (!duration)
+            return Failure{duration.message()};
+        details.durationMinutes = duration.value();
     } else {
         details.durationMinutes = 0;
     }

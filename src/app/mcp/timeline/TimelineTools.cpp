@@ -4,7 +4,6 @@
 #include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/ObjectFinder.h"
 #include "app/mcp/registry/UndoStep.h"
-#include "app/mcp/timeline/StoryDates.h"
 #include "core/timeline/TimelineCommands.h"
 
 namespace tw::app::mcp {
@@ -53,10 +52,10 @@ Result<EraChange> addEra(const Project& project, const ToolArguments& arguments)
         return Failure{checked.message()};
     if (arguments.text(u"start").isEmpty() || arguments.text(u"end").isEmpty())
         return Failure{u"manage_eras needs \"start\" and \"end\" to add an era."_s};
-    const auto start = storyDate(project, arguments.text(u"start"));
+    const auto start = readDate(project, arguments.text(u"start"));
     if (!start)
         return Failure{start.message()};
-    const auto end = storyDate(project, arguments.text(u"end"));
+    const auto end = readDate(project, arguments.text(u"end"));
     if (!end)
         return Failure{end.message()};
     if (end.value() < start.value())

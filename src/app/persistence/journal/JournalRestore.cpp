@@ -18,6 +18,22 @@ bool isReadable(const QString& path, const QByteArray& bytes)
     return parseObject(bytes, path, scratch).isOk();
 }
 
+/** The object of a file as this program would write it; the bytes themselves where there is none. */
+QByteArray asWritten(const QString& path, const QByteArray& bytes)
+{
+    if (!isJsonFileIn(objectsFolder, path))
+        return bytes;
+    ParseScratch scratch;
+    const auto object = parseObject(bytes, path, scratch);
+    return object ? serializeObject(*object.value()) : bytes;
+}
+
+/** A merge that was cut short has written what the journal holds, but with what no reader keeps left out. */
+bool isSaved(const QString& path, const FileVersion& now, const FileVersion& journaled)
+{
+    return now && journaled && asWritten(path, *now) == asWritten(path, *journaled);
+}
+
 } // namespace
 
 JournalRestore planRestore(
@@ -32,6 +48,8 @@ JournalRestore planRestore(
         if (now != file.base) {
             // The journal's own lines are the writer's last words: in doubt they stand.
             const bool isMergeable = now && file.base && file.bytes;
+            if (isSaved(path, now, file.bytes))
+                continue;
             const LineMerge merge = isMergeable ? mergeLines(*file.base, *file.bytes, *now) : LineMerge();
             if (isMergeable && merge.isClean() && isReadable(path, merge.text))
                 restored = merge.text;

@@ -44,6 +44,18 @@ std::vector<RichBody::Unit> RichBody::units() const
     return units;
 }
 
+void RichBody::leaveOutEmptyEdges()
+{
+    const auto leaveOut = [this](const QTextBlock& edge, const QTextBlock& neighbour) {
+        if (edge.length() > 1 || !neighbour.isValid() || !QTextCursor(neighbour).currentTable())
+            return;
+        setOrigin(edge, {}, -1);
+        originAt(edge).isFiller = true;
+    };
+    leaveOut(m_document.firstBlock(), m_document.firstBlock().next());
+    leaveOut(m_document.lastBlock(), m_document.lastBlock().previous());
+}
+
 void RichBody::noteChange(int position, int added)
 {
     m_isChanged = true;

@@ -42,6 +42,12 @@ public:
     /** For changes of a table that show nowhere else. */
     void touchTable(const QTextTable& table);
 
+    /**
+     * A text document needs a paragraph before its first and after its last table; where one was set at an
+     * edge of the text, the empty paragraph there is none of the body's.
+     */
+    void leaveOutEmptyEdges();
+
     /** Gives everything the look that the formats have now; changes nothing that is written. */
     void restyle();
 

@@ -169,6 +169,12 @@ void RichPage::insertBlocks(QTextCursor& cursor, const std::vector<Block>& block
         cursor.movePosition(QTextCursor::PreviousBlock);
         cursor.movePosition(QTextCursor::EndOfBlock);
     }
+    if (std::ranges::find(blocks, BlockKind::Table, &Block::kind) != blocks.end()) {
+        // The document knows its tables only when an edit is done.
+        cursor.endEditBlock();
+        m_body.leaveOutEmptyEdges();
+        cursor.beginEditBlock();
+    }
 }
 
 void RichPage::insertMarkdown(const QString& markdown)

@@ -1,5 +1,9 @@
 #include "app/persistence/journal/JournalRestore.h"
 
+#include "app/persistence/codec/ObjectCodec.h"
+#include "app/persistence/files/ProjectFiles.h"
+#include "core/document/Document.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -59,6 +63,23 @@ TEST(JournalRestore, bringsBackWhatIsNotThere)
         }
         EXPECT_EQ(plan.overridden, isOverridden ? QStringList{path} : QStringList());
     }
+}
+
+TEST(JournalRestore, knowsTheSameObjectInOtherWords)
+{
+    const core::ContentId id = core::ContentId::create();
+    core::document::Document document(id, core::document::DocumentKind::Prose, u"Entry"_s);
+    const QByteArray base = serializeObject(document);
+    document.setTitle(u"Entry 4,117"_s);
+    const QByteArray saved = serializeObject(document);
+    // Nothing that reads the file keeps an empty id.
+    const QByteArray mine =
+        QByteArray(saved).replace("\n}", ",\n    \"sourceIds\": [\n        \"\"\n    ]\n}");
+    Journal journal;
+    journal.files.emplace(objectPath(id), JournaledFile{base, mine});
+    const JournalRestore plan = planRestore(journal, [&](const QString&) { return FileVersion(saved); });
+    EXPECT_TRUE(plan.isEmpty());
+    EXPECT_TRUE(plan.overridden.isEmpty());
 }
 
 } // namespace tw::app::persistence

@@ -153,6 +153,25 @@ TEST_F(RichPageTest, pasteTakesWhatTheMarkupHoldsAndNothingElse)
     }
 }
 
+TEST_F(RichPageTest, aTableSetIntoAParagraphDividesItAndLeavesNothingEmpty)
+{
+    const QString table = u"| x | y |\n| --- | --- |\n| 1 | 2 |"_s;
+    const struct
+    {
+        const char16_t* behind;
+        const char16_t* before;
+        const char16_t* after;
+    } cases[] = {
+        {u"", u"", u"\n\nabc def"}, {u"abc", u"abc\n\n", u"\n\n def"}, {u"def", u"abc def\n\n", u""}};
+    for (const auto& sample : cases) {
+        open(u"abc def"_s);
+        if (*sample.behind)
+            goTo(QString::fromUtf16(sample.behind));
+        page->insertMarkdown(table);
+        EXPECT_EQ(body(), QString::fromUtf16(sample.before) + table + QString::fromUtf16(sample.after));
+    }
+}
+
 TEST_F(RichPageTest, whatIsCopiedPastesAsItWas)
 {
     for (const QString& text :
