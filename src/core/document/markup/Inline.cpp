@@ -173,8 +173,22 @@ void trimStyle(std::vector<Run>& runs, bool RunStyle::*style)
 
 } // namespace
 
+bool isPlainInline(QStringView text)
+{
+    // Only behind an opening bracket is the closing one more than text, and only before one the other sign.
+    return std::ranges::none_of(text, [](QChar character) {
+        return isInlineMark(character) && character != u'!' && character != u']';
+    });
+}
+
 std::vector<Run> parseInline(QStringView text)
 {
+    if (isPlainInline(text)) {
+        std::vector<Run> plain;
+        if (!text.isEmpty())
+            plain.emplace_back().text = text.toString();
+        return plain;
+    }
     InlinePieces pieces = takeApart(text);
     std::vector<Run> runs;
     for (InlinePiece& piece : pieces.list)

@@ -98,6 +98,12 @@ private:
     bool m_isRead = false;
 };
 
+/** The offset of the first mark from `from` on; the end when there is none. */
+qsizetype nextMark(QStringView text, qsizetype from)
+{
+    return skip(text, from, [](QChar character) { return !isInlineMark(character); });
+}
+
 class InlineScanner
 {
 public:
@@ -111,7 +117,7 @@ public:
 
     [[nodiscard]] InlinePieces run()
     {
-        while (m_position < m_text.size())
+        for (leaveToMark(m_position); m_position < m_text.size(); leaveToMark(m_position))
             step();
         flush();
         m_emphasis.matchAfter(-1);
@@ -141,6 +147,7 @@ private:
     Node& add(RunKind kind, QString text, qsizetype end);
     /** Leaves the characters up to `end` to the plain text. */
     void leave(qsizetype end) { m_position = end; }
+    void leaveToMark(qsizetype from) { m_position = nextMark(m_text, from); }
 
     QStringView m_text;
     qsizetype m_position = 0;

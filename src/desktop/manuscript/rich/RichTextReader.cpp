@@ -18,6 +18,8 @@ namespace {
 bool isSpecial(QChar character)
 {
     const char16_t code = character.unicode();
+    if (code >= u' ' && code < u'\u2028')
+        return false;
     return code == u'\u2028' || code == u'\u2029' || code == u'\ufdd0' || code == u'\ufdd1' ||
            code == u'\n' || code == u'\r' || code == u'\ufffc';
 }
@@ -82,6 +84,8 @@ RichParagraph readParagraph(const markup::Block& block, const RichFormats& forma
     if (block.kind == BlockKind::Code) {
         if (!block.text.isEmpty())
             paragraph.pieces.push_back({codeText(block.text), paragraph.textFormat});
+    } else if (markup::isPlainInline(block.text)) {
+        appendText(paragraph.pieces, block.text, paragraph.textFormat);
     } else if (block.kind != BlockKind::Rule) {
         paragraph.pieces = readRuns(markup::parseInline(block.text), shape, formats);
     }
