@@ -3,9 +3,6 @@
 
 #include <QStringView>
 
-#include <array>
-#include <string_view>
-
 namespace tw::core::document::markup {
 
 /** White space within a line. */
@@ -36,22 +33,6 @@ namespace tw::core::document::markup {
 {
     const char16_t lower = character.unicode() | 0x20;
     return lower >= u'a' && lower <= u'z';
-}
-
-/** The characters that may be a mark within a line of text; every other stands for itself. */
-inline constexpr std::u16string_view inlineMarks = u"\\`*_~\n\r&<[!]";
-
-inline constexpr auto inlineMarkTable = [] {
-    std::array<bool, 128> table{};
-    for (const char16_t mark : inlineMarks)
-        table[mark] = true;
-    return table;
-}();
-
-[[nodiscard]] constexpr bool isInlineMark(QChar character)
-{
-    const char16_t code = character.unicode();
-    return code < inlineMarkTable.size() && inlineMarkTable[code];
 }
 
 /** The offset of the first character from `from` on that is none of those; the end when all are. */

@@ -1,5 +1,6 @@
 #include "core/document/markup/Inline.h"
 
+#include "core/document/markup/CharacterSet.h"
 #include "core/document/markup/Characters.h"
 #include "core/document/markup/InlinePieces.h"
 
@@ -10,6 +11,9 @@ namespace tw::core::document::markup {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+/** What can make a text more than plain: a closing bracket and "!" are nothing without an opening bracket. */
+constexpr CharacterSet stylingMarks(u"\\`*_~\n\r&<[");
 
 bool isBreak(const Run& run)
 {
@@ -175,10 +179,7 @@ void trimStyle(std::vector<Run>& runs, bool RunStyle::*style)
 
 bool isPlainInline(QStringView text)
 {
-    // Only behind an opening bracket is the closing one more than text, and only before one the other sign.
-    return std::ranges::none_of(text, [](QChar character) {
-        return isInlineMark(character) && character != u'!' && character != u']';
-    });
+    return stylingMarks.findIn(text) == text.size();
 }
 
 std::vector<Run> parseInline(QStringView text)

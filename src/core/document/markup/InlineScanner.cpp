@@ -1,3 +1,4 @@
+#include "core/document/markup/CharacterSet.h"
 #include "core/document/markup/Characters.h"
 #include "core/document/markup/Emphasis.h"
 #include "core/document/markup/Entities.h"
@@ -98,11 +99,8 @@ private:
     bool m_isRead = false;
 };
 
-/** The offset of the first mark from `from` on; the end when there is none. */
-qsizetype nextMark(QStringView text, qsizetype from)
-{
-    return skip(text, from, [](QChar character) { return !isInlineMark(character); });
-}
+/** Every other character stands for itself. */
+constexpr CharacterSet inlineMarks(u"\\`*_~\n\r&<[!]");
 
 class InlineScanner
 {
@@ -117,7 +115,7 @@ public:
 
     [[nodiscard]] InlinePieces run()
     {
-        for (leaveToMark(m_position); m_position < m_text.size(); leaveToMark(m_position))
+        for (goToMark(); m_position < m_text.size(); goToMark())
             step();
         flush();
         m_emphasis.matchAfter(-1);
@@ -147,7 +145,7 @@ private:
     Node& add(RunKind kind, QString text, qsizetype end);
     /** Leaves the characters up to `end` to the plain text. */
     void leave(qsizetype end) { m_position = end; }
-    void leaveToMark(qsizetype from) { m_position = nextMark(m_text, from); }
+    void goToMark() { m_position = inlineMarks.findIn(m_text, m_position); }
 
     QStringView m_text;
     qsizetype m_position = 0;
