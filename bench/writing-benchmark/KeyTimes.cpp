@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QTextBlock>
 #include <QTextEdit>
 
 #include <algorithm>
@@ -31,18 +32,38 @@ protected:
     }
 };
 
+QTextBlock blockWith(const QString& text, const QTextDocument& document)
+{
+    QTextBlock block = document.begin();
+    while (block.isValid() && block.text() != text)
+        block = block.next();
+    return block;
+}
+
+/** The paragraph at the place, or the nearest that reads alike in both: what a key costs depends on its
+ * length. */
+std::pair<QTextBlock, QTextBlock> sharedParagraph(
+    const QTextDocument& first, const QTextDocument& second, Place place)
+{
+    QTextBlock block = place == Place::End ? first.lastBlock() : first.findBlock(first.characterCount() / 2);
+    for (; block.isValid(); block = block.previous()) {
+        const QTextBlock other = block.length() > 1 ? blockWith(block.text(), second) : QTextBlock();
+        if (other.isValid())
+            return {block, other};
+    }
+    qFatal("The texts have no paragraph in common");
+}
+
 /** An edit whose cursor stands at the end of a paragraph. */
 class WatchedEdit
 {
 public:
-    WatchedEdit(QTextEdit& edit, Place place)
+    WatchedEdit(QTextEdit& edit, const QTextBlock& paragraph)
         : m_edit(edit)
         , m_watch(*edit.viewport())
     {
-        QTextCursor cursor = edit.textCursor();
-        if (place == Place::Middle)
-            cursor.setPosition(edit.document()->characterCount() / 2);
-        cursor.movePosition(place == Place::Middle ? QTextCursor::EndOfBlock : QTextCursor::End);
+        QTextCursor cursor(paragraph);
+        cursor.movePosition(QTextCursor::EndOfBlock);
         edit.setTextCursor(cursor);
         edit.ensureCursorVisible();
         QCoreApplication::processEvents();
@@ -93,8 +114,9 @@ double KeyTimes::quantile(double share) const
 
 std::pair<KeyTimes, KeyTimes> timeKeys(QTextEdit& first, QTextEdit& second, const Typing& typing)
 {
-    WatchedEdit watchedFirst(first, typing.place);
-    WatchedEdit watchedSecond(second, typing.place);
+    const auto paragraphs = sharedParagraph(*first.document(), *second.document(), typing.place);
+    WatchedEdit watchedFirst(first, paragraphs.first);
+    WatchedEdit watchedSecond(second, paragraphs.second);
     std::pair<KeyTimes, KeyTimes> results;
     for (int index = 0; index < typing.keys + uncounted; ++index) {
         const double rest = typing.beforeWord && beginsWord(index) ? typing.beforeWord() : 0;

@@ -36,8 +36,8 @@ struct Typing
 };
 
 /**
- * Sends letters to the text of two shown edits in turn, so that whatever else the machine does meets both
- * alike, and waits for each letter to be painted. Gives the times of the first and of the second.
+ * Sends letters to the same paragraph of two shown edits in turn, so that whatever else the machine does
+ * meets both alike, and waits for each letter to be painted. Gives the times of the first and of the second.
  */
 [[nodiscard]] std::pair<KeyTimes, KeyTimes> timeKeys(
     QTextEdit& first, QTextEdit& second, const Typing& typing);

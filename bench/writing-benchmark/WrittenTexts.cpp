@@ -47,7 +47,7 @@ QString writtenText(qsizetype characters)
         text += random.chance(15) ? u"*%1*"_s.arg(sentence(random)) : sentence(random);
         text += isSpeech ? u"”\n\n"_s : u"\n\n"_s;
     }
-    return text;
+    return text.trimmed();
 }
 
 QStringList writtenWords()
