@@ -38,10 +38,11 @@ void show(Page& page)
     QCoreApplication::processEvents();
 }
 
-std::unique_ptr<QTextEdit> bareEdit(const QString& text)
+/** With the font of the pages: what a letter costs depends on it. */
+std::unique_ptr<QTextEdit> bareEdit(const QString& text, const QSettings& settings)
 {
     auto edit = std::make_unique<QTextEdit>();
-    edit->setFont(desktop::manuscript::pageFont({}));
+    edit->setFont(desktop::manuscript::pageFont(desktop::manuscript::pageStyleFrom(settings)));
     edit->setPlainText(text);
     show(*edit);
     return edit;
@@ -83,7 +84,7 @@ bool compareKeys(
 {
     const QString text = bench::writtenText(characters);
     desk.setText(text);
-    const auto bare = bareEdit(text);
+    const auto bare = bareEdit(text, desk.settings);
     RichPage page(desk.context, desk.id, nullptr);
     show(page);
     const QString where = place == bench::Place::End ? u", at the end"_s : QString();
@@ -96,7 +97,7 @@ bool compareProofreadKeys(bench::WritingDesk& desk, qsizetype characters, bench:
 {
     const QString text = bench::writtenText(characters);
     desk.setText(text);
-    const auto bare = bareEdit(text);
+    const auto bare = bareEdit(text, desk.settings);
     const auto service = desk.makeProofreadingService();
     DocumentPage page(desk.context, desk.id, nullptr);
     service->attach(page.editor(), desk.id);
