@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QTextBlock>
 #include <QTextEdit>
 
 #include <algorithm>
@@ -31,32 +32,56 @@ protected:
     }
 };
 
-/** An edit whose cursor stands at the end of a paragraph in the middle of its text. */
+QTextBlock blockWith(const QString& text, const QTextDocument& document)
+{
+    QTextBlock block = document.begin();
+    while (block.isValid() && block.text() != text)
+        block = block.next();
+    return block;
+}
+
+/** The paragraph at the place, or the nearest that reads alike in both: what a key costs depends on its
+ * length. */
+std::pair<QTextBlock, QTextBlock> sharedParagraph(
+    const QTextDocument& first, const QTextDocument& second, Place place)
+{
+    QTextBlock block = place == Place::End ? first.lastBlock() : first.findBlock(first.characterCount() / 2);
+    for (; block.isValid(); block = block.previous()) {
+        const QTextBlock other = block.length() > 1 ? blockWith(block.text(), second) : QTextBlock();
+        if (other.isValid())
+            return {block, other};
+    }
+    qFatal("The texts have no paragraph in common");
+}
+
+/** An edit whose cursor stands at the end of a paragraph. */
 class WatchedEdit
 {
 public:
-    explicit WatchedEdit(QTextEdit& edit)
+    WatchedEdit(QTextEdit& edit, const QTextBlock& paragraph)
         : m_edit(edit)
         , m_watch(*edit.viewport())
     {
-        QTextCursor cursor = edit.textCursor();
-        cursor.setPosition(edit.document()->characterCount() / 2);
+        QTextCursor cursor(paragraph);
         cursor.movePosition(QTextCursor::EndOfBlock);
         edit.setTextCursor(cursor);
         edit.ensureCursorVisible();
         QCoreApplication::processEvents();
     }
 
-    /** Milliseconds until the letter was painted. */
-    double type(QKeyEvent press)
+    /** The key is pressed in so many milliseconds. Gives those from then on until the letter was painted. */
+    double type(QKeyEvent press, double rest)
     {
-        m_watch.isPainted = false;
         QElapsedTimer clock;
         clock.start();
+        const auto elapsed = [&clock] { return static_cast<double>(clock.nsecsElapsed()) / 1e6; };
+        while (elapsed() < rest)
+            QCoreApplication::processEvents(QEventLoop::AllEvents);
+        m_watch.isPainted = false;
         QApplication::sendEvent(&m_edit, &press);
         while (!m_watch.isPainted)
             QCoreApplication::processEvents(QEventLoop::AllEvents);
-        return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+        return elapsed() - rest;
     }
 
 private:
@@ -64,9 +89,14 @@ private:
     PaintWatch m_watch;
 };
 
+bool beginsWord(int index)
+{
+    return index % wordLength == 0;
+}
+
 QKeyEvent keyAt(int index)
 {
-    const bool isBlank = index % wordLength == wordLength - 1;
+    const bool isBlank = beginsWord(index + 1);
     return QKeyEvent(
         QEvent::KeyPress, isBlank ? Qt::Key_Space : Qt::Key_E, Qt::NoModifier,
         isBlank ? QStringLiteral(" ") : QStringLiteral("e"));
@@ -82,14 +112,16 @@ double KeyTimes::quantile(double share) const
     return sorted[std::min(index, sorted.size() - 1)];
 }
 
-std::pair<KeyTimes, KeyTimes> timeKeys(QTextEdit& first, QTextEdit& second, int keys)
+std::pair<KeyTimes, KeyTimes> timeKeys(QTextEdit& first, QTextEdit& second, const Typing& typing)
 {
-    WatchedEdit watchedFirst(first);
-    WatchedEdit watchedSecond(second);
+    const auto paragraphs = sharedParagraph(*first.document(), *second.document(), typing.place);
+    WatchedEdit watchedFirst(first, paragraphs.first);
+    WatchedEdit watchedSecond(second, paragraphs.second);
     std::pair<KeyTimes, KeyTimes> results;
-    for (int index = 0; index < keys + uncounted; ++index) {
-        const double firstTime = watchedFirst.type(keyAt(index));
-        const double secondTime = watchedSecond.type(keyAt(index));
+    for (int index = 0; index < typing.keys + uncounted; ++index) {
+        const double rest = typing.beforeWord && beginsWord(index) ? typing.beforeWord() : 0;
+        const double firstTime = watchedFirst.type(keyAt(index), rest);
+        const double secondTime = watchedSecond.type(keyAt(index), 0);
         if (index < uncounted)
             continue;
         results.first.times.push_back(firstTime);

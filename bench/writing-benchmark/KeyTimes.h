@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -16,10 +17,29 @@ struct KeyTimes
     [[nodiscard]] double quantile(double share) const;
 };
 
+/** Where letters are written. */
+enum class Place
+{
+    Middle,
+    End,
+};
+
+struct Typing
+{
+    int keys = 300;
+    Place place = Place::Middle;
+    /**
+     * Called before each word that the first edit gets. The window lives on for so many milliseconds until
+     * the key is pressed; what keeps it longer counts as time of the key. Without it keys follow at once.
+     */
+    std::function<double()> beforeWord = {};
+};
+
 /**
- * Sends letters to the middle of the text of two shown edits in turn, so that whatever else the machine does
+ * Sends letters to the same paragraph of two shown edits in turn, so that whatever else the machine does
  * meets both alike, and waits for each letter to be painted. Gives the times of the first and of the second.
  */
-[[nodiscard]] std::pair<KeyTimes, KeyTimes> timeKeys(QTextEdit& first, QTextEdit& second, int keys);
+[[nodiscard]] std::pair<KeyTimes, KeyTimes> timeKeys(
+    QTextEdit& first, QTextEdit& second, const Typing& typing);
 
 } // namespace tw::bench

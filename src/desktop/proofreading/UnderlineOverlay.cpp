@@ -7,7 +7,6 @@
 #include <QEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -22,35 +21,23 @@ namespace {
 
 /** Below the base line, in parts of the font's descent. */
 constexpr qreal belowBaseline = 0.45;
-constexpr qreal waveLength = 4;
-constexpr qreal waveHeight = 1;
-constexpr qreal lineWidth = 1.2;
 
 QPointF scrollOffset(const QTextEdit& editor)
 {
     return QPointF(editor.horizontalScrollBar()->value(), editor.verticalScrollBar()->value());
 }
 
-void drawWave(QPainter& painter, qreal left, qreal right, qreal y)
+Underline lineFor(ProblemKind kind)
 {
-    QPainterPath path(QPointF(left, y));
-    bool isUp = true;
-    for (qreal x = left; x < right; x += waveLength / 2) {
-        const qreal next = std::min(x + waveLength / 2, right);
-        path.quadTo(QPointF((x + next) / 2, y + (isUp ? -waveHeight : waveHeight) * 2), QPointF(next, y));
-        isUp = !isUp;
-    }
-    painter.drawPath(path);
+    return kind == ProblemKind::Spelling || kind == ProblemKind::RepeatedWord ? Underline::Wave
+                                                                              : Underline::Dots;
 }
 
-void drawUnderline(QPainter& painter, ProblemKind kind, qreal left, qreal right, qreal y, const QColor& color)
+/** The word under the writer's hands is no mistake yet; `cursor` is a position in the document. */
+bool isBeingWritten(const QTextBlock& block, const ProseFinding& finding, int cursor)
 {
-    const bool isWave = kind == ProblemKind::Spelling || kind == ProblemKind::RepeatedWord;
-    painter.setPen(QPen(color, lineWidth, isWave ? Qt::SolidLine : Qt::DotLine));
-    if (isWave)
-        drawWave(painter, left, right, y);
-    else
-        painter.drawLine(QPointF(left, y), QPointF(right, y));
+    return finding.kind == ProblemKind::Spelling &&
+           cursor == block.position() + static_cast<int>(finding.end());
 }
 
 } // namespace
@@ -111,8 +98,10 @@ void UnderlineOverlay::followCursor()
     // The mark under a word appears when the cursor leaves it. All other steps of the cursor paint nothing.
     const QTextBlock block = m_editor.textCursor().block();
     const auto& findings = m_findings.of(block.blockNumber());
-    const bool isInside = std::ranges::any_of(
-        findings, [&](const ProseFinding& finding) { return isBeingWritten(block, finding); });
+    const bool isInside =
+        std::ranges::any_of(findings, [&block, cursor = writtenPosition()](const ProseFinding& finding) {
+            return isBeingWritten(block, finding, cursor);
+        });
     const int written = isInside ? block.blockNumber() : -1;
     const int before = std::exchange(m_writtenBlock, written);
     if (before != written || isInside) {
@@ -124,7 +113,6 @@ void UnderlineOverlay::followCursor()
 void UnderlineOverlay::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QPointF offset = scrollOffset(m_editor);
     const auto* const layout = m_editor.document()->documentLayout();
     const auto [first, last] = visibleBlocks(m_editor);
@@ -134,37 +122,37 @@ void UnderlineOverlay::paintEvent(QPaintEvent* event)
             continue;
         const QRectF rect = layout->blockBoundingRect(block).translated(-offset);
         if (rect.intersects(event->rect()))
-            paintBlock(painter, block, rect.topLeft());
+            paintBlock(painter, block, rect.topLeft(), event->rect());
     }
 }
 
-void UnderlineOverlay::paintBlock(QPainter& painter, const QTextBlock& block, const QPointF& origin) const
+void UnderlineOverlay::paintBlock(
+    QPainter& painter, const QTextBlock& block, const QPointF& origin, const QRectF& clip)
 {
     const QTextLayout& text = *block.layout();
-    for (const ProseFinding& finding : m_findings.of(block.blockNumber())) {
-        if (isBeingWritten(block, finding))
+    const int cursor = writtenPosition();
+    for (int number = 0; number < text.lineCount(); ++number) {
+        const QTextLine line = text.lineAt(number);
+        // Marks reach a little out of the lines.
+        if (!line.rect().adjusted(0, -line.height(), 0, line.height()).translated(origin).intersects(clip))
             continue;
-        const int start = static_cast<int>(finding.start);
-        const int end = static_cast<int>(finding.end());
-        const QColor color = problemColor(m_themes.theme(), finding.kind);
-        for (int number = 0; number < text.lineCount(); ++number) {
-            const QTextLine line = text.lineAt(number);
-            const int from = std::max(start, line.textStart());
-            const int to = std::min(end, line.textStart() + line.textLength());
-            if (from >= to)
+        const qreal y = origin.y() + line.y() + line.ascent() + line.descent() * belowBaseline;
+        for (const ProseFinding& finding : m_findings.of(block.blockNumber())) {
+            const int from = std::max(static_cast<int>(finding.start), line.textStart());
+            const int to = std::min(static_cast<int>(finding.end()), line.textStart() + line.textLength());
+            if (from >= to || isBeingWritten(block, finding, cursor))
                 continue;
             const auto [left, right] = std::minmax({line.cursorToX(from), line.cursorToX(to)});
-            const qreal y = line.y() + line.ascent() + line.descent() * belowBaseline;
-            drawUnderline(
-                painter, finding.kind, origin.x() + left, origin.x() + right, origin.y() + y, color);
+            m_patterns.draw(
+                painter, lineFor(finding.kind), problemColor(m_themes.theme(), finding.kind),
+                origin.x() + left, origin.x() + right, y);
         }
     }
 }
 
-bool UnderlineOverlay::isBeingWritten(const QTextBlock& block, const ProseFinding& finding) const
+int UnderlineOverlay::writtenPosition() const
 {
-    return finding.kind == ProblemKind::Spelling && m_editor.hasFocus() &&
-           m_editor.textCursor().position() == block.position() + static_cast<int>(finding.end());
+    return m_editor.hasFocus() ? m_editor.textCursor().position() : -1;
 }
 
 } // namespace tw::desktop::proofreading

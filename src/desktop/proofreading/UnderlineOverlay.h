@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/proofreading/BlockFindings.h"
+#include "desktop/proofreading/UnderlinePatterns.h"
 
 #include <QWidget>
 
@@ -44,13 +45,15 @@ protected:
 private:
     void coverViewport();
     void followCursor();
-    void paintBlock(QPainter& painter, const QTextBlock& block, const QPointF& origin) const;
-    /** The word under the writer's hands is no mistake yet. */
-    [[nodiscard]] bool isBeingWritten(const QTextBlock& block, const ProseFinding& finding) const;
+    /** With its top left corner at `origin`, as far as it lies in `clip`. */
+    void paintBlock(QPainter& painter, const QTextBlock& block, const QPointF& origin, const QRectF& clip);
+    /** Of the cursor; -1 while nobody writes. */
+    [[nodiscard]] int writtenPosition() const;
 
     const theme::ThemeManager& m_themes;
     QTextEdit& m_editor;
     const BlockFindings& m_findings;
+    UnderlinePatterns m_patterns;
     /** The paragraph with a word that is being written; -1 for none. */
     int m_writtenBlock = -1;
 };

@@ -67,6 +67,7 @@ class BlockReader
 public:
     explicit BlockReader(QStringView body)
         : m_body(body)
+        , m_hasReturns(body.contains(u'\r'))
     {
         m_line = lineAt(0);
     }
@@ -82,6 +83,7 @@ public:
 private:
     [[nodiscard]] bool atEnd() const { return m_line.start == m_body.size(); }
     [[nodiscard]] Line lineAt(qsizetype start) const;
+    [[nodiscard]] qsizetype lineEndAfter(qsizetype start) const;
     void advance() { m_line = lineAt(m_line.next); }
     qsizetype skipBlankLines();
 
@@ -101,6 +103,8 @@ private:
     static void takeAttributes(Block& block);
 
     QStringView m_body;
+    /** Few bodies have any; without them the next line end is one character to look for. */
+    bool m_hasReturns;
     Line m_line;
     /** The end of the last line that was taken. */
     qsizetype m_contentEnd = 0;
@@ -111,10 +115,18 @@ private:
 
 Line BlockReader::lineAt(qsizetype start) const
 {
-    const qsizetype end = skip(m_body, start, [](QChar character) { return !isLineEnd(character); });
+    const qsizetype end = lineEndAfter(start);
     const bool isPair = end + 1 < m_body.size() && m_body[end] == u'\r' && m_body[end + 1] == u'\n';
     const qsizetype next = std::min(end + (isPair ? 2 : 1), m_body.size());
     return {start, end, next, m_body.sliced(start, end - start)};
+}
+
+qsizetype BlockReader::lineEndAfter(qsizetype start) const
+{
+    if (m_hasReturns)
+        return skip(m_body, start, [](QChar character) { return !isLineEnd(character); });
+    const qsizetype end = m_body.indexOf(u'\n', start);
+    return end < 0 ? m_body.size() : end;
 }
 
 qsizetype BlockReader::skipBlankLines()

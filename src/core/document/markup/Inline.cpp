@@ -1,5 +1,6 @@
 #include "core/document/markup/Inline.h"
 
+#include "core/document/markup/CharacterSet.h"
 #include "core/document/markup/Characters.h"
 #include "core/document/markup/InlinePieces.h"
 
@@ -10,6 +11,9 @@ namespace tw::core::document::markup {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+/** What can make a text more than plain: a closing bracket and "!" are nothing without an opening bracket. */
+constexpr CharacterSet stylingMarks(u"\\`*_~\n\r&<[");
 
 bool isBreak(const Run& run)
 {
@@ -173,8 +177,19 @@ void trimStyle(std::vector<Run>& runs, bool RunStyle::*style)
 
 } // namespace
 
+bool isPlainInline(QStringView text)
+{
+    return stylingMarks.findIn(text) == text.size();
+}
+
 std::vector<Run> parseInline(QStringView text)
 {
+    if (isPlainInline(text)) {
+        std::vector<Run> plain;
+        if (!text.isEmpty())
+            plain.emplace_back().text = text.toString();
+        return plain;
+    }
     InlinePieces pieces = takeApart(text);
     std::vector<Run> runs;
     for (InlinePiece& piece : pieces.list)

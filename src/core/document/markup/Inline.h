@@ -54,6 +54,9 @@ struct Run
  */
 [[nodiscard]] std::vector<Run> parseInline(QStringView text);
 
+/** Whether parseInline() would give the text as a single run in no style; most paragraphs are like that. */
+[[nodiscard]] bool isPlainInline(QStringView text);
+
 /**
  * The same text in the form that Markdown can say: neighbours of one style are one run; white space at the
  * edges of bold, italic and struck text is plain; blanks beside breaks, and soft breaks beside others or at

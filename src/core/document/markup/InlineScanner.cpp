@@ -1,3 +1,4 @@
+#include "core/document/markup/CharacterSet.h"
 #include "core/document/markup/Characters.h"
 #include "core/document/markup/Emphasis.h"
 #include "core/document/markup/Entities.h"
@@ -98,6 +99,9 @@ private:
     bool m_isRead = false;
 };
 
+/** Every other character stands for itself. */
+constexpr CharacterSet inlineMarks(u"\\`*_~\n\r&<[!]");
+
 class InlineScanner
 {
 public:
@@ -111,7 +115,7 @@ public:
 
     [[nodiscard]] InlinePieces run()
     {
-        while (m_position < m_text.size())
+        for (goToMark(); m_position < m_text.size(); goToMark())
             step();
         flush();
         m_emphasis.matchAfter(-1);
@@ -141,6 +145,7 @@ private:
     Node& add(RunKind kind, QString text, qsizetype end);
     /** Leaves the characters up to `end` to the plain text. */
     void leave(qsizetype end) { m_position = end; }
+    void goToMark() { m_position = inlineMarks.findIn(m_text, m_position); }
 
     QStringView m_text;
     qsizetype m_position = 0;

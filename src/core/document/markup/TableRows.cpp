@@ -13,11 +13,10 @@ namespace {
 /** The offset of the next pipe from `from` on that no backslash stands before; the end when there is none. */
 qsizetype nextBorder(QStringView line, qsizetype from)
 {
-    for (qsizetype index = from; index < line.size(); ++index) {
-        if (line[index] == u'|' && (index == 0 || line[index - 1] != u'\\'))
-            return index;
-    }
-    return line.size();
+    qsizetype pipe = line.indexOf(u'|', from);
+    while (pipe > 0 && line[pipe - 1] == u'\\')
+        pipe = line.indexOf(u'|', pipe + 1);
+    return pipe < 0 ? line.size() : pipe;
 }
 
 QStringView trimmed(QStringView text)

@@ -1,5 +1,6 @@
 #include "desktop/manuscript/rich/BlockShape.h"
 
+#include <QHashFunctions>
 #include <QVariant>
 
 namespace tw::desktop::manuscript::rich {
@@ -66,6 +67,14 @@ void store(QTextFormat& format, int property, const QString& value)
 }
 
 } // namespace
+
+std::size_t qHash(const BlockShape& shape, std::size_t seed)
+{
+    const markup::BlockAttributes& attributes = shape.attributes;
+    return qHashMulti(
+        seed, static_cast<int>(shape.kind), shape.level, shape.indent, shape.marker, shape.label,
+        attributes.align, attributes.spacing, attributes.indent, attributes.pageBreak, attributes.style);
+}
 
 BlockShape shapeOf(const markup::Block& block)
 {

@@ -34,6 +34,8 @@ struct BlockShape
     friend bool operator==(const BlockShape&, const BlockShape&) = default;
 };
 
+[[nodiscard]] std::size_t qHash(const BlockShape& shape, std::size_t seed = 0);
+
 [[nodiscard]] BlockShape shapeOf(const markup::Block& block);
 [[nodiscard]] BlockShape shapeOf(const QTextBlockFormat& format);
 /** Cheaper than the whole shape. */

@@ -67,7 +67,8 @@ private:
     void readBack(BlockOrigin& origin);
     void appendGap(QString& text, const Unit& upper, const Unit& lower) const;
 
-    void fill(const BodyUnits& target);
+    /** Every cursor of the document costs at each insertion, so the one of the edit is used. */
+    void fill(const BodyUnits& target, QTextCursor& cursor);
     [[nodiscard]] bool adjust(const BodyUnits& target);
     [[nodiscard]] bool adjustPairs(
         const std::vector<Unit>& present, const BodyUnits& target, std::size_t first, std::size_t count);

@@ -56,7 +56,7 @@ RichBody::Update RichBody::apply(const QString& body)
     edit.beginEditBlock();
     const bool isAdjusted = !m_document.isEmpty() && adjust(target);
     if (!isAdjusted)
-        fill(target);
+        fill(target, edit);
     edit.endEditBlock();
     // The document knows its tables as frames only once the edit is through.
     setOrigins(target);
@@ -139,14 +139,14 @@ bool RichBody::adjustRegion(
     return true;
 }
 
-void RichBody::fill(const BodyUnits& target)
+void RichBody::fill(const BodyUnits& target, QTextCursor& cursor)
 {
     // A document that is cleared and filled in one edit is laid out as far as it is looked at, any other at
     // once.
     const QTextFrameFormat frame = m_document.rootFrame()->frameFormat();
     m_document.clear();
     m_document.rootFrame()->setFrameFormat(frame);
-    QTextCursor cursor(&m_document);
+    cursor.setPosition(0);
     bool isBlockFree = true;
     for (const BodyUnit& unit : target.list) {
         if (isTable(unit)) {

@@ -140,10 +140,19 @@ void RichFormats::setLook(const theme::Theme& theme, const PageStyle& style, qre
     m_style = style;
     m_lineHeightPercent = lineHeightPercent;
     m_em = QFontInfo(pageFont(style)).pixelSize();
+    m_blocks.clear();
     m_bases.clear();
 }
 
 QTextBlockFormat RichFormats::block(const BlockShape& shape) const
+{
+    auto found = m_blocks.constFind(shape);
+    if (found == m_blocks.constEnd())
+        found = m_blocks.insert(shape, makeBlock(shape));
+    return *found;
+}
+
+QTextBlockFormat RichFormats::makeBlock(const BlockShape& shape) const
 {
     QTextBlockFormat format;
     storeShape(format, shape);

@@ -11,8 +11,8 @@
 namespace tw::desktop::manuscript::rich {
 
 /**
- * How blocks and runs look: makes formats of what they are, for one theme and one style of the page. Plain
- * ones are made once and given out again. Main thread only.
+ * How blocks and runs look: makes formats of what they are, for one theme and one style of the page. Those of
+ * blocks and of plain text are made once and given out again. Main thread only.
  */
 class RichFormats
 {
@@ -35,6 +35,7 @@ public:
     [[nodiscard]] const theme::Theme& theme() const { return m_theme; }
 
 private:
+    [[nodiscard]] QTextBlockFormat makeBlock(const BlockShape& shape) const;
     [[nodiscard]] const QTextCharFormat& base(markup::BlockKind kind, int level) const;
     [[nodiscard]] QTextCharFormat makeBase(markup::BlockKind kind, int level) const;
     void decorate(QTextCharFormat& format, const markup::RunStyle& style) const;
@@ -47,6 +48,7 @@ private:
     qreal m_lineHeightPercent = 100;
     qreal m_em = 16;
     QString m_codeFamily;
+    mutable QHash<BlockShape, QTextBlockFormat> m_blocks;
     mutable QHash<int, QTextCharFormat> m_bases;
 };
 

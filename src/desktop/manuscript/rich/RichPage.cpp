@@ -53,9 +53,8 @@ RichPage::~RichPage()
 void RichPage::applyBody(const DocumentBody& body)
 {
     const Applying guard(*this);
-    const QTextCursor before = textCursor();
-    const int position = before.position();
-    const int anchor = before.anchor();
+    const int position = textCursor().position();
+    const int anchor = textCursor().anchor();
     const int scrolled = verticalScrollBar()->value();
     if (m_body.apply(core::document::markup::markdownOf(body)) == RichBody::Update::InPlace)
         return;

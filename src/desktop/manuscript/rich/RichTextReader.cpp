@@ -1,5 +1,6 @@
 #include "desktop/manuscript/rich/RichTextReader.h"
 
+#include "core/document/markup/CharacterSet.h"
 #include "desktop/manuscript/rich/RichFormats.h"
 
 #include <QTextTable>
@@ -15,19 +16,13 @@ using markup::RunKind;
 namespace {
 
 /** Characters that part blocks, lines and frames in a text document cannot be text in one. */
-bool isSpecial(QChar character)
-{
-    const char16_t code = character.unicode();
-    return code == u'\u2028' || code == u'\u2029' || code == u'\ufdd0' || code == u'\ufdd1' ||
-           code == u'\n' || code == u'\r' || code == u'\ufffc';
-}
+constexpr markup::CharacterSet specialCharacters(u"\u2028\u2029\ufdd0\ufdd1\n\r\ufffc");
 
 void appendText(std::vector<TextPiece>& pieces, const QString& text, const QTextCharFormat& format)
 {
     qsizetype start = 0;
-    for (qsizetype index = 0; index < text.size(); ++index) {
-        if (!isSpecial(text[index]))
-            continue;
+    for (qsizetype index = specialCharacters.findIn(text); index < text.size();
+         index = specialCharacters.findIn(text, start)) {
         if (index > start)
             pieces.push_back({text.mid(start, index - start), format});
         QTextCharFormat substitute = format;
@@ -82,6 +77,8 @@ RichParagraph readParagraph(const markup::Block& block, const RichFormats& forma
     if (block.kind == BlockKind::Code) {
         if (!block.text.isEmpty())
             paragraph.pieces.push_back({codeText(block.text), paragraph.textFormat});
+    } else if (markup::isPlainInline(block.text)) {
+        appendText(paragraph.pieces, block.text, paragraph.textFormat);
     } else if (block.kind != BlockKind::Rule) {
         paragraph.pieces = readRuns(markup::parseInline(block.text), shape, formats);
     }
