@@ -3,6 +3,7 @@
 #include "bench/Measurement.h"
 #include "bench/ProjectGenerator.h"
 #include "bench/mcp-benchmark/LineProcess.h"
+#include "bench/mcp-benchmark/OneProcessor.h"
 #include "core/document/DocumentCommands.h"
 
 #include <QCommandLineParser>
@@ -59,8 +60,10 @@ QByteArray titleIn(const core::project::Project& project)
     return core::project::objectsOf<Document>(project).front()->title().toUtf8();
 }
 
-bench::Comparison compareReading(bench::LineProcess& companion, const QByteArray& title, int repetitions)
+bench::Comparison compareReading(const QString& served, const QByteArray& title, int repetitions)
 {
+    const bench::OneProcessor placement;
+    bench::LineProcess companion(QStringLiteral(TW_COMPANION), {served});
     bench::LineProcess echo(QCoreApplication::applicationFilePath(), {QString::fromLatin1(echoArgument)});
     const QByteArray call = toolCall("get_document_versions", "{\"title\":\"" + title + "\"}");
     const QByteArray answer = companion.roundTrip(call).trimmed();
@@ -149,13 +152,13 @@ int main(int argc, char** argv)
     if (!plain)
         qFatal("%s", qPrintable(plain.message()));
     const QByteArray title = titleIn(plain.value()->project());
-    bench::LineProcess companion(QStringLiteral(TW_COMPANION), {served});
 
     bench::ResultTable table;
     table.addTitle(u"%1 objects"_s.arg(size));
     table.addTimes(
         u"call a tool that reads, %1 times"_s.arg(callsOfARun), u"a server that echoes the line"_s,
-        compareReading(companion, title, runs), readAim);
+        compareReading(served, title, runs), readAim);
+    bench::LineProcess companion(QStringLiteral(TW_COMPANION), {served});
     if (const QString program = QStandardPaths::findExecutable(u"rg"_s); !program.isEmpty()) {
         table.addTimes(
             u"search for a word"_s, u"rg -ic"_s, compareSearching(companion, program, served, runs),
