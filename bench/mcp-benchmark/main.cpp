@@ -3,12 +3,16 @@
 #include "bench/Measurement.h"
 #include "bench/ProjectGenerator.h"
 #include "bench/mcp-benchmark/LineProcess.h"
+#include "bench/mcp-benchmark/OneProcessor.h"
 #include "core/document/DocumentCommands.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <cstdlib>
 #include <thread>
 
 using namespace Qt::Literals::StringLiterals;
@@ -22,7 +26,11 @@ namespace {
 constexpr double readAim = 2.0;
 /** What a changing call may take beyond the save that it ends with. */
 constexpr double changeAllowance = 0.002;
-constexpr int callsOfARun = 1000;
+constexpr int callsOfARun = 10'000;
+/** The program's share of what a search through the files takes. */
+constexpr double searchAim = 0.6;
+/** Stands once in the project, so that both look through all of it. */
+constexpr auto rareWord = "lamplighter";
 
 constexpr auto echoArgument = "--echo";
 
@@ -37,7 +45,10 @@ QString makeProject(
     const app::persistence::StorageEnvironment& environment, const QString& folder, int objects)
 {
     app::workspace::Workspace workspace(environment);
-    bench::generateProject(workspace.projectForEdit(), {objects, 1});
+    core::project::Project& project = workspace.projectForEdit();
+    bench::generateProject(project, {objects, 1});
+    project.findAsForEdit<Document>(core::project::objectsOf<Document>(project).back()->id())
+        ->setSynopsis(QString::fromLatin1(rareWord));
     if (const auto saved = workspace.saveAs(folder); !saved)
         qFatal("%s", qPrintable(saved.message()));
     return folder;
@@ -49,20 +60,39 @@ QByteArray titleIn(const core::project::Project& project)
     return core::project::objectsOf<Document>(project).front()->title().toUtf8();
 }
 
-bench::Comparison compareReading(bench::LineProcess& companion, const QByteArray& title, int repetitions)
+bench::Comparison compareReading(const QString& served, const QByteArray& title, int repetitions)
 {
+    const bench::OneProcessor placement;
+    bench::LineProcess companion(QStringLiteral(TW_COMPANION), {served});
     bench::LineProcess echo(QCoreApplication::applicationFilePath(), {QString::fromLatin1(echoArgument)});
     const QByteArray call = toolCall("get_document_versions", "{\"title\":\"" + title + "\"}");
     const QByteArray answer = companion.roundTrip(call).trimmed();
-    if (!answer.contains("\"isError\":false"))
+    if (!answer.contains("\"isError\":false") || std::abs(answer.size() - call.size()) > call.size() / 4)
         qFatal("%s", answer.constData());
-    // The echo carries as many bytes each way, on the whole.
     const auto ask = [](bench::LineProcess& process, const QByteArray& line) {
         for (int count = 0; count < callsOfARun; ++count)
             process.roundTrip(line);
     };
     return bench::compare(
         {repetitions, bench::Counted::Best}, {[&] { ask(echo, call); }}, {[&] { ask(companion, call); }});
+}
+
+bench::Comparison compareSearching(
+    bench::LineProcess& companion, const QString& program, const QString& folder, int repetitions)
+{
+    const QByteArray call = toolCall("search", "{\"query\":\"" + QByteArray(rareWord) + "\"}");
+    return bench::compare(
+        {repetitions, bench::Counted::Best}, {[&] {
+            QProcess search;
+            search.start(program, {u"-ic"_s, QString::fromLatin1(rareWord), folder});
+            search.closeWriteChannel();
+            if (!search.waitForFinished(-1) || !search.readAllStandardOutput().contains(":1"))
+                qFatal("%s does not find the word", qPrintable(program));
+        }},
+        {[&] {
+            if (const QByteArray answer = companion.roundTrip(call); !answer.contains("- document"))
+                qFatal("%s", answer.constData());
+        }});
 }
 
 bench::Comparison compareChanging(
@@ -91,8 +121,8 @@ bench::Comparison compareChanging(
 
 } // namespace
 
-/** Prints how calls of tools compare with the pipe they come through and the save they end with; 1 when an
- * aim is missed. */
+/** Prints how calls of tools compare with the pipe they come through, a search through the files and the save
+ * that changing ones end with; 1 when an aim is missed. */
 int main(int argc, char** argv)
 {
     if (argc == 2 && qstrcmp(argv[1], echoArgument) == 0) {
@@ -122,13 +152,20 @@ int main(int argc, char** argv)
     if (!plain)
         qFatal("%s", qPrintable(plain.message()));
     const QByteArray title = titleIn(plain.value()->project());
-    bench::LineProcess companion(QStringLiteral(TW_COMPANION), {served});
 
     bench::ResultTable table;
     table.addTitle(u"%1 objects"_s.arg(size));
     table.addTimes(
         u"call a tool that reads, %1 times"_s.arg(callsOfARun), u"a server that echoes the line"_s,
-        compareReading(companion, title, runs), readAim);
+        compareReading(served, title, runs), readAim);
+    bench::LineProcess companion(QStringLiteral(TW_COMPANION), {served});
+    if (const QString program = QStandardPaths::findExecutable(u"rg"_s); !program.isEmpty()) {
+        table.addTimes(
+            u"search for a word"_s, u"rg -ic"_s, compareSearching(companion, program, served, runs),
+            searchAim);
+    } else {
+        table.addTitle(u"rg is not installed: searching is not compared"_s);
+    }
     table.addTimes(
         u"call a tool that changes"_s, u"a save after one edit, and 2 ms"_s,
         compareChanging(companion, *plain.value(), title, runs), 1.0);

@@ -39,6 +39,8 @@ void prepareStreams()
     // A client that goes away ends the writing, not the process in the middle of a save.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
+    // Every line is handed over in one piece as soon as it is written.
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
 }
 
 void writeLog(const QString& line)
@@ -59,30 +61,31 @@ std::chrono::nanoseconds steadyNow()
 }
 
 /** False when nobody reads any more. */
-bool writeLine(const QByteArray& line)
+bool writeLine(QByteArray line)
 {
-    const QByteArray bytes = line + '\n';
-    const auto size = static_cast<std::size_t>(bytes.size());
-    return std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    line.append('\n');
+    const auto size = static_cast<std::size_t>(line.size());
+    return std::fwrite(line.constData(), 1, size, stdout) == size;
 }
 
 /** Answers messages one after another until the input ends or nobody reads the answers. */
 void serve(ProtocolServer& server)
 {
+    StandardInput input;
     MessageQueue queue;
     for (bool isAtEnd = false; !isAtEnd;) {
-        const QByteArray bytes = waitForInput();
+        const QByteArrayView bytes = input.waitForInput();
         isAtEnd = bytes.isEmpty();
         queue.append(bytes);
         if (isAtEnd)
             queue.finish();
-        while (!queue.isEmpty()) {
-            // What has arrived behind the next message may cancel it.
-            queue.append(takeArrivedInput());
-            const std::optional<InputMessage> message = queue.takeNext();
-            const std::optional<QByteArray> answer = message ? server.answer(*message) : std::nullopt;
-            if (answer && !writeLine(*answer))
+        while (std::optional<InputMessage> message = queue.takeNext()) {
+            std::optional<QByteArray> answer = server.answer(*message);
+            if (answer && !writeLine(std::move(*answer)))
                 return;
+            // What has arrived meanwhile may cancel what is still to be answered.
+            if (!queue.isEmpty())
+                queue.append(input.takeArrivedInput());
         }
     }
 }

@@ -19,7 +19,7 @@ protected:
             std::make_unique<Document>(id, core::document::DocumentKind::Prose, u"Old"_s));
         EXPECT_TRUE(workspace->save());
         refresher = std::make_unique<ProjectRefresher>(
-            *workspace, [this] { return now; }, [this](const QString& line) { logged.append(line); });
+            *workspace, [this] { return now += pace; }, [this](const QString& line) { logged.append(line); });
     }
 
     QString title() const { return workspace->project().findAs<Document>(id)->title(); }
@@ -41,6 +41,8 @@ protected:
 
     core::ContentId id = core::ContentId::create();
     std::chrono::nanoseconds now = 0s;
+    /** How long everything takes, as the clock has it. */
+    std::chrono::nanoseconds pace = 0s;
     QStringList logged;
     std::unique_ptr<ProjectRefresher> refresher;
 };
@@ -85,6 +87,31 @@ TEST_F(ProjectRefresherTest, looksAtOnceAfterASaveAndLaterForAnEditInPlace)
     refresher->refresh();
     EXPECT_EQ(logged.size(), 2);
     EXPECT_TRUE(workspace->history().canUndo());
+}
+
+TEST_F(ProjectRefresherTest, glancesTheMoreSeldomTheLongerItTakes)
+{
+    const struct
+    {
+        std::chrono::nanoseconds glance;
+        std::chrono::nanoseconds rest;
+    } cases[] = {{10us, 500us}, {1ms, 50ms}, {200ms, 100ms}};
+    for (const auto& sample : cases) {
+        // After a look at everything, so that a glance is all that is done.
+        now += 1min;
+        refresher->refresh();
+        pace = sample.glance;
+        refresher->refresh();
+        renameElsewhere(QString::number(sample.glance.count()));
+        const QString before = title();
+        pace = 0s;
+        now += sample.rest - 1ns;
+        refresher->refresh();
+        EXPECT_EQ(title(), before);
+        now += 1ns;
+        refresher->refresh();
+        EXPECT_EQ(title(), QString::number(sample.glance.count()));
+    }
 }
 
 TEST_F(ProjectRefresherTest, leavesUnsavedChangesAlone)

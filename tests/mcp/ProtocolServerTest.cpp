@@ -117,6 +117,21 @@ TEST_F(ProtocolServerTest, callsTools)
         -32602);
 }
 
+TEST_F(ProtocolServerTest, toolsMaySayAnything)
+{
+    const QString texts[] = {
+        u"\"quoted\" \\ / <b>"_s, u"\b\f\n\r\t\u0001\u001f\u007f"_s, u"Dämmerung \u2028 \U0001F600"_s,
+        u"half a pair "_s + QChar(0xd83d), QChar(0xde00) + u" and the other"_s};
+    for (const QString& text : texts) {
+        const QJsonObject title{{u"title"_s, text}};
+        const QByteArray answer = answerTo(
+            R"({"jsonrpc":"2.0","id":1,"method":"tools/call","params":{"name":"get_document","arguments":)" +
+            QJsonDocument(title).toJson(QJsonDocument::Compact) + "}}");
+        EXPECT_FALSE(answer.contains('\n'));
+        EXPECT_EQ(textOf(result(parse(answer))), u"No document named '%1' exists."_s.arg(text));
+    }
+}
+
 TEST_F(ProtocolServerTest, whateverComesIsAnsweredOrPassedOver)
 {
     const struct
@@ -129,6 +144,9 @@ TEST_F(ProtocolServerTest, whateverComesIsAnsweredOrPassedOver)
         {R"({"jsonrpc":"2.0","id":"a","method":"ping"})", 0, u"a"_s},
         {R"({"jsonrpc":"2.0","id":-7,"method":"ping","params":{}})", 0, -7},
         {R"({"jsonrpc":"2.0","id":0,"method":"ping"})", 0, 0},
+        {R"({"jsonrpc":"2.0","id":-1.5,"method":"ping"})", 0, -1.5},
+        {R"({"jsonrpc":"2.0","id":9007199254740993,"method":"ping"})", 0, qint64{9007199254740993}},
+        {R"({"jsonrpc":"2.0","id":"\"ä\\\n","method":"ping"})", 0, u"\"ä\\\n"_s},
         {R"({"jsonrpc":"2.0","method":"ping"})", 1, {}},
         {R"({"jsonrpc":"2.0","method":"notifications/initialized"})", 1, {}},
         {R"({"jsonrpc":"2.0","method":"notifications/unheard_of","params":[1]})", 1, {}},

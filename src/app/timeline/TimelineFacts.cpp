@@ -37,12 +37,10 @@ public:
 
     TimelineFacts gather()
     {
-        const auto events = m_project.objectsOfKind(TimelineEvent::staticKind);
-        m_facts.events.reserve(events.size() + 1);
-        for (const ContentObject* object : events) {
-            if (!m_lookup.isHidden(*object))
-                addEvent(static_cast<const TimelineEvent&>(*object));
-        }
+        collectEvents();
+        collectMentions();
+        for (quint32 number = 0; number < m_facts.eventCount(); ++number)
+            addMentions(number);
         resolveConstraints();
         for (const Map* map : objectsOf<Map>(m_project))
             addRoutes(*map);
@@ -73,22 +71,55 @@ private:
         return thing;
     }
 
-    void addEvent(const TimelineEvent& event)
+    // Events lie about in memory. Each is looked at for as little as possible at a time, so that the
+    // processor fetches several at once: first what stands in it, then its list of participants.
+
+    void collectEvents()
     {
-        const EventDetails& details = event.details();
-        const quint32 eventNumber = m_facts.eventCount();
-        TimelineFacts::Event& fact = m_facts.events.back();
-        fact.id = event.id();
-        fact.span = {details.startMinute, event.endMinute()};
-        if (!details.locationId.isNull())
-            fact.place = numberOf(details.locationId);
-        for (const ContentId& id : details.participants) {
-            if (!id.isNull())
-                addParticipant(eventNumber, numberOf(id));
+        const auto events = m_project.objectsOfKind(TimelineEvent::staticKind);
+        m_facts.events.reserve(events.size() + 1);
+        m_sources.reserve(events.size());
+        for (const ContentObject* object : events) {
+            if (m_lookup.isHidden(*object))
+                continue;
+            const auto& event = static_cast<const TimelineEvent&>(*object);
+            const EventDetails& details = event.details();
+            TimelineFacts::Event& fact = m_facts.events.back();
+            fact.id = event.id();
+            m_sources.push_back(&event);
+            fact.span = {details.startMinute, event.endMinute()};
+            for (const auto& constraint : details.constraints)
+                m_constraints.push_back({m_facts.eventCount(), constraint});
+            m_mentionCount += details.participants.size() + 1;
+            m_facts.events.emplace_back();
         }
-        for (const auto& constraint : details.constraints)
-            m_constraints.push_back({eventNumber, constraint});
-        m_facts.events.emplace_back().firstParticipant = static_cast<quint32>(m_facts.participants.size());
+    }
+
+    void collectMentions()
+    {
+        m_mentions.reserve(m_mentionCount);
+        m_firstMentions.reserve(m_facts.events.size());
+        for (quint32 number = 0; number < m_facts.eventCount(); ++number) {
+            const EventDetails& details = m_sources[number]->details();
+            m_firstMentions.push_back(m_mentions.size());
+            m_mentions.push_back(details.locationId);
+            m_mentions.insert(m_mentions.end(), details.participants.begin(), details.participants.end());
+        }
+        m_firstMentions.push_back(m_mentions.size());
+        m_facts.participants.reserve(m_mentions.size());
+    }
+
+    void addMentions(quint32 number)
+    {
+        const auto mentions =
+            std::span(m_mentions).first(m_firstMentions[number + 1]).subspan(m_firstMentions[number]);
+        if (!mentions.front().isNull())
+            m_facts.events[number].place = numberOf(mentions.front());
+        for (const ContentId& id : mentions.subspan(1)) {
+            if (!id.isNull())
+                addParticipant(number, numberOf(id));
+        }
+        m_facts.events[number + 1].firstParticipant = static_cast<quint32>(m_facts.participants.size());
     }
 
     void addParticipant(quint32 eventNumber, quint32 participant)
@@ -141,6 +172,13 @@ private:
     TimelineFacts m_facts;
     /** With the numbers of their events. */
     std::vector<std::pair<quint32, core::timeline::RelativeConstraint>> m_constraints;
+    /** The events by number. */
+    std::vector<const TimelineEvent*> m_sources;
+    /** The place of every event, null for none, and behind it its participants. */
+    std::vector<ContentId> m_mentions;
+    std::size_t m_mentionCount = 0;
+    /** Where the mentions of each event begin, and where those of the last end. */
+    std::vector<std::size_t> m_firstMentions;
     QHash<ContentId, quint32> m_thingNumbers;
     /** By number of the thing, so that a second mention in one event is noticed. */
     std::vector<quint32> m_lastEventOf;

@@ -28,14 +28,24 @@ struct RpcError
     QJsonValue data = {};
 };
 
+/** What a tool says: by far the most frequent result, and written without making an object of it. */
+struct ToolResult
+{
+    QString text;
+    bool isError = false;
+    /** Further members of the result. */
+    QJsonObject members = {};
+};
+
 /** What a request comes to. */
-using RpcOutcome = std::variant<QJsonObject, RpcError>;
+using RpcOutcome = std::variant<QJsonObject, ToolResult, RpcError>;
 
 /** A text or a number: what a request may be called by. */
 [[nodiscard]] bool isRequestId(const QJsonValue& id);
 
-[[nodiscard]] QJsonObject responseMessage(const QJsonValue& id, const RpcOutcome& outcome);
+/** The message that answers the request of that id, as one line without its end. */
+[[nodiscard]] QByteArray responseLine(const QJsonValue& id, const RpcOutcome& outcome);
 /** For messages whose id cannot be told; it is null then. */
-[[nodiscard]] QJsonObject errorMessage(const RpcError& error);
+[[nodiscard]] QByteArray errorLine(const RpcError& error);
 
 } // namespace tw::mcp::server

@@ -10,7 +10,8 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr std::chrono::nanoseconds leastPause = 2s;
-/** Looking takes at most this part of the time: one in so many. */
+constexpr std::chrono::nanoseconds longestGlancePause = 100ms;
+/** Looking takes at most this part of the time, and so does glancing at the folders: one in so many. */
 constexpr int restPerLook = 50;
 
 } // namespace
@@ -34,10 +35,15 @@ ProjectRefresher::FolderStamps ProjectRefresher::folderStamps() const
 
 bool ProjectRefresher::isChangedOnDisk()
 {
-    if (m_workspace.hasSingleFile() && m_workspace.isBundleChangedOnDisk())
-        return true;
+    const auto start = m_clock();
+    if (start < m_nextGlance)
+        return false;
+    const bool isBundleChanged = m_workspace.hasSingleFile() && m_workspace.isBundleChangedOnDisk();
     const FolderStamps stamps = folderStamps();
     const auto now = m_clock();
+    m_nextGlance = now + std::min(longestGlancePause, (now - start) * restPerLook);
+    if (isBundleChanged)
+        return true;
     if (stamps == m_seen && now < m_nextLook)
         return false;
     const bool isChanged = !m_workspace.externalChanges().isEmpty();

@@ -14,7 +14,9 @@ namespace tw::mcp::server {
  * program. Only while nothing is unsaved: then the changes stay, and saving is refused as in the program.
  *
  * Looking at every file takes a while, so that is done only when a folder shows that something was saved into
- * it, or once in a while; the dearer the look, the rarer.
+ * it, or once in a while; the dearer the look, the rarer. The glance at the folders is rationed in the same
+ * way, so that calls that follow each other at once pay for few of them; it is never left out for longer than
+ * a tenth of a second.
  */
 class ProjectRefresher
 {
@@ -42,6 +44,7 @@ private:
     SteadyClock m_clock;
     Log m_log;
     FolderStamps m_seen;
+    std::chrono::nanoseconds m_nextGlance = std::chrono::nanoseconds::min();
     std::chrono::nanoseconds m_nextLook;
 };
 

@@ -35,11 +35,6 @@ constexpr Caching fixedAnswer{std::chrono::hours(1), "public"_L1};
 /** What the writer may change at any moment. */
 constexpr Caching projectContent{std::chrono::milliseconds(0), "private"_L1};
 
-QByteArray lineOf(const QJsonDocument& document)
-{
-    return document.toJson(QJsonDocument::Compact);
-}
-
 QJsonObject capabilities()
 {
     return {{u"tools"_s, QJsonObject()}, {u"resources"_s, QJsonObject()}, {u"prompts"_s, QJsonObject()}};
@@ -48,6 +43,14 @@ QJsonObject capabilities()
 RpcError invalidParams(const QString& message)
 {
     return {ErrorCode::InvalidParams, message};
+}
+
+/** Where a result takes further members; none for an error. */
+QJsonObject* membersOf(RpcOutcome& outcome)
+{
+    if (auto* const tool = std::get_if<ToolResult>(&outcome))
+        return &tool->members;
+    return std::get_if<QJsonObject>(&outcome);
 }
 
 } // namespace
@@ -87,36 +90,30 @@ ProtocolServer::ProtocolServer(
 
 std::optional<QByteArray> ProtocolServer::answer(const InputMessage& message)
 {
-    if (!message.problem.isEmpty()) {
-        return lineOf(QJsonDocument(
-            errorMessage({ErrorCode::ParseError, u"The message is not JSON: %1"_s.arg(message.problem)})));
-    }
-    if (message.document.isArray()) {
-        const QJsonDocument answers = answerBatch(message.document.array());
-        return answers.isArray() && answers.array().isEmpty() ? std::nullopt : std::optional(lineOf(answers));
-    }
-    const auto answered = answerMessage(message.document.object());
-    return answered ? std::optional(lineOf(QJsonDocument(*answered))) : std::nullopt;
+    if (!message.problem.isEmpty())
+        return errorLine({ErrorCode::ParseError, u"The message is not JSON: %1"_s.arg(message.problem)});
+    return message.document.isArray() ? answerBatch(message.document.array())
+                                      : answerMessage(message.document.object());
 }
 
-QJsonDocument ProtocolServer::answerBatch(const QJsonArray& batch)
+std::optional<QByteArray> ProtocolServer::answerBatch(const QJsonArray& batch)
 {
     if (std::ranges::find(batchVersions, m_sessionVersion) == batchVersions.end()) {
-        return QJsonDocument(errorMessage(
+        return errorLine(
             {ErrorCode::InvalidRequest,
-             u"This version of the protocol has one message a line and no batches."_s}));
+             u"This version of the protocol has one message a line and no batches."_s});
     }
     if (batch.isEmpty())
-        return QJsonDocument(errorMessage({ErrorCode::InvalidRequest, u"The batch is empty."_s}));
-    QJsonArray answers;
+        return errorLine({ErrorCode::InvalidRequest, u"The batch is empty."_s});
+    QByteArrayList answers;
     for (const QJsonValue& message : batch) {
         if (const auto answered = answerMessage(message))
             answers.append(*answered);
     }
-    return QJsonDocument(answers);
+    return answers.isEmpty() ? std::nullopt : std::optional('[' + answers.join(',') + ']');
 }
 
-std::optional<QJsonObject> ProtocolServer::answerMessage(const QJsonValue& value)
+std::optional<QByteArray> ProtocolServer::answerMessage(const QJsonValue& value)
 {
     const QJsonObject message = value.toObject();
     const QJsonValue id = message.value(u"id");
@@ -130,11 +127,11 @@ std::optional<QJsonObject> ProtocolServer::answerMessage(const QJsonValue& value
             ErrorCode::InvalidRequest, u"A message needs \"jsonrpc\": \"2.0\", a \"method\", and, to be "
                                        u"answered, an \"id\" that is a text or a "
                                        "number."_s};
-        return isRequestId(id) ? responseMessage(id, error) : errorMessage(error);
+        return isRequestId(id) ? responseLine(id, error) : errorLine(error);
     }
     if (id.isUndefined())
         return std::nullopt;
-    return responseMessage(id, run(message));
+    return responseLine(id, run(message));
 }
 
 std::optional<RpcError> ProtocolServer::checkEnvelope(const QJsonObject& meta)
@@ -173,13 +170,13 @@ RpcOutcome ProtocolServer::run(const QJsonObject& message)
         request.generation = Generation::Stateless;
     }
     RpcOutcome outcome = (this->*method->handler)(request);
-    auto* const result = std::get_if<QJsonObject>(&outcome);
-    if (result && request.generation == Generation::Stateless) {
-        result->insert(u"resultType"_s, u"complete"_s);
-        result->insert(u"_meta"_s, QJsonObject{{serverInfoKey, serverInfo()}});
+    QJsonObject* const members = membersOf(outcome);
+    if (members && request.generation == Generation::Stateless) {
+        members->insert(u"resultType"_s, u"complete"_s);
+        members->insert(u"_meta"_s, QJsonObject{{serverInfoKey, serverInfo()}});
         if (method->caching) {
-            result->insert(u"ttlMs"_s, qint64{method->caching->lifetime.count()});
-            result->insert(u"cacheScope"_s, method->caching->scope);
+            members->insert(u"ttlMs"_s, qint64{method->caching->lifetime.count()});
+            members->insert(u"cacheScope"_s, method->caching->scope);
         }
     }
     return outcome;
@@ -239,11 +236,10 @@ RpcOutcome ProtocolServer::callTool(const Request& request)
     if (!m_catalogue.hasTool(name.toString()))
         return invalidParams(m_catalogue.server().callTool(name.toString(), {}).text);
     m_hooks.beforeUse();
-    const auto result = m_catalogue.server().callTool(name.toString(), arguments.toObject());
+    auto result = m_catalogue.server().callTool(name.toString(), arguments.toObject());
     if (m_catalogue.access(name.toString()) == app::mcp::ToolAccess::Changing)
         m_hooks.afterChange();
-    const QJsonObject content{{u"type"_s, u"text"_s}, {u"text"_s, result.text}};
-    return QJsonObject{{u"content"_s, QJsonArray{content}}, {u"isError"_s, !result.ok}};
+    return ToolResult{std::move(result.text), !result.ok};
 }
 
 RpcOutcome ProtocolServer::listResources(const Request& request)

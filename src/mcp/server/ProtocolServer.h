@@ -52,8 +52,8 @@ private:
     using Handler = RpcOutcome (ProtocolServer::*)(const Request& request);
     struct Method;
 
-    [[nodiscard]] std::optional<QJsonObject> answerMessage(const QJsonValue& message);
-    [[nodiscard]] QJsonDocument answerBatch(const QJsonArray& batch);
+    [[nodiscard]] std::optional<QByteArray> answerMessage(const QJsonValue& message);
+    [[nodiscard]] std::optional<QByteArray> answerBatch(const QJsonArray& batch);
     [[nodiscard]] RpcOutcome run(const QJsonObject& message);
     [[nodiscard]] static std::optional<RpcError> checkEnvelope(const QJsonObject& meta);
 

@@ -9,8 +9,6 @@ namespace tw::mcp::server {
 
 namespace {
 
-constexpr qsizetype chunkSize = 64 * 1024;
-
 bool hasArrived()
 {
     pollfd input{STDIN_FILENO, POLLIN, 0};
@@ -19,20 +17,18 @@ bool hasArrived()
 
 } // namespace
 
-QByteArray waitForInput()
+QByteArrayView StandardInput::waitForInput()
 {
-    QByteArray bytes(chunkSize, Qt::Uninitialized);
     ssize_t count = 0;
     do {
-        count = ::read(STDIN_FILENO, bytes.data(), static_cast<std::size_t>(bytes.size()));
+        count = ::read(STDIN_FILENO, m_buffer.data(), static_cast<std::size_t>(chunkSize));
     } while (count < 0 && errno == EINTR);
-    bytes.truncate(count < 0 ? 0 : count);
-    return bytes;
+    return QByteArrayView(m_buffer).first(count < 0 ? 0 : count);
 }
 
-QByteArray takeArrivedInput()
+QByteArrayView StandardInput::takeArrivedInput()
 {
-    return hasArrived() ? waitForInput() : QByteArray();
+    return hasArrived() ? waitForInput() : QByteArrayView();
 }
 
 } // namespace tw::mcp::server

@@ -6,8 +6,6 @@ namespace tw::mcp::server {
 
 namespace {
 
-constexpr qsizetype chunkSize = 64 * 1024;
-
 /** Of a pipe, which is what clients use; a console or a file is only ever waited for. */
 bool hasArrived()
 {
@@ -18,21 +16,19 @@ bool hasArrived()
 
 } // namespace
 
-QByteArray waitForInput()
+QByteArrayView StandardInput::waitForInput()
 {
-    QByteArray bytes(chunkSize, Qt::Uninitialized);
     DWORD count = 0;
     // The end of a pipe is reported as an error.
     if (!ReadFile(
-            GetStdHandle(STD_INPUT_HANDLE), bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr))
+            GetStdHandle(STD_INPUT_HANDLE), m_buffer.data(), static_cast<DWORD>(chunkSize), &count, nullptr))
         return {};
-    bytes.truncate(count);
-    return bytes;
+    return QByteArrayView(m_buffer).first(count);
 }
 
-QByteArray takeArrivedInput()
+QByteArrayView StandardInput::takeArrivedInput()
 {
-    return hasArrived() ? waitForInput() : QByteArray();
+    return hasArrived() ? waitForInput() : QByteArrayView();
 }
 
 } // namespace tw::mcp::server

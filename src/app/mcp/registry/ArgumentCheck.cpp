@@ -123,14 +123,14 @@ Result<void> checkInside(const QString& name, const QJsonValue& value, const QJs
 /** Checks all but what is missing at the top, where the message is another. */
 Result<void> checkPresent(const QJsonObject& record, const QJsonObject& properties)
 {
-    for (auto property = properties.begin(); property != properties.end(); ++property) {
-        const QJsonValue value = record.value(property.key());
-        if (value.isUndefined() || value.isNull())
+    for (auto argument = record.begin(); argument != record.end(); ++argument) {
+        const QJsonValue property = properties.value(argument.key());
+        if (argument->isNull() || property.isUndefined())
             continue;
-        const QJsonObject schema = property->toObject();
-        if (!isOfPropertyType(value, schema))
-            return Failure{u"%1 must be %2."_s.arg(quoted(property.key()), typeWords(schema))};
-        if (auto checked = checkInside(property.key(), value, schema); !checked)
+        const QJsonObject schema = property.toObject();
+        if (!isOfPropertyType(*argument, schema))
+            return Failure{u"%1 must be %2."_s.arg(quoted(argument.key()), typeWords(schema))};
+        if (auto checked = checkInside(argument.key(), *argument, schema); !checked)
             return checked;
     }
     return {};
@@ -141,18 +141,26 @@ bool isMissing(const QString& name, const QJsonObject& record, const QJsonObject
     return !isOfPropertyType(record.value(name), properties.value(name).toObject());
 }
 
+bool isAnyMissing(const QStringList& names, const QJsonObject& record, const QJsonObject& properties)
+{
+    return std::ranges::any_of(
+        names, [&](const QString& name) { return isMissing(name, record, properties); });
+}
+
+QStringList allQuoted(const QStringList& names)
+{
+    QStringList texts;
+    for (const QString& name : names)
+        texts.append(quoted(name));
+    return texts;
+}
+
 Result<void> checkRecord(const QString& owner, const QJsonObject& record, const QJsonObject& schema)
 {
     const QJsonObject properties = schema.value(u"properties").toObject();
     const QStringList required = textsOf(schema.value(u"required"));
-    QStringList names;
-    bool isAnyMissing = false;
-    for (const QString& name : required) {
-        names.append(quoted(name));
-        isAnyMissing = isAnyMissing || isMissing(name, record, properties);
-    }
-    if (isAnyMissing)
-        return Failure{u"%1 needs %2."_s.arg(owner, enumerated(names, u"and"_s))};
+    if (isAnyMissing(required, record, properties))
+        return Failure{u"%1 needs %2."_s.arg(owner, enumerated(allQuoted(required), u"and"_s))};
     return checkPresent(record, properties);
 }
 
@@ -181,18 +189,15 @@ std::optional<double> finiteNumber(const QJsonValue& value)
 Result<void> checkArguments(const McpToolSpec& spec, const QString& subject, const QJsonObject& arguments)
 {
     const QJsonObject properties = spec.inputSchema.value(u"properties").toObject();
-    QStringList needed;
-    bool isAnyMissing = false;
-    if (!subject.isEmpty()) {
-        needed.append(u"%1 (or \"id\")"_s.arg(quoted(subject)));
-        isAnyMissing = isMissing(subject, arguments, properties) && isMissing(u"id"_s, arguments, properties);
-    }
-    for (const QString& name : textsOf(spec.inputSchema.value(u"required"))) {
-        needed.append(quoted(name));
-        isAnyMissing = isAnyMissing || isMissing(name, arguments, properties);
-    }
-    if (isAnyMissing)
+    const QStringList required = textsOf(spec.inputSchema.value(u"required"));
+    const bool isSubjectMissing = !subject.isEmpty() && isMissing(subject, arguments, properties) &&
+                                  isMissing(u"id"_s, arguments, properties);
+    if (isSubjectMissing || isAnyMissing(required, arguments, properties)) {
+        QStringList needed = allQuoted(required);
+        if (!subject.isEmpty())
+            needed.prepend(u"%1 (or \"id\")"_s.arg(quoted(subject)));
         return Failure{u"%1 needs %2."_s.arg(spec.name, enumerated(needed, u"and"_s))};
+    }
     return checkPresent(arguments, properties);
 }
 
