@@ -13,11 +13,18 @@ namespace {
 
 constexpr int margin = 8;
 constexpr int smallestCharacters = 16;
-constexpr int textFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere | Qt::TextWordWrap;
+
+/** Between words; anywhere where one alone, as a path, is too long. */
+int wrapping(const QFont& font, const QRect& column, const QString& text)
+{
+    constexpr int betweenWords = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+    const bool fits = QFontMetrics(font).boundingRect(column, betweenWords, text).width() <= column.width();
+    return fits ? betweenWords : betweenWords | Qt::TextWrapAnywhere;
+}
 
 int wrappedHeight(const QFont& font, const QRect& column, const QString& text)
 {
-    return QFontMetrics(font).boundingRect(column, textFlags, text).height();
+    return QFontMetrics(font).boundingRect(column, wrapping(font, column, text), text).height();
 }
 
 } // namespace
@@ -105,10 +112,10 @@ void LinkButton::paintEvent(QPaintEvent*)
     QRect column = textColumn(width());
     painter.setPen(palette().color(QPalette::ButtonText));
     painter.setFont(titleFont());
-    painter.drawText(column, textFlags, text());
+    painter.drawText(column, wrapping(titleFont(), column, text()), text());
     column.setTop(column.top() + wrappedHeight(titleFont(), column, text()));
     painter.setFont(font());
-    painter.drawText(column, textFlags, m_description);
+    painter.drawText(column, wrapping(font(), column, m_description), m_description);
 }
 
 } // namespace tw::desktop::shell
