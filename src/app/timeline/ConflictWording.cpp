@@ -89,9 +89,18 @@ private:
             .arg(event, phraseOf(conflict.constraint), eventName(conflict.other));
     }
 
+    /** Where it stood; the long way only if it stands there no more. */
+    const TimelineEvent* find(const TimelineFacts::Event& event) const
+    {
+        const auto events = m_project.objectsOfKind(TimelineEvent::staticKind);
+        if (event.position < events.size() && events[event.position]->id() == event.id)
+            return static_cast<const TimelineEvent*>(events[event.position]);
+        return m_project.findAs<TimelineEvent>(event.id);
+    }
+
     QString eventName(quint32 number) const
     {
-        const auto* event = m_project.findAs<TimelineEvent>(m_facts.events[number].id);
+        const TimelineEvent* const event = find(m_facts.events[number]);
         return event && !event->title().isEmpty()
                    ? event->title()
                    : translated(QT_TRANSLATE_NOOP("Continuity", "Untitled event"));

@@ -79,13 +79,14 @@ private:
         const auto events = m_project.objectsOfKind(TimelineEvent::staticKind);
         m_facts.events.reserve(events.size() + 1);
         m_sources.reserve(events.size());
-        for (const ContentObject* object : events) {
-            if (m_lookup.isHidden(*object))
+        for (std::size_t position = 0; position < events.size(); ++position) {
+            if (m_lookup.isHidden(*events[position]))
                 continue;
-            const auto& event = static_cast<const TimelineEvent&>(*object);
+            const auto& event = static_cast<const TimelineEvent&>(*events[position]);
             const EventDetails& details = event.details();
             TimelineFacts::Event& fact = m_facts.events.back();
             fact.id = event.id();
+            fact.position = static_cast<quint32>(position);
             m_sources.push_back(&event);
             fact.span = {details.startMinute, event.endMinute()};
             for (const auto& constraint : details.constraints)

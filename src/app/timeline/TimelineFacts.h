@@ -79,6 +79,8 @@ struct TimelineFacts
         core::ContentId id;
         TimeSpan span;
         quint32 place = noPlace;
+        /** Among the project's objects of its kind when the facts were gathered. */
+        quint32 position = 0;
         /** Where those of the event begin in `participants` and `constraints`; they end with the next
          * event's. */
         quint32 firstParticipant = 0;
