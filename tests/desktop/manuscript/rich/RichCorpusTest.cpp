@@ -3,7 +3,6 @@
 #include "desktop/manuscript/rich/RichFormats.h"
 #include "support/MarkdownBodies.h"
 
-#include <QTextBlock>
 #include <QTextCursor>
 
 #include <gtest/gtest.h>
@@ -129,33 +128,6 @@ TEST(RichCorpusTest, anyBodyBecomesAnyOther)
         ASSERT_EQ(shown.reread(), text);
         ASSERT_EQ(shown.document.toRawText(), fresh.document.toRawText()) << text.toStdString();
         ASSERT_EQ(shown.body.words(), fresh.body.words()) << text.toStdString();
-    }
-}
-
-TEST(RichCorpusTest, aNewLookReachesEveryBlock)
-{
-    PageStyle style;
-    style.hasFirstLineIndents = true;
-    style.zoom = 1.5;
-    for (const QString& text : corpus()) {
-        Shown restyled;
-        restyled.apply(text);
-        restyled.formats.setLook(theme::builtInThemes().back(), style, 120);
-        restyled.isApplying = true;
-        restyled.body.restyle();
-        Shown fresh;
-        fresh.formats.setLook(theme::builtInThemes().back(), style, 120);
-        fresh.apply(text);
-        QTextBlock expected = fresh.document.begin();
-        for (QTextBlock block = restyled.document.begin(); block.isValid(); block = block.next()) {
-            ASSERT_TRUE(expected.isValid());
-            if (block.length() > 1) {
-                ASSERT_EQ(block.blockFormat(), expected.blockFormat()) << text.toStdString();
-                ASSERT_EQ(block.begin().fragment().charFormat(), expected.begin().fragment().charFormat())
-                    << text.toStdString();
-            }
-            expected = expected.next();
-        }
     }
 }
 
