@@ -81,27 +81,28 @@ struct TimelineFacts
         quint32 place = noPlace;
         /** Among the project's objects of its kind when the facts were gathered. */
         quint32 position = 0;
-        /** Where those of the event begin in `participants` and `constraints`; they end with the next
-         * event's. */
-        quint32 firstParticipant = 0;
-        quint32 firstConstraint = 0;
     };
 
     /** Each once, in the order of first appearance. */
     [[nodiscard]] std::span<const quint32> participantsOf(quint32 event) const
     {
-        const quint32 first = events[event].firstParticipant;
-        return std::span(participants).subspan(first, events[event + 1].firstParticipant - first);
+        const quint32 first = firstParticipants[event];
+        return std::span(participants).subspan(first, firstParticipants[event + 1] - first);
     }
     [[nodiscard]] std::span<const Constraint> constraintsOf(quint32 event) const
     {
-        const quint32 first = events[event].firstConstraint;
-        return std::span(constraints).subspan(first, events[event + 1].firstConstraint - first);
+        const quint32 first = firstConstraints[event];
+        return std::span(constraints).subspan(first, firstConstraints[event + 1] - first);
     }
-    [[nodiscard]] quint32 eventCount() const { return static_cast<quint32>(events.size()) - 1; }
+    [[nodiscard]] quint32 eventCount() const { return static_cast<quint32>(events.size()); }
 
-    /** With one more behind the last, which says where that one's lists end. */
-    std::vector<Event> events = std::vector<Event>(1);
+    std::vector<Event> events;
+    /**
+     * Where those of each event begin in `participants` and `constraints`, and where those of the last end.
+     * Apart from the events, so that all of it stays near the processor.
+     */
+    std::vector<quint32> firstParticipants{0};
+    std::vector<quint32> firstConstraints{0};
     /** Numbers of things, of all events. */
     std::vector<quint32> participants;
     std::vector<Constraint> constraints;
