@@ -1,6 +1,8 @@
 #include "desktop/continuity/ContinuityProblems.h"
 
 #include "app/timeline/ConflictFinder.h"
+#include "core/entity/Entity.h"
+#include "core/timeline/TimelineEvent.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
@@ -31,6 +33,20 @@ ContinuityScope scopeOf(const shell::ProjectSession& session)
     for (const app::workspace::MountedLibrary& library : session.workspace().libraries())
         scope.libraries.push_back(library.project.get());
     return scope;
+}
+
+/** An event has no page of its own: it stands on those of who takes part, and of its place. */
+core::ContentId pageOf(const core::project::Project& project, const core::ContentId& object)
+{
+    const auto* const event = project.findAs<core::timeline::TimelineEvent>(object);
+    if (!event)
+        return object;
+    std::vector<core::ContentId> entities = event->details().participants;
+    entities.push_back(event->details().locationId);
+    const auto shown = std::ranges::find_if(entities, [&project](const core::ContentId& id) {
+        return project.findAs<core::entity::Entity>(id) != nullptr;
+    });
+    return shown == entities.end() ? object : *shown;
 }
 
 } // namespace
@@ -175,8 +191,8 @@ void ContinuityProblems::show(const core::ContentId& object, const Problem& prob
         m_desk.navigator.say(problem.message);
         return;
     }
+    m_desk.navigator.open(pageOf(m_desk.session.project(), object));
     m_desk.navigator.setCurrent(object);
-    m_desk.navigator.open(object);
 }
 
 QStringList ContinuityProblems::suggestions(const core::ContentId& /*object*/, const Problem& /*problem*/)

@@ -109,7 +109,8 @@ TEST_F(ContinuityProblemsTest, goesToTheEvent)
     const auto listedProblem = model.problemAt(model.index(0, 0, model.index(0, 0)));
     listedProblem.source->show(listedProblem.object, *listedProblem.problem);
     EXPECT_EQ(desk.navigator.current(), feast);
-    EXPECT_EQ(opened.count(), 1);
+    ASSERT_EQ(opened.count(), 1);
+    EXPECT_EQ(opened.first().first().value<core::ContentId>(), ann) << "on whose page it stands";
 }
 
 TEST_F(ContinuityProblemsTest, anotherProjectLeavesNothingBehind)
