@@ -19,7 +19,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int markSize = 72;
-constexpr int columnCharacters = 52;
+constexpr int columnCharacters = 60;
 constexpr int shownRecent = 5;
 /** The column has its full width before the page beside it gets any. */
 constexpr int columnStretch = 1000;
