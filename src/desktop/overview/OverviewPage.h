@@ -4,6 +4,8 @@
 #include "desktop/shell/DeskContext.h"
 #include "desktop/shell/WorkPage.h"
 
+#include <QPointer>
+
 #include <functional>
 
 class QAbstractItemView;
