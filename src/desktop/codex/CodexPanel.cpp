@@ -28,7 +28,7 @@ CodexPanel::CodexPanel(const shell::DeskContext& desk, QWidget* parent)
     , m_desk(desk)
     , m_model(new CodexModel(desk, this))
     , m_header(new shell::PanelHeader(desk.icons, tr("Filter the codex"), this))
-    , m_tree(new trees::NavigatorTree(desk.themes, this))
+    , m_tree(new trees::NavigatorTree(desk, this))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -130,13 +130,13 @@ void EntityPage::noteTyping()
 {
     if (std::exchange(m_hasTyping, true))
         return;
-    m_desk.session.setTypingPending(true);
+    m_desk.session.setTypingPending(*this, true);
 }
 
 void EntityPage::commit()
 {
     if (std::exchange(m_hasTyping, false))
-        m_desk.session.setTypingPending(false);
+        m_desk.session.setTypingPending(*this, false);
     for (EntitySection* const section : m_sections)
         section->commit();
 }

@@ -34,6 +34,7 @@ public:
     void setInstant(const std::optional<core::calendar::StoryInstant>& instant);
     [[nodiscard]] const std::optional<core::calendar::StoryInstant>& instant() const { return m_instant; }
     void setReadOnly(bool readOnly);
+    [[nodiscard]] const QLineEdit& lineEdit() const { return *m_text; }
 
     /** Takes what was typed as if the field had been left. */
     void commit();

@@ -6,6 +6,7 @@
 #include "desktop/fields/StoryDateEdit.h"
 #include "desktop/manuscript/OutlineColumns.h"
 #include "desktop/manuscript/StatusColors.h"
+#include "desktop/shell/PendingEdit.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QComboBox>
@@ -14,6 +15,8 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
+
+#include <algorithm>
 
 namespace tw::desktop::inspector {
 
@@ -97,6 +100,7 @@ DocumentSection::DocumentSection(const shell::DeskContext& desk, QWidget* parent
 void DocumentSection::connectFields()
 {
     namespace doc = core::document;
+    holdTyping();
     connectSynopsis();
     connect(m_kind, &QComboBox::activated, this, [this] {
         apply<doc::SetDocumentKindCommand>(static_cast<DocumentKind>(m_kind->currentData().toInt()));
@@ -124,7 +128,6 @@ void DocumentSection::connectFields()
         [this](const std::optional<core::calendar::StoryInstant>& instant) {
             apply<doc::SetDocumentSceneInstantCommand>(instant);
         });
-    connect(&m_desk.session, &shell::ProjectSession::commitRequested, this, &DocumentSection::commitSynopsis);
 }
 
 template <class Command, class Value>
@@ -139,19 +142,42 @@ const Document* DocumentSection::document() const
     return m_desk.session.project().findAs<Document>(m_id);
 }
 
+void DocumentSection::holdTyping()
+{
+    // Before the fields are connected to what stores them: a field that stores holds nothing any more.
+    const auto hold = [this](std::function<void()> commit, shell::CommitReason least) {
+        m_held.push_back(new shell::PendingEdit(m_desk.session, this, std::move(commit), least));
+        return m_held.back();
+    };
+    m_heldSynopsis = hold([this] { commitSynopsis(); }, shell::CommitReason::InPassing);
+    // Half a word, number or date is another one, and storing it writes it anew under the cursor.
+    for (QComboBox* const box : {m_status, m_pointOfView}) {
+        QLineEdit* const text = box->lineEdit();
+        auto* const held = hold([text] { emit text->editingFinished(); }, shell::CommitReason::Asked);
+        held->follow(*text);
+        connect(box, &QComboBox::activated, held, &shell::PendingEdit::end);
+    }
+    for (QSpinBox* const box : {m_tension, m_target}) {
+        auto* const held = hold([box] { box->interpretText(); }, shell::CommitReason::Asked);
+        held->follow(*box->findChild<QLineEdit*>());
+        connect(box, &QSpinBox::editingFinished, held, &shell::PendingEdit::end);
+    }
+    hold([this] { m_sceneDate->commit(); }, shell::CommitReason::Asked)->follow(m_sceneDate->lineEdit());
+}
+
 void DocumentSection::connectSynopsis()
 {
     new fields::EditorKeys(*m_synopsis, [this] {
         if (m_synopsis->text() == m_shownSynopsis)
             return false;
         showSynopsis(m_shownSynopsis);
-        m_desk.session.setTypingPending(false);
+        m_heldSynopsis->end();
         return true;
     });
     connect(m_synopsis, &fields::GrowingTextEdit::left, this, &DocumentSection::commitSynopsis);
     connect(m_synopsis, &QTextEdit::textChanged, this, [this] {
         if (m_synopsis->text() != m_shownSynopsis)
-            m_desk.session.setTypingPending(true);
+            m_heldSynopsis->begin();
     });
 }
 
@@ -168,14 +194,14 @@ void DocumentSection::commitSynopsis()
     if (text == m_shownSynopsis)
         return;
     m_shownSynopsis = text;
-    m_desk.session.setTypingPending(false);
+    m_heldSynopsis->end();
     apply<core::document::SetDocumentSynopsisCommand>(text);
 }
 
 void DocumentSection::showDocument(const core::ContentId& id)
 {
     if (id != m_id)
-        commitSynopsis();
+        std::ranges::for_each(m_held, &shell::PendingEdit::commit);
     m_id = id;
     const Document* const shown = document();
     setEnabled(shown && !shown->isLocked());

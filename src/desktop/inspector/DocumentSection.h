@@ -6,8 +6,10 @@
 #include <QWidget>
 
 #include <memory>
+#include <vector>
 
 class QComboBox;
+class QLineEdit;
 class QSpinBox;
 
 namespace tw::core::document {
@@ -20,6 +22,10 @@ namespace tw::desktop::fields {
 class GrowingTextEdit;
 class StoryDateEdit;
 } // namespace tw::desktop::fields
+
+namespace tw::desktop::shell {
+class PendingEdit;
+}
 
 namespace tw::desktop::inspector {
 
@@ -37,6 +43,8 @@ public:
 private:
     void connectFields();
     void connectSynopsis();
+    /** What is typed into the fields is stored before anything else happens. */
+    void holdTyping();
     void showSynopsis(const QString& text);
     void commitSynopsis();
     void fillSuggestions();
@@ -50,12 +58,14 @@ private:
     fields::GrowingTextEdit* m_synopsis;
     /** As the project has it. */
     QString m_shownSynopsis;
+    shell::PendingEdit* m_heldSynopsis = nullptr;
     QComboBox* m_kind;
     QComboBox* m_status;
     QComboBox* m_pointOfView;
     QSpinBox* m_tension;
     fields::StoryDateEdit* m_sceneDate;
     QSpinBox* m_target;
+    std::vector<shell::PendingEdit*> m_held;
 };
 
 } // namespace tw::desktop::inspector

@@ -3,7 +3,7 @@
 #include "core/content/ContentCommands.h"
 #include "core/plot/PlotCommands.h"
 #include "desktop/icons/IconSet.h"
-#include "desktop/shell/ProjectSession.h"
+#include "desktop/shell/PendingEdit.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QCheckBox>
@@ -44,6 +44,8 @@ ObjectSection::ObjectSection(const shell::DeskContext& desk, QWidget* parent)
     : QWidget(parent)
     , m_desk(desk)
     , m_tags(new QLineEdit(this))
+    , m_heldTags(new shell::PendingEdit(
+          desk.session, this, [this] { commitTags(); }, shell::CommitReason::InPassing))
     , m_locked(new QCheckBox(tr("&Locked"), this))
     , m_aiExcluded(new QCheckBox(tr("E&xclude from AI"), this))
     , m_pinned(new QCheckBox(tr("Pinne&d"), this))
@@ -70,6 +72,7 @@ ObjectSection::ObjectSection(const shell::DeskContext& desk, QWidget* parent)
     layout->addLayout(switches);
     m_tags->setPlaceholderText(tr("Separated by commas"));
 
+    m_heldTags->follow(*m_tags);
     connect(m_tags, &QLineEdit::editingFinished, this, &ObjectSection::commitTags);
     connect(m_locked, &QCheckBox::clicked, this, [this](bool on) {
         apply<core::content::SetObjectLockCommand>(on);
@@ -112,6 +115,8 @@ const core::content::ContentObject* ObjectSection::object() const
 
 void ObjectSection::showObject(const core::ContentId& id)
 {
+    if (id != m_id)
+        m_heldTags->commit();
     m_id = id;
     const auto* const shown = object();
     if (!shown)

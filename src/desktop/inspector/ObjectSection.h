@@ -10,6 +10,10 @@ class QLabel;
 class QLineEdit;
 class QVBoxLayout;
 
+namespace tw::desktop::shell {
+class PendingEdit;
+}
+
 namespace tw::desktop::inspector {
 
 /** What every object has: tags, plot threads, audiences, lock, exclusion from the assistant, pin. */
@@ -20,7 +24,7 @@ class ObjectSection final : public QWidget
 public:
     ObjectSection(const shell::DeskContext& desk, QWidget* parent);
 
-    /** Null shows nothing. */
+    /** Null shows nothing. What was typed for the object before is committed first. */
     void showObject(const core::ContentId& id);
 
 private:
@@ -47,6 +51,7 @@ private:
     shell::DeskContext m_desk;
     core::ContentId m_id;
     QLineEdit* m_tags;
+    shell::PendingEdit* m_heldTags;
     QWidget* m_threadGroup = nullptr;
     QWidget* m_threads = nullptr;
     QWidget* m_audienceGroup = nullptr;

@@ -23,7 +23,7 @@ ManuscriptPanel::ManuscriptPanel(const shell::DeskContext& desk, QWidget* parent
     , m_actions(new DocumentActions(desk, this))
     , m_model(new ManuscriptModel(desk, this))
     , m_header(new shell::PanelHeader(desk.icons, tr("Filter the manuscript"), this))
-    , m_tree(new trees::NavigatorTree(desk.themes, this))
+    , m_tree(new trees::NavigatorTree(desk, this))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -83,7 +83,7 @@ NotesPane::Row NotesPane::makeRow(const Footnote& note)
     connect(row.text, &fields::GrowingTextEdit::left, this, &NotesPane::commit);
     connect(row.text, &QTextEdit::textChanged, this, [this, text = row.text] {
         if (text->hasFocus())
-            m_desk.session.setTypingPending(true);
+            m_desk.session.setTypingPending(*this, true);
     });
     connect(
         remove, &QToolButton::clicked, this,
@@ -141,7 +141,7 @@ void NotesPane::commit()
     for (const auto& [label, text] : changed)
         setNoteText(m_desk.session, m_documentId, label, text);
     if (!changed.empty())
-        m_desk.session.setTypingPending(false);
+        m_desk.session.setTypingPending(*this, false);
 }
 
 } // namespace tw::desktop::manuscript

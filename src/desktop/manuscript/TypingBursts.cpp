@@ -56,7 +56,7 @@ void TypingBursts::noteTyping()
     if (m_hasTyping)
         return;
     m_hasTyping = true;
-    m_session.setTypingPending(true);
+    m_session.setTypingPending(*this, true);
 }
 
 void TypingBursts::endTyping()
@@ -70,7 +70,7 @@ void TypingBursts::commit()
     if (!m_hasTyping)
         return;
     endTyping();
-    m_session.setTypingPending(false);
+    m_session.setTypingPending(*this, false);
     auto* const document = m_session.projectForCommands().findAsForEdit<Document>(m_documentId);
     if (!document)
         return;

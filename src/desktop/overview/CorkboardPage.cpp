@@ -4,6 +4,7 @@
 #include "desktop/overview/CardDelegate.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/theme/ThemeManager.h"
+#include "desktop/trees/CommittingView.h"
 
 #include <QDropEvent>
 #include <QListView>
@@ -16,10 +17,10 @@ using core::ContentId;
 
 namespace {
 
-class CardList final : public QListView
+class CardList final : public trees::CommittingView<QListView>
 {
 public:
-    using QListView::QListView;
+    using CommittingView::CommittingView;
 
 protected:
     void resizeEvent(QResizeEvent* event) override
@@ -45,7 +46,7 @@ protected:
 
 CorkboardPage::CorkboardPage(const OverviewContext& context, const ContentId& rootId, QWidget* parent)
     : OverviewPage(context, {rootId, corkboardView}, parent)
-    , m_cards(new CardList(this))
+    , m_cards(new CardList(context.desk.session, this))
 {
     m_cards->setAccessibleName(tr("Corkboard"));
     m_cards->setItemDelegate(new CardDelegate(context.desk, m_cards));

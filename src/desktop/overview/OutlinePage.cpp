@@ -5,6 +5,7 @@
 #include "desktop/manuscript/StatusColors.h"
 #include "desktop/overview/ChoiceDelegate.h"
 #include "desktop/shell/ProjectSession.h"
+#include "desktop/trees/CommittingView.h"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -45,7 +46,7 @@ int widthIn(OutlineColumn column, const QFontMetrics& metrics)
 
 OutlinePage::OutlinePage(const OverviewContext& context, const ContentId& rootId, QWidget* parent)
     : OverviewPage(context, {rootId, outlineView}, parent)
-    , m_tree(new QTreeView(this))
+    , m_tree(new trees::CommittingView<QTreeView>(context.desk.session, this))
 {
     m_tree->setAccessibleName(tr("Outline"));
     m_tree->setUniformRowHeights(true);

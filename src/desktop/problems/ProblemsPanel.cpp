@@ -37,7 +37,7 @@ ProblemsPanel::ProblemsPanel(
     , m_sources(sources)
     , m_model(new ProblemsModel(desk, sources, this))
     , m_header(new shell::PanelHeader(desk.icons, tr("Filter the problems"), this))
-    , m_tree(new trees::NavigatorTree(desk.themes, this))
+    , m_tree(new trees::NavigatorTree(desk, this))
     , m_summary(new QLabel(this))
 {
     auto* const layout = new QVBoxLayout(this);

@@ -120,7 +120,7 @@ void CrashKeeper::noteHeldBackTyping(QList<JournalEdit>& edits)
     const HeldBackTexts texts = isPending ? m_session.heldBackTexts() : HeldBackTexts();
     // A field of an entity: short enough to become a step of its own.
     if (isPending && texts.isEmpty())
-        m_session.commitPendingEdits();
+        m_session.commitPendingEdits(CommitReason::InPassing);
     // Typing that was taken back leaves the object as it was.
     for (const auto& [id, text] : m_notedTyping.asKeyValueRange()) {
         if (!texts.contains(id))

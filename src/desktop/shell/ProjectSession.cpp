@@ -68,21 +68,32 @@ void ProjectSession::runOnWorkspace(const std::function<void(Workspace& workspac
         static_cast<void>(noteSave({}));
 }
 
-void ProjectSession::commitPendingEdits()
+void ProjectSession::commitPendingEdits(CommitReason reason)
 {
     // The edits that come out of this are commands themselves.
     if (m_committing)
         return;
     const QScopedValueRollback guard(m_committing, true);
-    emit commitRequested();
+    emit commitRequested(reason);
 }
 
-void ProjectSession::setTypingPending(bool pending)
+void ProjectSession::setTypingPending(const QObject& editor, bool pending)
 {
-    m_typingPending = pending;
+    if (pending == isTypingPending(editor))
+        return;
+    const auto letGo = [this](const QObject* gone) {
+        m_typingEditors.remove(gone);
+        updateSaveState();
+    };
+    if (!pending) {
+        disconnect(&editor, &QObject::destroyed, this, nullptr);
+        letGo(&editor);
+        return;
+    }
+    m_typingEditors.insert(&editor);
+    connect(&editor, &QObject::destroyed, this, letGo);
     updateSaveState();
-    if (pending)
-        emit typingBegan();
+    emit typingBegan();
 }
 
 HeldBackTexts ProjectSession::heldBackTexts()
@@ -125,7 +136,7 @@ void ProjectSession::replaceWorkspace(std::unique_ptr<Workspace> workspace)
     // The old one lives until everybody has let go of it.
     std::swap(m_workspace, workspace);
     m_isProjectOpen = true;
-    m_typingPending = false;
+    m_typingEditors.clear();
     m_saveFailure.clear();
     startAutosave();
     announceEverything();
@@ -135,7 +146,9 @@ void ProjectSession::startAutosave()
 {
     using app::persistence::AutosaveController;
     m_autosave = std::make_unique<AutosaveController>(*m_workspace);
-    connect(m_autosave.get(), &AutosaveController::aboutToSave, this, &ProjectSession::prepareSave);
+    connect(m_autosave.get(), &AutosaveController::aboutToSave, this, [this] {
+        prepareSave(CommitReason::InPassing);
+    });
     connect(m_autosave.get(), &AutosaveController::saved, this, [this] { static_cast<void>(noteSave({})); });
     connect(m_autosave.get(), &AutosaveController::saveFailed, this, [this](const QString& message) {
         static_cast<void>(noteSave(core::Failure{message}));
@@ -199,9 +212,9 @@ Result<void> ProjectSession::saveAs(const QString& folder)
     return noteSave(m_workspace->saveAs(folder));
 }
 
-void ProjectSession::prepareSave()
+void ProjectSession::prepareSave(CommitReason reason)
 {
-    commitPendingEdits();
+    commitPendingEdits(reason);
     if (m_workspace->isModified())
         emit aboutToSave();
 }
@@ -233,7 +246,7 @@ Result<void> ProjectSession::restoreUnsaved(const std::map<QString, app::persist
 
 void ProjectSession::announceReload()
 {
-    m_typingPending = false;
+    m_typingEditors.clear();
     m_saveFailure.clear();
     announceEverything();
 }

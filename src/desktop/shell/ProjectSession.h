@@ -8,6 +8,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 #include <chrono>
 #include <functional>
@@ -37,6 +38,16 @@ enum class SaveState
     Failed,
 };
 
+/** Why editors are asked for the typing they hold. */
+enum class CommitReason
+{
+    /** The program saves or notes what there is while the writer types: whatever this would disturb may wait.
+     */
+    InPassing,
+    /** Something is done with the project, and must not run ahead of the writer's last words. */
+    Asked,
+};
+
 /** The ways out of a review of others' changes; see ExternalReview. */
 enum class Settlement
 {
@@ -51,7 +62,7 @@ enum class Settlement
  *
  * Panels hold ids, never pointers to objects, across changed(). An editor that keeps typing back for a moment
  * listens to commitRequested() and pushes what it holds, so that no save, undo or command runs ahead of the
- * writer's last words.
+ * writer's last words; PendingEdit and trees::CommittingView do that for fields and for cells.
  */
 class ProjectSession final : public QObject
 {
@@ -109,10 +120,14 @@ public:
     void runOnWorkspace(const std::function<void(app::workspace::Workspace& workspace)>& work);
 
     /** Has editors push the typing they hold. */
-    void commitPendingEdits();
-    /** An editor holds typing that is not in the project yet, or no longer does. */
-    void setTypingPending(bool pending);
-    [[nodiscard]] bool isTypingPending() const { return m_typingPending; }
+    void commitPendingEdits(CommitReason reason = CommitReason::Asked);
+    /** An editor holds typing that is not in the project yet, or no longer does. See PendingEdit. */
+    void setTypingPending(const QObject& editor, bool pending);
+    [[nodiscard]] bool isTypingPending() const { return !m_typingEditors.isEmpty(); }
+    [[nodiscard]] bool isTypingPending(const QObject& editor) const
+    {
+        return m_typingEditors.contains(&editor);
+    }
     /** What editors of documents hold back, without making an edit of it. */
     [[nodiscard]] HeldBackTexts heldBackTexts();
 
@@ -148,7 +163,7 @@ public:
     [[nodiscard]] core::Result<void> restoreUnsaved(
         const std::map<QString, app::persistence::FileVersion>& files);
 
-    [[nodiscard]] bool isModified() const { return m_typingPending || m_workspace->isModified(); }
+    [[nodiscard]] bool isModified() const { return isTypingPending() || m_workspace->isModified(); }
     [[nodiscard]] SaveState saveState() const;
     /** Why the last save failed; empty when it did not. */
     [[nodiscard]] const QString& saveFailure() const { return m_saveFailure; }
@@ -159,7 +174,7 @@ signals:
     /** The steps that undo() and redo() would take are different now. */
     void historyChanged();
     void saveStateChanged(tw::desktop::shell::SaveState state);
-    void commitRequested();
+    void commitRequested(tw::desktop::shell::CommitReason reason);
     /** An editor began to hold typing back. */
     void typingBegan();
     /** Whoever holds back the text of a document puts it in. */
@@ -180,7 +195,7 @@ private:
     void updateSaveState();
     void startAutosave();
     void applyAutosaveSettings();
-    void prepareSave();
+    void prepareSave(CommitReason reason = CommitReason::Asked);
     [[nodiscard]] core::Result<void> noteSave(core::Result<void> result);
 
     const app::persistence::StorageEnvironment& m_environment;
@@ -189,7 +204,8 @@ private:
     std::unique_ptr<app::persistence::AutosaveController> m_autosave;
     ProjectWords m_words;
     bool m_isProjectOpen = false;
-    bool m_typingPending = false;
+    /** Those that hold typing. */
+    QSet<const QObject*> m_typingEditors;
     bool m_committing = false;
     QString m_saveFailure;
     SaveState m_announcedState = SaveState::Saved;

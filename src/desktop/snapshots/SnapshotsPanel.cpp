@@ -10,6 +10,7 @@
 #include "desktop/snapshots/SnapshotEdits.h"
 #include "desktop/snapshots/SnapshotModel.h"
 #include "desktop/theme/ThemeManager.h"
+#include "desktop/trees/CommittingView.h"
 #include "desktop/trees/TreeRowDelegate.h"
 
 #include <QAction>
@@ -64,7 +65,7 @@ SnapshotsPanel::SnapshotsPanel(const shell::DeskContext& desk, QWidget* parent)
     , m_model(new SnapshotModel(desk.icons, this))
     , m_label(new QLineEdit(this))
     , m_variant(new QComboBox(this))
-    , m_list(new QListView(this))
+    , m_list(new trees::CommittingView<QListView>(desk.session, this))
     , m_other(new QComboBox(this))
     , m_difference(new DifferenceView(desk.themes, this))
     , m_stack(new QStackedWidget(this))

@@ -1,6 +1,5 @@
 #include "desktop/trees/NavigatorTree.h"
 
-#include "desktop/theme/ThemeManager.h"
 #include "desktop/trees/TreeRoles.h"
 #include "desktop/trees/TreeRowDelegate.h"
 
@@ -16,14 +15,14 @@ constexpr int hintMargin = 24;
 
 } // namespace
 
-NavigatorTree::NavigatorTree(const theme::ThemeManager& themes, QWidget* parent)
-    : QTreeView(parent)
+NavigatorTree::NavigatorTree(const shell::DeskContext& desk, QWidget* parent)
+    : CommittingView(desk.session, parent)
     , m_hint(new QLabel(viewport()))
 {
     m_filter.setRecursiveFilteringEnabled(true);
     m_filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_filter.setAutoAcceptChildRows(true);
-    setItemDelegate(new TreeRowDelegate(themes, this));
+    setItemDelegate(new TreeRowDelegate(desk.themes, this));
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setFrameShape(QFrame::NoFrame);
@@ -130,7 +129,7 @@ void NavigatorTree::renameSource(const QModelIndex& source)
 {
     selectSource(source);
     if (const QModelIndex index = m_filter.mapFromSource(source); index.isValid())
-        edit(index);
+        QTreeView::edit(index);
 }
 
 QStringList NavigatorTree::collapsedIds() const

@@ -1,14 +1,13 @@
 #pragma once
 
+#include "desktop/shell/DeskContext.h"
+#include "desktop/trees/CommittingView.h"
+
 #include <QSet>
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 
 class QLabel;
-
-namespace tw::desktop::theme {
-class ThemeManager;
-}
 
 namespace tw::desktop::trees {
 
@@ -17,12 +16,12 @@ namespace tw::desktop::trees {
  * stay open and selected by id when the model is built anew, a drop line, renaming in place, and a hint in
  * the middle while there is nothing to show.
  */
-class NavigatorTree final : public QTreeView
+class NavigatorTree final : public CommittingView<QTreeView>
 {
     Q_OBJECT
 
 public:
-    NavigatorTree(const theme::ThemeManager& themes, QWidget* parent);
+    NavigatorTree(const shell::DeskContext& desk, QWidget* parent);
 
     /** The model stays the caller's and must outlive the tree. Replaces setModel(). */
     void setSource(QAbstractItemModel& source);

@@ -3,11 +3,14 @@
 #include "core/document/DocumentCommands.h"
 #include "core/taxonomy/TaxonomyCommands.h"
 #include "desktop/codex/CodexFixture.h"
+#include "desktop/trees/NavigatorTree.h"
 #include "desktop/trees/TreeRoles.h"
 
 #include <QAbstractItemModelTester>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <random>
 
@@ -111,6 +114,29 @@ TEST_F(CodexModelTest, renamesInPlaceButNotWhatIsLocked)
     EXPECT_TRUE(model.flags(at(CodexItem::entity(annis))).testFlag(Qt::ItemIsEditable));
     entity(annis).setLocked(true);
     EXPECT_FALSE(model.flags(at(CodexItem::entity(annis))).testFlag(Qt::ItemIsEditable));
+}
+
+TEST_F(CodexModelTest, aNameThatIsStillBeingTypedIsSavedThoughItsRowMoves)
+{
+    trees::NavigatorTree tree(desk.context, nullptr);
+    tree.setSource(model);
+    tree.show();
+    addEntity(u"Cole"_s, people);
+    desk.announce();
+    for (const bool isTakenBack : {true, false}) {
+        tree.renameSource(at(CodexItem::entity(bream)));
+        auto* const line = tree.findChild<QLineEdit*>();
+        ASSERT_TRUE(line);
+        QTest::keyClicks(line, u"Zed"_s);
+        EXPECT_TRUE(desk.session.isTypingPending());
+        if (isTakenBack)
+            QTest::keyClick(line, Qt::Key_Escape);
+        desk.session.commitPendingEdits();
+        EXPECT_FALSE(desk.session.isTypingPending());
+        EXPECT_EQ(entity(bream).name(), isTakenBack ? u"Bream"_s : u"Zed"_s);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_EQ(shape(model), u"[People [Clerks Annis] Cole Zed] [Places [Staithe [Wards Counter]]]"_s);
 }
 
 TEST_F(CodexModelTest, droppingMovesOrSaysWhyNot)

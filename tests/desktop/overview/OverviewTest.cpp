@@ -172,6 +172,32 @@ TEST_F(OverviewTest, cardsAreWrittenAddedMovedAndRemovedFromTheKeyboard)
     EXPECT_EQ(titlesBelow(part), u"Two First New note"_s);
 }
 
+TEST_F(OverviewTest, whatStillStandsInACellOrOnACardIsSavedAsOneStep)
+{
+    const auto outline = show<OutlinePage>(part);
+    const auto board = show<CorkboardPage>(part);
+    const auto typeAndSave = [this](QAbstractItemView& list, const QString& title, const QString& expected) {
+        const QModelIndex index = static_cast<DocumentFilter*>(list.model())->indexOf(one);
+        list.setCurrentIndex(index);
+        list.edit(index);
+        QWidget* const editor = list.indexWidget(index);
+        auto* line = qobject_cast<QLineEdit*>(editor);
+        line = line ? line : editor->findChild<QLineEdit*>();
+        QTest::keyClicks(line, title);
+        EXPECT_TRUE(desk.session.isTypingPending());
+        desk.session.commitPendingEdits(shell::CommitReason::InPassing);
+        EXPECT_TRUE(list.isPersistentEditorOpen(index)) << "the next key is for the editor";
+        desk.session.commitPendingEdits();
+        EXPECT_FALSE(list.isPersistentEditorOpen(index));
+        EXPECT_EQ(desk.document(one).title(), expected);
+        desk.session.undo();
+        EXPECT_EQ(desk.document(one).title(), u"One"_s);
+    };
+    typeAndSave(outline->tree(), u"First"_s, u"First"_s);
+    typeAndSave(board->cards(), u"Dawn"_s, u"Dawn"_s);
+    EXPECT_FALSE(desk.session.canUndo());
+}
+
 TEST_F(OverviewTest, aCardDroppedBetweenOthersTakesThatPlace)
 {
     const auto page = show<CorkboardPage>(part);

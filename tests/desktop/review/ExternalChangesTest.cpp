@@ -274,12 +274,12 @@ TEST_F(ExternalChangesTest, neverLooksWhileSomebodyTypes)
 {
     DiskWatch watch(desk.session, nullptr, std::chrono::milliseconds(0));
     QSignalSpy looked(&watch, &DiskWatch::looked);
-    desk.session.setTypingPending(true);
+    desk.session.setTypingPending(desk.session, true);
     watch.lookSoon();
     for (int turn = 0; turn < 20; ++turn)
         QApplication::processEvents();
     EXPECT_TRUE(looked.isEmpty());
-    desk.session.setTypingPending(false);
+    desk.session.setTypingPending(desk.session, false);
     EXPECT_TRUE(looked.wait());
 }
 

@@ -45,7 +45,7 @@ protected:
     void type(const QString& text)
     {
         held = text;
-        desk.session.setTypingPending(!text.isNull());
+        desk.session.setTypingPending(desk.session, !text.isNull());
     }
 
     void rename(const QString& title)

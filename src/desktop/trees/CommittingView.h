@@ -1,0 +1,76 @@
+#pragma once
+
+#include "desktop/shell/PendingEdit.h"
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+
+namespace tw::desktop::trees {
+
+/**
+ * An item view whose open editor is committed and closed before anything else is done with the project. What
+ * the program does in passing leaves the editor alone, for the next key belongs to it.
+ */
+template <class View>
+class CommittingView : public View
+{
+public:
+    CommittingView(shell::ProjectSession& session, QWidget* parent)
+        : View(parent)
+        , m_typing(new shell::PendingEdit(session, this, [this] { finishEditing(); }))
+    {}
+
+protected:
+    bool edit(const QModelIndex& index, QAbstractItemView::EditTrigger trigger, QEvent* event) override
+    {
+        const bool isEditing = View::edit(index, trigger, event);
+        QWidget* const editor = isEditing ? this->indexWidget(index) : nullptr;
+        if (editor && editor != m_editor)
+            follow(*editor);
+        return isEditing;
+    }
+
+    void commitData(QWidget* editor) override
+    {
+        m_typing->end();
+        View::commitData(editor);
+    }
+
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override
+    {
+        m_typing->end();
+        View::closeEditor(editor, hint);
+    }
+
+private:
+    void follow(QWidget& editor)
+    {
+        m_editor = &editor;
+        const auto begin = [this] { m_typing->begin(); };
+        QList<QLineEdit*> lines = editor.findChildren<QLineEdit*>();
+        if (auto* const line = qobject_cast<QLineEdit*>(&editor))
+            lines.append(line);
+        for (const QLineEdit* const line : lines)
+            QObject::connect(line, &QLineEdit::textEdited, m_typing, begin);
+        for (const QPlainTextEdit* const text : editor.findChildren<QPlainTextEdit*>())
+            QObject::connect(text, &QPlainTextEdit::textChanged, m_typing, begin);
+        QObject::connect(&editor, &QObject::destroyed, m_typing, [this] { m_typing->end(); });
+    }
+
+    void finishEditing()
+    {
+        const QPointer<QWidget> editor = m_editor;
+        if (editor)
+            commitData(editor);
+        // The commit may have made the rows anew, and the editor is gone.
+        if (editor)
+            closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
+
+    shell::PendingEdit* m_typing;
+    QPointer<QWidget> m_editor;
+};
+
+} // namespace tw::desktop::trees
