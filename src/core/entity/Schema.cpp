@@ -92,6 +92,23 @@ private:
     std::set<CategoryId> m_entered;
 };
 
+/** Whether the category or one above it, through categories and entities alike, is such a one. */
+template <class Predicate>
+bool isAnyAbove(const Project& project, const CategoryId& id, Predicate isSuch)
+{
+    std::set<CategoryId> visited;
+    const Category* current = project.taxonomy().category(id);
+    while (current && visited.insert(current->id).second) {
+        if (isSuch(*current))
+            return true;
+        CategoryId next = current->parentId;
+        if (const auto* const entity = project.findAs<Entity>(current->parentEntityId))
+            next = entity->categoryId();
+        current = project.taxonomy().category(next);
+    }
+    return false;
+}
+
 QString categoryName(const Project& project, const CategoryId& id)
 {
     const Category* const category = project.taxonomy().category(id);
@@ -177,17 +194,7 @@ QString ownFieldNotice(const Project& project, const Entity& entity, const Field
 
 bool isCategoryBeneath(const Project& project, const CategoryId& id, const CategoryId& ancestorId)
 {
-    std::set<CategoryId> visited;
-    const Category* current = project.taxonomy().category(id);
-    while (current && visited.insert(current->id).second) {
-        if (current->id == ancestorId)
-            return true;
-        CategoryId next = current->parentId;
-        if (const auto* const entity = project.findAs<Entity>(current->parentEntityId))
-            next = entity->categoryId();
-        current = project.taxonomy().category(next);
-    }
-    return false;
+    return isAnyAbove(project, id, [&ancestorId](const Category& above) { return above.id == ancestorId; });
 }
 
 Result<void> checkMoveToCategory(const Project& project, const CategoryId& id, const CategoryId& newParentId)
@@ -219,6 +226,22 @@ Result<void> checkMoveToEntity(const Project& project, const CategoryId& id, con
                 .arg(entity->name(), category->name)};
     }
     return {};
+}
+
+Result<void> checkMoveOfEntity(const Project& project, const Entity& entity, const CategoryId& categoryId)
+{
+    const bool isBeneath = isAnyAbove(project, categoryId, [&entity](const Category& above) {
+        return above.parentEntityId == entity.id();
+    });
+    if (!isBeneath)
+        return {};
+    return Failure{
+        translated(
+            QT_TRANSLATE_NOOP(
+                "Taxonomy",
+                "The category “%2” hangs somewhere beneath “%1”, so the entity cannot move into it. Move the "
+                "category elsewhere first."))
+            .arg(entity.name(), categoryName(project, categoryId))};
 }
 
 } // namespace tw::core::entity

@@ -77,4 +77,8 @@ using Schema = std::vector<ResolvedField>;
 [[nodiscard]] Result<void> checkMoveToEntity(
     const project::Project& project, const CategoryId& id, const ContentId& entityId);
 
+/** Whether an entity can move into a category (null: none): not into one that hangs somewhere beneath it. */
+[[nodiscard]] Result<void> checkMoveOfEntity(
+    const project::Project& project, const Entity& entity, const CategoryId& categoryId);
+
 } // namespace tw::core::entity

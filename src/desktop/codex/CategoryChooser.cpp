@@ -1,5 +1,6 @@
 #include "desktop/codex/CategoryChooser.h"
 
+#include "core/entity/Schema.h"
 #include "desktop/codex/CategoryPaths.h"
 
 #include <QCoreApplication>
@@ -20,7 +21,7 @@ constexpr int idRole = Qt::UserRole;
 } // namespace
 
 CategoryChooser::CategoryChooser(
-    const core::project::Project& project, const CategoryId& present, QWidget* parent)
+    const core::project::Project& project, const core::entity::Entity& entity, QWidget* parent)
     : QFrame(parent, Qt::Popup)
     , m_filter(new QLineEdit(this))
     , m_list(new QListWidget(this))
@@ -39,10 +40,12 @@ CategoryChooser::CategoryChooser(
     m_list->addItem(tr("No category"));
     m_list->setCurrentRow(0);
     for (const CategoryChoice& choice : categoryChoices(project)) {
+        if (!core::entity::checkMoveOfEntity(project, entity, choice.id))
+            continue;
         auto* const item = new QListWidgetItem(choice.path, m_list);
         item->setData(idRole, choice.id.toString());
         item->setToolTip(choice.path);
-        if (choice.id == present)
+        if (choice.id == entity.categoryId())
             m_list->setCurrentItem(item);
     }
     m_filter->installEventFilter(this);

@@ -7,19 +7,24 @@
 class QLineEdit;
 class QListWidget;
 
+namespace tw::core::entity {
+class Entity;
+}
 namespace tw::core::project {
 class Project;
 }
 
 namespace tw::desktop::codex {
 
-/** A list of all categories that pops up, with a filter; closes when one is chosen. Deletes itself. */
+/** A list of the categories an entity can move into; pops up, with a filter, and closes when one is chosen.
+ * Deletes itself. */
 class CategoryChooser final : public QFrame
 {
     Q_OBJECT
 
 public:
-    CategoryChooser(const core::project::Project& project, const core::CategoryId& present, QWidget* parent);
+    CategoryChooser(
+        const core::project::Project& project, const core::entity::Entity& entity, QWidget* parent);
 
     /** Shows it beneath a widget. */
     void popUpUnder(const QWidget& anchor);

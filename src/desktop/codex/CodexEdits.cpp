@@ -203,6 +203,14 @@ Result<void> moveInCodex(ProjectSession& session, const CodexSelection& moved, c
         if (auto checked = checkMove(project, id, place.parent); !checked)
             return checked;
     }
+    for (const ContentId& id : moved.entities) {
+        const auto* const entity = project.findAs<Entity>(id);
+        if (!entity)
+            continue;
+        if (auto checked = core::entity::checkMoveOfEntity(project, *entity, place.parent.categoryId);
+            !checked)
+            return checked;
+    }
     const auto step = session.macro(moveLabel(moved));
     if (!place.parent.entityId.isNull()) {
         placeUnderEntity(session, moved.categories, place.parent.entityId);

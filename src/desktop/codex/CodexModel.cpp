@@ -1,6 +1,6 @@
 #include "desktop/codex/CodexModel.h"
 
-#include "core/entity/Entity.h"
+#include "core/entity/Schema.h"
 #include "desktop/codex/CategoryPaths.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/Navigator.h"
@@ -277,15 +277,25 @@ CodexSelection CodexModel::draggedItems(const QMimeData& data) const
     return selection;
 }
 
+bool CodexModel::canHold(const core::CategoryId& categoryId, const std::vector<ContentId>& entities) const
+{
+    const auto& project = m_desk.session.project();
+    return std::ranges::all_of(entities, [&](const ContentId& id) {
+        const auto* const entity = project.findAs<Entity>(id);
+        return entity && core::entity::checkMoveOfEntity(project, *entity, categoryId);
+    });
+}
+
 bool CodexModel::canDropMimeData(
     const QMimeData* data, Qt::DropAction action, int, int, const QModelIndex& parent) const
 {
     if (!data || action != Qt::MoveAction || !data->hasFormat(itemMimeType))
         return false;
     const CodexSelection dragged = draggedItems(*data);
-    switch (itemAt(parent).kind) {
+    const CodexItem target = itemAt(parent);
+    switch (target.kind) {
     case Kind::Category:
-        return true;
+        return canHold(target.categoryId, dragged.entities);
     case Kind::Uncategorised:
         return dragged.categories.empty();
     case Kind::Entity:

@@ -68,6 +68,8 @@ private:
     [[nodiscard]] QString toolTip(const CodexItem& item) const;
     [[nodiscard]] QVariant icon(std::size_t node) const;
     [[nodiscard]] CodexSelection draggedItems(const QMimeData& data) const;
+    [[nodiscard]] bool canHold(
+        const core::CategoryId& categoryId, const std::vector<core::ContentId>& entities) const;
 
     shell::DeskContext m_desk;
     NameOrder m_order;

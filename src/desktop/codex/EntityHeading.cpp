@@ -168,9 +168,10 @@ void EntityHeading::chooseCategory()
     const Entity* const present = entity();
     if (!present)
         return;
-    auto* const chooser = new CategoryChooser(desk().session.project(), present->categoryId(), this);
+    auto* const chooser = new CategoryChooser(desk().session.project(), *present, this);
     connect(chooser, &CategoryChooser::chosen, this, [this](const core::CategoryId& id) {
-        static_cast<void>(moveInCodex(desk().session, {{entityId()}, {}}, {{id, {}}, {}}));
+        if (const auto moved = moveInCodex(desk().session, {{entityId()}, {}}, {{id, {}}, {}}); !moved)
+            desk().navigator.say(moved.message());
     });
     chooser->popUpUnder(*m_place);
 }

@@ -180,6 +180,7 @@ TEST_F(CodexModelTest, droppingMovesOrSaysWhyNot)
         {{categoryItem(places)}, -1, CodexItem::entity(counter), u""},
         {{CodexItem::entity(annis)}, -1, CodexItem::entity(bream), u""},
         {{CodexItem::entity(annis)}, -1, {}, u""},
+        {{CodexItem::entity(staithe)}, -1, categoryItem(wards), u""},
     };
     QSignalSpy said(&desk.navigator, &shell::Navigator::said);
     for (const auto& step : cases) {
@@ -193,6 +194,11 @@ TEST_F(CodexModelTest, droppingMovesOrSaysWhyNot)
     ASSERT_EQ(said.count(), 2);
     EXPECT_EQ(said[0][0].toString(), u"Reparenting there would create a cycle."_s);
     EXPECT_TRUE(said[1][0].toString().startsWith(u"“Counter” lies beneath the category “Places”"_s));
+
+    const auto moved = moveInCodex(desk.session, {{bream, staithe}, {}}, {{wards, {}}, {}});
+    EXPECT_TRUE(moved.message().startsWith(u"The category “Wards” hangs somewhere beneath “Staithe”"_s));
+    EXPECT_EQ(shape(model), before);
+    EXPECT_FALSE(desk.session.canUndo());
 }
 
 TEST_F(CodexModelTest, staysTrueThroughRandomEdits)

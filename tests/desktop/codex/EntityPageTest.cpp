@@ -22,6 +22,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -187,7 +188,7 @@ TEST_F(EntityPageTest, namesAndPlaceAreEditedAtTheTop)
     EXPECT_EQ(name.text(), u"Annis"_s);
     EXPECT_FALSE(desk.session.canUndo());
 
-    CategoryChooser chooser(desk.session.project(), clerks, nullptr);
+    CategoryChooser chooser(desk.session.project(), entity(annis), nullptr);
     chooser.setAttribute(Qt::WA_DeleteOnClose, false);
     core::CategoryId chosen;
     QObject::connect(&chooser, &CategoryChooser::chosen, &chooser, [&](const auto& id) { chosen = id; });
@@ -195,6 +196,11 @@ TEST_F(EntityPageTest, namesAndPlaceAreEditedAtTheTop)
     filter.setText(u"wards"_s);
     QTest::keyClick(&filter, Qt::Key_Return);
     EXPECT_EQ(chosen, wards);
+
+    const CategoryChooser ofStaithe(desk.session.project(), entity(staithe), nullptr);
+    const auto& list = *ofStaithe.findChild<QListWidget*>();
+    EXPECT_FALSE(list.findItems(u"People"_s, Qt::MatchExactly).empty());
+    EXPECT_TRUE(list.findItems(u"Wards"_s, Qt::MatchContains).empty()) << "it hangs under that entity";
 }
 
 TEST_F(EntityPageTest, lifespanAndStateOverTimeAreSteps)

@@ -110,14 +110,10 @@ private:
                 return Failure{category.message()};
             target = category.value()->id;
         }
-        // A category beneath the entity itself would make a loop.
-        const Project& project = m_context.workspace.project();
-        for (const core::CategoryId& id : project.taxonomy().childrenUnderEntity(m_entity.id())) {
-            if (core::entity::isCategoryBeneath(project, target, id)) {
-                return Failure{
-                    u"Can't move '%1' to '%2': that category hangs somewhere beneath the entity, so the tree "
-                    "would loop."_s.arg(m_entity.name(), *name)};
-            }
+        if (!core::entity::checkMoveOfEntity(m_context.workspace.project(), m_entity, target)) {
+            return Failure{
+                u"Can't move '%1' to '%2': that category hangs somewhere beneath the entity, so the tree "
+                "would loop."_s.arg(m_entity.name(), *name)};
         }
         change<core::entity::SetEntityCategoryCommand>(m_entity.categoryId(), target);
         return {};
