@@ -123,14 +123,15 @@ void movePointers(Project& project, const CategoryId& from, const CategoryId& to
 void moveContents(Project& project, const CategoryId& from, const CategoryId& to, const Push& push)
 {
     for (const Entity* entity : core::project::objectsOf<Entity>(project)) {
-        if (entity->categoryId() == from) {
+        // What the kept category hangs under moves up with the removal instead.
+        if (entity->categoryId() == from && core::entity::checkMoveOfEntity(project, *entity, to)) {
             push(std::make_unique<core::entity::SetEntityCategoryCommand>(
                 *project.findAsForEdit<Entity>(entity->id()), to));
         }
     }
     auto place = static_cast<qint32>(project.taxonomy().childrenOf(to).size());
     for (const CategoryId& child : project.taxonomy().childrenOf(from)) {
-        // What holds the kept category moves up with the removal instead.
+        // As does what holds it.
         if (core::entity::checkMoveToCategory(project, child, to))
             push(std::make_unique<core::taxonomy::ReparentCategoryCommand>(project, child, to, place++));
     }

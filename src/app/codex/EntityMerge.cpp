@@ -146,7 +146,7 @@ void planGaps(EditPlan& plan, const Project& project, const Entity& source, cons
         plan.set<core::entity::SetEntityCategoryCommand>(target.id(), source.categoryId());
 }
 
-/** A category under the source that holds the target cannot hang under the target. */
+/** Neither may a category under the source hold the target, nor one under the target become its own. */
 Result<void> checkCategories(const Project& project, const Entity& source, const Entity& target)
 {
     const core::CategoryId place = target.categoryId().isNull() ? source.categoryId() : target.categoryId();
@@ -155,6 +155,12 @@ Result<void> checkCategories(const Project& project, const Entity& source, const
             return Failure{u"Can't hang '%1' from '%2': that entity is already somewhere beneath it, so the "
                            "tree would loop."_s.arg(project.taxonomy().category(id)->name, target.name())};
         }
+    }
+    if (target.categoryId().isNull() && !core::entity::checkMoveOfEntity(project, target, place)) {
+        return Failure{
+            u"Can't give '%1' the category '%2' of '%3': that category hangs somewhere beneath '%1', so the "
+            "tree would loop. Move '%1' to another category first."_s.arg(
+                target.name(), project.taxonomy().category(place)->name, source.name())};
     }
     return {};
 }

@@ -153,6 +153,11 @@ TEST_F(CodexEnginesTest, aMergeTakesCategoriesAlongUnlessTheyHoldTheTarget)
     EXPECT_EQ(
         planMerge(project, entity(ids.vaertis), entity(ids.salthaven)).message(),
         u"Can't hang 'Cities' from 'Salthaven': that entity is already somewhere beneath it, so the tree would loop."_s);
+    // Without a category of its own, it would be given the one that hangs under it.
+    project.findAsForEdit<Entity>(ids.vaertis)->setCategoryId({});
+    EXPECT_TRUE(planMerge(project, entity(ids.salthaven), entity(ids.vaertis))
+                    .message()
+                    .startsWith(u"Can't give 'Vaertis' the category 'Cities' of 'Salthaven':"_s));
     EXPECT_EQ(
         planMerge(project, entity(ids.tom), entity(ids.tom)).message(),
         u"An entity cannot be merged into itself."_s);

@@ -144,6 +144,23 @@ TEST_F(CategoryTwinsTest, amongEqualsTheOneThatIsNotEscapedStays)
     EXPECT_EQ(findCategoryTwins(project).at(0).kept, plain);
 }
 
+TEST_F(CategoryTwinsTest, whatTheKeptOneHangsUnderMovesUp)
+{
+    const CategoryId top = addCategory(u"Top"_s, {});
+    const CategoryId kept = addCategory(u"A & B"_s, {});
+    const CategoryId twin = addCategory(u"A &amp; B"_s, {}, top);
+    addEntity(kept);
+    addEntity(kept);
+    const Entity& holder = addEntity(twin);
+    edit(kept).parentEntityId = holder.id();
+    core::undo::UndoStack stack;
+    mergeCategoryTwins(project, findCategoryTwins(project).at(0), [&stack](auto command) {
+        stack.push(std::move(command));
+    });
+    EXPECT_EQ(holder.categoryId(), top);
+    EXPECT_TRUE(core::entity::isCategoryBeneath(project, kept, top));
+}
+
 TEST_F(CategoryTwinsTest, mergingBringsEverythingAcross)
 {
     const CategoryId kept = addCategory(u"A & B"_s, {u"x"_s});
