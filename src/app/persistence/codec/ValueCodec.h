@@ -192,20 +192,24 @@ template <class Element>
 struct ValueCodec<QList<Element>> : ListCodec<QList<Element>>
 {};
 
-/** A text on its own is a list of one; elements of a list that are no strings are left out. */
+/** A text on its own is a list of one; elements are read as any text is. */
 template <>
 struct ValueCodec<QStringList> : ListCodec<QStringList>
 {
     static bool read(const JsonNode& json, QStringList& list, TextPool& texts)
     {
         list.clear();
-        if (json.isText())
-            list.append(texts.textOf(json));
-        json.forEachElement([&](const JsonNode& element) {
-            if (element.isText())
-                list.append(texts.textOf(element));
-        });
-        return json.isArray() || json.isText();
+        const auto append = [&list, &texts](const JsonNode& element) {
+            QString text;
+            const bool isText = ValueCodec<QString>::read(element, text, texts);
+            if (isText)
+                list.append(std::move(text));
+            return isText;
+        };
+        if (!json.isArray())
+            return append(json);
+        json.forEachElement(append);
+        return true;
     }
 };
 

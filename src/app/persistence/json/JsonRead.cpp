@@ -121,13 +121,13 @@ std::optional<QString> readText(const JsonNode& value)
 
 QStringList readTextList(const JsonNode& value)
 {
-    if (value.isText())
-        return {value.text()};
+    if (const std::optional<QString> single = readText(value))
+        return {*single};
     QStringList texts;
     texts.reserve(value.sizeHint());
     value.forEachElement([&](const JsonNode& element) {
-        if (element.isText())
-            texts.append(element.text());
+        if (const std::optional<QString> text = readText(element))
+            texts.append(*text);
     });
     return texts;
 }

@@ -27,7 +27,7 @@ namespace tw::app::persistence {
 /** Numbers and booleans become their text. */
 [[nodiscard]] std::optional<QString> readText(const JsonNode& value);
 
-/** The texts of an array, without the elements that are no strings. A text on its own is a list of one. */
+/** The elements of an array as readText() reads them. A text on its own is a list of one. */
 [[nodiscard]] QStringList readTextList(const JsonNode& value);
 
 /** The null id when the value is no id. */

@@ -81,12 +81,14 @@ TEST(JsonRead, understandsScalarsThatAHandHasTouched)
     EXPECT_EQ(readInteger32(Parsed("\"3e9\"").value()), std::numeric_limits<qint32>::max());
 }
 
-TEST(JsonRead, takesTheStringsOfAListAndOnlyWholeIds)
+TEST(JsonRead, takesTheTextsOfAListAndOnlyWholeIds)
 {
     EXPECT_EQ(
-        readTextList(Parsed(R"(["a", 1, null, "", "b", ["c"]])").value()), (QStringList{u"a"_s, {}, u"b"_s}));
+        readTextList(Parsed(R"(["a", 1, null, "", true, ["c"]])").value()),
+        (QStringList{u"a"_s, u"1"_s, {}, u"true"_s}));
     EXPECT_EQ(readTextList(Parsed("\"a b\"").value()), QStringList{u"a b"_s});
-    EXPECT_EQ(readTextList(Parsed("12").value()), QStringList());
+    EXPECT_EQ(readTextList(Parsed("12").value()), QStringList{u"12"_s});
+    EXPECT_EQ(readTextList(Parsed("null").value()), QStringList());
     const QByteArray text = "6f1c1e0a-2b3c-4d5e-8f90-a1b2c3d4e5f6";
     const auto id = [](const QByteArray& json) {
         return readId<ContentId>(Parsed('"' + json + '"').value());
