@@ -75,14 +75,19 @@ private:
         return fields;
     }
 
+    /** Without a key when the name holds nothing to make one of. */
+    [[nodiscard]] Field newField(const Schema& inherited) const
+    {
+        return {.key = codex::keyForNewField(m_name, m_entity.ownFields(), inherited), .label = m_name};
+    }
+
     [[nodiscard]] Result<Field> readField() const
     {
         const Workspace& workspace = m_context.workspace;
         const Schema inherited = core::entity::schemaOfCategory(workspace.project(), m_entity.categoryId());
         const Field* const present = codex::findFieldNamed(m_entity.ownFields(), m_name);
-        Field field;
-        field.label = m_name;
-        field.key = present ? present->key : codex::keyForNewField(m_name, m_entity.ownFields(), inherited);
+        // What the call cannot name stays as it is.
+        Field field = present ? *present : newField(inherited);
         if (field.key.isEmpty())
             return Failure{
                 u"'%1' holds no letter or digit; give the property a name with one."_s.arg(m_name)};
@@ -90,13 +95,17 @@ private:
         if (!type)
             return Failure{type.message()};
         field.type = type.value();
-        field.description = m_arguments.text(u"description", present ? present->description : QString());
-        if (field.type == FieldType::Choice) {
-            field.options = m_arguments.has(u"options") || !present ? tidied(m_arguments.textList(u"options"))
-                                                                    : present->options;
-            if (field.options.isEmpty())
-                return Failure{u"A choice field needs a non-empty \"options\" array."_s};
-        }
+        if (field.label.compare(m_name, Qt::CaseInsensitive) == 0)
+            field.label = m_name;
+        field.description = m_arguments.text(u"description", field.description);
+        if (field.type != FieldType::Reference)
+            field.referenceCategory = {};
+        if (field.type != FieldType::Choice)
+            field.options.clear();
+        else if (m_arguments.has(u"options"))
+            field.options = tidied(m_arguments.textList(u"options"));
+        if (field.type == FieldType::Choice && field.options.isEmpty())
+            return Failure{u"A choice field needs a non-empty \"options\" array."_s};
         if (auto checked = core::entity::checkOwnField(workspace.project(), m_entity, field); !checked)
             return Failure{checked.message()};
         return field;

@@ -216,6 +216,20 @@ TEST_F(CodexToolsTest, anEntityHasPropertiesOfItsOwn)
         {"entity_property", R"({"entity": "Vaertis", "property": "Houses", "action": "remove"})", oneStep,
          u"Removed property 'Houses' from 'Vaertis'. Values already entered are kept."_s},
     });
+    core::taxonomy::FieldList fields = entity(ids.vaertis).ownFields();
+    fields.push_back(
+        {.key = u"seat"_s, .label = u"Seat of power"_s, .type = core::taxonomy::FieldType::Reference});
+    fields.back().isRequired = true;
+    fields.back().referenceCategory = ids.cities;
+    fields.push_back({.key = u"motto"_s, .isFixed = true, .fixedValue = u"Onwards"_s});
+    entity(ids.vaertis).setOwnFields(fields);
+    save();
+    run("entity_property", R"({"entity": "Vaertis", "property": "seat", "description": "Where"})");
+    run("entity_property", R"({"entity": "Vaertis", "property": "motto", "description": "What"})");
+    fields[fields.size() - 2].description = u"Where"_s;
+    fields.back().description = u"What"_s;
+    EXPECT_EQ(entity(ids.vaertis).ownFields(), fields) << "nothing but what the calls name";
+
     run("entity_property", R"({"entity": "Vaertis", "property": "Houses", "action": "promote"})");
     EXPECT_EQ(project().taxonomy().category(ids.places)->fields.back().label, u"Houses"_s);
     EXPECT_EQ(entity(ids.vaertis).value(u"houses"_s), u"three"_s);
