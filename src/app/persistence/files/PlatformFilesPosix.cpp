@@ -369,7 +369,8 @@ private:
 
 std::optional<FileContent> readFile(const QString& path)
 {
-    const Descriptor file = openPath(QFile::encodeName(path), O_RDONLY);
+    // A pipe without a writer would have the opening wait for one.
+    const Descriptor file = openPath(QFile::encodeName(path), O_RDONLY | O_NONBLOCK);
     struct stat status = {};
     if (!file.isOpen() || ::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;

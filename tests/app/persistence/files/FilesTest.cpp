@@ -13,6 +13,7 @@
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #endif
 
 using namespace Qt::Literals::StringLiterals;
@@ -78,6 +79,14 @@ TEST(DiskFileSystem, tellsAFileFromItsReplacement)
 }
 
 #ifdef Q_OS_UNIX
+
+TEST(DiskFileSystem, doesNotWaitForTheWriterOfAPipe)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"project.json"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    EXPECT_FALSE(DiskFileSystem().readFile(path));
+}
 TEST(DiskFileSystem, leavesNothingBehindWhenTheMediumTakesOnlyPartOfTheBytes)
 {
     const QTemporaryDir folder;
