@@ -39,6 +39,12 @@ FieldList::const_iterator findField(const FieldList& fields, QStringView key)
     return std::ranges::find_if(fields, [key](const Field& field) { return field.key == key; });
 }
 
+void keepFixedUnrequired(FieldList& fields)
+{
+    for (Field& field : fields)
+        field.isRequired = field.isRequired && !field.isFixed;
+}
+
 Result<void> checkField(const Field& field)
 {
     if (field.key.trimmed().isEmpty())

@@ -54,6 +54,9 @@ using FieldList = std::vector<Field>;
 /** The field of that key, or end(). */
 [[nodiscard]] FieldList::const_iterator findField(const FieldList& fields, QStringView key);
 
+/** A list that breaks the rule, from a file that was edited by hand say, keeps what is fixed. */
+void keepFixedUnrequired(FieldList& fields);
+
 /** Refuses a field without a key and one that is both fixed and required. */
 [[nodiscard]] Result<void> checkField(const Field& field);
 

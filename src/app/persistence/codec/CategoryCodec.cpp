@@ -10,7 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace tw::app::persistence {
 
 using core::taxonomy::Category;
-using core::taxonomy::Field;
 
 template <>
 struct RecordOf<Category>
@@ -76,8 +75,7 @@ core::Result<Category> parseCategory(const QByteArray& bytes, const QString& pat
     // reading.
     if (!category.parentEntityId.isNull())
         category.parentId = {};
-    for (Field& field : category.fields)
-        field.isRequired = field.isRequired && !field.isFixed;
+    core::taxonomy::keepFixedUnrequired(category.fields);
     return category;
 }
 

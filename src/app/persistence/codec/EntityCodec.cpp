@@ -52,6 +52,18 @@ struct TimedValueList
     }
 };
 
+struct OwnFieldList
+{
+    static const core::taxonomy::FieldList& get(const Entity& entity) { return entity.ownFields(); }
+    static void edit(Entity& entity, auto change)
+    {
+        core::taxonomy::FieldList fields = entity.ownFields();
+        change(fields);
+        core::taxonomy::keepFixedUnrequired(fields);
+        entity.setOwnFields(std::move(fields));
+    }
+};
+
 template <>
 struct RecordOf<Entity>
 {
@@ -65,7 +77,7 @@ struct RecordOf<Entity>
         always<Property<&Entity::sortIndex, &Entity::setSortIndex>>("sortIndex"_L1),
         ifSet<Property<&Entity::aliases, &Entity::setAliases>>("aliases"_L1),
         ifSet<Property<&Entity::gallery, &Entity::setGallery>>("gallery"_L1),
-        ifSet<Property<&Entity::ownFields, &Entity::setOwnFields>>("ownFields"_L1));
+        ifSet<OwnFieldList>("ownFields"_L1));
 };
 
 KindCodec entityCodec()

@@ -213,7 +213,7 @@ TEST(Codecs, readTheShapesThatTheFormatLeavesOpen)
     EXPECT_TRUE(document->sourceIds().empty());
 
     const auto entity = parsedAs<tw::core::entity::Entity>("entity", R"(,
-        "tags": [7], "aliases": [1984, "x"], "ownFields": [{"key": "f", "options": [1, 2.5]}],
+        "tags": [7], "aliases": [1984, "x"], "ownFields": [{"key": "f", "options": [1, 2.5], "fixed": true, "required": true}],
         "values": {"age": 12, "isDead": true, "allies": ["a", 2], "unset": null, "odd": {}},
         "timedValues": [{"key": "k", "instant": "9", "value": 2}, {"key": "k", "instant": 3.9}])");
     ASSERT_TRUE(entity);
@@ -222,6 +222,8 @@ TEST(Codecs, readTheShapesThatTheFormatLeavesOpen)
                               {u"age"_s, u"12"_s}, {u"isDead"_s, u"true"_s}, {u"allies"_s, u"a\n2"_s}}));
     EXPECT_EQ(entity->tags(), tw::core::content::NameSet{u"7"_s});
     EXPECT_EQ(entity->aliases(), (QStringList{u"1984"_s, u"x"_s}));
+    EXPECT_TRUE(entity->ownFields().at(0).isFixed);
+    EXPECT_FALSE(entity->ownFields().at(0).isRequired);
     EXPECT_EQ(entity->ownFields().at(0).options, (QStringList{u"1"_s, u"2.5"_s}));
     EXPECT_EQ(entity->timedValues(), (tw::core::entity::TimedValues{{u"k"_s, {{3, {}}, {9, u"2"_s}}}}));
 
