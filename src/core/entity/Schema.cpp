@@ -18,8 +18,11 @@ QString translated(const char* text)
     return QCoreApplication::translate("Taxonomy", text);
 }
 
-/** Walks the schema from the outermost root inwards. `entered` holds the categories on the way, against
- * loops. */
+/**
+ * Resolves from the outermost root inwards: a chain of categories, the entity that the next chain hangs
+ * under, that chain. A list of chains and no recursion, for in a damaged file there may be any number of
+ * them.
+ */
 class SchemaResolver
 {
 public:
@@ -27,21 +30,62 @@ public:
         : m_project(project)
     {}
 
-    Schema categorySchema(const CategoryId& categoryId)
+    [[nodiscard]] Schema categorySchema(const CategoryId& categoryId) const
     {
-        const std::vector<CategoryId> chain = m_project.taxonomy().ancestorChain(categoryId);
-        if (chain.empty() || !m_entered.insert(chain.front()).second)
-            return {};
-        const Category& root = *m_project.taxonomy().category(chain.front());
-        Schema schema = crossingFields(root);
-        for (const CategoryId& id : chain)
-            addCategory(schema, *m_project.taxonomy().category(id), id == categoryId);
+        Schema schema;
+        const std::vector<Chain> chains = chainsAbove(categoryId);
+        for (auto chain = chains.rbegin(); chain != chains.rend(); ++chain) {
+            if (chain->through)
+                schema = crossingFields(std::move(schema), *chain);
+            for (const Category* const category : chain->categories)
+                addCategory(schema, *category, category == chain->categories.back());
+        }
         return schema;
     }
 
-    Schema entitySchema(const Entity& entity)
+    [[nodiscard]] Schema entitySchema(const Entity& entity) const
     {
         Schema schema = categorySchema(entity.categoryId());
+        addOwnFields(schema, entity);
+        return schema;
+    }
+
+private:
+    /** A category and those above it, the root first, and the entity whose fields the root takes keys of. */
+    struct Chain
+    {
+        std::vector<const Category*> categories;
+        const Entity* through;
+    };
+
+    static const QString& keyOf(const ResolvedField& resolved) { return resolved.field.key; }
+
+    /** The innermost chain first. */
+    [[nodiscard]] std::vector<Chain> chainsAbove(CategoryId categoryId) const
+    {
+        std::vector<Chain> chains;
+        std::set<CategoryId> entered;
+        while (true) {
+            Chain chain{{}, nullptr};
+            for (const CategoryId& id : m_project.taxonomy().ancestorChain(categoryId))
+                chain.categories.push_back(m_project.taxonomy().category(id));
+            if (chain.categories.empty())
+                return chains;
+            const Category& root = *chain.categories.front();
+            if (!entered.insert(root.id).second)
+                return chains;
+            if (!root.inheritedKeys.isEmpty())
+                chain.through = m_project.findAs<Entity>(root.parentEntityId);
+            const Entity* const through = chain.through;
+            chains.push_back(std::move(chain));
+            if (!through)
+                return chains;
+            categoryId = through->categoryId();
+        }
+    }
+
+    static void addOwnFields(Schema& schema, const Entity& entity)
+    {
         for (const Field& field : entity.ownFields()) {
             const auto inherited = std::ranges::find(schema, field.key, keyOf);
             if (inherited != schema.end()) {
@@ -51,19 +95,13 @@ public:
             }
             schema.push_back({field, FieldOrigin::Entity, {}});
         }
-        return schema;
     }
 
-private:
-    static const QString& keyOf(const ResolvedField& resolved) { return resolved.field.key; }
-
     /** The fields that a category under an entity takes through it: those it lists, in the entity's order. */
-    Schema crossingFields(const Category& root)
+    static Schema crossingFields(Schema schema, const Chain& chain)
     {
-        const auto* const parent = m_project.findAs<Entity>(root.parentEntityId);
-        if (!parent || root.inheritedKeys.isEmpty())
-            return {};
-        Schema schema = entitySchema(*parent);
+        const Category& root = *chain.categories.front();
+        addOwnFields(schema, *chain.through);
         std::erase_if(schema, [&root](const ResolvedField& resolved) {
             return !root.inheritedKeys.contains(resolved.field.key);
         });
@@ -89,7 +127,6 @@ private:
     }
 
     const Project& m_project;
-    std::set<CategoryId> m_entered;
 };
 
 /** Whether the category or one above it, through categories and entities alike, is such a one. */

@@ -155,6 +155,21 @@ TEST_F(SchemaTest, damagedLoopsEnd)
     EXPECT_TRUE(isCategoryBeneath(project, b, a));
 }
 
+TEST_F(SchemaTest, aKeyCrossesAnyNumberOfEntities)
+{
+    constexpr int levels = 20'000;
+    Entity* holder = &addEntity(u"Outermost"_s, {});
+    holder->setOwnFields({field(u"k"_s), field(u"other"_s)});
+    CategoryId innermost;
+    for (int level = 0; level < levels; ++level) {
+        innermost = addCategory(u"C"_s, {}, {});
+        edit(innermost).parentEntityId = holder->id();
+        edit(innermost).inheritedKeys = {u"k"_s};
+        holder = &addEntity(u"E"_s, innermost);
+    }
+    EXPECT_EQ(keys(schemaOfEntity(project, *holder)), QStringList{u"k"_s});
+}
+
 TEST_F(SchemaTest, movesThatWouldCloseALoopAreRefused)
 {
     const auto a = addCategory(u"A"_s, {}, {});
