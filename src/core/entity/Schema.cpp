@@ -93,7 +93,7 @@ private:
                     continue;
                 schema.erase(inherited);
             }
-            schema.push_back({field, FieldOrigin::Entity, {}});
+            schema.push_back({field, FieldOrigin::Entity, {}, entity.id()});
         }
     }
 
@@ -207,6 +207,17 @@ Result<void> checkOwnField(const Project& project, const Entity& entity, const F
     const auto inherited = inheritedField(project, entity, field.key);
     if (!inherited || !inherited->isFixed())
         return {};
+    if (const auto* const owner = project.findAs<Entity>(inherited->ownedBy)) {
+        return Failure{
+            translated(
+                QT_TRANSLATE_NOOP(
+                    "Taxonomy",
+                    "“%1” is a fixed property of “%2”, which supplies its value for what takes it from "
+                    "there. "
+                    "An entity cannot hold its own — change it there, or give this one a differently-named "
+                    "property."))
+                .arg(inherited->field.displayName(), owner->name())};
+    }
     return Failure{
         translated(QT_TRANSLATE_NOOP(
                        "Taxonomy",
@@ -221,6 +232,13 @@ QString ownFieldNotice(const Project& project, const Entity& entity, const Field
     const auto inherited = inheritedField(project, entity, field.key);
     if (!inherited || inherited->isFixed())
         return {};
+    if (const auto* const owner = project.findAs<Entity>(inherited->ownedBy)) {
+        return translated(QT_TRANSLATE_NOOP(
+                              "Taxonomy", "“%1” already comes from “%2”. Adding it here gives this entity "
+                                          "its own version, which "
+                                          "overrides the inherited one for it alone."))
+            .arg(inherited->field.displayName(), owner->name());
+    }
     return translated(
                QT_TRANSLATE_NOOP(
                    "Taxonomy",

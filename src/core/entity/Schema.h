@@ -28,6 +28,8 @@ struct ResolvedField
     FieldOrigin origin = FieldOrigin::Category;
     /** The category that declares it; null for a field of an entity's own. */
     CategoryId definedBy;
+    /** The entity whose own field it is; null for a category's. */
+    ContentId ownedBy = {};
 
     /** Read-only on entities: the category gives the value. */
     [[nodiscard]] bool isFixed() const { return field.isFixed; }

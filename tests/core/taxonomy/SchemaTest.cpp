@@ -98,6 +98,16 @@ TEST_F(SchemaTest, onlyListedKeysCrossFromAnEntity)
     EXPECT_EQ(keys(schema), (QStringList{u"climate"_s, u"motto"_s, u"walls"_s}));
     EXPECT_EQ(schema[0].origin, FieldOrigin::ParentEntity);
     EXPECT_EQ(schema[2].origin, FieldOrigin::Category);
+
+    const Entity& city = addEntity(u"Port"_s, cities);
+    EXPECT_TRUE(ownFieldNotice(project, city, field(u"climate"_s)).contains(u"the category “Kingdoms”"_s));
+    EXPECT_TRUE(ownFieldNotice(project, city, field(u"motto"_s)).contains(u"already comes from “Realm”."_s));
+    Field motto = field(u"motto"_s);
+    motto.isFixed = true;
+    realm.setOwnFields({motto});
+    EXPECT_TRUE(checkOwnField(project, city, field(u"motto"_s))
+                    .message()
+                    .startsWith(u"“motto” is a fixed property of “Realm”, "_s));
 }
 
 TEST_F(SchemaTest, ownFieldsOverrideAllButFixedOnes)
