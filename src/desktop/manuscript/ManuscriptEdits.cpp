@@ -51,6 +51,44 @@ qint32 indexBefore(
     return static_cast<qint32>(std::ranges::find(siblings, beforeId) - siblings.begin());
 }
 
+/**
+ * What a document stands under in the tree; null at the top level, where also those stand that a damaged file
+ * hangs in a loop or under something missing.
+ */
+ContentId parentInTree(const core::project::Project& project, const Document& document)
+{
+    std::set<ContentId> visited{document.id()};
+    const auto* above = project.findAs<Document>(document.parentId());
+    const ContentId parentId = above ? above->id() : ContentId();
+    while (above) {
+        if (!visited.insert(above->id()).second)
+            return {};
+        above = project.findAs<Document>(above->parentId());
+    }
+    return parentId;
+}
+
+/** All that stand beside it in the tree, itself included. */
+std::vector<ContentId> siblingsInTree(const core::project::Project& project, const Document& document)
+{
+    const ContentId parentId = parentInTree(project, document);
+    return parentId.isNull() ? core::document::documentTree(project).at(parentId)
+                             : childDocuments(project, parentId);
+}
+
+/** The sibling at the place, or the next one that really hangs where they all stand: others have no index
+ * there. */
+ContentId anchorAt(
+    const core::project::Project& project, const std::vector<ContentId>& siblings, std::size_t place,
+    const ContentId& parentId)
+{
+    for (std::size_t index = place; index < siblings.size(); ++index) {
+        if (project.findAs<Document>(siblings[index])->parentId() == parentId)
+            return siblings[index];
+    }
+    return {};
+}
+
 } // namespace
 
 DocumentPlace placeAfter(const ProjectSession& session, const ContentId& id)
@@ -58,10 +96,10 @@ DocumentPlace placeAfter(const ProjectSession& session, const ContentId& id)
     const auto* const document = session.project().findAs<Document>(id);
     if (!document)
         return {};
-    const std::vector<ContentId> siblings = childDocuments(session.project(), document->parentId());
-    const auto place = std::ranges::find(siblings, id);
-    const bool isLast = place == siblings.end() || std::next(place) == siblings.end();
-    return {document->parentId(), isLast ? ContentId() : *std::next(place)};
+    const ContentId parentId = parentInTree(session.project(), *document);
+    const std::vector<ContentId> siblings = siblingsInTree(session.project(), *document);
+    const auto place = static_cast<std::size_t>(std::ranges::find(siblings, id) - siblings.begin());
+    return {parentId, anchorAt(session.project(), siblings, place + 1, parentId)};
 }
 
 ContentId addDocument(
@@ -69,14 +107,15 @@ ContentId addDocument(
     const DocumentPlace& place)
 {
     const ContentId id = ContentId::create();
-    auto document = std::make_unique<Document>(id, kind, title);
-    document->setParentId(place.parentId);
-    document->setSortIndex(std::numeric_limits<qint32>::max());
     auto& project = session.projectForCommands();
+    const ContentId parentId = project.findAs<Document>(place.parentId) ? place.parentId : ContentId();
+    auto document = std::make_unique<Document>(id, kind, title);
+    document->setParentId(parentId);
+    document->setSortIndex(std::numeric_limits<qint32>::max());
     const auto step = session.macro(label(QT_TRANSLATE_NOOP("ManuscriptEdits", "Add document")));
     session.apply(std::make_unique<core::content::AddObjectCommand>(project, std::move(document)));
     session.apply(std::make_unique<MoveDocumentCommand>(
-        project, id, place.parentId, indexBefore(project, place.parentId, place.beforeId, id)));
+        project, id, parentId, indexBefore(project, parentId, place.beforeId, id)));
     return id;
 }
 
@@ -109,29 +148,35 @@ bool stepDocument(ProjectSession& session, const ContentId& id, MoveDirection di
     const auto* const document = project.findAs<Document>(id);
     if (!document)
         return false;
-    const ContentId parentId = document->parentId();
-    const std::vector<ContentId> siblings = childDocuments(project, parentId);
-    const auto index = static_cast<qint32>(std::ranges::find(siblings, id) - siblings.begin());
-    const auto count = static_cast<qint32>(siblings.size());
-    const auto move = [&](const ContentId& newParentId, qint32 newIndex) {
+    const ContentId parentId = parentInTree(project, *document);
+    const std::vector<ContentId> siblings = siblingsInTree(project, *document);
+    const auto index = static_cast<std::size_t>(std::ranges::find(siblings, id) - siblings.begin());
+    const auto move = [&](const ContentId& newParentId, const ContentId& beforeId) {
+        const qint32 newIndex = indexBefore(project, newParentId, beforeId, id);
+        const std::vector<ContentId> present = childDocuments(project, newParentId);
+        const bool isThere = std::ranges::find(present, id) - present.begin() == newIndex &&
+                             document->parentId() == newParentId;
+        if (isThere || !core::document::canMoveDocument(project, id, newParentId))
+            return false;
         session.apply(std::make_unique<MoveDocumentCommand>(project, id, newParentId, newIndex));
         return true;
     };
     switch (direction) {
     case MoveDirection::Up:
-        return index > 0 && move(parentId, index - 1);
+        return index > 0 && move(parentId, anchorAt(project, siblings, index - 1, parentId));
     case MoveDirection::Down:
-        return index + 1 < count && move(parentId, index + 1);
+        return index + 1 < siblings.size() &&
+               move(parentId, anchorAt(project, siblings, index + 2, parentId));
     case MoveDirection::In:
-        return index > 0 &&
-               move(siblings[static_cast<std::size_t>(index) - 1], std::numeric_limits<qint32>::max());
+        return index > 0 && move(siblings[index - 1], {});
     case MoveDirection::Out: {
         const auto* const parent = project.findAs<Document>(parentId);
         if (!parent)
             return false;
-        const std::vector<ContentId> uncles = childDocuments(project, parent->parentId());
-        const auto place = std::ranges::find(uncles, parentId) - uncles.begin();
-        return move(parent->parentId(), static_cast<qint32>(place) + 1);
+        const ContentId grandparentId = parentInTree(project, *parent);
+        const std::vector<ContentId> uncles = siblingsInTree(project, *parent);
+        const auto place = static_cast<std::size_t>(std::ranges::find(uncles, parentId) - uncles.begin());
+        return move(grandparentId, anchorAt(project, uncles, place + 1, grandparentId));
     }
     }
     return false;

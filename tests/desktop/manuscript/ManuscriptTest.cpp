@@ -115,6 +115,42 @@ TEST_F(ManuscriptTest, addingAndRemovingAreOneStepEach)
     EXPECT_EQ(shape(), u"Part(One Two Three) Notes"_s);
 }
 
+TEST_F(ManuscriptTest, whatHangsNowhereIsAtTheTopLevelAndBreedsNothingLikeIt)
+{
+    const ContentId orphan = desk.addDocument(u"Orphan"_s, ContentId::create(), 5);
+    const ContentId looped = desk.addDocument(u"Looped"_s, {}, 6);
+    desk.document(looped).setParentId(looped);
+    desk.announce();
+    const auto undo = [this] {
+        desk.session.undo();
+        return shape();
+    };
+    for (const ContentId& id : {orphan, looped}) {
+        const ContentId added =
+            addDocument(desk.session, DocumentKind::Prose, u"New"_s, placeAfter(desk.session, id));
+        EXPECT_TRUE(desk.document(added).parentId().isNull());
+        EXPECT_EQ(desk.document(added).sortIndex(), 2);
+        EXPECT_EQ(undo(), u"Part(One Two Three) Notes"_s);
+        EXPECT_FALSE(stepDocument(desk.session, id, MoveDirection::Out));
+    }
+    EXPECT_FALSE(stepDocument(desk.session, notes, MoveDirection::Down)) << "it is the last one already";
+    EXPECT_FALSE(desk.session.canUndo());
+    EXPECT_TRUE(stepDocument(desk.session, orphan, MoveDirection::Up));
+    EXPECT_EQ(shape(), u"Part(One Two Three) Orphan Notes"_s);
+    EXPECT_EQ(undo(), u"Part(One Two Three) Notes"_s);
+    EXPECT_TRUE(stepDocument(desk.session, orphan, MoveDirection::In));
+    EXPECT_EQ(shape(), u"Part(One Two Three) Notes(Orphan)"_s);
+    EXPECT_EQ(undo(), u"Part(One Two Three) Notes"_s);
+    EXPECT_TRUE(stepDocument(desk.session, looped, MoveDirection::In));
+    EXPECT_EQ(desk.document(looped).parentId(), orphan) << "that stands above it";
+    EXPECT_EQ(undo(), u"Part(One Two Three) Notes"_s);
+    const ContentId below = desk.addDocument(u"Below"_s, orphan, 0);
+    EXPECT_TRUE(stepDocument(desk.session, below, MoveDirection::Out));
+    EXPECT_EQ(shape(), u"Part(One Two Three) Notes Below"_s);
+    EXPECT_EQ(undo(), u"Part(One Two Three) Notes"_s);
+    EXPECT_FALSE(desk.session.canUndo());
+}
+
 TEST_F(ManuscriptTest, modelStaysTrueThroughRandomEdits)
 {
     ManuscriptModel model(desk.context);
