@@ -34,6 +34,7 @@ NavigatorTree::NavigatorTree(const shell::DeskContext& desk, QWidget* parent)
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_hint->setWordWrap(true);
+    m_hint->setTextFormat(Qt::PlainText);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setForegroundRole(QPalette::PlaceholderText);
     connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) {
@@ -63,6 +64,7 @@ void NavigatorTree::setSource(QAbstractItemModel& source)
 void NavigatorTree::setFilter(const QString& text)
 {
     const QScopedValueRollback guard(m_restoring, true);
+    m_filterText = text;
     m_filter.setFilterFixedString(text);
     setDragEnabled(text.isEmpty());
     setAcceptDrops(text.isEmpty());
@@ -75,13 +77,19 @@ void NavigatorTree::setFilter(const QString& text)
 
 void NavigatorTree::setEmptyHint(const QString& text)
 {
-    m_hint->setText(text);
+    m_emptyHint = text;
     showHint();
 }
 
 void NavigatorTree::showHint()
 {
     m_hint->setGeometry(viewport()->rect().adjusted(hintMargin, hintMargin, -hintMargin, -hintMargin));
+    // Where nothing is at all, the filter is not what keeps it away.
+    const auto* const source = m_filter.sourceModel();
+    const bool isFiltered = !m_filterText.isEmpty() && source && source->rowCount() > 0;
+    m_hint->setText(
+        isFiltered ? tr("Nothing here contains “%1”. Clear the filter to see everything.").arg(m_filterText)
+                   : m_emptyHint);
     m_hint->setVisible(m_filter.rowCount() == 0);
 }
 

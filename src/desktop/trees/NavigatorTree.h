@@ -27,7 +27,7 @@ public:
     void setSource(QAbstractItemModel& source);
     /** Rows that contain the text, with the rows above them. Dragging rests while a filter is set. */
     void setFilter(const QString& text);
-    /** What to say and do when there are no rows. */
+    /** What to say and do when there is nothing, whatever the filter. */
     void setEmptyHint(const QString& text);
 
     /** Of the model, not of the filter. */
@@ -69,6 +69,8 @@ private:
 
     Filter m_filter;
     QLabel* m_hint;
+    QString m_emptyHint;
+    QString m_filterText;
     QSet<QString> m_collapsed;
     QStringList m_selectedIds;
     QString m_currentId;

@@ -7,6 +7,7 @@
 #include "desktop/trees/TreeRoles.h"
 
 #include <QAbstractItemModelTester>
+#include <QLabel>
 #include <QMimeData>
 #include <QTest>
 
@@ -229,8 +230,14 @@ TEST_F(ManuscriptTest, panelWorksByKeyboard)
     tree.setFilter(u"thr"_s);
     EXPECT_EQ(tree.model()->rowCount(), 1);
     EXPECT_EQ(tree.model()->rowCount(tree.model()->index(0, 0)), 1);
+    const auto& hint = *tree.viewport()->findChild<QLabel*>();
+    tree.setFilter(u"zebra"_s);
+    EXPECT_TRUE(hint.isVisible());
+    EXPECT_TRUE(hint.text().contains(u"“zebra”"_s)) << hint.text().toStdString();
     tree.setFilter({});
     EXPECT_EQ(tree.model()->rowCount(), 2);
+    removeDocuments(desk.session, {part, notes});
+    EXPECT_TRUE(hint.text().contains(u"Press +"_s)) << hint.text().toStdString();
 }
 
 } // namespace tw::desktop::manuscript
