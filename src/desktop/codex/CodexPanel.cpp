@@ -7,6 +7,7 @@
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/PanelHeader.h"
 #include "desktop/shell/ProjectSession.h"
+#include "desktop/shell/Questions.h"
 #include "desktop/trees/NavigatorTree.h"
 
 #include <QAction>
@@ -195,6 +196,8 @@ void CodexPanel::removeSelected()
     }
     if (selection.entities.empty() && selection.categories.empty())
         return;
+    if (!isRemovalWanted(selection))
+        return;
     const QString categoryText =
         selection.categories.empty() ? QString() : categoryRemovalText(selection.categories.front());
     removeFromCodex(m_desk.session, selection);
@@ -202,6 +205,23 @@ void CodexPanel::removeSelected()
         m_desk.navigator.say(categoryText);
     else
         sayRemoved(selection, firstName);
+}
+
+bool CodexPanel::isRemovalWanted(const CodexSelection& selection)
+{
+    std::vector<CategoryId> filled = selection.categories;
+    std::erase_if(filled, [this](const CategoryId& id) {
+        return m_model->rowCount(m_model->indexOf(CodexItem::category(id))) == 0;
+    });
+    if (filled.empty())
+        return true;
+    const QString text =
+        filled.size() == 1
+            ? tr("Delete “%1”? Its entities move up to the parent. Edit › Undo will restore it.")
+                  .arg(m_desk.session.project().taxonomy().category(filled.front())->name)
+            : tr("Delete %n categories? Their entities move up to the parent. Edit › Undo will restore them.",
+                 nullptr, static_cast<int>(filled.size()));
+    return shell::ask(this, {tr("Delete Category"), text, {{tr("Delete")}}}).has_value();
 }
 
 void CodexPanel::sayRemoved(const CodexSelection& removed, const QString& firstName)

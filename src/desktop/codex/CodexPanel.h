@@ -58,6 +58,8 @@ private:
     void duplicateCurrent();
     void editProperties();
     void removeSelected();
+    /** Asks when categories go that hold something. */
+    [[nodiscard]] bool isRemovalWanted(const CodexSelection& selection);
     void sayRemoved(const CodexSelection& removed, const QString& firstName);
     [[nodiscard]] QString categoryRemovalText(const core::CategoryId& id) const;
     void startRenaming(const CodexItem& item);

@@ -2,6 +2,7 @@
 
 #include "desktop/codex/CodexFixture.h"
 #include "desktop/codex/CodexPanel.h"
+#include "desktop/support/NextMessage.h"
 #include "desktop/trees/NavigatorTree.h"
 
 #include <QSignalSpy>
@@ -121,6 +122,16 @@ TEST_F(CodexEditsTest, panelWorksByKeyboardAndSaysWhatMoved)
     QSignalSpy said(&desk.navigator, &shell::Navigator::said);
 
     tree.selectSource(panel.model().indexOf(CodexItem::category(clerks)));
+    {
+        const test::NextMessage kept(u"Cancel"_s);
+        QTest::keyClick(&tree, Qt::Key_Delete);
+        EXPECT_EQ(
+            kept.text,
+            u"Delete “Clerks”? Its entities move up to the parent. Edit › Undo will restore it."_s);
+    }
+    EXPECT_EQ(shown(), startShape);
+    EXPECT_EQ(said.count(), 0);
+    const test::NextMessage removed(u"Delete"_s);
     QTest::keyClick(&tree, Qt::Key_Delete);
     EXPECT_EQ(shown(), u"[People Annis Bream] [Places [Staithe [Wards Counter]]]"_s);
     ASSERT_EQ(said.count(), 1);
@@ -143,6 +154,11 @@ TEST_F(CodexEditsTest, panelWorksByKeyboardAndSaysWhatMoved)
     QTest::keyClick(&tree, Qt::Key_Delete);
     EXPECT_TRUE(desk.session.project().contains(annis)) << "a locked entity stays";
     EXPECT_EQ(said.count(), 2);
+
+    const CategoryId empty = codex::addCategory(desk.session, {}, u"Empty"_s);
+    tree.selectSource(panel.model().indexOf(CodexItem::category(empty)));
+    QTest::keyClick(&tree, Qt::Key_Delete);
+    EXPECT_FALSE(desk.session.project().taxonomy().category(empty)) << "without a question";
 }
 
 } // namespace tw::desktop::codex
