@@ -1204,6 +1204,18 @@
         <source>Cannot reparent under an unknown category.</source>
         <translation>Unter eine unbekannte Kategorie lässt sich nichts verschieben.</translation>
     </message>
+    <message>
+        <source>“%1” is a fixed property of “%2”, which supplies its value for what takes it from there. An entity cannot hold its own — change it there, or give this one a differently-named property.</source>
+        <translation>„%1“ ist eine feste Eigenschaft von „%2“, die den Wert allem vorgibt, was sie von dort übernimmt. Ein Eintrag kann keinen eigenen haben. Ändern Sie ihn dort, oder geben Sie diesem Eintrag eine Eigenschaft mit anderem Namen.</translation>
+    </message>
+    <message>
+        <source>“%1” already comes from “%2”. Adding it here gives this entity its own version, which overrides the inherited one for it alone.</source>
+        <translation>„%1“ kommt bereits von „%2“. Wenn Sie sie hier hinzufügen, erhält dieser Eintrag seine eigene Fassung, die nur bei ihm an die Stelle der übernommenen tritt.</translation>
+    </message>
+    <message>
+        <source>The category “%2” hangs somewhere beneath “%1”, so the entity cannot move into it. Move the category elsewhere first.</source>
+        <translation>Die Kategorie „%2“ hängt irgendwo unter „%1“, deshalb kann der Eintrag nicht in sie verschoben werden. Verschieben Sie zuerst die Kategorie an einen anderen Ort.</translation>
+    </message>
 </context>
 <context>
     <name>TemplateText</name>
@@ -2452,6 +2464,25 @@
     <message>
         <source>Removed the category “%1”. Its entities have no category now. Undo brings it back.</source>
         <translation>Kategorie „%1“ entfernt. Ihre Einträge haben jetzt keine Kategorie. „Rückgängig“ holt sie zurück.</translation>
+    </message>
+    <message>
+        <source>Delete “%1”? Its entities move up to the parent. Edit › Undo will restore it.</source>
+        <translation>„%1“ löschen? Ihre Einträge rücken zur übergeordneten Kategorie auf. Bearbeiten › Rückgängig stellt sie wieder her.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Delete %n categories? Their entities move up to the parent. Edit › Undo will restore them.</source>
+        <translation>
+            <numerusform>%n Kategorie löschen? Ihre Einträge rücken zur übergeordneten Kategorie auf. Bearbeiten › Rückgängig stellt sie wieder her.</numerusform>
+            <numerusform>%n Kategorien löschen? Ihre Einträge rücken zur übergeordneten Kategorie auf. Bearbeiten › Rückgängig stellt sie wieder her.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Delete Category</source>
+        <translation>Kategorie löschen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
     </message>
 </context>
 <context>
@@ -5973,6 +6004,13 @@
     <message>
         <source>Ta&amp;ke Snapshot</source>
         <translation>&amp;Version festhalten</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::trees::NavigatorTree</name>
+    <message>
+        <source>Nothing here contains “%1”. Clear the filter to see everything.</source>
+        <translation>Nichts hier enthält „%1“. Leeren Sie den Filter, um alles zu sehen.</translation>
     </message>
 </context>
 </TS>

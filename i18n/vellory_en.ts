@@ -54,6 +54,13 @@
             <numerusform>Removed %n things from the codex. Undo brings them back.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Delete %n categories? Their entities move up to the parent. Edit › Undo will restore them.</source>
+        <translation>
+            <numerusform>Delete %n category? Its entities move up to the parent. Edit › Undo will restore it.</numerusform>
+            <numerusform>Delete %n categories? Their entities move up to the parent. Edit › Undo will restore them.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::codex::MentionsSection</name>
