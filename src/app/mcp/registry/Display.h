@@ -42,10 +42,7 @@ private:
     bool m_isAnyShortened = false;
 };
 
-/**
- * An instant in the project's calendar. With named eras the formatter's text cannot be read back, so " [year
- * N]" with the absolute year follows it.
- */
+/** An instant in the project's calendar, as codex::dateText() writes it. */
 [[nodiscard]] QString dateText(const core::project::Project& project, core::calendar::StoryInstant instant);
 
 /** Reads a date of the project's calendar, also as dateText() writes it. All tools answer its message. */
