@@ -160,6 +160,7 @@ Tool listCommentsTool()
                   {u"type"_s,
                    objectTypeProperty(u"The kind of the target, when several kinds share the name."_s)},
                   {u"include_resolved"_s, booleanProperty(u"Whether to list resolved threads too."_s)}})},
+        .refusedByHandler = {u"type"_s},
         .handler = listComments,
     };
 }

@@ -190,7 +190,7 @@ Tool addFieldTool()
              makeObjectSchema(
                  {{u"category"_s, textProperty(u"The category that gets the field."_s)},
                   {u"label"_s, textProperty(u"The field's name as people see it."_s)},
-                  {u"type"_s, textProperty(u"One of: %1. Default: text."_s.arg(fieldTypeList()))},
+                  {u"type"_s, fieldTypeProperty(u"What its values are."_s, Default::First)},
                   {u"options"_s,
                    listProperty(u"The choices of a choice field."_s, textProperty(u"A choice."_s))},
                   {u"required"_s, booleanProperty(u"Whether every entity should fill it in."_s)},
@@ -199,6 +199,7 @@ Tool addFieldTool()
                   {u"description"_s, textProperty(u"What the field is for."_s)},
                   {u"reference_category"_s, textProperty(u"The category a reference may point into."_s)}},
                  {u"category"_s, u"label"_s})},
+        .refusedByHandler = {u"type"_s},
         .handler = addField,
     };
 }

@@ -87,9 +87,18 @@ Result<QString> readFieldValue(const Workspace& workspace, const Field& field, c
     return *stored;
 }
 
-QString fieldTypeList()
+namespace {
+
+QStringList fieldTypeNames()
 {
-    return u"text, number, boolean, date, reference, choice, url"_s;
+    return {u"text"_s, u"number"_s, u"boolean"_s, u"date"_s, u"reference"_s, u"choice"_s, u"url"_s};
+}
+
+} // namespace
+
+QJsonObject fieldTypeProperty(const QString& description, Default byDefault)
+{
+    return choiceProperty(description, fieldTypeNames(), byDefault);
 }
 
 Result<FieldType> readFieldType(const ToolArguments& arguments, FieldType byDefault)
@@ -99,8 +108,8 @@ Result<FieldType> readFieldType(const ToolArguments& arguments, FieldType byDefa
         return byDefault;
     if (const auto type = core::taxonomy::fieldTypeFromName(name))
         return *type;
-    return Failure{
-        u"Unknown field type '%1'; use one of: %2."_s.arg(arguments.text(u"type"), fieldTypeList())};
+    return Failure{u"Unknown field type '%1'; use one of: %2."_s.arg(
+        arguments.text(u"type"), fieldTypeNames().join(u", "_s))};
 }
 
 Result<CategoryId> readReferenceCategory(const Workspace& workspace, const ToolArguments& arguments)

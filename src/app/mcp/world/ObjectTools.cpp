@@ -63,7 +63,14 @@ McpToolResult deleteObject(ToolContext& context, const ToolArguments& arguments)
 Result<core::content::NameSet> readAudiences(const Project& project, const QStringList& names)
 {
     core::content::NameSet audiences;
-    for (const QString& name : tidied(names)) {
+    for (const QString& entry : names) {
+        const QString name = entry.trimmed();
+        // Left out, it would make the list empty, which shows the object to everyone.
+        if (name.isEmpty()) {
+            return Failure{
+                u"\"audiences\" holds a blank entry; name every audience, or pass an empty array to make the "
+                "object visible to everyone."_s};
+        }
         if (project.audiences().isEmpty()) {
             return Failure{
                 u"Unknown audience '%1': this project defines no audiences. The writer adds them in the "
@@ -187,6 +194,7 @@ Tool deleteObjectTool()
              "deleted with update_category, plot threads with delete_plot_thread."_s,
              makeSubjectSchema(u"name"_s, u"The object's title or name."_s, narrowingProperties({}))},
         .subject = u"name"_s,
+        .refusedByHandler = {u"type"_s},
         .handler = deleteObject,
     };
 }
@@ -212,6 +220,7 @@ Tool setVisibilityTool()
                            u"Who may see it; empty for everyone."_s, textProperty(u"An audience."_s))}}),
                  {u"audiences"_s})},
         .subject = u"name"_s,
+        .refusedByHandler = {u"type"_s},
         .handler = setVisibility,
     };
 }
@@ -234,6 +243,7 @@ Tool setAiExclusionTool()
                  narrowingProperties(
                      {{u"excluded"_s, booleanProperty(u"Whether AI features leave it out."_s, true)}}))},
         .subject = u"name"_s,
+        .refusedByHandler = {u"type"_s},
         .handler = setAiExclusion,
     };
 }

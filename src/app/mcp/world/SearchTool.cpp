@@ -94,6 +94,7 @@ Tool searchTool()
                   {u"type"_s, objectTypeProperty(u"Only objects of this type."_s)},
                   {u"limit"_s, integerProperty(u"How many objects to list at most."_s, defaultLimit)}},
                  {u"query"_s})},
+        .refusedByHandler = {u"type"_s},
         .handler = search,
     };
 }

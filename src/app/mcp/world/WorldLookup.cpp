@@ -20,12 +20,21 @@ using core::taxonomy::Field;
 using core::taxonomy::FieldType;
 using workspace::Workspace;
 
-QJsonObject objectTypeProperty(const QString& description)
+namespace {
+
+QStringList objectTypeNames()
 {
     QStringList names;
     for (const ContentKind kind : core::content::allContentKinds)
         names.append(core::content::contentKindName(kind));
-    return textProperty(u"%1 One of: %2."_s.arg(description, names.join(u", "_s)));
+    return names;
+}
+
+} // namespace
+
+QJsonObject objectTypeProperty(const QString& description)
+{
+    return choiceProperty(description, objectTypeNames(), Default::None);
 }
 
 Result<std::optional<ContentKind>> readObjectType(const ToolArguments& arguments)
@@ -37,11 +46,8 @@ Result<std::optional<ContentKind>> readObjectType(const ToolArguments& arguments
         return kind;
     if (const auto kind = kindOfWord(name))
         return kind;
-    QStringList names;
-    for (const ContentKind kind : core::content::allContentKinds)
-        names.append(core::content::contentKindName(kind));
-    return Failure{
-        u"Unknown object type '%1'; use one of: %2."_s.arg(arguments.text(u"type"), names.join(u", "_s))};
+    return Failure{u"Unknown object type '%1'; use one of: %2."_s.arg(
+        arguments.text(u"type"), objectTypeNames().join(u", "_s))};
 }
 
 Result<FoundObject> findOfType(

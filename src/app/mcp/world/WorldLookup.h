@@ -9,7 +9,7 @@
 
 namespace tw::app::mcp {
 
-/** The "type" argument that narrows a name to one kind of object. */
+/** The "type" argument that narrows a name to one kind of object; readObjectType() refuses other words. */
 [[nodiscard]] QJsonObject objectTypeProperty(const QString& description);
 /** The kind it names, as in files ("timeline_event") or in words; none when it is absent. */
 [[nodiscard]] core::Result<std::optional<core::content::ContentKind>> readObjectType(

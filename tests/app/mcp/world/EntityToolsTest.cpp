@@ -36,7 +36,7 @@ TEST_F(EntityToolsTest, anEntityIsCreatedWithEverythingInOneStep)
         {"create_entity", R"({"name": "Ada", "category": "Characters", "fields": {"Rank": "Cook"}})", failure,
          u"'Cook' does not suit the choice field 'Rank', which takes one of: Captain, Marda's guard."_s},
         {"create_entity", R"({"name": "Ada", "category": "Characters", "fields": {"Alive": []}})", failure,
-         u"\"Alive\" in \"fields\" must be a text or a number."_s},
+         u"\"Alive\" in \"fields\" must be a text, a number, or true or false."_s},
         {"create_entity", R"({"name": "Ada", "category": "Characters", "references": {"Spouse": "Nobody"}})",
          failure, u"No entity named 'Nobody' exists."_s},
         {"create_entity", R"({"name": "Ada", "category": "Characters", "references": {"Age": "Tom"}})",

@@ -68,9 +68,15 @@ TEST_F(ObjectToolsTest, visibilityTakesOnlyAudiencesOfTheProject)
          u"Entry 1 of \"audiences\" must be a text."_s},
     });
     run("set_visibility", R"({"name": "Marda", "audiences": ["Players"]})");
-    expectCall(
+    const QString blank =
+        u"\"audiences\" holds a blank entry; name every audience, or pass an empty array to "
+        "make the object visible to everyone."_s;
+    expectCalls({
+        {"set_visibility", R"({"name": "Marda", "audiences": [""]})", failure, blank},
+        {"set_visibility", R"({"name": "Marda", "audiences": ["Players", " "]})", failure, blank},
         {"set_visibility", R"({"name": "Marda", "audiences": []})", oneStep,
-         u"'Marda' is now visible to everyone."_s});
+         u"'Marda' is now visible to everyone."_s},
+    });
 }
 
 TEST_F(ObjectToolsTest, exclusionFromAiIsSetAndTakenBack)
