@@ -138,6 +138,25 @@ TEST_F(EntityToolsTest, anEntityIsReadWithAllItHolds)
     EXPECT_FALSE(run("get_entity", R"({"name": "Mardana"})").contains(u"NOTE"_s));
 }
 
+TEST_F(EntityToolsTest, mentionsAreFoundHoweverTheNameIsMarked)
+{
+    using namespace core::document;
+    Entity& seven = add<Entity>(ids.characters, u"Agent_Seven"_s);
+    seven.setAliases({u"Salt & Sons"_s});
+    add<Document>(DocumentKind::Prose, u"Escaped"_s)
+        .setBody({u"Agent\\_Seven came."_s, BodyFormat::Markdown});
+    add<Document>(DocumentKind::Prose, u"Stressed"_s)
+        .setBody({u"*Agent*\\_Seven came."_s, BodyFormat::Markdown});
+    add<Document>(DocumentKind::Prose, u"Rich"_s)
+        .setBody({u"<p>Salt &amp; Sons came.</p>"_s, BodyFormat::Html});
+    add<Document>(DocumentKind::Prose, u"Apart"_s).setBody({u"Agent Sevens"_s, BodyFormat::Markdown});
+    save();
+    const QString report = run("get_entity", R"({"name": "Agent_Seven"})");
+    for (const QString& title : {u"Escaped"_s, u"Stressed"_s, u"Rich"_s})
+        EXPECT_TRUE(report.contains(u"- document '%1' (1)"_s.arg(title))) << report.toStdString();
+    EXPECT_FALSE(report.contains(u"Apart"_s));
+}
+
 TEST_F(EntityToolsTest, entitiesAreMergedAndSplit)
 {
     expectCalls({
@@ -216,8 +235,12 @@ TEST_F(EntityToolsTest, librariesAreReadButNeverChanged)
         gods.id = core::CategoryId::create();
         gods.name = u"Gods"_s;
         library.taxonomyForEdit().insert(gods);
+        core::calendar::Calendar calendar;
+        calendar.setEraName(u"of the Gods"_s);
+        library.setCalendar(calendar);
         auto god = std::make_unique<Entity>(core::ContentId::create(), gods.id, u"Orm"_s);
         god->setAliases({u"Marda's god"_s});
+        god->setLifespan({0, {}});
         library.insert(std::move(god));
         Q_UNUSED(this);
     });
@@ -243,7 +266,9 @@ TEST_F(EntityToolsTest, librariesAreReadButNeverChanged)
         {"rename_object", R"({"old_name": "god", "new_name": "idol"})", none,
          u"'god' occurs nowhere else; nothing changed.\nLeft alone in the mounted library 'Lore': 1 occurrence(s)."_s},
     });
-    EXPECT_TRUE(run("get_entity", R"({"name": "orm"})").contains(u"From the mounted library 'Lore'."_s));
+    const QString report = run("get_entity", R"({"name": "orm"})");
+    EXPECT_TRUE(report.contains(u"From the mounted library 'Lore'."_s));
+    EXPECT_TRUE(report.contains(u"Lifespan: born "_s + project().calendar().formatInstant(0) + u'\n'));
 }
 
 } // namespace tw::app::mcp
