@@ -28,13 +28,14 @@ QString ValueDisplay::shown(const QString& value)
     return shortenForDisplay(value);
 }
 
-QString ValueDisplay::note() const
+QString ValueDisplay::note(const QString& tool) const
 {
     if (!m_isAnyShortened)
         return {};
-    return u"\n\nNOTE: one or more field values above were shortened for brevity. Call get_entity again with "
+    return u"\n\nNOTE: one or more field values above were shortened for brevity. Call %1 again with "
            u"\"full\": "
-           "true before editing any of them, or the unseen tail will be lost when you write the field back."_s;
+           "true before editing any of them, or the unseen tail will be lost when you write the field back."_s
+               .arg(tool);
 }
 
 QString dateText(const Project& project, StoryInstant instant)

@@ -33,9 +33,11 @@ public:
     {}
 
     [[nodiscard]] QString shown(const QString& value);
-    /** The paragraph that warns of shortened values, with a blank line before it; empty when there are none.
+    /**
+     * The paragraph that warns of shortened values and names the tool that shows them in full, with a blank
+     * line before it; empty when there are none.
      */
-    [[nodiscard]] QString note() const;
+    [[nodiscard]] QString note(const QString& tool) const;
 
 private:
     Shortening m_shortening;

@@ -95,13 +95,15 @@ ToolTable timelineAndEventTools()
                 {u"get_timeline"_s,
                  u"Reads the project's timeline(s): every event with its date(s) in the project calendar, "
                  "participants and location by name, plus the named eras. Events stand in the order of the "
-                 "story. Without \"timeline\" all timelines are read, those of mounted libraries as well; "
-                 "events "
-                 "excluded from AI are left out, and long descriptions are shortened. Call it before you add "
-                 "or "
-                 "change events: they are addressed by the titles it prints."_s,
+                 "story. Without \"timeline\" all timelines are read, those of mounted libraries as well. "
+                 "Events excluded from AI are left out; a timeline that is excluded is not named, and its "
+                 "events stand under a heading of their own. Descriptions longer than 300 characters are "
+                 "shortened unless \"full\" is true (default false): ask for the full ones before you edit "
+                 "one, or its unseen tail is lost. Call it before you add or change events: they are "
+                 "addressed by the titles it prints."_s,
                  makeObjectSchema(
                      {{u"timeline"_s, textProperty(u"Only the timeline of this title."_s)},
+                      {u"full"_s, booleanProperty(u"Show every description in full length."_s)},
                       {u"id"_s, textProperty(u"The timeline's id, in place of its title."_s)}})},
             .handler = getTimeline,
         },

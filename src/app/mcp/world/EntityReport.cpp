@@ -75,7 +75,7 @@ public:
         text += line(u"Lifespan"_s, lifespanText(m_workspace.project(), m_entity));
         text += line(u"Locked"_s, m_entity.isLocked() ? u"yes, tools cannot change it"_s : QString());
         text += fields() + states() + gallery() + mentions();
-        return text.trimmed() + m_display.note();
+        return text.trimmed() + m_display.note(u"get_entity"_s);
     }
 
 private:

@@ -182,12 +182,14 @@ TEST(DisplayTest, shortensAfterBlanksAreCollapsed)
 
     ValueDisplay brief(Shortening::Long);
     EXPECT_EQ(brief.shown(QString(300, u'x')), QString(300, u'x'));
-    EXPECT_EQ(brief.note(), QString());
+    EXPECT_EQ(brief.note(u"get_lamp"_s), QString());
     static_cast<void>(brief.shown(QString(301, u'x')));
-    EXPECT_TRUE(brief.note().startsWith(u"\n\nNOTE: one or more field values above were shortened"));
+    EXPECT_TRUE(brief.note(u"get_lamp"_s)
+                    .startsWith(u"\n\nNOTE: one or more field values above were shortened for brevity. Call "
+                                "get_lamp again"));
     ValueDisplay full(Shortening::None);
     EXPECT_EQ(full.shown(QString(301, u'x')).size(), 301);
-    EXPECT_EQ(full.note(), QString());
+    EXPECT_EQ(full.note(u"get_lamp"_s), QString());
 }
 
 TEST(DisplayTest, datesReadBackAsTheyAreWritten)

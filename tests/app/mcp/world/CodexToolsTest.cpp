@@ -242,6 +242,13 @@ TEST_F(CodexToolsTest, categoriesAndTheirSchemasAreRead)
          u"# Cities\nUnder the entity: Vaertis\nEntities: 1\nTaken through the entity: ruler\n\nFields\n- "
          "Ruler (text; inherited from 'Places')"_s},
     });
+    const QByteArray description(301, 'x');
+    run("add_field", R"({"category": "Cities", "label": "Harbour", "description": ")" + description + "\"}");
+    const QString brief = run("get_category", R"({"name": "Cities"})");
+    EXPECT_FALSE(brief.contains(QLatin1String(description)));
+    EXPECT_TRUE(brief.contains(u"Call get_category again with \"full\": true"));
+    EXPECT_TRUE(run("get_category", R"({"name": "Cities", "full": true})")
+                    .endsWith(u"- Harbour (text; own) -- "_s + QLatin1String(description)));
 }
 
 } // namespace tw::app::mcp
