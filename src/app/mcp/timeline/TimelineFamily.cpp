@@ -78,7 +78,9 @@ QJsonObject ruleSchema()
          {u"comparison"_s,
           choiceProperty(u"How the value must compare."_s, comparisonKeys(), Default::First)},
          {u"value"_s,
-          valueProperty(u"What it is compared with; pieces for oneOf stand between bars: \"red|green\"."_s)},
+          valueProperty(
+              u"What it is compared with: for a reference the entity's name, for a date one of the project's "
+              "calendar; pieces for oneOf stand between bars: \"red|green\"."_s)},
          {u"date"_s,
           dateProperty(u"The moment at which the field is read; without it, its current value counts"_s)}},
         {u"name"_s, u"entity"_s, u"field"_s});

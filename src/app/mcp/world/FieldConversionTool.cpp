@@ -114,7 +114,7 @@ Tool convertFieldTool()
              "field is converted on the category that defines it; get_category says which. Values of locked "
              "entities and entities excluded from AI stay as they are."_s,
              makeObjectSchema(
-                 {{u"category"_s, textProperty(u"The category that defines the field."_s)},
+                 {{u"category"_s, textProperty(u"The category that defines the field, by name or id."_s)},
                   {u"field"_s, textProperty(u"The field's label or key."_s)},
                   {u"type"_s, fieldTypeProperty(u"The new type."_s, Default::None)},
                   {u"options"_s,

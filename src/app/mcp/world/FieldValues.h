@@ -10,9 +10,9 @@
 namespace tw::app::mcp {
 
 /**
- * What is stored for a value that a caller writes: names of entities (one, or several parted by line breaks)
- * become references, dates of the calendar instants. Fails with what the field takes when the text does not
- * suit it.
+ * What is stored for a value that a caller writes: names of entities (one, or several parted by line breaks
+ * or commas) become references, dates of the calendar instants. Fails with what the field takes when the text
+ * does not suit it.
  */
 [[nodiscard]] core::Result<QString> readFieldValue(
     const workspace::Workspace& workspace, const core::taxonomy::Field& field, const QString& text);

@@ -47,8 +47,8 @@ McpToolResult deleteObject(ToolContext& context, const ToolArguments& arguments)
     }
     if (plan.unreachableCount > 0) {
         answer +=
-            u" %1 document(s) under it are now unreachable from the manuscript; move them or undo."_s.arg(
-                QString::number(plan.unreachableCount));
+            u" %1 document(s) under it are now unreachable from the manuscript; move them or undo. Until "
+            "then they stand at the top level."_s.arg(QString::number(plan.unreachableCount));
     }
     if (plan.rescuedCategoryCount > 0) {
         answer += u" %1 category(ies) that hung under it moved up to its own category."_s.arg(
@@ -187,11 +187,12 @@ Tool deleteObjectTool()
              u"Deletes any titled object (entity, document, map, spreadsheet, timeline event, ...) by name "
              "and states what type it deleted. When objects of several types share the name, pass \"type\", "
              "or \"id\" when two of one type do. References to it elsewhere are left dangling, and the "
-             "documents under a deleted document are no longer in the manuscript: the answer counts both, "
-             "and undo_last takes the deletion back with everything. Categories that hung under a deleted "
+             "documents under a deleted document lose their place and stand at the top level until they are "
+             "moved with update_document: the answer counts both, and undo_last takes the deletion back with "
+             "everything. Categories that hung under a deleted "
              "entity move up. To combine two entities without losing references call merge_entities. Locked "
              "objects, objects excluded from AI and those of mounted libraries are refused; categories are "
-             "deleted with update_category, plot threads with delete_plot_thread."_s,
+             "deleted with update_category, plot threads are not deleted by tools."_s,
              makeSubjectSchema(u"name"_s, u"The object's title or name."_s, narrowingProperties({}))},
         .subject = u"name"_s,
         .refusedByHandler = {u"type"_s},

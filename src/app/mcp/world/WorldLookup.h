@@ -28,7 +28,7 @@ struct FoundCategory
     const workspace::MountedLibrary* library = nullptr;
 };
 
-/** The open project's category of that name, else that of a mounted library. */
+/** The open project's category of that name or id, else that of a mounted library. */
 [[nodiscard]] core::Result<FoundCategory> findCategoryToRead(
     const workspace::Workspace& workspace, const QString& name);
 /** Only the open project's; those of libraries are refused. What comes back holds until the taxonomy changes.

@@ -190,7 +190,8 @@ TEST_F(EventToolsTest, stubsAreMadeForNamesThatNothingHas)
         {{"{}", u"create_missing_entities needs \"names\"."_s},
          {R"({"names":[]})", u"create_missing_entities needs \"names\"."_s},
          {R"({"names":["New","Secret"]})", u"'Secret' is excluded from AI and cannot be used here."_s},
-         {R"({"names":["New"],"category":"Moons"})", u"No category named 'Moons' exists."_s}});
+         {R"({"names":["New"],"category":"Moons"})", u"No category named 'Moons' exists."_s},
+         {R"({"names":["New\nborn"]})", u"A name is one line; 'New born' holds a line break."_s}});
 }
 
 TEST_F(EventToolsTest, theTimelineIsReadInTheOrderOfTheStory)

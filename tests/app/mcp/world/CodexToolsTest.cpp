@@ -27,7 +27,7 @@ TEST_F(CodexToolsTest, categoriesAreCreatedUnderCategoriesAndEntities)
         {"create_category", R"({"name": "  "})", failure, u"create_category needs a non-empty \"name\"."_s},
         {"create_category", R"({"name": 7})", failure, u"\"name\" must be a text."_s},
         {"create_category", R"({"name": "a\nb"})", failure,
-         u"A name is one line; \"name\" holds a line break."_s},
+         u"A name is one line; 'a b' holds a line break."_s},
         {"create_category", R"({"name": "PLACES"})", failure, u"Category 'PLACES' already exists."_s},
         {"create_category", R"({"name": "X", "parent": "Nope"})", failure,
          u"No category named 'Nope' exists."_s},

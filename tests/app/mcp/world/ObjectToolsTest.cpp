@@ -32,7 +32,8 @@ TEST_F(ObjectToolsTest, objectsOfAnyKindAreDeleted)
         {"delete_object", R"({"name": "weather"})", oneStep, u"Deleted the random table 'Weather'."_s},
         {"delete_object", R"({"name": "Marda at Sea"})", oneStep,
          u"Deleted the document 'Marda at Sea'. 1 reference(s) to it elsewhere are now dangling. 1 "
-         "document(s) under it are now unreachable from the manuscript; move them or undo."_s},
+         "document(s) under it are now unreachable from the manuscript; move them or undo. Until then they "
+         "stand at the top level."_s},
         {"delete_object", R"({"name": "Vaertis", "type": "entity"})", oneStep,
          u"Deleted the entity 'Vaertis'. 1 reference(s) to it elsewhere are now dangling. 1 category(ies) "
          "that hung under it moved up to its own category."_s},
