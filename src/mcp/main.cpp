@@ -122,7 +122,7 @@ int main(int argc, char* argv[])
     const ProjectResources resources(*workspace.value(), catalogue.value());
     ProtocolServer server(
         catalogue.value(), resources,
-        {[&refresher] { refresher.refresh(); }, [&refresher] { refresher.acceptOwnSaves(); }});
+        {[&refresher] { refresher.refresh(); }, [&refresher] { return refresher.settleChange(); }});
     serve(server);
     if (workspace.value()->isModified())
         writeLog(

@@ -83,7 +83,7 @@ TEST_F(ProjectRefresherTest, looksAtOnceAfterASaveAndLaterForAnEditInPlace)
     // What was saved here is no reason to look.
     rename(*workspace, id, u"Own"_s);
     ASSERT_TRUE(workspace->save());
-    refresher->acceptOwnSaves();
+    EXPECT_EQ(refresher->settleChange(), QString());
     refresher->refresh();
     EXPECT_EQ(logged.size(), 2);
     EXPECT_TRUE(workspace->history().canUndo());
@@ -112,6 +112,43 @@ TEST_F(ProjectRefresherTest, glancesTheMoreSeldomTheLongerItTakes)
         refresher->refresh();
         EXPECT_EQ(title(), QString::number(sample.glance.count()));
     }
+}
+
+/** After a save was refused: whatever is undone, the next use has the others' version. */
+TEST_F(ProjectRefresherTest, leadsOutOfARefusedSave)
+{
+    rename(*workspace, id, u"Earlier"_s);
+    ASSERT_TRUE(workspace->save());
+    EXPECT_EQ(refresher->settleChange(), QString());
+    rename(*workspace, id, u"Mine"_s);
+    renameElsewhere(u"Theirs"_s);
+    ASSERT_FALSE(workspace->save());
+    EXPECT_EQ(
+        refresher->settleChange(), u"Call undo_last until nothing of this session is unsaved; the project is "
+                                   u"then read again; repeat the "
+                                   "change."_s);
+    refresher->refresh();
+    EXPECT_EQ(title(), u"Mine"_s);
+    workspace->undoStack().undo();
+    EXPECT_EQ(
+        refresher->settleChange(), u"Nothing of this session is unsaved any more: the project is read again "
+                                   u"before the next call, so repeat "
+                                   "the change."_s);
+    refresher->refresh();
+    EXPECT_EQ(title(), u"Theirs"_s);
+
+    rename(*workspace, id, u"Again"_s);
+    ASSERT_TRUE(workspace->save());
+    EXPECT_EQ(refresher->settleChange(), QString());
+    renameElsewhere(u"Latest"_s);
+    workspace->undoStack().undo();
+    ASSERT_FALSE(workspace->save());
+    EXPECT_EQ(
+        refresher->settleChange(), u"The project is read again before the next call, with what was undone in "
+                                   u"it; look at it and change it "
+                                   "anew."_s);
+    refresher->refresh();
+    EXPECT_EQ(title(), u"Latest"_s);
 }
 
 TEST_F(ProjectRefresherTest, leavesUnsavedChangesAlone)

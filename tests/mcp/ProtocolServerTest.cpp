@@ -117,6 +117,16 @@ TEST_F(ProtocolServerTest, callsTools)
         -32602);
 }
 
+TEST_F(ProtocolServerTest, theNextStepFollowsFailuresOfChangingTools)
+{
+    begin("2025-11-25");
+    nextStep = u"Do this."_s;
+    EXPECT_EQ(textOf(result(call("undo_last", "{}"))), u"Nothing to undo. Do this."_s);
+    EXPECT_EQ(textOf(result(call("save_project", "{}"))), u"Project saved."_s);
+    EXPECT_EQ(
+        textOf(result(call("get_document", R"({"title":"None"})"))), u"No document named 'None' exists."_s);
+}
+
 TEST_F(ProtocolServerTest, toolsMaySayAnything)
 {
     const QString texts[] = {

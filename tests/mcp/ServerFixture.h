@@ -28,7 +28,8 @@ protected:
         catalogue = std::make_unique<ToolCatalogue>(std::move(created).value());
         resources = std::make_unique<ProjectResources>(*workspace, *catalogue);
         server = std::make_unique<ProtocolServer>(
-            *catalogue, *resources, ProtocolServer::UseHooks{[this] { ++timesRefreshed; }, [] {}});
+            *catalogue, *resources,
+            ProtocolServer::UseHooks{[this] { ++timesRefreshed; }, [this] { return nextStep; }});
     }
 
     /** Empty for no answer. */
@@ -95,6 +96,8 @@ protected:
     std::unique_ptr<ProjectResources> resources;
     std::unique_ptr<ProtocolServer> server;
     int timesRefreshed = 0;
+    /** What is put behind failures of tools that may change something. */
+    QString nextStep;
 };
 
 } // namespace tw::mcp::server

@@ -1,5 +1,6 @@
 #include "app/codex/ProjectTextSearch.h"
 
+#include "app/codex/BodyFilter.h"
 #include "app/codex/ObjectTexts.h"
 #include "app/search/DocumentSearch.h"
 #include "core/content/ObjectName.h"
@@ -15,7 +16,6 @@ using namespace Qt::Literals::StringLiterals;
 using core::Failure;
 using core::Result;
 using core::content::ContentObject;
-using core::document::BodyFormat;
 using core::document::Document;
 using core::document::DocumentBody;
 using core::project::Project;
@@ -24,29 +24,6 @@ namespace {
 
 constexpr qsizetype contextLength = 40;
 
-/** The longest run of letters and digits: what stands in the source of a body as it stands in its prose. */
-QString longestWord(const QString& text)
-{
-    qsizetype bestStart = 0;
-    qsizetype bestLength = 0;
-    for (qsizetype start = 0; start < text.size();) {
-        qsizetype end = start;
-        while (end < text.size() && (text[end].isLetterOrNumber() || text[end].isMark()))
-            ++end;
-        if (end - start > bestLength) {
-            bestStart = start;
-            bestLength = end - start;
-        }
-        start = end + 1;
-    }
-    return text.sliced(bestStart, bestLength);
-}
-
-bool isAscii(const QString& text)
-{
-    return std::ranges::all_of(text, [](QChar character) { return character.unicode() < 0x80; });
-}
-
 class Searcher
 {
 public:
@@ -54,17 +31,14 @@ public:
         : m_search(search)
         , m_matcher(std::move(matcher))
         , m_text(search.text, Qt::CaseInsensitive)
-        , m_word(longestWord(search.text), Qt::CaseInsensitive)
-        , m_isAsciiWord(isAscii(m_word.pattern()))
+        , m_bodies(search.text, Qt::CaseInsensitive)
     {}
 
     [[nodiscard]] std::vector<TextHit> run(const Project& project)
     {
         std::vector<const ContentObject*> others;
         for (const auto& [id, object] : project.objects()) {
-            const bool isLookedAt =
-                !object->isAiExcluded() && (!m_search.kind || *m_search.kind == object->kind());
-            if (!isLookedAt)
+            if (!isLookedAt(*object))
                 continue;
             if (const QString name = core::content::objectName(*object); m_text.indexIn(name) >= 0)
                 add(*object, snippetOf(name));
@@ -83,6 +57,12 @@ public:
     }
 
 private:
+    [[nodiscard]] bool isLookedAt(const ContentObject& object) const
+    {
+        return !object.isAiExcluded() && (!m_search.kind || *m_search.kind == object.kind()) &&
+               !(m_search.isHidden && m_search.isHidden(object));
+    }
+
     [[nodiscard]] bool isFull() const { return std::ssize(m_hits) >= m_search.mostHits; }
     void add(const ContentObject& object, const QString& snippet) { m_hits.push_back({&object, snippet}); }
 
@@ -116,12 +96,9 @@ private:
         return snippet;
     }
 
-    /** The whole body is read as prose only when its source holds the word; rich text may spell it otherwise.
-     */
     [[nodiscard]] std::optional<QString> snippetInBody(const DocumentBody& body) const
     {
-        const bool mayBeSpelled = body.format == BodyFormat::Html && !m_isAsciiWord;
-        if (!mayBeSpelled && m_word.indexIn(body.text) < 0)
+        if (!m_bodies.mayHoldText(body))
             return std::nullopt;
         const auto found = search::findMatches(m_matcher, body, 1);
         if (!found || found.value().empty())
@@ -133,8 +110,7 @@ private:
     const TextSearch& m_search;
     search::TextMatcher m_matcher;
     QStringMatcher m_text;
-    QStringMatcher m_word;
-    bool m_isAsciiWord = true;
+    BodyFilter m_bodies;
     std::vector<TextHit> m_hits;
 };
 

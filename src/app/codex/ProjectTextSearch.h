@@ -4,6 +4,7 @@
 #include "core/foundation/Result.h"
 #include "core/project/Project.h"
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -16,6 +17,8 @@ struct TextSearch
     std::optional<core::content::ContentKind> kind;
     /** More objects than this are not looked for. */
     qsizetype mostHits = 50;
+    /** Objects that are passed over beside those excluded from AI; empty for none. */
+    std::function<bool(const core::content::ContentObject&)> isHidden = {};
 };
 
 /** An object that holds the text. */

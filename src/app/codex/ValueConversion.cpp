@@ -1,6 +1,6 @@
 #include "app/codex/ValueConversion.h"
 
-#include "core/calendar/DateReader.h"
+#include "app/codex/DateText.h"
 #include "core/content/ObjectName.h"
 #include "core/entity/Schema.h"
 
@@ -80,10 +80,8 @@ std::optional<QString> ValueConversion::stored(const Field& field, const QString
 
 std::optional<QString> ValueConversion::storedDate(const QString& text) const
 {
-    const auto parts = core::calendar::parseDate(m_project.calendar(), text);
-    if (!parts)
-        return std::nullopt;
-    return QString::number(m_project.calendar().minutesFromParts(*parts));
+    const auto instant = readDateText(m_project.calendar(), text);
+    return instant ? std::optional(QString::number(*instant)) : std::nullopt;
 }
 
 ContentId ValueConversion::entityNamed(const QString& name, const CategoryId& beneath) const
@@ -131,7 +129,7 @@ QString ValueConversion::inWords(const Field& field, const QString& value) const
     if (field.type == FieldType::Date) {
         bool isInstant = false;
         const qint64 instant = value.toLongLong(&isInstant);
-        return isInstant ? m_project.calendar().formatInstant(instant) : value;
+        return isInstant ? dateText(m_project.calendar(), instant) : value;
     }
     if (field.type != FieldType::Reference)
         return value;

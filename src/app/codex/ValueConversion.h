@@ -30,8 +30,8 @@ public:
         const core::taxonomy::Field& field, const QString& text) const;
 
     /**
-     * A stored value in words: names for ids, dates in the calendar. What does not suit the type stays as it
-     * is, and so do the ids of entities that are gone or excluded from AI.
+     * A stored value in words that stored() understands: names for ids, dates in the calendar. What does not
+     * suit the type stays as it is, and so do the ids of entities that are gone or excluded from AI.
      */
     [[nodiscard]] QString inWords(const core::taxonomy::Field& field, const QString& value) const;
 

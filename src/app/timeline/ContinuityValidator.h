@@ -14,8 +14,8 @@ struct ContinuityScope
     /** Mounted libraries, in their order; ids of the project win. Events are only ever the project's own. */
     std::vector<const core::project::Project*> libraries;
     /**
-     * Objects that must not be spoken of; empty for none. Hidden events are skipped; hidden participants and
-     * places are neither named nor called missing.
+     * Objects that must not be spoken of; empty for none. Hidden events are skipped, and so are the routes of
+     * hidden maps; hidden participants and places are neither named nor called missing.
      */
     std::function<bool(const core::content::ContentObject&)> isHidden;
 };

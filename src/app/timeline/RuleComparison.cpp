@@ -115,7 +115,17 @@ bool ruleHolds(RuleComparison comparison, const std::optional<QString>& value, c
 
 QString shownOperand(RuleComparison comparison, const QString& operand)
 {
-    return comparison == RuleComparison::OneOf ? pieces(operand).join(u", "_s) : operand;
+    return operandValues(comparison, operand).join(u", "_s);
+}
+
+QStringList operandValues(RuleComparison comparison, const QString& operand)
+{
+    return comparison == RuleComparison::OneOf ? pieces(operand) : QStringList{operand};
+}
+
+QString operandOf(const QStringList& values)
+{
+    return values.join(u'|');
 }
 
 } // namespace tw::app::timeline

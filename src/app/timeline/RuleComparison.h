@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <array>
@@ -50,5 +51,10 @@ inline constexpr std::array allRuleComparisons{
 
 /** The operand as a sentence shows it: of a list its pieces, joined by a comma and a blank. */
 [[nodiscard]] QString shownOperand(RuleComparison comparison, const QString& operand);
+
+/** The values that an operand stands for: the pieces of a list, else itself. */
+[[nodiscard]] QStringList operandValues(RuleComparison comparison, const QString& operand);
+/** The operand that stands for these values. */
+[[nodiscard]] QString operandOf(const QStringList& values);
 
 } // namespace tw::app::timeline

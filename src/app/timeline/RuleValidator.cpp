@@ -1,9 +1,14 @@
 #include "app/timeline/ContinuityValidator.h"
+
+#include "app/codex/ValueConversion.h"
 #include "app/timeline/RuleComparison.h"
 #include "app/timeline/ScopedLookup.h"
 #include "core/entity/Schema.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
+#include <functional>
 
 namespace tw::app::timeline {
 
@@ -19,19 +24,27 @@ QString translated(const char* text)
     return QCoreApplication::translate("Continuity", text);
 }
 
-std::optional<QString> valueRead(const Project& owner, const Entity& entity, const ContinuityRule& rule)
+/** The field that a rule reads. One that no longer reaches the entity hides its value but keeps it. */
+ResolvedField fieldRead(const Project& owner, const Entity& entity, const ContinuityRule& rule)
 {
     const auto schema = schemaOfEntity(owner, entity);
-    // A field that no longer reaches the entity hides its value but keeps it; a rule still reads that.
+    if (const ResolvedField* declared = findField(schema, rule.fieldKey))
+        return *declared;
     ResolvedField hidden;
     hidden.field.key = rule.fieldKey;
-    const ResolvedField* declared = findField(schema, rule.fieldKey);
-    const ResolvedField& field = declared ? *declared : hidden;
+    return hidden;
+}
+
+std::optional<QString> valueRead(const ResolvedField& field, const Entity& entity, const ContinuityRule& rule)
+{
     return rule.instant ? shownValueAt(field, entity, *rule.instant) : shownValue(field, entity);
 }
 
+/** Makes names of ids and dates of instants. */
+using ValueWords = std::function<QString(const QString& value)>;
+
 /** "Ann's mood must be "glad"": a comparison that nobody knows is told by its own name and never holds. */
-QString expectation(const ContinuityRule& rule, const QString& name)
+QString expectation(const ContinuityRule& rule, const QString& name, const ValueWords& inWords)
 {
     const auto comparison = ruleComparisonFromKey(rule.comparison);
     const QString stated =
@@ -39,7 +52,12 @@ QString expectation(const ContinuityRule& rule, const QString& name)
             .arg(name, rule.fieldKey, comparison ? ruleComparisonPhrase(*comparison) : rule.comparison);
     if (comparison && !takesOperand(*comparison))
         return stated;
-    const QString operand = comparison ? shownOperand(*comparison, rule.value) : rule.value;
+    QString operand = rule.value;
+    if (comparison) {
+        QStringList values = operandValues(*comparison, rule.value);
+        std::ranges::transform(values, values.begin(), inWords);
+        operand = shownOperand(*comparison, operandOf(values));
+    }
     return stated + translated(QT_TRANSLATE_NOOP("Continuity", " \"%1\"")).arg(operand);
 }
 
@@ -63,15 +81,20 @@ std::vector<ContinuityConflict> validateRules(
         }
         if (lookup.isHidden(*entity))
             continue;
-        const auto value = valueRead(lookup.ownerOf(rule.entityId), *entity, rule);
+        const Project& owner = lookup.ownerOf(rule.entityId);
+        const ResolvedField field = fieldRead(owner, *entity, rule);
+        const auto value = valueRead(field, *entity, rule);
         const auto comparison = ruleComparisonFromKey(rule.comparison);
         if (comparison && ruleHolds(*comparison, value, rule.value))
             continue;
+        const auto inWords = [values = codex::ValueConversion(owner), &field](const QString& stored) {
+            return values.inWords(field.field, stored);
+        };
         conflicts.push_back(
             {translated(QT_TRANSLATE_NOOP("Continuity", "Rule \"%1\": %2, but is \"%3\"."))
                  .arg(
-                     rule.name, expectation(rule, entityName(entity)),
-                     value.value_or(translated(QT_TRANSLATE_NOOP("Continuity", "(unset)")))),
+                     rule.name, expectation(rule, entityName(entity), inWords),
+                     value ? inWords(*value) : translated(QT_TRANSLATE_NOOP("Continuity", "(unset)"))),
              {rule.entityId}});
     }
     return conflicts;

@@ -55,8 +55,10 @@ public:
         for (quint32 number = 0; number < m_facts.eventCount(); ++number)
             addMentions(number);
         resolveConstraints();
-        for (const Map* map : objectsOf<Map>(m_project))
-            addRoutes(*map);
+        for (const Map* map : objectsOf<Map>(m_project)) {
+            if (!m_lookup.isHidden(*map))
+                addRoutes(*map);
+        }
         return std::move(m_facts);
     }
 

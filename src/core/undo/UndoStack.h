@@ -61,6 +61,8 @@ public:
     /** No state counts as saved until the next setClean(). */
     void markModified();
     [[nodiscard]] bool isModified() const;
+    /** Whether all that keeps the present state from being the saved one is that steps were undone. */
+    [[nodiscard]] bool isSavedStateAhead() const { return !m_openMacro && m_cleanIndex > undoLength(); }
 
     /** Drops all history; not modified afterwards. */
     void clear();

@@ -1,6 +1,7 @@
 #include "mcp/server/ProjectRefresher.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tw::mcp::server {
 
@@ -35,8 +36,9 @@ ProjectRefresher::FolderStamps ProjectRefresher::folderStamps() const
 
 bool ProjectRefresher::isChangedOnDisk()
 {
+    const bool isLookDue = std::exchange(m_isLookDue, false);
     const auto start = m_clock();
-    if (start < m_nextGlance)
+    if (!isLookDue && start < m_nextGlance)
         return false;
     const bool isBundleChanged = m_workspace.hasSingleFile() && m_workspace.isBundleChangedOnDisk();
     const FolderStamps stamps = folderStamps();
@@ -44,7 +46,7 @@ bool ProjectRefresher::isChangedOnDisk()
     m_nextGlance = now + std::min(longestGlancePause, (now - start) * restPerLook);
     if (isBundleChanged)
         return true;
-    if (stamps == m_seen && now < m_nextLook)
+    if (!isLookDue && stamps == m_seen && now < m_nextLook)
         return false;
     const bool isChanged = !m_workspace.externalChanges().isEmpty();
     m_seen = stamps;
@@ -52,10 +54,39 @@ bool ProjectRefresher::isChangedOnDisk()
     return isChanged;
 }
 
+bool ProjectRefresher::hasOwnChanges() const
+{
+    return m_workspace.isModified() && !m_workspace.history().isSavedStateAhead();
+}
+
+QString ProjectRefresher::settleChange()
+{
+    if (!m_workspace.isModified()) {
+        if (m_isLookDue) {
+            return u"Nothing of this session is unsaved any more: the project is read again before the next "
+                   u"call, "
+                   "so repeat the change."_s;
+        }
+        m_seen = folderStamps();
+        return {};
+    }
+    m_isLookDue = m_workspace.isBundleChangedOnDisk() || !m_workspace.externalChanges().isEmpty();
+    if (!m_isLookDue)
+        return {};
+    return hasOwnChanges()
+               ? u"Call undo_last until nothing of this session is unsaved; the project is then read "
+                 "again; repeat the change."_s
+               : u"The project is read again before the next call, with what was undone in it; look at "
+                 "it and change it anew."_s;
+}
+
 void ProjectRefresher::refresh()
 {
-    if (m_workspace.isModified() || !isChangedOnDisk())
+    if (hasOwnChanges() || !isChangedOnDisk())
         return;
+    // Others went on from the saved state, and a project that cannot be read leaves it as the present one.
+    while (m_workspace.history().isSavedStateAhead())
+        m_workspace.undoStack().redo();
     if (const auto reloaded = m_workspace.reload(); !reloaded) {
         m_log(u"The project changed on disk but could not be read again: %1"_s.arg(reloaded.message()));
         return;

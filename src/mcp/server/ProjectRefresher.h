@@ -12,6 +12,7 @@ namespace tw::mcp::server {
 /**
  * Reads the open project anew when others changed it on disk, so that tools tell what the writer sees in the
  * program. Only while nothing is unsaved: then the changes stay, and saving is refused as in the program.
+ * Steps that were undone and could not be saved count for nothing.
  *
  * Looking at every file takes a while, so that is done only when a folder shows that something was saved into
  * it, or once in a while; the dearer the look, the rarer. The glance at the folders is rationed in the same
@@ -30,8 +31,12 @@ public:
 
     /** To be called before the project is used. */
     void refresh();
-    /** To be called after a call that may have saved: what came to the folders meanwhile was its own. */
-    void acceptOwnSaves() { m_seen = folderStamps(); }
+    /**
+     * To be called after a call that may have saved: what came to the folders meanwhile was its own. When a
+     * save was refused because others changed the project, it is read anew as soon as nothing is unsaved, and
+     * what comes back tells the model how to get there. Empty otherwise.
+     */
+    [[nodiscard]] QString settleChange();
 
 private:
     /** Of the project's folders: they tell when entries last came or went, as they do with every save. */
@@ -39,11 +44,14 @@ private:
 
     [[nodiscard]] FolderStamps folderStamps() const;
     [[nodiscard]] bool isChangedOnDisk();
+    [[nodiscard]] bool hasOwnChanges() const;
 
     app::workspace::Workspace& m_workspace;
     SteadyClock m_clock;
     Log m_log;
     FolderStamps m_seen;
+    /** A save was refused: the next look is not to be put off. */
+    bool m_isLookDue = false;
     std::chrono::nanoseconds m_nextGlance = std::chrono::nanoseconds::min();
     std::chrono::nanoseconds m_nextLook;
 };

@@ -60,11 +60,10 @@ QString nameBrainstorm(const QJsonObject& arguments)
     const QString style = arguments.value(u"style").toString();
     const QString wish = style.isEmpty() ? QString() : u" The names should feel like this: %1."_s.arg(style);
     return u"Suggest twelve names for this: %1.%2 First look at how names in this project sound: call "
-           "get_project_overview and list_category, and get_language if it has languages of its own. Check "
-           "each suggestion "
-           "with check_name and drop those that are in use or too close to a name that is. Give a line on "
-           "sound or "
-           "meaning for each."_s.arg(arguments.value(u"subject").toString(), wish);
+           "get_project_overview and list_category. Check each suggestion with check_name and drop those "
+           "that "
+           "are in use or too close to a name that is. Give a line on sound or meaning for each."_s.arg(
+               arguments.value(u"subject").toString(), wish);
 }
 
 const std::vector<Prompt>& prompts()

@@ -237,8 +237,11 @@ RpcOutcome ProtocolServer::callTool(const Request& request)
         return invalidParams(m_catalogue.server().callTool(name.toString(), {}).text);
     m_hooks.beforeUse();
     auto result = m_catalogue.server().callTool(name.toString(), arguments.toObject());
-    if (m_catalogue.access(name.toString()) == app::mcp::ToolAccess::Changing)
-        m_hooks.afterChange();
+    if (m_catalogue.access(name.toString()) == app::mcp::ToolAccess::Changing) {
+        const QString nextStep = m_hooks.afterChange();
+        if (!result.ok && !nextStep.isEmpty())
+            result.text += u' ' + nextStep;
+    }
     return ToolResult{std::move(result.text), !result.ok};
 }
 

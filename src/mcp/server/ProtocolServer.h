@@ -26,8 +26,8 @@ public:
     {
         /** Runs before anything of the project is read. */
         std::function<void()> beforeUse;
-        /** Runs after a tool that may have changed and saved it. */
-        std::function<void()> afterChange;
+        /** Runs after a tool that may have changed and saved it. What it says is put behind a failure. */
+        std::function<QString()> afterChange;
     };
 
     /** The catalogue and the resources outlive the server. */

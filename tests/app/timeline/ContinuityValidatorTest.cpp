@@ -216,6 +216,15 @@ TEST_F(ContinuityValidatorTest, whatIsHiddenIsNeitherNamedNorMissed)
     EXPECT_TRUE(messages().contains(u"Secret takes part in \"A\" before being born."_s));
     m_project.findForEdit(idOf(100))->setAiExcluded(true);
     EXPECT_EQ(messages(hiding), QStringList());
+
+    route(3, 4, 1000, 1);
+    event(u"D"_s, 50, 0, 4);
+    EXPECT_EQ(
+        messages(hiding),
+        QStringList(u"Ann cannot travel from the tower to the mill in time between \"C\" and \"D\"."_s));
+    for (const auto* map : objectsOf<Map>(m_project))
+        m_project.findForEdit(map->id())->setAiExcluded(true);
+    EXPECT_EQ(messages(hiding), QStringList());
 }
 
 TEST_F(ContinuityValidatorTest, librariesAnswerForWhatTheProjectDoesNotHold)
@@ -287,6 +296,7 @@ private:
     std::unique_ptr<Map> map()
     {
         auto map = std::make_unique<Map>(ContentId::create(), QString());
+        map->setAiExcluded(below(4) == 0);
         map->setTravelSettings({static_cast<double>(below(5) - 1), {}, {}});
         std::vector<core::map::MapRoute> routes;
         for (int count = below(12); count > 0; --count)
@@ -306,7 +316,8 @@ TEST(ContinuityValidator, saysWhatTheLiteralRulesSay)
     for (quint32 seed = 1; seed <= 2'000; ++seed) {
         Project project;
         RandomTimeline(seed).fill(project);
-        const auto conflicts = validateTimeline(project);
+        const auto conflicts =
+            validateTimeline(project, {{}, [](const auto& object) { return object.isAiExcluded(); }});
         const auto expected = test::literalTimelineCheck(project);
         found += conflicts.size();
         ASSERT_EQ(conflicts.size(), expected.size()) << "seed " << seed;

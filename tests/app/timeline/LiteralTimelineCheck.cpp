@@ -149,6 +149,8 @@ private:
     {
         std::map<std::pair<ContentId, ContentId>, double> routes;
         for (const auto* map : objectsOf<core::map::Map>(m_project)) {
+            if (map->isAiExcluded())
+                continue;
             for (const auto& route : map->routes()) {
                 const double speed = map->travelSettings().travelSpeedPerHour.value_or(0);
                 const ContentId& from = route.fromEntityId;

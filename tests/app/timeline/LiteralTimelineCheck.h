@@ -8,6 +8,7 @@
 
 namespace tw::test {
 
+/** Where maps that are excluded from AI are hidden, and nothing else is. */
 [[nodiscard]] std::vector<app::timeline::ContinuityConflict> literalTimelineCheck(
     const core::project::Project& project);
 

@@ -5,11 +5,14 @@
 #include "core/calendar/CalendarCommands.h"
 #include "core/calendar/CalendarRules.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace tw::app::mcp {
 
 using namespace Qt::Literals::StringLiterals;
+using core::Failure;
+using core::Result;
 using core::calendar::Calendar;
 using core::calendar::CalendarDraft;
 using core::calendar::CalendarEra;
@@ -70,9 +73,16 @@ QString howToWriteDates(const Calendar& calendar)
            "epoch, also where named eras count anew."_s.arg(month);
 }
 
-qint32 daysOf(const ToolArguments& month)
+Result<CalendarMonth> readMonth(const ToolArguments& month)
 {
-    return static_cast<qint32>(month.integer(u"days", 0, 0, std::numeric_limits<qint32>::max()));
+    constexpr qint64 mostDays = std::numeric_limits<qint32>::max();
+    const QString name = month.text(u"name").trimmed();
+    const qint64 days = std::max<qint64>(month.integer(u"days").value_or(0), 0);
+    if (days > mostDays) {
+        return Failure{u"%1 days are too many for the month '%2'; it can have %3 at most."_s.arg(
+            QString::number(days), name, QString::number(mostDays))};
+    }
+    return CalendarMonth{name, static_cast<qint32>(days)};
 }
 
 /** The calendar with what the arguments give in place of its parts, and the names of these parts. */
@@ -82,7 +92,7 @@ struct CalendarUpdate
     QStringList parts;
 };
 
-CalendarUpdate updateFrom(const Calendar& calendar, const ToolArguments& arguments)
+Result<CalendarUpdate> updateFrom(const Calendar& calendar, const ToolArguments& arguments)
 {
     CalendarUpdate update{{calendar.months(), calendar.weekdays(), calendar.eraName(), {}}, {}};
     for (const CalendarEra& era : calendar.eras())
@@ -91,8 +101,12 @@ CalendarUpdate updateFrom(const Calendar& calendar, const ToolArguments& argumen
     if (arguments.has(u"months")) {
         update.parts += u"months"_s;
         update.draft.months.clear();
-        for (const ToolArguments& month : arguments.records(u"months"))
-            update.draft.months.push_back({month.text(u"name").trimmed(), daysOf(month)});
+        for (const ToolArguments& record : arguments.records(u"months")) {
+            auto month = readMonth(record);
+            if (!month)
+                return Failure{month.message()};
+            update.draft.months.push_back(std::move(month).value());
+        }
     }
     if (const auto weekdays = arguments.givenTextList(u"weekdays")) {
         update.parts += u"weekdays"_s;
@@ -130,7 +144,10 @@ McpToolResult getCalendar(ToolContext& context, const ToolArguments& /*arguments
 McpToolResult updateCalendar(ToolContext& context, const ToolArguments& arguments)
 {
     core::project::Project& project = context.workspace.projectForEdit();
-    const CalendarUpdate update = updateFrom(project.calendar(), arguments);
+    const auto read = updateFrom(project.calendar(), arguments);
+    if (!read)
+        return McpToolResult::failure(read.message());
+    const CalendarUpdate& update = read.value();
     if (update.parts.isEmpty())
         return McpToolResult::failure(
             u"Provide at least one of \"months\", \"weekdays\", \"era_name\", or \"eras\"."_s);

@@ -17,10 +17,11 @@ ToolTable coreTools()
             .spec =
                 {u"save_project"_s,
                  u"Saves the project to disk immediately. Every tool that changes the project saves by "
-                 u"itself, so this "
-                 "is needed only after an answer said that saving failed, or to save edits the writer has "
-                 "made in the "
-                 "app. Refused, with nothing written, when the project changed on disk since it was opened."_s,
+                 u"itself, so this is needed only after an answer said that saving failed, or to save edits "
+                 "the writer has made in the app. Refused, with nothing written, when the project changed on "
+                 "disk since it was opened. Within the app the writer reviews those changes first; where no "
+                 "app has the project open, call undo_last until nothing of this session is unsaved: the "
+                 "project is then read again, and the changes can be repeated."_s,
                  makeObjectSchema({})},
             .handler = saveProject,
         },

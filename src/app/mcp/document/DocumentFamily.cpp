@@ -17,7 +17,7 @@ const QString documentDescription = u"The title of the document."_s;
 const QString footnoteIdDescription = u"The footnote's id, as list_footnotes shows it: the label in [^id]."_s;
 
 /** What create_document and update_document both take. */
-QJsonObject planningProperties()
+QJsonObject planningProperties(Default kind)
 {
     return {
         {u"body"_s, textProperty(u"The whole text as Markdown; paragraphs are parted by a blank line."_s)},
@@ -25,7 +25,9 @@ QJsonObject planningProperties()
         {u"status"_s, textProperty(u"The writer's own word for how far the text is, such as Draft."_s)},
         {u"point_of_view"_s, textProperty(u"Whose eyes the scene is seen through."_s)},
         {u"word_count_target"_s, integerProperty(u"Words aimed at; 0 for none."_s)},
-        {u"kind"_s, textProperty(u"prose (a chapter or scene), note, or screenplay."_s)},
+        {u"kind"_s, choiceProperty(
+                        u"prose (a chapter or scene), note, or screenplay."_s,
+                        {u"prose"_s, u"note"_s, u"screenplay"_s}, kind)},
         {u"parent"_s, textProperty(u"The title of the document to stand under; empty for the top level."_s)},
     };
 }
@@ -99,8 +101,11 @@ ToolTable editingTools()
                  "it. To place "
                  "the new document elsewhere among its siblings, call update_document afterwards."_s,
                  makeObjectSchema(
-                     with(planningProperties(), {{u"title"_s, textProperty(u"The new document's title."_s)}}),
+                     with(
+                         planningProperties(Default::First),
+                         {{u"title"_s, textProperty(u"The new document's title."_s)}}),
                      {u"title"_s})},
+            .refusedByHandler = {u"kind"_s},
             .handler = createDocument,
         },
         {
@@ -128,7 +133,7 @@ ToolTable editingTools()
                  makeSubjectSchema(
                      u"title"_s, titleDescription,
                      with(
-                         planningProperties(),
+                         planningProperties(Default::None),
                          {{u"new_title"_s, textProperty(u"The title from now on."_s)},
                           {u"order"_s, choiceProperty(
                                            u"Put it first or last among its siblings."_s,
@@ -137,6 +142,7 @@ ToolTable editingTools()
                           {u"before"_s, textProperty(u"The title of the sibling to stand before."_s)},
                           {u"after"_s, textProperty(u"The title of the sibling to stand after."_s)}}))},
             .subject = u"title"_s,
+            .refusedByHandler = {u"kind"_s},
             .handler = updateDocument,
         },
         {

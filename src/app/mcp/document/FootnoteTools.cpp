@@ -1,6 +1,7 @@
 #include "app/mcp/document/FootnoteTools.h"
 
 #include "app/mcp/registry/ObjectFinder.h"
+#include "app/mcp/registry/Refusals.h"
 #include "app/mcp/registry/UndoStep.h"
 #include "core/document/ActiveText.h"
 #include "core/document/DocumentCommands.h"
@@ -129,8 +130,8 @@ McpToolResult listFootnotes(ToolContext& context, const ToolArguments& arguments
         lines += QStringList{(lines.isEmpty() ? QString() : u"\n"_s) + u"Not referenced in the body:"_s} +
                  unreferenced;
     if (lines.isEmpty())
-        return McpToolResult::success(u"There are no footnotes in '%1'."_s.arg(document.title()));
-    return McpToolResult::success(lines.join(u'\n'));
+        lines.append(u"There are no footnotes in '%1'."_s.arg(document.title()));
+    return McpToolResult::success(mountedHeading(found.value().library) + lines.join(u'\n'));
 }
 
 McpToolResult addFootnote(ToolContext& context, const ToolArguments& arguments)

@@ -1,6 +1,7 @@
 #include "app/mcp/document/VersionTools.h"
 
 #include "app/mcp/registry/ObjectFinder.h"
+#include "app/mcp/registry/Refusals.h"
 #include "app/mcp/registry/UndoStep.h"
 #include "core/document/ActiveText.h"
 #include "core/document/DocumentCommands.h"
@@ -58,6 +59,8 @@ Result<std::size_t> findVariant(const DocumentVariants& variants, const QString&
 
 Result<void> checkNewVariant(const DocumentVariants& variants, const QString& name)
 {
+    if (auto checked = checkNameText(name); !checked)
+        return checked;
     if (countNamed(namesOf(variants), name) > 0)
         return Failure{u"A variant named '%1' already exists."_s.arg(name)};
     return {};
@@ -171,15 +174,18 @@ McpToolResult getDocumentVersions(ToolContext& context, const ToolArguments& arg
     if (!found)
         return McpToolResult::failure(found.message());
     const Document& document = *found.value();
-    if (document.versions().empty())
-        return McpToolResult::success(u"There are no saved versions of '%1'."_s.arg(document.title()));
+    const QString heading = mountedHeading(found.value().library);
+    if (document.versions().empty()) {
+        return McpToolResult::success(
+            heading + u"There are no saved versions of '%1'."_s.arg(document.title()));
+    }
     QStringList lines;
     for (const DocumentVersion& version : document.versions()) {
         lines.append(u"%1. '%2' -- %3 (%4)"_s.arg(
             QString::number(lines.size() + 1), version.label, version.createdAt,
             words(version.body, version.bodyFormat)));
     }
-    return McpToolResult::success(lines.join(u'\n'));
+    return McpToolResult::success(heading + lines.join(u'\n'));
 }
 
 McpToolResult snapshotDocumentVersion(ToolContext& context, const ToolArguments& arguments)
@@ -191,6 +197,8 @@ McpToolResult snapshotDocumentVersion(ToolContext& context, const ToolArguments&
     const QString label = arguments.text(u"label").trimmed();
     if (label.isEmpty())
         return McpToolResult::failure(u"A non-empty \"label\" is required."_s);
+    if (const auto checked = checkNameText(label); !checked)
+        return McpToolResult::failure(checked.message());
     const auto text = core::document::activeText(document);
     const DocumentVersion version{label, presentTime(context.workspace), text.text, text.format};
     std::vector<DocumentVersion> versions = document.versions();
@@ -211,7 +219,8 @@ McpToolResult manageVariants(ToolContext& context, const ToolArguments& argument
     const QString action = arguments.text(u"action", u"list"_s);
     if (action == "list"_L1) {
         const auto found = findToRead<Document>(context.workspace, arguments, u"document");
-        return found ? McpToolResult::success(listVariants(*found.value()))
+        return found ? McpToolResult::success(
+                           mountedHeading(found.value().library) + listVariants(*found.value()))
                      : McpToolResult::failure(found.message());
     }
     const auto found = findForChange<Document>(context.workspace, arguments, u"document");

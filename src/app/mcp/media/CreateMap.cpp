@@ -92,6 +92,8 @@ Result<MapRoute> readRoute(const Workspace& workspace, const ToolArguments& argu
         return Failure{to.message()};
     route.fromEntityId = from.value();
     route.toEntityId = to.value();
+    if (route.fromEntityId.isNull() || route.toEntityId.isNull())
+        return Failure{u"A route needs a place at both ends: \"from\" and \"to\" name entities."_s};
     route.distance = arguments.number(u"distance").value_or(0);
     if (route.distance < 0)
         return Failure{u"A route's \"distance\" cannot be below 0."_s};

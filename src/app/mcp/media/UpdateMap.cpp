@@ -49,6 +49,8 @@ Result<QString> newLabel(const MapCall& call, const std::vector<Marked>& marks, 
     const QString label = call.arguments.text(u"label").trimmed();
     if (label.isEmpty())
         return Failure{u"A non-empty \"label\" is required."_s};
+    if (const auto checked = checkNameText(label); !checked)
+        return Failure{checked.message()};
     if (countNamed(labelsOf(marks), label) > 0)
         return Failure{u"A %1 named '%2' already exists."_s.arg(word, label)};
     return label;

@@ -51,9 +51,8 @@ bool isOfPropertyType(const QJsonValue& value, const QJsonObject& property)
     return std::ranges::any_of(types, [&value](const QString& name) { return isOfType(value, name); });
 }
 
-QString typeWords(const QJsonObject& property)
+QString typeWord(const QString& type)
 {
-    const QString type = property.value(u"type").toString();
     if (type == "string"_L1)
         return u"a text"_s;
     if (type == "integer"_L1)
@@ -62,11 +61,16 @@ QString typeWords(const QJsonObject& property)
         return u"a number"_s;
     if (type == "boolean"_L1)
         return u"true or false"_s;
-    if (type == "array"_L1)
-        return u"a list"_s;
-    if (type == "object"_L1)
-        return u"an object"_s;
-    return u"a text or a number"_s;
+    return type == "array"_L1 ? u"a list"_s : u"an object"_s;
+}
+
+QString typeWords(const QJsonObject& property)
+{
+    const QJsonValue type = property.value(u"type");
+    QStringList words;
+    for (const QString& name : type.isString() ? QStringList{type.toString()} : textsOf(type))
+        words.append(typeWord(name));
+    return enumerated(words, u"or"_s);
 }
 
 Result<void> checkChoice(const QString& name, const QJsonValue& value, const QJsonObject& property)
@@ -96,10 +100,14 @@ Result<void> checkInside(const QString& name, const QJsonValue& value, const QJs
         const QJsonObject values = value.toObject();
         const QJsonObject inner = property.value(u"additionalProperties").toObject();
         for (auto entry = values.begin(); entry != values.end(); ++entry) {
-            if (!entry->isNull() && !isOfPropertyType(*entry, inner)) {
+            if (entry->isNull())
+                continue;
+            if (!isOfPropertyType(*entry, inner)) {
                 return Failure{
                     u"%1 in %2 must be %3."_s.arg(quoted(entry.key()), quoted(name), typeWords(inner))};
             }
+            if (auto checked = checkInside(entry.key(), *entry, inner); !checked)
+                return checked;
         }
     }
     if (value.isArray()) {
@@ -186,10 +194,18 @@ std::optional<double> finiteNumber(const QJsonValue& value)
     return value.toDouble();
 }
 
-Result<void> checkArguments(const McpToolSpec& spec, const QString& subject, const QJsonObject& arguments)
+Result<void> checkArguments(
+    const McpToolSpec& spec, const QString& subject, const QJsonObject& arguments,
+    const QStringList& refusedByHandler)
 {
-    const QJsonObject properties = spec.inputSchema.value(u"properties").toObject();
-    const QStringList required = textsOf(spec.inputSchema.value(u"required"));
+    QJsonObject properties = spec.inputSchema.value(u"properties").toObject();
+    QStringList required = textsOf(spec.inputSchema.value(u"required"));
+    for (const QString& name : refusedByHandler) {
+        required.removeAll(name);
+        QJsonObject property = properties.value(name).toObject();
+        property.remove(u"enum");
+        properties.insert(name, property);
+    }
     const bool isSubjectMissing = !subject.isEmpty() && isMissing(subject, arguments, properties) &&
                                   isMissing(u"id"_s, arguments, properties);
     if (isSubjectMissing || isAnyMissing(required, arguments, properties)) {

@@ -21,10 +21,12 @@ namespace tw::app::mcp {
  * - optional ones must be null or of their type (""index" must be a whole number.");
  * - a choice must be one of its words ("Unknown "action" 'x'; use add (default), remove, or promote.").
  *
- * Unknown arguments are passed over. The message is for the model.
+ * Unknown arguments are passed over, and so are, as long as they are of their type, those that the handler
+ * refuses in words of its own. The message is for the model.
  */
 [[nodiscard]] core::Result<void> checkArguments(
-    const McpToolSpec& spec, const QString& subject, const QJsonObject& arguments);
+    const McpToolSpec& spec, const QString& subject, const QJsonObject& arguments,
+    const QStringList& refusedByHandler = {});
 
 /** "a", "a and b", "a, b, and c"; with `conjunction` "or", "a, b, or c". */
 [[nodiscard]] QString enumerated(const QStringList& parts, const QString& conjunction);

@@ -1,13 +1,10 @@
 #include "app/mcp/registry/Display.h"
 
-#include "core/calendar/DateReader.h"
-
-#include <QRegularExpression>
+#include "app/codex/DateText.h"
 
 namespace tw::app::mcp {
 
 using namespace Qt::Literals::StringLiterals;
-using core::calendar::Calendar;
 using core::calendar::StoryInstant;
 using core::project::Project;
 
@@ -31,49 +28,29 @@ QString ValueDisplay::shown(const QString& value)
     return shortenForDisplay(value);
 }
 
-QString ValueDisplay::note() const
+QString ValueDisplay::note(const QString& tool) const
 {
     if (!m_isAnyShortened)
         return {};
-    return u"\n\nNOTE: one or more field values above were shortened for brevity. Call get_entity again with "
+    return u"\n\nNOTE: one or more field values above were shortened for brevity. Call %1 again with "
            u"\"full\": "
-           "true before editing any of them, or the unseen tail will be lost when you write the field back."_s;
+           "true before editing any of them, or the unseen tail will be lost when you write the field back."_s
+               .arg(tool);
 }
 
 QString dateText(const Project& project, StoryInstant instant)
 {
-    const Calendar& calendar = project.calendar();
-    const QString text = calendar.formatInstant(instant);
-    if (calendar.eras().isEmpty())
-        return text;
-    return u"%1 [year %2]"_s.arg(text, QString::number(calendar.partsFromMinutes(instant).year));
+    return codex::dateText(project.calendar(), instant);
 }
-
-namespace {
-
-/** What dateText() wrote with named eras, as a date with its absolute year; unchanged when it is nothing of
- * the kind. */
-QString withAbsoluteYear(const QString& text)
-{
-    static const QRegularExpression written(
-        u"^\\s*(?<day>.*?), Year .*?(?<time>, \\d{1,2}:\\d{2})? \\[year (?<year>-?\\d+)\\]\\s*$"_s);
-    const QRegularExpressionMatch match = written.match(text);
-    if (!match.hasMatch())
-        return text;
-    return u"%1, Year %2%3"_s.arg(match.captured(u"day"), match.captured(u"year"), match.captured(u"time"));
-}
-
-} // namespace
 
 core::Result<StoryInstant> readDate(const Project& project, const QString& text)
 {
-    const Calendar& calendar = project.calendar();
-    const auto parts = core::calendar::parseDate(calendar, withAbsoluteYear(text));
-    if (!parts)
+    const auto instant = codex::readDateText(project.calendar(), text);
+    if (!instant)
         return core::Failure{
             u"The date '%1' was not understood; use the project calendar (e.g. \"25 Harvestmoon 1250\" or \"1250\")."_s
                 .arg(text)};
-    return calendar.minutesFromParts(*parts);
+    return *instant;
 }
 
 } // namespace tw::app::mcp

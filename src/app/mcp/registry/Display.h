@@ -33,19 +33,18 @@ public:
     {}
 
     [[nodiscard]] QString shown(const QString& value);
-    /** The paragraph that warns of shortened values, with a blank line before it; empty when there are none.
+    /**
+     * The paragraph that warns of shortened values and names the tool that shows them in full, with a blank
+     * line before it; empty when there are none.
      */
-    [[nodiscard]] QString note() const;
+    [[nodiscard]] QString note(const QString& tool) const;
 
 private:
     Shortening m_shortening;
     bool m_isAnyShortened = false;
 };
 
-/**
- * An instant in the project's calendar. With named eras the formatter's text cannot be read back, so " [year
- * N]" with the absolute year follows it.
- */
+/** An instant in the project's calendar, as codex::dateText() writes it. */
 [[nodiscard]] QString dateText(const core::project::Project& project, core::calendar::StoryInstant instant);
 
 /** Reads a date of the project's calendar, also as dateText() writes it. All tools answer its message. */

@@ -21,20 +21,19 @@ using core::content::objectName;
 using core::project::Project;
 using workspace::Workspace;
 
-namespace {
-
 Failure noneNamed(const QString& kindWord, const QString& name)
 {
     return {u"No %1 named '%2' exists."_s.arg(kindWord, name)};
 }
 
-/** `candidates` as they are to be shown. */
 Failure severalNamed(const QString& kindWord, const QString& name, const QStringList& candidates)
 {
     return {
         u"The name '%1' matches %2 %3s: %4. Make the name unique in the desktop app, or use a more specific name."_s
             .arg(name, QString::number(candidates.size()), kindWord, candidates.join(u"; "_s))};
 }
+
+namespace {
 
 QString candidateText(const ContentObject& object)
 {
@@ -216,20 +215,6 @@ Result<FoundObject> resolveSubject(
     return resolveByName(workspace, arguments.text(subject), kindWord, purpose);
 }
 
-Result<core::CategoryId> resolveCategory(const Project& project, const QString& name)
-{
-    QStringList names;
-    std::vector<core::CategoryId> ids;
-    for (const auto& [id, category] : project.taxonomy().categories()) {
-        names.append(category.name);
-        ids.push_back(id);
-    }
-    const auto chosen = chooseByName(names, name, u"category"_s);
-    if (!chosen)
-        return Failure{chosen.message()};
-    return ids[chosen.value()];
-}
-
 Result<std::size_t> chooseByName(const QStringList& names, const QString& name, const QString& kindWord)
 {
     const QString wanted = foldedName(name);
@@ -263,20 +248,27 @@ bool isTaken(const Project& project, ContentKind kind, const QString& name, cons
     });
 }
 
-Result<void> checkNotBlank(const QString& name)
+bool isLineBreak(QChar character)
 {
-    if (name.trimmed().isEmpty())
-        return Failure{u"A non-empty name is required."_s};
-    return {};
+    return QStringView(u"\n\v\f\r\u0085\u2028\u2029").contains(character);
 }
 
 } // namespace
+
+Result<void> checkNameText(const QString& name)
+{
+    if (name.trimmed().isEmpty())
+        return Failure{u"A non-empty name is required."_s};
+    if (std::ranges::any_of(name.trimmed(), isLineBreak))
+        return Failure{u"A name is one line; '%1' holds a line break."_s.arg(name.simplified())};
+    return {};
+}
 
 Result<void> checkNewName(const Project& project, ContentKind kind, const QString& name)
 {
     if (isTaken(project, kind, name, nullptr))
         return Failure{u"%1 '%2' already exists."_s.arg(kindWithArticleAndNaming(kind), name)};
-    return checkNotBlank(name);
+    return checkNameText(name);
 }
 
 Result<void> checkRename(const Project& project, const ContentObject& object, const QString& newName)
@@ -286,7 +278,7 @@ Result<void> checkRename(const Project& project, const ContentObject& object, co
             u"%1 '%2' already exists; renaming onto it would leave both unreachable by name."_s.arg(
                 kindWithArticleAndNaming(object.kind()), newName)};
     }
-    return checkNotBlank(newName);
+    return checkNameText(newName);
 }
 
 } // namespace tw::app::mcp

@@ -100,10 +100,6 @@ template <class Kind>
     return found.value().object->id();
 }
 
-/** The category of that name; "No category named '%1' exists." and the like otherwise. */
-[[nodiscard]] core::Result<core::CategoryId> resolveCategory(
-    const core::project::Project& project, const QString& name);
-
 /**
  * The same choice among things that are no objects of their own (plot threads, eras, rules): the position of
  * the one with that name.
@@ -114,8 +110,17 @@ template <class Kind>
 /** How many of the names are the same as that one. */
 [[nodiscard]] qsizetype countNamed(const QStringList& names, const QString& name);
 
-/** Refuses a name that is blank or that another object of the kind has. Objects excluded from AI do not
- * count. */
+/** "No %1 named '%2' exists." */
+[[nodiscard]] core::Failure noneNamed(const QString& kindWord, const QString& name);
+/** "The name '%1' matches %2 %3s: ...", with the candidates as they are to be shown. */
+[[nodiscard]] core::Failure severalNamed(
+    const QString& kindWord, const QString& name, const QStringList& candidates);
+
+/** Refuses a name that is blank or has several lines: lists give each name a line. */
+[[nodiscard]] core::Result<void> checkNameText(const QString& name);
+
+/** Refuses what checkNameText() does, and a name that another object of the kind has. Objects excluded from
+ * AI do not count. */
 [[nodiscard]] core::Result<void> checkNewName(
     const core::project::Project& project, core::content::ContentKind kind, const QString& name);
 /** The same for a rename, where the object's own name does not count. */

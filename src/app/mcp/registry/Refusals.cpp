@@ -1,5 +1,7 @@
 #include "app/mcp/registry/Refusals.h"
 
+#include "app/workspace/MountedLibrary.h"
+
 namespace tw::app::mcp {
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,6 +27,11 @@ QString mountedNotOwn(const QString& name, const QString& library)
 QString mountedMark(const QString& library)
 {
     return u"From the mounted library '%1'."_s.arg(library);
+}
+
+QString mountedHeading(const workspace::MountedLibrary* library)
+{
+    return library ? mountedMark(library->name) + u'\n' : QString();
 }
 
 QString excludedFromChange(const QString& name)

@@ -2,6 +2,10 @@
 
 #include <QString>
 
+namespace tw::app::workspace {
+struct MountedLibrary;
+}
+
 /** What tools say about content they must not touch, word for word in one place. */
 namespace tw::app::mcp {
 
@@ -10,6 +14,8 @@ namespace tw::app::mcp {
 [[nodiscard]] QString mountedNotOwn(const QString& name, const QString& library);
 /** "From the mounted library '%1'.", for what is read. */
 [[nodiscard]] QString mountedMark(const QString& library);
+/** The same as a line of its own above an answer; nothing for the open project's own. */
+[[nodiscard]] QString mountedHeading(const workspace::MountedLibrary* library);
 
 [[nodiscard]] QString excludedFromChange(const QString& name);
 [[nodiscard]] QString excludedFromUse(const QString& name);

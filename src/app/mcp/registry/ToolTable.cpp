@@ -8,14 +8,13 @@ void registerTools(
     McpServer& server, workspace::Workspace& workspace, McpChangeLog& changeLog, const ToolTable& tools)
 {
     for (const Tool& tool : tools) {
-        server.registerTool(
-            tool.spec, [&workspace, &changeLog, spec = tool.spec, subject = tool.subject,
-                        handler = tool.handler](const QJsonObject& arguments) {
-                if (const auto checked = checkArguments(spec, subject, arguments); !checked)
-                    return McpToolResult::failure(checked.message());
-                ToolContext context{workspace, changeLog};
-                return handler(context, ToolArguments(arguments));
-            });
+        server.registerTool(tool.spec, [&workspace, &changeLog, tool](const QJsonObject& arguments) {
+            const auto checked = checkArguments(tool.spec, tool.subject, arguments, tool.refusedByHandler);
+            if (!checked)
+                return McpToolResult::failure(checked.message());
+            ToolContext context{workspace, changeLog};
+            return tool.handler(context, ToolArguments(arguments));
+        });
     }
 }
 

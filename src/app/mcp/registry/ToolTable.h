@@ -87,6 +87,8 @@ struct Tool
     /** The argument that names the thing the tool works on and for which "id" may stand; empty when there is
      * none. */
     QString subject = {};
+    /** Arguments whose absence and whose unknown words the handler refuses itself, in words of its own. */
+    QStringList refusedByHandler = {};
     ToolHandler handler = nullptr;
 };
 

@@ -1,5 +1,6 @@
 #include "app/mcp/spreadsheet/SheetTools.h"
 
+#include "app/mcp/registry/CategoryFinder.h"
 #include "app/mcp/registry/ObjectFinder.h"
 #include "app/mcp/registry/Refusals.h"
 #include "app/mcp/registry/UndoStep.h"
@@ -129,7 +130,7 @@ McpToolResult createSpreadsheet(ToolContext& context, const ToolArguments& argum
     auto sheet = std::make_unique<Spreadsheet>(core::ContentId::create(), title);
     sheet->setGrid(std::move(grid).value());
     if (const QString category = arguments.text(u"category"); !category.isEmpty()) {
-        const auto resolved = resolveCategory(project, category);
+        const auto resolved = resolveCategory(context.workspace, category);
         if (!resolved)
             return McpToolResult::failure(resolved.message());
         sheet->setLinkedCategoryId(resolved.value());

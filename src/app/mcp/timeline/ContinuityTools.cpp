@@ -4,6 +4,8 @@
 #include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/ObjectFinder.h"
 #include "app/mcp/registry/UndoStep.h"
+#include "app/mcp/world/FieldValues.h"
+#include "app/mcp/world/WorldLookup.h"
 #include "app/timeline/ContinuityValidator.h"
 #include "app/timeline/RuleComparison.h"
 #include "core/entity/Entity.h"
@@ -17,6 +19,8 @@ using core::Failure;
 using core::Result;
 using core::entity::Entity;
 using core::project::Project;
+using core::taxonomy::Field;
+using core::taxonomy::FieldType;
 using core::timeline::ContinuityRule;
 using timeline::ContinuityConflict;
 using timeline::ContinuityScope;
@@ -52,6 +56,58 @@ bool isAboutHiddenEntity(const Workspace& workspace, const ContinuityRule& rule)
     return !found && workspace.project().contains(rule.entityId);
 }
 
+/** An entity's field, by key or by label; one that hides its value is known by its key alone. */
+Result<Field> fieldNamed(const Workspace& workspace, const FoundObject& found, const QString& name)
+{
+    const auto& entity = static_cast<const Entity&>(*found.object);
+    const Project& owner = found.library ? *found.library->project : workspace.project();
+    const auto schema = schemaOfEntity(owner, entity);
+    if (const auto* declared = findField(schema, name))
+        return declared->field;
+    QStringList labels;
+    for (const core::entity::ResolvedField& declared : schema)
+        labels += declared.field.displayName();
+    const auto chosen = chooseByName(labels, name, u"field"_s);
+    if (chosen)
+        return schema[chosen.value()].field;
+    Field hidden;
+    hidden.key = name;
+    if (entity.value(name))
+        return hidden;
+    return Failure{u"'%1' has no field '%2'."_s.arg(entity.name(), name)};
+}
+
+/** What the rule compares with, in words: names for ids, dates for instants. */
+QString operandText(const Workspace& workspace, const ContinuityRule& rule, RuleComparison comparison)
+{
+    const auto entity = resolveById(
+        workspace, rule.entityId.toString(), kindWord(core::content::ContentKind::Entity), Purpose::Read);
+    const auto field =
+        entity ? fieldNamed(workspace, entity.value(), rule.fieldKey) : Failure{entity.message()};
+    if (!field)
+        return shownOperand(comparison, rule.value);
+    QStringList values;
+    for (const QString& value : timeline::operandValues(comparison, rule.value))
+        values += valueText(workspace, field.value(), value);
+    return shownOperand(comparison, timeline::operandOf(values));
+}
+
+/** What is stored for an operand: as the field's own values are, where those are not what people write. */
+Result<QString> readOperand(
+    const Workspace& workspace, const Field& field, RuleComparison comparison, const QString& text)
+{
+    if (field.type != FieldType::Reference && field.type != FieldType::Date)
+        return text;
+    QStringList values;
+    for (const QString& value : timeline::operandValues(comparison, text)) {
+        const auto stored = readFieldValue(workspace, field, value);
+        if (!stored)
+            return stored;
+        values += stored.value();
+    }
+    return timeline::operandOf(values);
+}
+
 QString ruleText(const Workspace& workspace, const ContinuityRule& rule)
 {
     const QString entity = referenceName(workspace, rule.entityId);
@@ -63,28 +119,9 @@ QString ruleText(const Workspace& workspace, const ContinuityRule& rule)
         rule.name, entity, rule.fieldKey,
         comparison ? ruleComparisonPhrase(*comparison) : u"(unknown comparison '%1')"_s.arg(rule.comparison));
     if (!comparison || takesOperand(*comparison))
-        text += u" \"%1\""_s.arg(comparison ? shownOperand(*comparison, rule.value) : rule.value);
+        text += u" \"%1\""_s.arg(comparison ? operandText(workspace, rule, *comparison) : rule.value);
     return text + (rule.instant ? u", on %1"_s.arg(dateText(workspace.project(), *rule.instant))
                                 : u", at any time"_s);
-}
-
-/** The key of an entity's field, by key or by label. */
-Result<QString> fieldKeyOf(const Workspace& workspace, const FoundObject& found, const QString& field)
-{
-    const auto& entity = static_cast<const Entity&>(*found.object);
-    const Project& owner = found.library ? *found.library->project : workspace.project();
-    const auto schema = schemaOfEntity(owner, entity);
-    if (const auto* declared = findField(schema, field))
-        return declared->field.key;
-    QStringList labels;
-    for (const core::entity::ResolvedField& declared : schema)
-        labels += declared.field.displayName();
-    const auto chosen = chooseByName(labels, field, u"field"_s);
-    if (chosen)
-        return schema[chosen.value()].field.key;
-    if (entity.value(field))
-        return field;
-    return Failure{u"'%1' has no field '%2'."_s.arg(entity.name(), field)};
 }
 
 Result<ContinuityRule> readRule(const Workspace& workspace, const ToolArguments& arguments)
@@ -92,8 +129,8 @@ Result<ContinuityRule> readRule(const Workspace& workspace, const ToolArguments&
     const RuleList& rules = workspace.project().continuityRules();
     ContinuityRule rule;
     rule.name = arguments.text(u"name").trimmed();
-    if (rule.name.isEmpty())
-        return Failure{u"A non-empty name is required."_s};
+    if (const auto checked = checkNameText(rule.name); !checked)
+        return Failure{checked.message()};
     if (countNamed(namesOf(rules), rule.name) > 0)
         return Failure{u"A continuity rule named '%1' already exists."_s.arg(rule.name)};
     const auto entity = resolveByName(
@@ -101,17 +138,20 @@ Result<ContinuityRule> readRule(const Workspace& workspace, const ToolArguments&
     if (!entity)
         return Failure{entity.message()};
     rule.entityId = entity.value().object->id();
-    const auto key = fieldKeyOf(workspace, entity.value(), arguments.text(u"field"));
-    if (!key)
-        return Failure{key.message()};
-    rule.fieldKey = key.value();
+    const auto field = fieldNamed(workspace, entity.value(), arguments.text(u"field"));
+    if (!field)
+        return Failure{field.message()};
+    rule.fieldKey = field.value().key;
     rule.comparison = arguments.text(u"comparison", ruleComparisonKey(RuleComparison::Equals));
     const auto comparison = timeline::ruleComparisonFromKey(rule.comparison);
     if (comparison && takesOperand(*comparison)) {
         if (!arguments.has(u"value") || arguments.isNull(u"value"))
             return Failure{
                 u"create_continuity_rule needs \"value\" for the comparison %1."_s.arg(rule.comparison)};
-        rule.value = arguments.text(u"value");
+        const auto operand = readOperand(workspace, field.value(), *comparison, arguments.text(u"value"));
+        if (!operand)
+            return Failure{operand.message()};
+        rule.value = operand.value();
     }
     if (const QString date = arguments.text(u"date"); !date.isEmpty()) {
         const auto instant = readDate(workspace.project(), date);

@@ -1,5 +1,6 @@
 #include "app/mcp/timeline/EventTools.h"
 
+#include "app/mcp/registry/CategoryFinder.h"
 #include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/ObjectFinder.h"
 #include "app/mcp/registry/UndoStep.h"
@@ -129,7 +130,7 @@ McpToolResult createMissingEntities(ToolContext& context, const ToolArguments& a
         return McpToolResult::failure(u"create_missing_entities needs \"names\"."_s);
     core::CategoryId categoryId;
     if (const QString category = arguments.text(u"category"); !category.isEmpty()) {
-        const auto resolved = resolveCategory(workspace.project(), category);
+        const auto resolved = resolveCategory(workspace, category);
         if (!resolved)
             return McpToolResult::failure(resolved.message());
         categoryId = resolved.value();

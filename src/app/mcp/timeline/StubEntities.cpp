@@ -40,6 +40,8 @@ Result<ContentId> EntityNames::resolve(const QString& name)
         return Failure{u"A non-empty name is required."_s};
     if (m_missing == MissingEntities::Refuse || isTaken(m_workspace, name))
         return findToRefer<Entity>(m_workspace, name);
+    if (const auto checked = checkNameText(name); !checked)
+        return Failure{checked.message()};
     const auto [stub, isNew] = m_stubIds.try_emplace(foldedName(name), ContentId::create());
     if (isNew)
         m_stubs += name.trimmed();

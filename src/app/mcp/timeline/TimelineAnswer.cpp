@@ -53,11 +53,13 @@ std::vector<const TimelineEvent*> eventsInOrder(const Project& project)
 class TimelineWriter
 {
 public:
-    TimelineWriter(const Workspace& workspace, const Project& project, const MountedLibrary* library)
+    /** The project is the library's where there is one, else the workspace's. */
+    TimelineWriter(const Workspace& workspace, const MountedLibrary* library, ValueDisplay& display)
         : m_workspace(workspace)
-        , m_project(project)
+        , m_project(library ? *library->project : workspace.project())
         , m_library(library)
-        , m_events(eventsInOrder(project))
+        , m_display(display)
+        , m_events(eventsInOrder(m_project))
     {}
 
     void writeAll(QStringList& lines)
@@ -68,26 +70,47 @@ public:
             if (!timeline->isAiExcluded())
                 write(*timeline, lines);
         }
-        const auto isLoose = [this](const TimelineEvent* event) {
-            return !m_project.findAs<Timeline>(event->details().timelineId);
-        };
-        if (std::ranges::any_of(m_events, isLoose))
-            writeEvents(u"Events without a timeline"_s, isLoose, lines);
+        // Only the timeline itself is withheld: its events have flags of their own.
+        writeAnyEvents(
+            u"Events of timelines excluded from AI"_s,
+            [this](const TimelineEvent* event) {
+                const auto* const timeline = m_project.findAs<Timeline>(event->details().timelineId);
+                return timeline && timeline->isAiExcluded();
+            },
+            lines);
+        writeAnyEvents(
+            u"Events without a timeline"_s,
+            [this](const TimelineEvent* event) {
+                return !m_project.findAs<Timeline>(event->details().timelineId);
+            },
+            lines);
     }
 
     void write(const Timeline& timeline, QStringList& lines)
     {
-        QString heading = u"Timeline '%1'"_s.arg(timeline.title());
-        if (m_library)
-            heading += u". "_s + mountedMark(m_library->name);
         const auto isOfTimeline = [&timeline](const TimelineEvent* event) {
             return event->details().timelineId == timeline.id();
         };
         writeEvents(
-            heading + detail(u"description"_s, timeline.description().simplified()), isOfTimeline, lines);
+            marked(u"Timeline '%1'"_s.arg(timeline.title())) +
+                detail(u"description"_s, m_display.shown(timeline.description())),
+            isOfTimeline, lines);
     }
 
 private:
+    [[nodiscard]] QString marked(const QString& text) const
+    {
+        return m_library ? u"%1. %2"_s.arg(text, mountedMark(m_library->name)) : text;
+    }
+
+    /** Nothing at all when there are no such events. */
+    template <class Predicate>
+    void writeAnyEvents(const QString& text, Predicate isWanted, QStringList& lines)
+    {
+        if (std::ranges::any_of(m_events, isWanted))
+            writeEvents(marked(text), isWanted, lines);
+    }
+
     template <class Predicate>
     void writeEvents(const QString& heading, Predicate isWanted, QStringList& lines)
     {
@@ -116,7 +139,7 @@ private:
                    : qualified;
     }
 
-    QString eventText(const TimelineEvent& event) const
+    QString eventText(const TimelineEvent& event)
     {
         const EventDetails& details = event.details();
         const QString title =
@@ -128,12 +151,13 @@ private:
                detail(u"scenes"_s, referenceNames(m_workspace, details.sceneIds)) +
                detail(u"constraints"_s, constraintsText(m_workspace, details)) +
                detail(u"label"_s, details.styleLabel) + detail(u"color"_s, details.styleColor) +
-               detail(u"description"_s, shortenForDisplay(details.description));
+               detail(u"description"_s, m_display.shown(details.description));
     }
 
     const Workspace& m_workspace;
     const Project& m_project;
     const MountedLibrary* m_library;
+    ValueDisplay& m_display;
     std::vector<const TimelineEvent*> m_events;
 };
 
@@ -156,23 +180,22 @@ QStringList eraLines(const Project& project)
 McpToolResult getTimeline(ToolContext& context, const ToolArguments& arguments)
 {
     const Workspace& workspace = context.workspace;
+    ValueDisplay display(arguments.boolean(u"full") ? Shortening::None : Shortening::Long);
     QStringList lines;
     if (arguments.text(u"timeline").isEmpty() && arguments.text(u"id").isEmpty()) {
-        TimelineWriter(workspace, workspace.project(), nullptr).writeAll(lines);
+        TimelineWriter(workspace, nullptr, display).writeAll(lines);
         for (const MountedLibrary& library : workspace.libraries())
-            TimelineWriter(workspace, *library.project, &library).writeAll(lines);
+            TimelineWriter(workspace, &library, display).writeAll(lines);
         if (lines.isEmpty())
             lines += u"There are no timelines in this project."_s;
     } else {
         const auto found = findToRead<Timeline>(workspace, arguments, u"timeline");
         if (!found)
             return McpToolResult::failure(found.message());
-        const MountedLibrary* library = found.value().library;
-        TimelineWriter(workspace, library ? *library->project : workspace.project(), library)
-            .write(*found.value(), lines);
+        TimelineWriter(workspace, found.value().library, display).write(*found.value(), lines);
     }
     lines += eraLines(workspace.project());
-    return McpToolResult::success(lines.join(u'\n'));
+    return McpToolResult::success(lines.join(u'\n') + display.note(u"get_timeline"_s));
 }
 
 } // namespace tw::app::mcp

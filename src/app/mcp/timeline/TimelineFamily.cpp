@@ -78,7 +78,9 @@ QJsonObject ruleSchema()
          {u"comparison"_s,
           choiceProperty(u"How the value must compare."_s, comparisonKeys(), Default::First)},
          {u"value"_s,
-          valueProperty(u"What it is compared with; pieces for oneOf stand between bars: \"red|green\"."_s)},
+          valueProperty(
+              u"What it is compared with: for a reference the entity's name, for a date one of the project's "
+              "calendar; pieces for oneOf stand between bars: \"red|green\"."_s)},
          {u"date"_s,
           dateProperty(u"The moment at which the field is read; without it, its current value counts"_s)}},
         {u"name"_s, u"entity"_s, u"field"_s});
@@ -95,13 +97,15 @@ ToolTable timelineAndEventTools()
                 {u"get_timeline"_s,
                  u"Reads the project's timeline(s): every event with its date(s) in the project calendar, "
                  "participants and location by name, plus the named eras. Events stand in the order of the "
-                 "story. Without \"timeline\" all timelines are read, those of mounted libraries as well; "
-                 "events "
-                 "excluded from AI are left out, and long descriptions are shortened. Call it before you add "
-                 "or "
-                 "change events: they are addressed by the titles it prints."_s,
+                 "story. Without \"timeline\" all timelines are read, those of mounted libraries as well. "
+                 "Events excluded from AI are left out; a timeline that is excluded is not named, and its "
+                 "events stand under a heading of their own. Descriptions longer than 300 characters are "
+                 "shortened unless \"full\" is true (default false): ask for the full ones before you edit "
+                 "one, or its unseen tail is lost. Call it before you add or change events: they are "
+                 "addressed by the titles it prints."_s,
                  makeObjectSchema(
                      {{u"timeline"_s, textProperty(u"Only the timeline of this title."_s)},
+                      {u"full"_s, booleanProperty(u"Show every description in full length."_s)},
                       {u"id"_s, textProperty(u"The timeline's id, in place of its title."_s)}})},
             .handler = getTimeline,
         },

@@ -36,8 +36,8 @@ QStringList namesOf(const EraList& eras)
 
 Result<void> checkNewEraName(const EraList& eras, const QString& name)
 {
-    if (name.isEmpty())
-        return Failure{u"A non-empty name is required."_s};
+    if (auto checked = checkNameText(name); !checked)
+        return checked;
     if (countNamed(namesOf(eras), name) > 0)
         return Failure{u"An era named '%1' already exists."_s.arg(name)};
     return {};

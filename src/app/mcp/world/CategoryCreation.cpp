@@ -85,9 +85,11 @@ Tool createCategoryTool()
              "inherits nothing until update_category names what it takes. Pass at most one of the two. Add "
              "further properties with add_field, entities with create_entity."_s,
              makeObjectSchema(
-                 {{u"name"_s, textProperty(u"The new category's name. Needed."_s)},
+                 {{u"name"_s, textProperty(u"The new category's name."_s)},
                   {u"parent"_s, textProperty(u"The category to put it under."_s)},
-                  {u"parent_entity"_s, textProperty(u"The entity to hang it under."_s)}})},
+                  {u"parent_entity"_s, textProperty(u"The entity to hang it under."_s)}},
+                 {u"name"_s})},
+        .refusedByHandler = {u"name"_s},
         .handler = createCategory,
     };
 }

@@ -216,7 +216,7 @@ Tool updateCategoryTool()
              "entities and subcategories move up to its parent, and nothing of them is lost. Refused when "
              "one of those entities is locked or excluded from AI. Call get_category first."_s,
              makeObjectSchema(
-                 {{u"name"_s, textProperty(u"The category to change."_s)},
+                 {{u"name"_s, textProperty(u"The category to change; its id when several share the name."_s)},
                   {u"new_name"_s, textProperty(u"Its new name."_s)},
                   {u"parent"_s, textProperty(u"The category to move it under; null for the top level."_s)},
                   {u"parent_entity"_s, textProperty(u"The entity to hang it under."_s)},

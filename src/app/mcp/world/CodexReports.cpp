@@ -125,20 +125,21 @@ QString originText(const Project& project, const ResolvedField& field)
     return u"inherited from '%1'"_s.arg(source->name);
 }
 
-QString fieldText(const Workspace& workspace, const Project& project, const ResolvedField& field)
+QString fieldText(
+    const Workspace& workspace, const Project& project, const ResolvedField& field, ValueDisplay& display)
 {
     QStringList marks{fieldKindText(project, field.field)};
     if (field.field.isRequired)
         marks.append(u"required"_s);
     if (field.isFixed()) {
-        marks.append(u"fixed to '%1'"_s.arg(
-            shortenForDisplay(valueText(workspace, field.field, field.field.fixedValue))));
+        marks.append(
+            u"fixed to '%1'"_s.arg(display.shown(valueText(workspace, field.field, field.field.fixedValue))));
     }
     marks.append(originText(project, field));
     const QString text = u"- %1 (%2)"_s.arg(field.field.displayName(), marks.join(u"; "_s));
     return field.field.description.isEmpty()
                ? text
-               : u"%1 -- %2"_s.arg(text, shortenForDisplay(field.field.description));
+               : u"%1 -- %2"_s.arg(text, display.shown(field.field.description));
 }
 
 QString placeText(const Workspace& workspace, const Project& project, const Category& category)
@@ -170,11 +171,13 @@ McpToolResult getCategory(ToolContext& context, const ToolArguments& arguments)
     }
     lines.append(u"\nFields"_s);
     const Schema schema = core::entity::schemaOfCategory(*project, category->id);
+    ValueDisplay display(arguments.boolean(u"full") ? Shortening::None : Shortening::Long);
     for (const ResolvedField& field : schema)
-        lines.append(fieldText(context.workspace, *project, field));
+        lines.append(fieldText(context.workspace, *project, field, display));
     if (schema.empty())
         lines.append(u"- none; add_field defines the first"_s);
-    return McpToolResult::success(lines.join(u'\n') + omittedText(members.excluded));
+    return McpToolResult::success(
+        lines.join(u'\n') + omittedText(members.excluded) + display.note(u"get_category"_s));
 }
 
 McpToolResult getRelationships(ToolContext& context, const ToolArguments& arguments)
@@ -225,7 +228,10 @@ Tool listCategoryTool()
              "that only a mounted library has is listed from there. Entities excluded from AI are left out "
              "and counted. get_project_overview shows which categories there are, get_entity reads one "
              "entity."_s,
-             makeObjectSchema({{u"category"_s, textProperty(u"The category's name."_s)}}, {u"category"_s})},
+             makeObjectSchema(
+                 {{u"category"_s,
+                   textProperty(u"The category's name, or its id when several share the name."_s)}},
+                 {u"category"_s})},
         .handler = listCategory,
     };
 }
@@ -263,8 +269,13 @@ Tool getCategoryTool()
              "and before changing the schema. Fields marked fixed get their value from the category that "
              "defines them. Own fields can be removed, moved and converted here; inherited ones only on the "
              "category named beside them, or dropped for this branch with update_category's \"excluded\". "
-             "Categories of mounted libraries can be read, not changed."_s,
-             makeObjectSchema({{u"name"_s, textProperty(u"The category's name."_s)}}, {u"name"_s})},
+             "Descriptions and fixed values longer than 300 characters are shortened unless \"full\" is true "
+             "(default false): ask for them in full before you replace a field, or their unseen tail is "
+             "lost. Categories of mounted libraries can be read, not changed."_s,
+             makeObjectSchema(
+                 {{u"name"_s, textProperty(u"The category's name, or its id when several share the name."_s)},
+                  {u"full"_s, booleanProperty(u"Show every value in full length."_s)}},
+                 {u"name"_s})},
         .handler = getCategory,
     };
 }

@@ -135,8 +135,7 @@ McpToolResult listComments(ToolContext& context, const ToolArguments& arguments)
     if (text.isEmpty())
         return McpToolResult::success(u"%1 on '%2'."_s.arg(none, name));
     const QString heading = u"On the %1 '%2'"_s.arg(kindWord(object->kind()), name);
-    return McpToolResult::success(
-        (library ? mountedMark(library->name) + u'\n' : QString()) + heading + u'\n' + text);
+    return McpToolResult::success(mountedHeading(library) + heading + u'\n' + text);
 }
 
 } // namespace
@@ -160,6 +159,7 @@ Tool listCommentsTool()
                   {u"type"_s,
                    objectTypeProperty(u"The kind of the target, when several kinds share the name."_s)},
                   {u"include_resolved"_s, booleanProperty(u"Whether to list resolved threads too."_s)}})},
+        .refusedByHandler = {u"type"_s},
         .handler = listComments,
     };
 }

@@ -148,6 +148,7 @@ Tool addCommentTool()
                    objectTypeProperty(u"The kind of object, when several kinds share the name."_s)}},
                  {u"body"_s})},
         .subject = u"target"_s,
+        .refusedByHandler = {u"type"_s},
         .handler = addComment,
     };
 }

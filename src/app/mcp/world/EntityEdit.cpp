@@ -2,6 +2,7 @@
 
 #include "app/codex/FieldKeys.h"
 #include "app/mcp/registry/Display.h"
+#include "app/mcp/registry/ObjectFinder.h"
 #include "app/mcp/registry/Schema.h"
 #include "app/mcp/world/FieldValues.h"
 
@@ -41,15 +42,9 @@ public:
     {
         for (const auto step :
              {&ContentEdit::setFields, &ContentEdit::setReferences, &ContentEdit::setStates,
-              &ContentEdit::setLifespan}) {
+              &ContentEdit::setLifespan, &ContentEdit::setAliases, &ContentEdit::setTags}) {
             if (const auto done = (this->*step)(); !done)
                 return Failure{done.message()};
-        }
-        if (const auto aliases = m_arguments.givenTextList(u"aliases"))
-            m_content.aliases = tidied(*aliases);
-        if (const auto tags = m_arguments.givenTextList(u"tags")) {
-            const QStringList names = tidied(*tags);
-            m_content.tags = core::content::NameSet(names.begin(), names.end());
         }
         return std::move(m_content);
     }
@@ -103,10 +98,10 @@ private:
                 return Failure{u"'%1' is a %2 field, not a reference; pass its value in \"fields\"."_s.arg(
                     target.value()->displayName(), core::taxonomy::fieldTypeName(target.value()->type))};
             }
-            QStringList names = given.textList(name);
-            if (names.isEmpty())
-                names = QStringList{given.text(name)};
-            const auto value = readReferences(m_workspace, *target.value(), names);
+            const QStringList names = given.textList(name);
+            const auto value = names.isEmpty()
+                                   ? readFieldValue(m_workspace, *target.value(), given.text(name))
+                                   : readReferences(m_workspace, *target.value(), names);
             if (!value)
                 return Failure{value.message()};
             setValue(target.value()->key, value.value());
@@ -156,6 +151,40 @@ private:
         return set(u"death", m_content.lifespan.death);
     }
 
+    /** The names of a list, none of which has several lines. */
+    [[nodiscard]] Result<std::optional<QStringList>> givenNames(QStringView argument) const
+    {
+        const auto texts = m_arguments.givenTextList(argument);
+        if (!texts)
+            return std::optional<QStringList>();
+        const QStringList names = tidied(*texts);
+        for (const QString& name : names) {
+            if (const auto checked = checkNameText(name); !checked)
+                return Failure{checked.message()};
+        }
+        return std::optional(names);
+    }
+
+    [[nodiscard]] Result<void> setAliases()
+    {
+        const auto names = givenNames(u"aliases");
+        if (!names)
+            return Failure{names.message()};
+        if (names.value())
+            m_content.aliases = *names.value();
+        return {};
+    }
+
+    [[nodiscard]] Result<void> setTags()
+    {
+        const auto names = givenNames(u"tags");
+        if (!names)
+            return Failure{names.message()};
+        if (names.value())
+            m_content.tags = core::content::NameSet(names.value()->begin(), names.value()->end());
+        return {};
+    }
+
     const Workspace& m_workspace;
     const Schema& m_schema;
     const QString& m_entityName;
@@ -169,7 +198,7 @@ QJsonObject namesProperty()
     return {
         {u"type"_s, QJsonArray{u"string"_s, u"array"_s}},
         {u"items"_s, textProperty(u"The name of an entity."_s)},
-        {u"description"_s, u"One name, or a list of them."_s}};
+        {u"description"_s, u"One name, several parted by commas, or a list of them."_s}};
 }
 
 } // namespace
@@ -192,7 +221,9 @@ QJsonObject entityContentProperties()
         {u"fields"_s,
          mapProperty(
              u"Field label to value. Null or an empty text makes a field unset."_s,
-             valueProperty(u"The value; a date as in \"25 Harvestmoon 1250\", a reference as a name."_s))},
+             valueProperty(
+                 u"The value; a date as in \"25 Harvestmoon 1250\", a reference as a name, or as several "
+                 "parted by commas or line breaks."_s))},
         {u"references"_s, mapProperty(u"Reference field to the entities it names."_s, namesProperty())},
         {u"aliases"_s, listProperty(u"All aliases; replaces the list."_s, textProperty(u"Another name."_s))},
         {u"tags"_s, listProperty(u"All tags; replaces the set."_s, textProperty(u"A tag."_s))},

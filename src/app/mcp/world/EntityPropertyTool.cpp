@@ -222,12 +222,14 @@ Tool entityPropertyTool()
                  {{u"property"_s, textProperty(u"The property's name as people see it."_s)},
                   {u"action"_s,
                    choiceProperty(u"What to do."_s, {u"add"_s, u"remove"_s, u"promote"_s}, Default::First)},
-                  {u"type"_s, textProperty(u"One of: %1. Default: text."_s.arg(fieldTypeList()))},
+                  {u"type"_s,
+                   fieldTypeProperty(u"What its values are; text for a new property."_s, Default::None)},
                   {u"options"_s, listProperty(u"The choices of a choice."_s, textProperty(u"A choice."_s))},
                   {u"value"_s, valueProperty(u"Its value; null makes it unset."_s)},
                   {u"description"_s, textProperty(u"What the property is for."_s)}},
                  {u"property"_s})},
         .subject = u"entity"_s,
+        .refusedByHandler = {u"type"_s},
         .handler = entityProperty,
     };
 }

@@ -1,3 +1,4 @@
+#include "app/codex/BodyFilter.h"
 #include "app/codex/NameOccurrences.h"
 #include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/Refusals.h"
@@ -43,7 +44,7 @@ QString lifespanText(const Project& project, const Entity& entity)
     return parts.join(u", "_s);
 }
 
-/** All that one answer says of an entity. */
+/** All that one answer says of an entity. Dates stand in the open project's calendar, also a library's. */
 class EntityReport
 {
 public:
@@ -53,7 +54,12 @@ public:
         , m_library(found.library)
         , m_home(found.library ? *found.library->project : workspace.project())
         , m_display(shortening)
-    {}
+    {
+        for (const QString& name : QStringList{m_entity.name()} + m_entity.aliases()) {
+            if (const QString text = name.trimmed(); !text.isEmpty())
+                m_names.push_back({text, codex::BodyFilter(text, Qt::CaseSensitive)});
+        }
+    }
 
     [[nodiscard]] QString text()
     {
@@ -66,13 +72,19 @@ public:
         text += line(u"Category"_s, category ? category->name : u"(uncategorized)"_s);
         text += line(u"Aliases"_s, m_entity.aliases().join(u", "_s));
         text += line(u"Tags"_s, QStringList(tags.begin(), tags.end()).join(u", "_s));
-        text += line(u"Lifespan"_s, lifespanText(m_home, m_entity));
+        text += line(u"Lifespan"_s, lifespanText(m_workspace.project(), m_entity));
         text += line(u"Locked"_s, m_entity.isLocked() ? u"yes, tools cannot change it"_s : QString());
         text += fields() + states() + gallery() + mentions();
-        return text.trimmed() + m_display.note();
+        return text.trimmed() + m_display.note(u"get_entity"_s);
     }
 
 private:
+    struct SoughtName
+    {
+        QString text;
+        codex::BodyFilter bodies;
+    };
+
     [[nodiscard]] QString fields()
     {
         const Schema schema = core::entity::schemaOfEntity(m_home, m_entity);
@@ -102,7 +114,7 @@ private:
                 continue;
             for (const core::entity::TimedValue& state : states) {
                 text += u"- %1 from %2: %3\n"_s.arg(
-                    field->field.displayName(), dateText(m_home, state.instant),
+                    field->field.displayName(), dateText(m_workspace.project(), state.instant),
                     m_display.shown(valueText(m_workspace, field->field, state.value)));
             }
         }
@@ -118,14 +130,13 @@ private:
     [[nodiscard]] qsizetype countIn(const Document& document) const
     {
         const core::document::DocumentBody body = core::document::activeText(document);
-        const QStringList names = QStringList{m_entity.name()} + m_entity.aliases();
-        // Only what holds a name at all is read as prose.
-        if (std::ranges::none_of(names, [&body](const QString& name) { return body.text.contains(name); }))
+        if (std::ranges::none_of(
+                m_names, [&body](const SoughtName& name) { return name.bodies.mayHoldText(body); }))
             return 0;
         const QString text = core::document::markup::plainText(body);
         std::vector<core::foundation::IndexRange> places;
-        for (const QString& name : names)
-            std::ranges::move(codex::findName(text, name.trimmed()), std::back_inserter(places));
+        for (const SoughtName& name : m_names)
+            std::ranges::move(codex::findName(text, name.text), std::back_inserter(places));
         std::ranges::sort(places, {}, [](const auto& place) { return std::pair(place.first, -place.count); });
         qsizetype count = 0;
         qsizetype end = 0;
@@ -175,6 +186,7 @@ private:
     const workspace::MountedLibrary* m_library;
     const Project& m_home;
     ValueDisplay m_display;
+    std::vector<SoughtName> m_names;
 };
 
 McpToolResult getEntity(ToolContext& context, const ToolArguments& arguments)

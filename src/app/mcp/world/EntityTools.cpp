@@ -174,7 +174,7 @@ Tool createEntityTool()
 {
     QJsonObject properties = entityContentProperties();
     properties.insert(u"name"_s, textProperty(u"The new entity's name."_s));
-    properties.insert(u"category"_s, textProperty(u"The category it belongs to."_s));
+    properties.insert(u"category"_s, textProperty(u"The category it belongs to, by name or id."_s));
     return {
         .access = ToolAccess::Changing,
         .title = u"Create an entity"_s,
@@ -198,7 +198,8 @@ Tool updateEntityTool()
 {
     QJsonObject properties = entityContentProperties();
     properties.insert(u"new_name"_s, textProperty(u"A new name, for the entity alone."_s));
-    properties.insert(u"category"_s, textProperty(u"The category to move it to; null for none."_s));
+    properties.insert(
+        u"category"_s, textProperty(u"The category to move it to, by name or id; null for none."_s));
     properties.insert(
         u"timed_values"_s,
         listProperty(

@@ -114,13 +114,14 @@ Tool convertFieldTool()
              "field is converted on the category that defines it; get_category says which. Values of locked "
              "entities and entities excluded from AI stay as they are."_s,
              makeObjectSchema(
-                 {{u"category"_s, textProperty(u"The category that defines the field."_s)},
+                 {{u"category"_s, textProperty(u"The category that defines the field, by name or id."_s)},
                   {u"field"_s, textProperty(u"The field's label or key."_s)},
-                  {u"type"_s, textProperty(u"The new type, one of: %1."_s.arg(fieldTypeList()))},
+                  {u"type"_s, fieldTypeProperty(u"The new type."_s, Default::None)},
                   {u"options"_s,
                    listProperty(u"The choices of a choice field."_s, textProperty(u"A choice."_s))},
                   {u"reference_category"_s, textProperty(u"The category a reference may point into."_s)}},
                  {u"category"_s, u"field"_s, u"type"_s})},
+        .refusedByHandler = {u"type"_s},
         .handler = convertField,
     };
 }

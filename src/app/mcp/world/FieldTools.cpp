@@ -188,9 +188,9 @@ Tool addFieldTool()
              "For a property of a single entity use entity_property. Call get_category first to see what is "
              "there and what is inherited."_s,
              makeObjectSchema(
-                 {{u"category"_s, textProperty(u"The category that gets the field."_s)},
+                 {{u"category"_s, textProperty(u"The category that gets the field, by name or id."_s)},
                   {u"label"_s, textProperty(u"The field's name as people see it."_s)},
-                  {u"type"_s, textProperty(u"One of: %1. Default: text."_s.arg(fieldTypeList()))},
+                  {u"type"_s, fieldTypeProperty(u"What its values are."_s, Default::First)},
                   {u"options"_s,
                    listProperty(u"The choices of a choice field."_s, textProperty(u"A choice."_s))},
                   {u"required"_s, booleanProperty(u"Whether every entity should fill it in."_s)},
@@ -199,6 +199,7 @@ Tool addFieldTool()
                   {u"description"_s, textProperty(u"What the field is for."_s)},
                   {u"reference_category"_s, textProperty(u"The category a reference may point into."_s)}},
                  {u"category"_s, u"label"_s})},
+        .refusedByHandler = {u"type"_s},
         .handler = addField,
     };
 }
@@ -217,7 +218,7 @@ Tool removeFieldTool()
              "only, name it in update_category's \"excluded\". A field can be named by its label or its key, "
              "as get_category lists it."_s,
              makeObjectSchema(
-                 {{u"category"_s, textProperty(u"The category that defines the field."_s)},
+                 {{u"category"_s, textProperty(u"The category that defines the field, by name or id."_s)},
                   {u"field"_s, textProperty(u"The field's label or key."_s)}},
                  {u"category"_s, u"field"_s})},
         .handler = removeField,
@@ -238,7 +239,7 @@ Tool moveFieldTool()
              "before a category's own ones and are ordered where they are defined. Call get_category first "
              "to see the order."_s,
              makeObjectSchema(
-                 {{u"category"_s, textProperty(u"The category that defines the field."_s)},
+                 {{u"category"_s, textProperty(u"The category that defines the field, by name or id."_s)},
                   {u"field"_s, textProperty(u"The field to move: its label or key."_s)},
                   {u"index"_s, integerProperty(u"The position it gets, from 0."_s)},
                   {u"before"_s, textProperty(u"The field it goes in front of."_s)},

@@ -1,6 +1,7 @@
 #include "app/mcp/world/FieldValues.h"
 
 #include "app/codex/ValueConversion.h"
+#include "app/mcp/registry/CategoryFinder.h"
 #include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/ObjectFinder.h"
 #include "app/mcp/world/WorldLookup.h"
@@ -67,12 +68,27 @@ Result<QString> readReferences(const Workspace& workspace, const Field& field, c
     return ids.join(u'\n');
 }
 
+namespace {
+
+/** Several names are parted by line breaks, or by commas as answers print them. */
+Result<QString> readReferenceText(const Workspace& workspace, const Field& field, const QString& text)
+{
+    auto lines = readReferences(workspace, field, text.split(u'\n'));
+    if (lines || !text.contains(u','))
+        return lines;
+    // A name may hold a comma itself, and what is wrong with the whole says more than what is with a part.
+    auto parts = readReferences(workspace, field, QString(text).replace(u'\n', u',').split(u','));
+    return parts ? parts : lines;
+}
+
+} // namespace
+
 Result<QString> readFieldValue(const Workspace& workspace, const Field& field, const QString& text)
 {
     if (text.trimmed().isEmpty())
         return QString();
     if (field.type == FieldType::Reference)
-        return readReferences(workspace, field, text.split(u'\n'));
+        return readReferenceText(workspace, field, text);
     if (field.type == FieldType::Date) {
         const auto instant = readDate(workspace.project(), text);
         if (!instant)
@@ -87,9 +103,18 @@ Result<QString> readFieldValue(const Workspace& workspace, const Field& field, c
     return *stored;
 }
 
-QString fieldTypeList()
+namespace {
+
+QStringList fieldTypeNames()
 {
-    return u"text, number, boolean, date, reference, choice, url"_s;
+    return {u"text"_s, u"number"_s, u"boolean"_s, u"date"_s, u"reference"_s, u"choice"_s, u"url"_s};
+}
+
+} // namespace
+
+QJsonObject fieldTypeProperty(const QString& description, Default byDefault)
+{
+    return choiceProperty(description, fieldTypeNames(), byDefault);
 }
 
 Result<FieldType> readFieldType(const ToolArguments& arguments, FieldType byDefault)
@@ -99,8 +124,8 @@ Result<FieldType> readFieldType(const ToolArguments& arguments, FieldType byDefa
         return byDefault;
     if (const auto type = core::taxonomy::fieldTypeFromName(name))
         return *type;
-    return Failure{
-        u"Unknown field type '%1'; use one of: %2."_s.arg(arguments.text(u"type"), fieldTypeList())};
+    return Failure{u"Unknown field type '%1'; use one of: %2."_s.arg(
+        arguments.text(u"type"), fieldTypeNames().join(u", "_s))};
 }
 
 Result<CategoryId> readReferenceCategory(const Workspace& workspace, const ToolArguments& arguments)
@@ -108,7 +133,7 @@ Result<CategoryId> readReferenceCategory(const Workspace& workspace, const ToolA
     const QString name = arguments.text(u"reference_category").trimmed();
     if (name.isEmpty())
         return CategoryId();
-    return resolveCategory(workspace.project(), name);
+    return resolveCategory(workspace, name);
 }
 
 QStringList tidied(const QStringList& texts)

@@ -1,6 +1,7 @@
 // The values and definitions of codex fields as tool calls give them.
 #pragma once
 
+#include "app/mcp/registry/Schema.h"
 #include "app/mcp/registry/ToolArguments.h"
 #include "app/workspace/Workspace.h"
 #include "core/entity/Schema.h"
@@ -9,9 +10,9 @@
 namespace tw::app::mcp {
 
 /**
- * What is stored for a value that a caller writes: names of entities (one, or several parted by line breaks)
- * become references, dates of the calendar instants. Fails with what the field takes when the text does not
- * suit it.
+ * What is stored for a value that a caller writes: names of entities (one, or several parted by line breaks
+ * or commas) become references, dates of the calendar instants. Fails with what the field takes when the text
+ * does not suit it.
  */
 [[nodiscard]] core::Result<QString> readFieldValue(
     const workspace::Workspace& workspace, const core::taxonomy::Field& field, const QString& text);
@@ -28,8 +29,8 @@ namespace tw::app::mcp {
 [[nodiscard]] core::Result<core::CategoryId> readReferenceCategory(
     const workspace::Workspace& workspace, const ToolArguments& arguments);
 
-/** "text, number, ..." */
-[[nodiscard]] QString fieldTypeList();
+/** The "type" argument of a field; readFieldType() refuses other words. */
+[[nodiscard]] QJsonObject fieldTypeProperty(const QString& description, Default byDefault);
 
 /** The names without blanks around them, blank ones and repetitions. */
 [[nodiscard]] QStringList tidied(const QStringList& texts);

@@ -47,8 +47,8 @@ McpToolResult deleteObject(ToolContext& context, const ToolArguments& arguments)
     }
     if (plan.unreachableCount > 0) {
         answer +=
-            u" %1 document(s) under it are now unreachable from the manuscript; move them or undo."_s.arg(
-                QString::number(plan.unreachableCount));
+            u" %1 document(s) under it are now unreachable from the manuscript; move them or undo. Until "
+            "then they stand at the top level."_s.arg(QString::number(plan.unreachableCount));
     }
     if (plan.rescuedCategoryCount > 0) {
         answer += u" %1 category(ies) that hung under it moved up to its own category."_s.arg(
@@ -63,7 +63,14 @@ McpToolResult deleteObject(ToolContext& context, const ToolArguments& arguments)
 Result<core::content::NameSet> readAudiences(const Project& project, const QStringList& names)
 {
     core::content::NameSet audiences;
-    for (const QString& name : tidied(names)) {
+    for (const QString& entry : names) {
+        const QString name = entry.trimmed();
+        // Left out, it would make the list empty, which shows the object to everyone.
+        if (name.isEmpty()) {
+            return Failure{
+                u"\"audiences\" holds a blank entry; name every audience, or pass an empty array to make the "
+                "object visible to everyone."_s};
+        }
         if (project.audiences().isEmpty()) {
             return Failure{
                 u"Unknown audience '%1': this project defines no audiences. The writer adds them in the "
@@ -180,13 +187,15 @@ Tool deleteObjectTool()
              u"Deletes any titled object (entity, document, map, spreadsheet, timeline event, ...) by name "
              "and states what type it deleted. When objects of several types share the name, pass \"type\", "
              "or \"id\" when two of one type do. References to it elsewhere are left dangling, and the "
-             "documents under a deleted document are no longer in the manuscript: the answer counts both, "
-             "and undo_last takes the deletion back with everything. Categories that hung under a deleted "
+             "documents under a deleted document lose their place and stand at the top level until they are "
+             "moved with update_document: the answer counts both, and undo_last takes the deletion back with "
+             "everything. Categories that hung under a deleted "
              "entity move up. To combine two entities without losing references call merge_entities. Locked "
              "objects, objects excluded from AI and those of mounted libraries are refused; categories are "
-             "deleted with update_category, plot threads with delete_plot_thread."_s,
+             "deleted with update_category, plot threads are not deleted by tools."_s,
              makeSubjectSchema(u"name"_s, u"The object's title or name."_s, narrowingProperties({}))},
         .subject = u"name"_s,
+        .refusedByHandler = {u"type"_s},
         .handler = deleteObject,
     };
 }
@@ -212,6 +221,7 @@ Tool setVisibilityTool()
                            u"Who may see it; empty for everyone."_s, textProperty(u"An audience."_s))}}),
                  {u"audiences"_s})},
         .subject = u"name"_s,
+        .refusedByHandler = {u"type"_s},
         .handler = setVisibility,
     };
 }
@@ -234,6 +244,7 @@ Tool setAiExclusionTool()
                  narrowingProperties(
                      {{u"excluded"_s, booleanProperty(u"Whether AI features leave it out."_s, true)}}))},
         .subject = u"name"_s,
+        .refusedByHandler = {u"type"_s},
         .handler = setAiExclusion,
     };
 }

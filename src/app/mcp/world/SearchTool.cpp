@@ -45,14 +45,15 @@ McpToolResult search(ToolContext& context, const ToolArguments& arguments)
 
     QStringList lines;
     const auto look = [&](const Project& project, const workspace::MountedLibrary* library) {
+        TextSearch wanted{query, kind.value()};
         // One more than is shown tells whether there are more.
-        const auto hits = codex::searchTexts(project, {query, kind.value(), limit + 1 - lines.size()});
+        wanted.mostHits = limit + 1 - lines.size();
+        wanted.isHidden = [&project](const ContentObject& object) { return isHidden(project, object); };
+        const auto hits = codex::searchTexts(project, wanted);
         if (!hits)
             return;
-        for (const TextHit& hit : hits.value()) {
-            if (!isHidden(project, *hit.object))
-                lines.append(hitText(hit, library));
-        }
+        for (const TextHit& hit : hits.value())
+            lines.append(hitText(hit, library));
     };
     look(context.workspace.project(), nullptr);
     for (const workspace::MountedLibrary& library : context.workspace.libraries()) {
@@ -94,6 +95,7 @@ Tool searchTool()
                   {u"type"_s, objectTypeProperty(u"Only objects of this type."_s)},
                   {u"limit"_s, integerProperty(u"How many objects to list at most."_s, defaultLimit)}},
                  {u"query"_s})},
+        .refusedByHandler = {u"type"_s},
         .handler = search,
     };
 }

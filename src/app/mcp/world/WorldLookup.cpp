@@ -1,5 +1,6 @@
 #include "app/mcp/world/WorldLookup.h"
 
+#include "app/mcp/registry/CategoryFinder.h"
 #include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/Refusals.h"
 #include "app/mcp/registry/Schema.h"
@@ -20,12 +21,21 @@ using core::taxonomy::Field;
 using core::taxonomy::FieldType;
 using workspace::Workspace;
 
-QJsonObject objectTypeProperty(const QString& description)
+namespace {
+
+QStringList objectTypeNames()
 {
     QStringList names;
     for (const ContentKind kind : core::content::allContentKinds)
         names.append(core::content::contentKindName(kind));
-    return textProperty(u"%1 One of: %2."_s.arg(description, names.join(u", "_s)));
+    return names;
+}
+
+} // namespace
+
+QJsonObject objectTypeProperty(const QString& description)
+{
+    return choiceProperty(description, objectTypeNames(), Default::None);
 }
 
 Result<std::optional<ContentKind>> readObjectType(const ToolArguments& arguments)
@@ -37,11 +47,8 @@ Result<std::optional<ContentKind>> readObjectType(const ToolArguments& arguments
         return kind;
     if (const auto kind = kindOfWord(name))
         return kind;
-    QStringList names;
-    for (const ContentKind kind : core::content::allContentKinds)
-        names.append(core::content::contentKindName(kind));
-    return Failure{
-        u"Unknown object type '%1'; use one of: %2."_s.arg(arguments.text(u"type"), names.join(u", "_s))};
+    return Failure{u"Unknown object type '%1'; use one of: %2."_s.arg(
+        arguments.text(u"type"), objectTypeNames().join(u", "_s))};
 }
 
 Result<FoundObject> findOfType(
@@ -54,34 +61,20 @@ Result<FoundObject> findOfType(
     return resolveSubject(workspace, arguments, subject, word, purpose);
 }
 
-namespace {
-
-bool holdsCategoryNamed(const Project& project, const QString& name)
-{
-    const QString wanted = core::content::foldedName(name);
-    for (const auto& [id, category] : project.taxonomy().categories()) {
-        if (core::content::foldedName(category.name) == wanted)
-            return true;
-    }
-    return false;
-}
-
-} // namespace
-
 Result<FoundCategory> findCategoryToRead(const Workspace& workspace, const QString& name)
 {
     const Project* project = &workspace.project();
     const workspace::MountedLibrary* from = nullptr;
-    if (!holdsCategoryNamed(*project, name)) {
+    if (categoriesNamed(*project, name).empty()) {
         for (const workspace::MountedLibrary& library : workspace.libraries()) {
-            if (!holdsCategoryNamed(*library.project, name))
+            if (categoriesNamed(*library.project, name).empty())
                 continue;
             project = library.project.get();
             from = &library;
             break;
         }
     }
-    const auto id = resolveCategory(*project, name);
+    const auto id = chooseCategory(*project, name);
     if (!id)
         return Failure{id.message()};
     return FoundCategory{project->taxonomy().category(id.value()), project, from};
@@ -158,10 +151,8 @@ QString quotedList(const QStringList& names)
 Result<QString> readNewName(const ToolArguments& arguments, QStringView argument)
 {
     const QString name = arguments.text(argument).trimmed();
-    if (name.isEmpty())
-        return Failure{u"A non-empty name is required."_s};
-    if (name.contains(u'\n') || name.contains(u'\r'))
-        return Failure{u"A name is one line; \"%1\" holds a line break."_s.arg(argument)};
+    if (const auto checked = checkNameText(name); !checked)
+        return Failure{checked.message()};
     return name;
 }
 

@@ -9,7 +9,7 @@
 
 namespace tw::app::mcp {
 
-/** The "type" argument that narrows a name to one kind of object. */
+/** The "type" argument that narrows a name to one kind of object; readObjectType() refuses other words. */
 [[nodiscard]] QJsonObject objectTypeProperty(const QString& description);
 /** The kind it names, as in files ("timeline_event") or in words; none when it is absent. */
 [[nodiscard]] core::Result<std::optional<core::content::ContentKind>> readObjectType(
@@ -28,7 +28,7 @@ struct FoundCategory
     const workspace::MountedLibrary* library = nullptr;
 };
 
-/** The open project's category of that name, else that of a mounted library. */
+/** The open project's category of that name or id, else that of a mounted library. */
 [[nodiscard]] core::Result<FoundCategory> findCategoryToRead(
     const workspace::Workspace& workspace, const QString& name);
 /** Only the open project's; those of libraries are refused. What comes back holds until the taxonomy changes.

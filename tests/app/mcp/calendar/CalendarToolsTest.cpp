@@ -77,6 +77,8 @@ TEST_F(CalendarToolsTest, refusesCalendarsThatCannotBeRead)
          {R"({"months":[{"name":" ","days":3}]})", u"Every month needs a name."_s},
          {R"({"months":[{"name":"A","days":0}]})", u"Every month needs a length of at least one day."_s},
          {R"({"months":[{"name":"A","days":-3}]})", u"Every month needs a length of at least one day."_s},
+         {R"({"months":[{"name":"A","days":4000000000}]})",
+          u"4000000000 days are too many for the month 'A'; it can have 2147483647 at most."_s},
          {R"({"months":[{"name":"A"}]})", u"Entry 1 of \"months\" needs \"name\" and \"days\"."_s},
          {R"({"months":"many"})", u"\"months\" must be a list."_s},
          {R"({"weekdays":[]})", u"A calendar needs at least one weekday."_s},

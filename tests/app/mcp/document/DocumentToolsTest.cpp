@@ -257,6 +257,16 @@ TEST_F(DocumentToolsTest, everyChangeOfALockedHiddenOrMountedDocumentIsRefused)
     mountLibrary(u"Library"_s, [](core::project::Project& library) {
         library.add(std::make_unique<Document>(ContentId::create(), DocumentKind::Prose, u"Mounted"_s));
     });
+    const QString mark = u"From the mounted library 'Library'.\n"_s;
+    EXPECT_EQ(
+        call("get_document_versions", R"({"title":"Mounted"})").text,
+        mark + u"There are no saved versions of 'Mounted'."_s);
+    EXPECT_EQ(
+        call("list_footnotes", R"({"title":"Mounted"})").text,
+        mark + u"There are no footnotes in 'Mounted'."_s);
+    EXPECT_EQ(
+        call("manage_variants", R"({"document":"Mounted"})").text,
+        mark + u"- main text (0 words) -- in use"_s);
     const char* const tools[] = {
         R"(update_document {"title":"%1","body":"x"})",
         R"(append_to_document {"title":"%1","text":"x"})",

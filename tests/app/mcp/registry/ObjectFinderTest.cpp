@@ -1,6 +1,7 @@
 #include "app/mcp/registry/ObjectFinder.h"
 
 #include "app/mcp/ToolFixture.h"
+#include "app/mcp/registry/CategoryFinder.h"
 #include "core/document/Document.h"
 #include "core/entity/Entity.h"
 #include "core/task/Task.h"
@@ -151,6 +152,35 @@ TEST_F(ObjectFinderTest, newNamesMustBeFree)
     EXPECT_EQ(
         checkRename(project(), dusk, u"dawn"_s).message(),
         u"A document titled 'dawn' already exists; renaming onto it would leave both unreachable by name."_s);
+    for (const QString& name : {u"Two\nlines"_s, u"Two\u2028lines"_s, u"Two\vlines"_s}) {
+        const QString refusal = u"A name is one line; 'Two lines' holds a line break."_s;
+        EXPECT_EQ(checkNewName(project(), ContentKind::Map, name).message(), refusal);
+        EXPECT_EQ(checkRename(project(), dusk, name).message(), refusal);
+    }
+}
+
+TEST_F(ObjectFinderTest, categoriesOfOneNameAreReachedById)
+{
+    const auto insert = [](core::project::Project& into, const QString& name) {
+        core::taxonomy::Category category;
+        category.id = core::CategoryId::create();
+        category.name = name;
+        into.taxonomyForEdit().insert(category);
+        return category.id;
+    };
+    const core::CategoryId first = insert(workspace.projectForEdit(), u"Ships"_s);
+    insert(workspace.projectForEdit(), u"ships"_s);
+    mountLibrary(u"Lore"_s, [&](core::project::Project& library) { insert(library, u"Gods"_s); });
+    const auto several = resolveCategory(workspace, u"Ships"_s);
+    ASSERT_FALSE(several);
+    EXPECT_TRUE(several.message().contains(u"'Ships' (id %1)"_s.arg(first.toString())));
+    const auto byId = resolveCategory(workspace, u' ' + first.toString());
+    ASSERT_TRUE(byId);
+    EXPECT_EQ(byId.value(), first);
+    EXPECT_EQ(
+        resolveCategory(workspace, u"gods"_s).message(),
+        u"'Gods' lives in the mounted library 'Lore', which this server cannot change."_s);
+    EXPECT_EQ(resolveCategory(workspace, u"Moons"_s).message(), u"No category named 'Moons' exists."_s);
 }
 
 } // namespace tw::app::mcp

@@ -58,6 +58,8 @@ TEST(SchemaTest, requiredStandsThereOnlyWhenSomethingIs)
 
 TEST(ArgumentCheckTest, saysWhatIsMissingOrMistyped)
 {
+    const QJsonObject textOrTexts{
+        {u"type"_s, QJsonArray{u"string"_s, u"array"_s}}, {u"items"_s, textProperty({})}};
     const McpToolSpec spec{
         u"light_lamp"_s,
         {},
@@ -70,6 +72,7 @@ TEST(ArgumentCheckTest, saysWhatIsMissingOrMistyped)
              {u"mode"_s, choiceProperty({}, {u"steady"_s, u"blink"_s, u"off"_s}, Default::First)},
              {u"tags"_s, listProperty({}, textProperty({}))},
              {u"cells"_s, mapProperty({}, valueProperty({}))},
+             {u"links"_s, mapProperty({}, textOrTexts)},
              {u"steps"_s,
               listProperty(
                   {}, recordProperty(
@@ -102,7 +105,11 @@ TEST(ArgumentCheckTest, saysWhatIsMissingOrMistyped)
         {R"({"lamp":"a","place":"b","tags":["x",{}]})", u"Entry 2 of \"tags\" must be a text."_s},
         {R"({"lamp":"a","place":"b","cells":{"A1":5,"A2":"x","A3":true,"A4":null}})", {}},
         {R"({"lamp":"a","place":"b","cells":{"A1":[5]}})",
-         u"\"A1\" in \"cells\" must be a text or a number."_s},
+         u"\"A1\" in \"cells\" must be a text, a number, or true or false."_s},
+        {R"({"lamp":"a","place":"b","links":{"to":"x","from":["y","z"],"by":null,"at":[]}})", {}},
+        {R"({"lamp":"a","place":"b","links":{"to":7}})", u"\"to\" in \"links\" must be a text or a list."_s},
+        {R"({"lamp":"a","place":"b","links":{"to":["x",{}]}})", u"Entry 2 of \"to\" must be a text."_s},
+        {R"({"lamp":"a","place":"b","links":{"to":[null]}})", u"Entry 1 of \"to\" must be a text."_s},
         {R"({"lamp":"a","place":"b","steps":[{"at":1},{"note":"n"}]})",
          u"Entry 2 of \"steps\" needs \"at\"."_s},
         {R"({"lamp":"a","place":"b","steps":[{"at":1,"note":2}]})", u"\"note\" must be a text."_s},
@@ -111,6 +118,23 @@ TEST(ArgumentCheckTest, saysWhatIsMissingOrMistyped)
         EXPECT_EQ(checkArguments(spec, u"lamp"_s, json(sample.arguments)).message(), sample.message)
             << sample.arguments;
     }
+}
+
+TEST(ArgumentCheckTest, leavesToTheHandlerWhatItRefusesItself)
+{
+    const McpToolSpec spec{
+        u"light_lamp"_s,
+        {},
+        makeObjectSchema(
+            {{u"mode"_s, choiceProperty({}, {u"steady"_s, u"blink"_s}, Default::None)},
+             {u"name"_s, textProperty({})}},
+            {u"mode"_s, u"name"_s})};
+    EXPECT_FALSE(checkArguments(spec, {}, json(R"({"mode":"dark","name":"a"})")));
+    EXPECT_TRUE(checkArguments(spec, {}, json(R"({"mode":"dark"})"), {u"mode"_s, u"name"_s}));
+    EXPECT_TRUE(checkArguments(spec, {}, json("{}"), {u"mode"_s, u"name"_s}));
+    EXPECT_EQ(
+        checkArguments(spec, {}, json(R"({"mode":7})"), {u"mode"_s, u"name"_s}).message(),
+        u"\"mode\" must be a text."_s);
 }
 
 TEST(ArgumentCheckTest, listsWhatIsNeeded)
@@ -158,12 +182,14 @@ TEST(DisplayTest, shortensAfterBlanksAreCollapsed)
 
     ValueDisplay brief(Shortening::Long);
     EXPECT_EQ(brief.shown(QString(300, u'x')), QString(300, u'x'));
-    EXPECT_EQ(brief.note(), QString());
+    EXPECT_EQ(brief.note(u"get_lamp"_s), QString());
     static_cast<void>(brief.shown(QString(301, u'x')));
-    EXPECT_TRUE(brief.note().startsWith(u"\n\nNOTE: one or more field values above were shortened"));
+    EXPECT_TRUE(brief.note(u"get_lamp"_s)
+                    .startsWith(u"\n\nNOTE: one or more field values above were shortened for brevity. Call "
+                                "get_lamp again"));
     ValueDisplay full(Shortening::None);
     EXPECT_EQ(full.shown(QString(301, u'x')).size(), 301);
-    EXPECT_EQ(full.note(), QString());
+    EXPECT_EQ(full.note(u"get_lamp"_s), QString());
 }
 
 TEST(DisplayTest, datesReadBackAsTheyAreWritten)

@@ -22,7 +22,13 @@ protected:
         core::taxonomy::Category people;
         people.id = core::CategoryId::create();
         people.name = u"People"_s;
-        people.fields = {mood};
+        core::taxonomy::Field home;
+        home.key = u"home"_s;
+        home.type = core::taxonomy::FieldType::Reference;
+        core::taxonomy::Field met;
+        met.key = u"met"_s;
+        met.type = core::taxonomy::FieldType::Date;
+        people.fields = {mood, home, met};
         workspace.projectForEdit().taxonomyForEdit().insert(people);
         ann = &add<Entity>(people.id, u"Ann"_s);
         ann->setValue(u"mood_1"_s, u"glad"_s);
@@ -85,6 +91,37 @@ TEST_F(ContinuityToolsTest, rulesAreMadeOfFieldsThatReachTheEntity)
     expectChange(
         "delete_continuity_rule", u"MCP: delete continuity rule"_s,
         {R"({"name":"sad"})", u"Deleted continuity rule 'Sad'."_s});
+}
+
+TEST_F(ContinuityToolsTest, referencesAndDatesAreComparedAsTheyAreRead)
+{
+    Entity& house = add<Entity>(ann->categoryId(), u"Registry House"_s);
+    Entity& mill = add<Entity>(ann->categoryId(), u"The Mill"_s);
+    ann->setValue(u"home"_s, house.id().toString());
+    ann->setValue(u"met"_s, QString::number(project().calendar().minutesFromParts({7, 1, 1, 0, 0})));
+    expectChange(
+        "create_continuity_rule", createLabel,
+        {R"({"name":"Lives","entity":"Ann","field":"home","value":"registry house"})",
+         u"Created continuity rule 'Lives'."_s});
+    EXPECT_EQ(project().continuityRules().back().value, house.id().toString());
+    expectChange(
+        "create_continuity_rule", createLabel,
+        {R"({"name":"Met","entity":"Ann","field":"met","comparison":"lessThan","value":"8"})",
+         u"Created continuity rule 'Met'."_s});
+    ann->setValue(u"home"_s, mill.id().toString());
+    expectChange(
+        "create_continuity_rule", createLabel,
+        {R"({"name":"Near","entity":"Ann","field":"home","comparison":"oneOf","value":"Registry House|Ann"})",
+         u"Created continuity rule 'Near'. It does not hold now: Rule \"Near\": Ann's home must be one of "
+         "\"Registry House, Ann\", but is \"The Mill\"."_s});
+    EXPECT_EQ(
+        call("list_continuity_rules").text,
+        u"- Lives: Ann's home must be \"Registry House\", at any time\n"
+        "- Met: Ann's met must be less than \"1 January, Year 8 CE\", at any time\n"
+        "- Near: Ann's home must be one of \"Registry House, Ann\", at any time"_s);
+    expectRefused(
+        "create_continuity_rule", {{R"({"name":"R","entity":"Ann","field":"home","value":"Nowhere"})",
+                                    u"No entity named 'Nowhere' exists."_s}});
 }
 
 TEST_F(ContinuityToolsTest, rulesThatMeanNothingAreRefused)

@@ -190,7 +190,8 @@ TEST_F(EventToolsTest, stubsAreMadeForNamesThatNothingHas)
         {{"{}", u"create_missing_entities needs \"names\"."_s},
          {R"({"names":[]})", u"create_missing_entities needs \"names\"."_s},
          {R"({"names":["New","Secret"]})", u"'Secret' is excluded from AI and cannot be used here."_s},
-         {R"({"names":["New"],"category":"Moons"})", u"No category named 'Moons' exists."_s}});
+         {R"({"names":["New"],"category":"Moons"})", u"No category named 'Moons' exists."_s},
+         {R"({"names":["New\nborn"]})", u"A name is one line; 'New born' holds a line break."_s}});
 }
 
 TEST_F(EventToolsTest, theTimelineIsReadInTheOrderOfTheStory)
@@ -222,6 +223,12 @@ TEST_F(EventToolsTest, theTimelineIsReadInTheOrderOfTheStory)
                                    "Named eras:\n"
                                    "- Age %1: 1 January, Year 1 CE to 2 January, Year 1 CE (#000000)"_s);
     EXPECT_FALSE(call("get_timeline", R"({"timeline":"main"})").text.contains(u"Loose"));
+    main.setAiExcluded(true);
+    const QString withheld = call("get_timeline").text;
+    EXPECT_TRUE(withheld.startsWith(u"Events of timelines excluded from AI\n- Early: "))
+        << withheld.toStdString();
+    EXPECT_FALSE(withheld.contains(u"Main"));
+    main.setAiExcluded(false);
     expectRefused("get_timeline", {{R"({"timeline":"Side"})", u"No timeline named 'Side' exists."_s}});
 
     core::calendar::Calendar calendar;
@@ -233,6 +240,22 @@ TEST_F(EventToolsTest, theTimelineIsReadInTheOrderOfTheStory)
         "update_timeline_event", updateLabel,
         {R"({"title":"Late","date":")" + date.toUtf8() + R"("})", u"Updated timeline event 'Late'."_s});
     EXPECT_EQ(late.details().startMinute, 0) << "what is shown reads back";
+}
+
+TEST_F(EventToolsTest, longDescriptionsAreReadInFullOnRequest)
+{
+    const QString text = u"The first.\n\nThe second. "_s + QString(300, u'x');
+    TimelineEvent& event = addEvent(u"Feast"_s, 0);
+    EventDetails details = event.details();
+    details.description = text;
+    event.setDetails(details);
+    const QString brief = call("get_timeline").text;
+    EXPECT_TRUE(brief.contains(u"  description: The first. The second. xxx"));
+    EXPECT_TRUE(brief.contains(u"...\n"));
+    EXPECT_TRUE(brief.contains(u"\n\nNOTE: ") && brief.contains(u"Call get_timeline again"));
+    const QString full = call("get_timeline", R"({"full": true})").text;
+    EXPECT_TRUE(full.contains(u"  description: "_s + text));
+    EXPECT_FALSE(full.contains(u"NOTE"));
 }
 
 TEST_F(EventToolsTest, timelinesAreRenamed)

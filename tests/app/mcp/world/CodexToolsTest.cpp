@@ -27,7 +27,7 @@ TEST_F(CodexToolsTest, categoriesAreCreatedUnderCategoriesAndEntities)
         {"create_category", R"({"name": "  "})", failure, u"create_category needs a non-empty \"name\"."_s},
         {"create_category", R"({"name": 7})", failure, u"\"name\" must be a text."_s},
         {"create_category", R"({"name": "a\nb"})", failure,
-         u"A name is one line; \"name\" holds a line break."_s},
+         u"A name is one line; 'a b' holds a line break."_s},
         {"create_category", R"({"name": "PLACES"})", failure, u"Category 'PLACES' already exists."_s},
         {"create_category", R"({"name": "X", "parent": "Nope"})", failure,
          u"No category named 'Nope' exists."_s},
@@ -256,6 +256,13 @@ TEST_F(CodexToolsTest, categoriesAndTheirSchemasAreRead)
          u"# Cities\nUnder the entity: Vaertis\nEntities: 1\nTaken through the entity: ruler\n\nFields\n- "
          "Ruler (text; inherited from 'Places')"_s},
     });
+    const QByteArray description(301, 'x');
+    run("add_field", R"({"category": "Cities", "label": "Harbour", "description": ")" + description + "\"}");
+    const QString brief = run("get_category", R"({"name": "Cities"})");
+    EXPECT_FALSE(brief.contains(QLatin1String(description)));
+    EXPECT_TRUE(brief.contains(u"Call get_category again with \"full\": true"));
+    EXPECT_TRUE(run("get_category", R"({"name": "Cities", "full": true})")
+                    .endsWith(u"- Harbour (text; own) -- "_s + QLatin1String(description)));
 }
 
 } // namespace tw::app::mcp

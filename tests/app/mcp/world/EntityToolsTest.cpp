@@ -36,7 +36,7 @@ TEST_F(EntityToolsTest, anEntityIsCreatedWithEverythingInOneStep)
         {"create_entity", R"({"name": "Ada", "category": "Characters", "fields": {"Rank": "Cook"}})", failure,
          u"'Cook' does not suit the choice field 'Rank', which takes one of: Captain, Marda's guard."_s},
         {"create_entity", R"({"name": "Ada", "category": "Characters", "fields": {"Alive": []}})", failure,
-         u"\"Alive\" in \"fields\" must be a text or a number."_s},
+         u"\"Alive\" in \"fields\" must be a text, a number, or true or false."_s},
         {"create_entity", R"({"name": "Ada", "category": "Characters", "references": {"Spouse": "Nobody"}})",
          failure, u"No entity named 'Nobody' exists."_s},
         {"create_entity", R"({"name": "Ada", "category": "Characters", "references": {"Age": "Tom"}})",
@@ -88,6 +88,16 @@ TEST_F(EntityToolsTest, anEntityIsUpdatedSparsely)
         {"update_entity", R"({"name": "Vaertis", "category": "Cities"})", failure,
          u"Can't move 'Vaertis' to 'Cities': that category hangs somewhere beneath the entity, so the tree "
          "would loop."_s},
+        {"update_entity", R"({"name": "Tom", "references": {"Spouse": "Marda, Mardana"}, "tags": []})", none,
+         u"Entity 'Tom' already matches; nothing changed."_s},
+        {"update_entity", R"({"name": "Tom", "fields": {"Spouse": "Mardana, the gull"}})", oneStep,
+         u"Updated entity 'Tom'."_s},
+        {"update_entity", R"({"name": "Tom", "references": {"Spouse": "Marda, Nobody"}})", failure,
+         u"No entity named 'Marda, Nobody' exists."_s},
+        {"update_entity", R"({"name": "Tom", "aliases": ["Old\nTom"]})", failure,
+         u"A name is one line; 'Old Tom' holds a line break."_s},
+        {"update_entity", R"({"name": "Tom", "references": {"Spouse": [{}]}})", failure,
+         u"Entry 1 of \"Spouse\" must be a text."_s},
         {"update_entity", R"({"id": "5eed000a", "fields": {}})", failure,
          u"No entity with id '5eed000a' exists."_s},
         {"update_entity", R"({"fields": {"Age": 1}})", failure,
@@ -136,6 +146,25 @@ TEST_F(EntityToolsTest, anEntityIsReadWithAllItHolds)
     const QString full = run("get_entity", R"({"name": "Tom", "full": true})");
     EXPECT_TRUE(full.contains(QString(301, u'x')) && !full.contains(u"NOTE"_s));
     EXPECT_FALSE(run("get_entity", R"({"name": "Mardana"})").contains(u"NOTE"_s));
+}
+
+TEST_F(EntityToolsTest, mentionsAreFoundHoweverTheNameIsMarked)
+{
+    using namespace core::document;
+    Entity& seven = add<Entity>(ids.characters, u"Agent_Seven"_s);
+    seven.setAliases({u"Salt & Sons"_s});
+    add<Document>(DocumentKind::Prose, u"Escaped"_s)
+        .setBody({u"Agent\\_Seven came."_s, BodyFormat::Markdown});
+    add<Document>(DocumentKind::Prose, u"Stressed"_s)
+        .setBody({u"*Agent*\\_Seven came."_s, BodyFormat::Markdown});
+    add<Document>(DocumentKind::Prose, u"Rich"_s)
+        .setBody({u"<p>Salt &amp; Sons came.</p>"_s, BodyFormat::Html});
+    add<Document>(DocumentKind::Prose, u"Apart"_s).setBody({u"Agent Sevens"_s, BodyFormat::Markdown});
+    save();
+    const QString report = run("get_entity", R"({"name": "Agent_Seven"})");
+    for (const QString& title : {u"Escaped"_s, u"Stressed"_s, u"Rich"_s})
+        EXPECT_TRUE(report.contains(u"- document '%1' (1)"_s.arg(title))) << report.toStdString();
+    EXPECT_FALSE(report.contains(u"Apart"_s));
 }
 
 TEST_F(EntityToolsTest, entitiesAreMergedAndSplit)
@@ -216,8 +245,12 @@ TEST_F(EntityToolsTest, librariesAreReadButNeverChanged)
         gods.id = core::CategoryId::create();
         gods.name = u"Gods"_s;
         library.taxonomyForEdit().insert(gods);
+        core::calendar::Calendar calendar;
+        calendar.setEraName(u"of the Gods"_s);
+        library.setCalendar(calendar);
         auto god = std::make_unique<Entity>(core::ContentId::create(), gods.id, u"Orm"_s);
         god->setAliases({u"Marda's god"_s});
+        god->setLifespan({0, {}});
         library.insert(std::move(god));
         Q_UNUSED(this);
     });
@@ -232,6 +265,9 @@ TEST_F(EntityToolsTest, librariesAreReadButNeverChanged)
         {"merge_entities", R"({"source": "Tom", "target": "Orm"})", failure, edited},
         {"add_comment", R"({"target": "Orm", "body": "x"})", failure,
          u"'Orm' lives in the mounted library 'Lore'; this server works on the open project's own content."_s},
+        {"add_field", R"({"category": "Places", "label": "God", "type": "reference",
+            "reference_category": "Gods"})",
+         failure, u"'Gods' lives in the mounted library 'Lore', which this server cannot change."_s},
         {"create_category", R"({"name": "Temples", "parent_entity": "Orm"})", failure,
          u"'Orm' lives in the mounted library 'Lore'; this server works on the open project's own content."_s},
         {"update_entity", R"({"name": "Mardana", "references": {"Spouse": "Orm"}})", oneStep,
@@ -243,7 +279,9 @@ TEST_F(EntityToolsTest, librariesAreReadButNeverChanged)
         {"rename_object", R"({"old_name": "god", "new_name": "idol"})", none,
          u"'god' occurs nowhere else; nothing changed.\nLeft alone in the mounted library 'Lore': 1 occurrence(s)."_s},
     });
-    EXPECT_TRUE(run("get_entity", R"({"name": "orm"})").contains(u"From the mounted library 'Lore'."_s));
+    const QString report = run("get_entity", R"({"name": "orm"})");
+    EXPECT_TRUE(report.contains(u"From the mounted library 'Lore'."_s));
+    EXPECT_TRUE(report.contains(u"Lifespan: born "_s + project().calendar().formatInstant(0) + u'\n'));
 }
 
 } // namespace tw::app::mcp

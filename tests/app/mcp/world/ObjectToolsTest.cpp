@@ -2,9 +2,13 @@
 #include "core/document/Document.h"
 #include "core/research/Comment.h"
 
+#include <algorithm>
+#include <array>
+
 namespace tw::app::mcp {
 
 using namespace Qt::Literals::StringLiterals;
+using core::ContentId;
 using core::entity::Entity;
 using core::research::Comment;
 
@@ -28,7 +32,8 @@ TEST_F(ObjectToolsTest, objectsOfAnyKindAreDeleted)
         {"delete_object", R"({"name": "weather"})", oneStep, u"Deleted the random table 'Weather'."_s},
         {"delete_object", R"({"name": "Marda at Sea"})", oneStep,
          u"Deleted the document 'Marda at Sea'. 1 reference(s) to it elsewhere are now dangling. 1 "
-         "document(s) under it are now unreachable from the manuscript; move them or undo."_s},
+         "document(s) under it are now unreachable from the manuscript; move them or undo. Until then they "
+         "stand at the top level."_s},
         {"delete_object", R"({"name": "Vaertis", "type": "entity"})", oneStep,
          u"Deleted the entity 'Vaertis'. 1 reference(s) to it elsewhere are now dangling. 1 category(ies) "
          "that hung under it moved up to its own category."_s},
@@ -68,9 +73,15 @@ TEST_F(ObjectToolsTest, visibilityTakesOnlyAudiencesOfTheProject)
          u"Entry 1 of \"audiences\" must be a text."_s},
     });
     run("set_visibility", R"({"name": "Marda", "audiences": ["Players"]})");
-    expectCall(
+    const QString blank =
+        u"\"audiences\" holds a blank entry; name every audience, or pass an empty array to "
+        "make the object visible to everyone."_s;
+    expectCalls({
+        {"set_visibility", R"({"name": "Marda", "audiences": [""]})", failure, blank},
+        {"set_visibility", R"({"name": "Marda", "audiences": ["Players", " "]})", failure, blank},
         {"set_visibility", R"({"name": "Marda", "audiences": []})", oneStep,
-         u"'Marda' is now visible to everyone."_s});
+         u"'Marda' is now visible to everyone."_s},
+    });
 }
 
 TEST_F(ObjectToolsTest, exclusionFromAiIsSetAndTakenBack)
@@ -190,6 +201,29 @@ TEST_F(ObjectToolsTest, namesAreSearchedCheckedAndRenamed)
          u"Renamed 'Marda' to 'Ysolde': 22 occurrence(s) in 9 object(s).\nLeft alone because it is locked: "
          "document 'The Quay' (2 occurrence(s)).\nLeft alone because they are excluded from AI: 1 "
          "object(s)."_s});
+}
+
+TEST_F(ObjectToolsTest, commentsOnWhatIsHiddenTakeNoPlaceAmongTheResults)
+{
+    entity(ids.mardana).setAiExcluded(true);
+    std::array<ContentId, 4> comments{
+        ContentId::create(), ContentId::create(), ContentId::create(), ContentId::create()};
+    // They are looked through in the order of their ids.
+    std::ranges::sort(comments);
+    for (std::size_t index = 0; index < comments.size(); ++index) {
+        const core::research::CommentTarget target{index < 2 ? ids.mardana : ids.tom, {}};
+        workspace.projectForEdit().add(std::make_unique<Comment>(
+            comments.at(index), target, core::research::CommentDetails{{}, u"a kraken"_s, {}, {}, false}));
+    }
+    save();
+    const QString first = u"- comment '%1': a kraken"_s.arg(comments.at(2).toString());
+    expectCalls({
+        {"search", R"({"query": "kraken", "limit": 1})", none,
+         first + u"\n\nOnly the first 1 are shown. Narrow the query, pass \"type\", or raise \"limit\" (at "
+                 "most 500)."_s},
+        {"search", R"({"query": "kraken", "limit": 2})", none,
+         first + u"\n- comment '%1': a kraken"_s.arg(comments.at(3).toString())},
+    });
 }
 
 TEST_F(ObjectToolsTest, theOverviewNamesEverythingByItsPlace)
