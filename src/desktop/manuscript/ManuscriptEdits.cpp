@@ -28,13 +28,21 @@ QString label(const char* text)
 /** The documents that no other one of the list lies above. */
 std::vector<ContentId> topmost(const core::project::Project& project, const std::vector<ContentId>& ids)
 {
+    const std::set<ContentId> listed(ids.begin(), ids.end());
     std::vector<ContentId> result;
     for (const ContentId& id : ids) {
         const auto* const document = project.findAs<Document>(id);
-        const bool isCarried = document && std::ranges::any_of(ids, [&](const ContentId& other) {
-                                   return other != id && core::document::isSameOrBeneath(project, id, other);
-                               });
-        if (document && !isCarried)
+        if (!document)
+            continue;
+        std::set<ContentId> visited{id};
+        ContentId above = document->parentId();
+        while (!listed.contains(above) && visited.insert(above).second) {
+            const auto* const parent = project.findAs<Document>(above);
+            if (!parent)
+                break;
+            above = parent->parentId();
+        }
+        if (above == id || !listed.contains(above))
             result.push_back(id);
     }
     return result;
@@ -139,9 +147,11 @@ bool stepDocument(ProjectSession& session, const ContentId& id, MoveDirection di
 
 ContentId firstLocked(const ProjectSession& session, const std::vector<ContentId>& ids)
 {
-    for (const ContentId& id : ids) {
-        for (const ContentId& below : core::document::documentSubtree(session.project(), id)) {
-            if (session.project().find(below)->isLocked())
+    const core::project::Project& project = session.project();
+    const core::document::DocumentTree tree = core::document::documentTree(project);
+    for (const ContentId& id : topmost(project, ids)) {
+        for (const ContentId& below : core::document::documentSubtree(tree, id)) {
+            if (project.find(below)->isLocked())
                 return below;
         }
     }
@@ -152,8 +162,9 @@ std::size_t removeDocuments(ProjectSession& session, const std::vector<ContentId
 {
     auto& project = session.projectForCommands();
     std::vector<ContentId> removed;
+    const core::document::DocumentTree tree = core::document::documentTree(project);
     for (const ContentId& id : topmost(project, ids)) {
-        const std::vector<ContentId> subtree = core::document::documentSubtree(project, id);
+        const std::vector<ContentId> subtree = core::document::documentSubtree(tree, id);
         removed.insert(removed.end(), subtree.begin(), subtree.end());
     }
     if (removed.empty())

@@ -204,4 +204,20 @@ TEST_F(SchemaTest, removingACategoryPromotesWhatItHeld)
     EXPECT_EQ(project.taxonomy().categories().size(), 3U);
 }
 
+TEST_F(SchemaTest, aWayThroughAnyNumberOfEntitiesIsWalked)
+{
+    const auto outermost = addCategory(u"0"_s, {}, {field(u"key"_s)});
+    CategoryId innermost = outermost;
+    for (int level = 1; level < 20'000; ++level) {
+        const Entity& holder = addEntity(QString(), innermost);
+        innermost = addCategory(QString(), {}, {});
+        edit(innermost).parentEntityId = holder.id();
+        edit(innermost).inheritedKeys = {u"key"_s};
+    }
+    const auto schema = schemaOfCategory(project, innermost);
+    EXPECT_EQ(keys(schema), QStringList{u"key"_s});
+    EXPECT_EQ(schema[0].origin, FieldOrigin::ParentEntity);
+    EXPECT_EQ(schema[0].definedBy, outermost);
+}
+
 } // namespace tw::core::entity
