@@ -131,6 +131,17 @@ TEST_F(EditorProofreaderTest, theListOfProblemsReadsWhatTheEditorReads)
     EXPECT_FALSE(paragraphsOf({body, {}}).constFirst().contains(u"zzz"_s));
 }
 
+TEST_F(EditorProofreaderTest, aDocumentIsSpokenInItsOwnLanguage)
+{
+    open(u"The ship."_s);
+    EXPECT_EQ(service->spokenLanguageOf(id), QLocale());
+    service->setLanguagesOf(id, {u"fr_CA"_s, u"en_US"_s});
+    EXPECT_EQ(service->spokenLanguageOf(id), QLocale(u"fr_CA"_s));
+    EXPECT_EQ(service->spokenLanguageOf({}), QLocale());
+    service->setLanguagesOf(id, {u"names"_s});
+    EXPECT_EQ(service->spokenLanguageOf(id), QLocale());
+}
+
 TEST_F(EditorProofreaderTest, saysWhichDictionaryIsMissingOrBroken)
 {
     QStringList said;
