@@ -179,7 +179,7 @@ bool renameEntity(ProjectSession& session, const ContentId& id, const QString& n
 {
     auto* const entity = session.projectForCommands().findAsForEdit<Entity>(id);
     const QString trimmed = name.trimmed();
-    if (!entity || trimmed.isEmpty() || trimmed == entity->name())
+    if (!entity || entity->isLocked() || trimmed.isEmpty() || trimmed == entity->name())
         return false;
     session.apply(std::make_unique<core::entity::SetEntityNameCommand>(*entity, trimmed));
     return true;
@@ -202,6 +202,15 @@ Result<void> moveInCodex(ProjectSession& session, const CodexSelection& moved, c
     for (const CategoryId& id : moved.categories) {
         if (auto checked = checkMove(project, id, place.parent); !checked)
             return checked;
+    }
+    for (const ContentId& id : moved.entities) {
+        const auto* const entity = project.findAs<Entity>(id);
+        if (entity && entity->isLocked() && entity->categoryId() != place.parent.categoryId) {
+            return core::Failure{
+                label(
+                    QT_TRANSLATE_NOOP("CodexEdits", "“%1” is locked. Unlock it in the inspector to move it."))
+                    .arg(entity->name())};
+        }
     }
     const auto step = session.macro(moveLabel(moved));
     if (!place.parent.entityId.isNull()) {

@@ -104,7 +104,7 @@ void moveDocuments(
 
     const auto step = session.macro(label(QT_TRANSLATE_NOOP("ManuscriptEdits", "Move document")));
     for (const ContentId& id : moved) {
-        if (!core::document::canMoveDocument(project, id, parentId))
+        if (project.find(id)->isLocked() || !core::document::canMoveDocument(project, id, parentId))
             continue;
         session.apply(std::make_unique<MoveDocumentCommand>(
             project, id, parentId, indexBefore(project, parentId, anchorId, id)));
@@ -115,7 +115,7 @@ bool stepDocument(ProjectSession& session, const ContentId& id, MoveDirection di
 {
     auto& project = session.projectForCommands();
     const auto* const document = project.findAs<Document>(id);
-    if (!document)
+    if (!document || document->isLocked())
         return false;
     const ContentId parentId = document->parentId();
     const std::vector<ContentId> siblings = childDocuments(project, parentId);

@@ -269,11 +269,13 @@ Qt::ItemFlags ManuscriptModel::flags(const QModelIndex& index) const
     if (!index.isValid())
         return Qt::ItemIsDropEnabled;
     const auto* const document = m_desk.session.project().findAs<Document>(idAt(index));
-    const Qt::ItemFlags always =
-        Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
-    const bool canEdit =
-        document && !document->isLocked() && isEditable(static_cast<OutlineColumn>(index.column()));
-    return canEdit ? always | Qt::ItemIsEditable : always;
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDropEnabled;
+    if (document && !document->isLocked()) {
+        flags |= Qt::ItemIsDragEnabled;
+        if (isEditable(static_cast<OutlineColumn>(index.column())))
+            flags |= Qt::ItemIsEditable;
+    }
+    return flags;
 }
 
 Qt::DropActions ManuscriptModel::supportedDropActions() const

@@ -1,6 +1,10 @@
 #include "desktop/inspector/InspectorPanel.h"
+#include "core/content/ContentCommands.h"
+#include "desktop/inspector/DocumentSection.h"
+#include "desktop/inspector/ObjectSection.h"
 #include "desktop/support/TestDesk.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 
@@ -38,6 +42,19 @@ TEST_F(InspectorPanelTest, choosingWhatIsThereIsNoStep)
     for (QLineEdit* const edit : panel.findChildren<QLineEdit*>())
         emit edit->editingFinished();
     EXPECT_FALSE(desk.session.canUndo()) << desk.session.undoText().toStdString();
+}
+
+TEST_F(InspectorPanelTest, ofWhatIsLockedOnlyTheSwitchesMove)
+{
+    auto* const tags = panel.findChild<ObjectSection*>()->findChild<QLineEdit*>();
+    desk.session.apply(std::make_unique<core::content::SetObjectLockCommand>(desk.document(id), true));
+    tags->setText(u"typed"_s);
+    emit tags->editingFinished();
+    EXPECT_TRUE(desk.document(id).tags().empty());
+    EXPECT_FALSE(tags->isEnabled());
+    EXPECT_FALSE(panel.findChild<DocumentSection*>()->isEnabled());
+    for (QCheckBox* const box : panel.findChildren<QCheckBox*>())
+        EXPECT_TRUE(box->isEnabled()) << box->text().toStdString();
 }
 
 } // namespace tw::desktop::inspector

@@ -194,6 +194,19 @@ TEST_F(ManuscriptTest, aChainAsLongAsADamagedProjectIsShown)
     EXPECT_TRUE(tree.isExpanded(tree.model()->index(1, 0)));
 }
 
+TEST_F(ManuscriptTest, whatIsLockedStaysWhereItIs)
+{
+    desk.document(two).setLocked(true);
+    EXPECT_FALSE(stepDocument(desk.session, two, MoveDirection::Up));
+    moveDocuments(desk.session, {two}, {}, notes);
+    EXPECT_FALSE(desk.session.canUndo());
+    moveDocuments(desk.session, {one, two}, {}, notes);
+    EXPECT_EQ(shape(), u"Part(Two Three) One Notes"_s);
+    const ManuscriptModel model(desk.context);
+    EXPECT_FALSE(model.flags(model.indexOf(two)).testFlag(Qt::ItemIsDragEnabled));
+    EXPECT_TRUE(model.flags(model.indexOf(three)).testFlag(Qt::ItemIsDragEnabled));
+}
+
 TEST_F(ManuscriptTest, droppingRowsReordersThem)
 {
     ManuscriptModel model(desk.context);
