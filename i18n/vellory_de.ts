@@ -93,6 +93,10 @@
         <source>Add category</source>
         <translation>Kategorie hinzufügen</translation>
     </message>
+    <message>
+        <source>“%1” is locked. Unlock it in the inspector to move it.</source>
+        <translation>„%1“ ist gesperrt. Zum Verschieben entsperren Sie es im Inspektor.</translation>
+    </message>
 </context>
 <context>
     <name>Continuity</name>
@@ -3287,6 +3291,10 @@
     <message>
         <source>S&amp;tatus</source>
         <translation>&amp;Status</translation>
+    </message>
+    <message>
+        <source>“%1” is locked. Unlock it in the inspector to move it.</source>
+        <translation>„%1“ ist gesperrt. Zum Verschieben entsperren Sie es im Inspektor.</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,8 @@
 #include "app/search/Replacement.h"
 
+#include "app/search/GroupMask.h"
 #include "core/document/markup/BlockWriter.h"
+#include "core/document/markup/InlinePieces.h"
 #include "core/document/markup/InlineWriter.h"
 #include "core/document/markup/LegacyHtml.h"
 #include "core/document/markup/PlainText.h"
@@ -43,14 +45,26 @@ qsizetype plainLength(const Run& run)
     Q_UNREACHABLE();
 }
 
-/** Every edit goes where its text begins; what it reaches over in other runs goes. */
-QString editedInline(const QString& text, const Edits& edits)
+QString proseOf(const std::vector<Run>& runs, const GroupMask& mask)
+{
+    QString prose;
+    for (const Run& run : runs) {
+        if (run.kind == RunKind::Text && !mask.isStandIn(run))
+            prose += run.text;
+        else if (run.kind == RunKind::SoftBreak || run.kind == RunKind::HardBreak)
+            prose += run.kind == RunKind::SoftBreak ? u' ' : u'\n';
+    }
+    return prose;
+}
+
+/** Every edit goes where its text begins; what it reaches over in other runs goes. Stand-ins stay. */
+std::vector<Run> editedRuns(std::vector<Run> runs, const GroupMask& mask, const Edits& edits)
 {
     std::vector<Run> result;
     qsizetype start = 0;
     auto edit = edits.begin();
-    for (Run& run : markup::parseInline(text)) {
-        const qsizetype end = start + plainLength(run);
+    for (Run& run : runs) {
+        const qsizetype end = start + (mask.isStandIn(run) ? 0 : plainLength(run));
         QString kept;
         qsizetype position = start;
         for (; edit != edits.end() && edit->range.first < end; ++edit) {
@@ -71,25 +85,39 @@ QString editedInline(const QString& text, const Edits& edits)
             result.push_back(std::move(run));
         start = end;
     }
-    return markup::writeInline(result);
+    return result;
 }
 
-QString editedText(QString text, const Edits& edits)
+/** `prose` is what was searched. Where groups tear marks apart, so that it is not what is edited here,
+ * nothing is. */
+QString editedInline(const QString& text, const QString& prose, const Edits& edits)
 {
-    for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit)
-        text.replace(edit->range.first, edit->range.count, edit->text);
-    return text;
+    const std::vector<markup::SourceRange> groups = markup::findLooseGroups(text, markup::takeApart(text));
+    const GroupMask mask(text, groups);
+    const std::vector<Run> runs = mask.parted(markup::parseInline(mask.text()));
+    if (!groups.empty() && proseOf(runs, mask) != prose)
+        return text;
+    return mask.restored(markup::writeInline(editedRuns(runs, mask, edits))).value_or(text);
 }
 
-void apply(Block& block, const markup::PlainPart& part, const Edits& edits)
+QString editedCode(const QString& text, const Edits& edits)
+{
+    const GroupMask mask(text, markup::findGroups(text));
+    QString edited;
+    for (const Run& run : editedRuns(mask.parted({Run{RunKind::Text, mask.text(), {}, {}}}), mask, edits))
+        edited += run.text;
+    return mask.restored(edited).value_or(text);
+}
+
+void apply(Block& block, const markup::PlainPart& part, const QString& prose, const Edits& edits)
 {
     if (block.kind == BlockKind::Table) {
         QString& cell = block.table.rows.at(part.row).at(part.column);
-        cell = editedInline(cell, edits);
+        cell = editedInline(cell, prose, edits);
     } else if (block.kind == BlockKind::Code) {
-        block.text = editedText(block.text, edits);
+        block.text = editedCode(block.text, edits);
     } else {
-        block.text = editedInline(block.text, edits);
+        block.text = editedInline(block.text, prose, edits);
     }
 }
 
@@ -114,7 +142,7 @@ DocumentBody buildReplacement(
         }
         if (edits.empty())
             continue;
-        apply(blocks.list[part.block], part, edits);
+        apply(blocks.list[part.block], part, plain.text().sliced(part.start, part.length), edits);
         isEdited[part.block] = true;
     }
     QString text = source.first(blocks.leadLength);

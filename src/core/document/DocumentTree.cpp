@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <unordered_map>
 
 namespace tw::core::document {
 
@@ -19,30 +20,41 @@ std::vector<ContentId> inOrder(std::vector<const Document*> documents)
     return ids;
 }
 
-void appendSubtree(const DocumentTree& tree, const ContentId& id, std::vector<ContentId>& result)
+/** Tells which documents lead up into a loop. Every way up is walked once, however many documents share it.
+ */
+class Loops
 {
-    result.push_back(id);
-    if (const auto children = tree.find(id); children != tree.end()) {
-        for (const ContentId& child : children->second)
-            appendSubtree(tree, child, result);
-    }
-}
+public:
+    explicit Loops(const Project& project)
+        : m_project(project)
+    {}
 
-/** True when following the parents from here ends at the top level. */
-bool isAttached(const Project& project, const Document& document)
-{
-    std::set<ContentId> visited{document.id()};
-    const Document* current = &document;
-    while (!current->parentId().isNull()) {
-        const Document* const parent = project.findAs<Document>(current->parentId());
-        if (!parent)
-            return current != &document;
-        if (!visited.insert(parent->id()).second)
-            return false;
-        current = parent;
+    [[nodiscard]] bool isBelowOne(const Document& document)
+    {
+        std::vector<const Document*> way;
+        const Document* current = &document;
+        while (current && m_walked.try_emplace(current, Walk::OnTheWay).second) {
+            way.push_back(current);
+            current = m_project.findAs<Document>(current->parentId());
+        }
+        // What is still on the way was met twice on this one.
+        const Walk end = current && m_walked.at(current) != Walk::ToTheTop ? Walk::IntoALoop : Walk::ToTheTop;
+        for (const Document* const walked : way)
+            m_walked[walked] = end;
+        return m_walked.at(&document) == Walk::IntoALoop;
     }
-    return true;
-}
+
+private:
+    enum class Walk
+    {
+        OnTheWay,
+        ToTheTop,
+        IntoALoop,
+    };
+
+    const Project& m_project;
+    std::unordered_map<const Document*, Walk> m_walked;
+};
 
 } // namespace
 
@@ -57,9 +69,11 @@ std::vector<ContentId> childDocuments(const Project& project, const ContentId& p
 DocumentTree documentTree(const Project& project)
 {
     std::map<ContentId, std::vector<const Document*>> byParent;
+    Loops loops(project);
     for (const Document* document : project::objectsOf<Document>(project)) {
-        const ContentId parent = isAttached(project, *document) ? document->parentId() : ContentId();
-        byParent[parent].push_back(document);
+        const bool isAttached =
+            project.findAs<Document>(document->parentId()) && !loops.isBelowOne(*document);
+        byParent[isAttached ? document->parentId() : ContentId()].push_back(document);
     }
     DocumentTree tree;
     for (auto& [parent, children] : byParent)
@@ -69,21 +83,31 @@ DocumentTree documentTree(const Project& project)
 
 std::vector<ContentId> documentsInReadingOrder(const Project& project)
 {
-    const DocumentTree tree = documentTree(project);
+    std::vector<ContentId> ids = documentSubtree(documentTree(project), {});
+    // The top level is no document.
+    ids.erase(ids.begin());
+    return ids;
+}
+
+std::vector<ContentId> documentSubtree(const DocumentTree& tree, const ContentId& rootId)
+{
+    // A damaged manuscript may be as deep as it is long.
     std::vector<ContentId> result;
-    if (const auto roots = tree.find(ContentId()); roots != tree.end()) {
-        for (const ContentId& root : roots->second)
-            appendSubtree(tree, root, result);
+    std::vector<ContentId> open{rootId};
+    while (!open.empty()) {
+        const ContentId id = open.back();
+        open.pop_back();
+        result.push_back(id);
+        if (const auto children = tree.find(id); children != tree.end())
+            open.insert(open.end(), children->second.rbegin(), children->second.rend());
     }
     return result;
 }
 
 std::vector<ContentId> documentSubtree(const Project& project, const ContentId& rootId)
 {
-    std::vector<ContentId> result;
-    if (project.findAs<Document>(rootId))
-        appendSubtree(documentTree(project), rootId, result);
-    return result;
+    return project.findAs<Document>(rootId) ? documentSubtree(documentTree(project), rootId)
+                                            : std::vector<ContentId>();
 }
 
 bool isSameOrBeneath(const Project& project, const ContentId& documentId, const ContentId& ancestorId)

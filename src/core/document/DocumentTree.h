@@ -23,6 +23,8 @@ using DocumentTree = std::map<ContentId, std::vector<ContentId>>;
 /** The document and everything beneath it, in reading order. */
 [[nodiscard]] std::vector<ContentId> documentSubtree(
     const project::Project& project, const ContentId& rootId);
+/** The same from a tree that is at hand already. */
+[[nodiscard]] std::vector<ContentId> documentSubtree(const DocumentTree& tree, const ContentId& rootId);
 
 /** True for the document itself and for everything beneath it. Survives loops. */
 [[nodiscard]] bool isSameOrBeneath(

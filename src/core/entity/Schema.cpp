@@ -18,116 +18,78 @@ QString translated(const char* text)
     return QCoreApplication::translate("Taxonomy", text);
 }
 
-/**
- * Resolves from the outermost root inwards: a chain of categories, the entity that the next chain hangs
- * under, that chain. A list of chains and no recursion, for in a damaged file there may be any number of
- * them.
- */
-class SchemaResolver
+const QString& keyOf(const ResolvedField& resolved)
 {
-public:
-    explicit SchemaResolver(const Project& project)
-        : m_project(project)
-    {}
+    return resolved.field.key;
+}
 
-    [[nodiscard]] Schema categorySchema(const CategoryId& categoryId) const
-    {
-        Schema schema;
-        const std::vector<Chain> chains = chainsAbove(categoryId);
-        for (auto chain = chains.rbegin(); chain != chains.rend(); ++chain) {
-            if (chain->through)
-                schema = crossingFields(std::move(schema), *chain);
-            for (const Category* const category : chain->categories)
-                addCategory(schema, *category, category == chain->categories.back());
-        }
-        return schema;
-    }
-
-    [[nodiscard]] Schema entitySchema(const Entity& entity) const
-    {
-        Schema schema = categorySchema(entity.categoryId());
-        addOwnFields(schema, entity);
-        return schema;
-    }
-
-private:
-    /** A category and those above it, the root first, and the entity whose fields the root takes keys of. */
-    struct Chain
-    {
-        std::vector<const Category*> categories;
-        const Entity* through;
-    };
-
-    static const QString& keyOf(const ResolvedField& resolved) { return resolved.field.key; }
-
-    /** The innermost chain first. */
-    [[nodiscard]] std::vector<Chain> chainsAbove(CategoryId categoryId) const
-    {
-        std::vector<Chain> chains;
-        std::set<CategoryId> entered;
-        while (true) {
-            Chain chain{{}, nullptr};
-            for (const CategoryId& id : m_project.taxonomy().ancestorChain(categoryId))
-                chain.categories.push_back(m_project.taxonomy().category(id));
-            if (chain.categories.empty())
-                return chains;
-            const Category& root = *chain.categories.front();
-            if (!entered.insert(root.id).second)
-                return chains;
-            if (!root.inheritedKeys.isEmpty())
-                chain.through = m_project.findAs<Entity>(root.parentEntityId);
-            const Entity* const through = chain.through;
-            chains.push_back(std::move(chain));
-            if (!through)
-                return chains;
-            categoryId = through->categoryId();
-        }
-    }
-
-    static void addOwnFields(Schema& schema, const Entity& entity)
-    {
-        for (const Field& field : entity.ownFields()) {
-            const auto inherited = std::ranges::find(schema, field.key, keyOf);
-            if (inherited != schema.end()) {
-                if (inherited->isFixed())
-                    continue;
-                schema.erase(inherited);
-            }
-            schema.push_back({field, FieldOrigin::Entity, {}, entity.id()});
-        }
-    }
-
-    /** The fields that a category under an entity takes through it: those it lists, in the entity's order. */
-    static Schema crossingFields(Schema schema, const Chain& chain)
-    {
-        const Category& root = *chain.categories.front();
-        addOwnFields(schema, *chain.through);
-        std::erase_if(schema, [&root](const ResolvedField& resolved) {
-            return !root.inheritedKeys.contains(resolved.field.key);
-        });
-        for (ResolvedField& resolved : schema)
-            resolved.origin = FieldOrigin::ParentEntity;
-        return schema;
-    }
-
-    static void addCategory(Schema& schema, const Category& category, bool isLast)
-    {
-        std::erase_if(schema, [&category](const ResolvedField& resolved) {
-            return category.excludedKeys.contains(resolved.field.key);
-        });
-        const FieldOrigin origin = isLast ? FieldOrigin::Category : FieldOrigin::Ancestor;
-        for (const Field& field : category.fields) {
-            const ResolvedField resolved{field, origin, category.id};
-            const auto known = std::ranges::find(schema, field.key, keyOf);
-            if (known == schema.end())
-                schema.push_back(resolved);
-            else
-                *known = resolved;
-        }
-    }
-
-    const Project& m_project;
+/** One category with those above it, on the way from an outermost root inwards. */
+struct Stage
+{
+    /** From the root down; empty where the way is lost or closes to a loop. */
+    std::vector<CategoryId> chain;
+    /** The entity in the last category under which the next stage hangs; none for the innermost. */
+    const Entity* holder = nullptr;
 };
+
+/** Outwards from a category, as far as something is taken through the entities on the way. */
+std::vector<Stage> stagesFrom(const Project& project, const CategoryId& categoryId)
+{
+    std::vector<Stage> stages;
+    std::set<CategoryId> entered;
+    stages.push_back({project.taxonomy().ancestorChain(categoryId), nullptr});
+    while (true) {
+        std::vector<CategoryId>& chain = stages.back().chain;
+        if (chain.empty() || !entered.insert(chain.front()).second) {
+            chain.clear();
+            return stages;
+        }
+        const Category& root = *project.taxonomy().category(chain.front());
+        const auto* const holder = project.findAs<Entity>(root.parentEntityId);
+        if (!holder || root.inheritedKeys.isEmpty())
+            return stages;
+        stages.push_back({project.taxonomy().ancestorChain(holder->categoryId()), holder});
+    }
+}
+
+/** Leaves what a category under an entity takes through it: the fields it lists, in the entity's order. */
+void crossInto(Schema& schema, const Category& root)
+{
+    std::erase_if(schema, [&root](const ResolvedField& resolved) {
+        return !root.inheritedKeys.contains(resolved.field.key);
+    });
+    for (ResolvedField& resolved : schema)
+        resolved.origin = FieldOrigin::ParentEntity;
+}
+
+void addCategory(Schema& schema, const Category& category, bool isLast)
+{
+    std::erase_if(schema, [&category](const ResolvedField& resolved) {
+        return category.excludedKeys.contains(resolved.field.key);
+    });
+    const FieldOrigin origin = isLast ? FieldOrigin::Category : FieldOrigin::Ancestor;
+    for (const Field& field : category.fields) {
+        const ResolvedField resolved{field, origin, category.id};
+        const auto known = std::ranges::find(schema, field.key, keyOf);
+        if (known == schema.end())
+            schema.push_back(resolved);
+        else
+            *known = resolved;
+    }
+}
+
+void addOwnFields(Schema& schema, const Entity& entity)
+{
+    for (const Field& field : entity.ownFields()) {
+        const auto inherited = std::ranges::find(schema, field.key, keyOf);
+        if (inherited != schema.end()) {
+            if (inherited->isFixed())
+                continue;
+            schema.erase(inherited);
+        }
+        schema.push_back({field, FieldOrigin::Entity, {}, entity.id()});
+    }
+}
 
 /** Whether the category or one above it, through categories and entities alike, is such a one. */
 template <class Predicate>
@@ -164,12 +126,26 @@ std::optional<ResolvedField> inheritedField(const Project& project, const Entity
 
 Schema schemaOfCategory(const Project& project, const CategoryId& categoryId)
 {
-    return SchemaResolver(project).categorySchema(categoryId);
+    // From the outermost root inwards, without recursion: damaged links may lead through any number of
+    // entities.
+    const std::vector<Stage> stages = stagesFrom(project, categoryId);
+    Schema schema;
+    for (auto stage = stages.rbegin(); stage != stages.rend(); ++stage) {
+        if (!schema.empty() && !stage->chain.empty())
+            crossInto(schema, *project.taxonomy().category(stage->chain.front()));
+        for (const CategoryId& id : stage->chain)
+            addCategory(schema, *project.taxonomy().category(id), id == stage->chain.back());
+        if (stage->holder)
+            addOwnFields(schema, *stage->holder);
+    }
+    return schema;
 }
 
 Schema schemaOfEntity(const Project& project, const Entity& entity)
 {
-    return SchemaResolver(project).entitySchema(entity);
+    Schema schema = schemaOfCategory(project, entity.categoryId());
+    addOwnFields(schema, entity);
+    return schema;
 }
 
 const ResolvedField* findField(const Schema& schema, QStringView key)

@@ -179,7 +179,7 @@ bool renameEntity(ProjectSession& session, const ContentId& id, const QString& n
 {
     auto* const entity = session.projectForCommands().findAsForEdit<Entity>(id);
     const QString trimmed = name.trimmed();
-    if (!entity || trimmed.isEmpty() || trimmed == entity->name())
+    if (!entity || entity->isLocked() || trimmed.isEmpty() || trimmed == entity->name())
         return false;
     session.apply(std::make_unique<core::entity::SetEntityNameCommand>(*entity, trimmed));
     return true;
@@ -207,6 +207,12 @@ Result<void> moveInCodex(ProjectSession& session, const CodexSelection& moved, c
         const auto* const entity = project.findAs<Entity>(id);
         if (!entity)
             continue;
+        if (entity->isLocked() && entity->categoryId() != place.parent.categoryId) {
+            return core::Failure{
+                label(
+                    QT_TRANSLATE_NOOP("CodexEdits", "“%1” is locked. Unlock it in the inspector to move it."))
+                    .arg(entity->name())};
+        }
         if (auto checked = core::entity::checkMoveOfEntity(project, *entity, place.parent.categoryId);
             !checked)
             return checked;

@@ -25,7 +25,8 @@ const Entity* EntitySection::entity() const
 
 Entity* EntitySection::entityForCommands() const
 {
-    return m_desk.session.projectForCommands().findAsForEdit<Entity>(m_entityId);
+    auto* const edited = m_desk.session.projectForCommands().findAsForEdit<Entity>(m_entityId);
+    return edited && !edited->isLocked() ? edited : nullptr;
 }
 
 } // namespace tw::desktop::codex

@@ -36,6 +36,7 @@ protected:
     [[nodiscard]] const core::ContentId& entityId() const { return m_entityId; }
     /** None when it was removed. */
     [[nodiscard]] const core::entity::Entity* entity() const;
+    /** None when it was removed or is locked. */
     [[nodiscard]] core::entity::Entity* entityForCommands() const;
 
 private:

@@ -27,6 +27,13 @@ QString label(const char* text)
     return QCoreApplication::translate("GalleryEdits", text);
 }
 
+/** The entity whose gallery may be changed; none when it was removed or is locked. */
+Entity* unlockedEntity(ProjectSession& session, const ContentId& entityId)
+{
+    auto* const entity = session.projectForCommands().findAsForEdit<Entity>(entityId);
+    return entity && !entity->isLocked() ? entity : nullptr;
+}
+
 Result<QString> importPicture(ProjectSession& session, const QString& file)
 {
     if (QImageReader::imageFormat(file).isEmpty())
@@ -44,7 +51,7 @@ Result<void> addToGallery(ProjectSession& session, const ContentId& entityId, co
 {
     Result<void> result;
     const auto step = session.macro(label(QT_TRANSLATE_NOOP("GalleryEdits", "Add pictures")));
-    auto* const entity = session.projectForCommands().findAsForEdit<Entity>(entityId);
+    Entity* const entity = unlockedEntity(session, entityId);
     if (!entity)
         return result;
     std::vector<ContentId> gallery = entity->gallery();
@@ -68,7 +75,7 @@ Result<void> addToGallery(ProjectSession& session, const ContentId& entityId, co
 void removeFromGallery(ProjectSession& session, const ContentId& entityId, const ContentId& picture)
 {
     const auto step = session.macro(label(QT_TRANSLATE_NOOP("GalleryEdits", "Remove picture")));
-    auto* const entity = session.projectForCommands().findAsForEdit<Entity>(entityId);
+    Entity* const entity = unlockedEntity(session, entityId);
     if (!entity)
         return;
     std::vector<ContentId> gallery = entity->gallery();
@@ -80,7 +87,7 @@ void moveInGallery(
     ProjectSession& session, const ContentId& entityId, const ContentId& picture, GalleryMove direction)
 {
     const auto step = session.macro(label(QT_TRANSLATE_NOOP("GalleryEdits", "Move picture")));
-    auto* const entity = session.projectForCommands().findAsForEdit<Entity>(entityId);
+    Entity* const entity = unlockedEntity(session, entityId);
     if (!entity)
         return;
     std::vector<ContentId> gallery = entity->gallery();

@@ -60,7 +60,7 @@ FieldVerdict judge(
 void setOwnFields(const shell::DeskContext& desk, const core::ContentId& entityId, FieldList fields)
 {
     auto* const entity = desk.session.projectForCommands().findAsForEdit<Entity>(entityId);
-    if (entity && entity->ownFields() != fields) {
+    if (entity && !entity->isLocked() && entity->ownFields() != fields) {
         desk.session.apply(
             std::make_unique<core::entity::SetEntityOwnFieldsCommand>(*entity, std::move(fields)));
     }

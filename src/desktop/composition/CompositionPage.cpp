@@ -49,6 +49,7 @@ CompositionPage::CompositionPage(const shell::DeskContext& desk, const ContentId
     : TextPage({rootId, compositionView}, parent)
     , m_desk(desk)
     , m_places(desk.settings, desk.session.workspace().displayPath())
+    , m_documentPlaces(desk.session.project())
     , m_area(new QScrollArea(this))
     , m_findBar(new manuscript::FindBar(desk, this))
     , m_text(new QWidget)
@@ -95,21 +96,13 @@ CompositionPage::~CompositionPage()
 std::vector<ContentId> CompositionPage::documentsInOrder() const
 {
     const core::project::Project& project = m_desk.session.project();
-    std::vector<ContentId> ids;
-    const auto addSubtree = [&](const ContentId& id) {
-        for (const ContentId& each : core::document::documentSubtree(project, id)) {
-            const auto& document = *project.findAs<Document>(each);
-            // Notes are beside the text; a part without words of its own shows as the title above its scenes.
-            if (document.documentKind() != core::document::DocumentKind::Note || each == objectId())
-                ids.push_back(each);
-        }
-    };
-    if (!objectId().isNull()) {
-        addSubtree(objectId());
-        return ids;
-    }
-    for (const ContentId& root : core::document::childDocuments(project, {}))
-        addSubtree(root);
+    std::vector<ContentId> ids = objectId().isNull() ? core::document::documentsInReadingOrder(project)
+                                                     : core::document::documentSubtree(project, objectId());
+    // Notes are beside the text; a part without words of its own shows as the title above its scenes.
+    std::erase_if(ids, [&](const ContentId& id) {
+        return id != objectId() &&
+               project.findAs<Document>(id)->documentKind() == core::document::DocumentKind::Note;
+    });
     return ids;
 }
 
@@ -140,10 +133,7 @@ void CompositionPage::rebuild()
 
 void CompositionPage::followChanges(const core::project::ProjectChanges& changes)
 {
-    std::vector<ContentId> shown;
-    for (const SceneSlot* const slot : m_slots)
-        shown.push_back(slot->documentId());
-    if (changes.isEverything || shown != documentsInOrder())
+    if (m_documentPlaces.follow(m_desk.session.project(), changes))
         rebuild();
     for (SceneSlot* const slot : m_slots) {
         if (changes.concerns(slot->documentId()))

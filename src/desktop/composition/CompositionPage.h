@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/document/DocumentPlaces.h"
 #include "core/project/ProjectChanges.h"
 #include "desktop/manuscript/FindBar.h"
 #include "desktop/manuscript/ReadingPlaces.h"
@@ -77,6 +78,7 @@ private:
 
     shell::DeskContext m_desk;
     manuscript::ReadingPlaces m_places;
+    core::document::DocumentPlaces m_documentPlaces;
     QScrollArea* m_area;
     manuscript::FindBar* m_findBar;
     QWidget* m_text;

@@ -103,37 +103,37 @@ void DocumentSection::connectFields()
     holdTyping();
     connectSynopsis();
     connect(m_kind, &QComboBox::activated, this, [this] {
-        apply<doc::SetDocumentKindCommand>(static_cast<DocumentKind>(m_kind->currentData().toInt()));
+        apply<doc::SetDocumentKindCommand, &Document::documentKind>(
+            static_cast<DocumentKind>(m_kind->currentData().toInt()));
     });
     const auto commitStatus = [this] {
-        if (document() && document()->status() != m_status->currentText())
-            apply<doc::SetDocumentStatusCommand>(m_status->currentText());
+        apply<doc::SetDocumentStatusCommand, &Document::status>(m_status->currentText());
     };
     connect(m_status, &QComboBox::activated, this, commitStatus);
     connect(m_status->lineEdit(), &QLineEdit::editingFinished, this, commitStatus);
     const auto commitPointOfView = [this] {
-        if (document() && document()->pointOfView() != m_pointOfView->currentText())
-            apply<doc::SetDocumentPointOfViewCommand>(m_pointOfView->currentText());
+        apply<doc::SetDocumentPointOfViewCommand, &Document::pointOfView>(m_pointOfView->currentText());
     };
     connect(m_pointOfView, &QComboBox::activated, this, commitPointOfView);
     connect(m_pointOfView->lineEdit(), &QLineEdit::editingFinished, this, commitPointOfView);
     connect(m_tension, &QSpinBox::valueChanged, this, [this](int value) {
-        apply<doc::SetDocumentTensionLevelCommand>(value);
+        apply<doc::SetDocumentTensionLevelCommand, &Document::tensionLevel>(value);
     });
     connect(m_target, &QSpinBox::valueChanged, this, [this](int value) {
-        apply<doc::SetDocumentTargetCommand>(value);
+        apply<doc::SetDocumentTargetCommand, &Document::wordCountTarget>(value);
     });
     connect(
         m_sceneDate, &fields::StoryDateEdit::instantEdited, this,
         [this](const std::optional<core::calendar::StoryInstant>& instant) {
-            apply<doc::SetDocumentSceneInstantCommand>(instant);
+            apply<doc::SetDocumentSceneInstantCommand, &Document::sceneInstant>(instant);
         });
 }
 
-template <class Command, class Value>
+template <class Command, auto Getter, class Value>
 void DocumentSection::apply(Value value)
 {
-    if (auto* const shown = m_desk.session.projectForCommands().findAsForEdit<Document>(m_id))
+    auto* const shown = m_desk.session.projectForCommands().findAsForEdit<Document>(m_id);
+    if (shown && !shown->isLocked() && (shown->*Getter)() != value)
         m_desk.session.apply(std::make_unique<Command>(*shown, std::move(value)));
 }
 
@@ -195,7 +195,7 @@ void DocumentSection::commitSynopsis()
         return;
     m_shownSynopsis = text;
     m_heldSynopsis->end();
-    apply<core::document::SetDocumentSynopsisCommand>(text);
+    apply<core::document::SetDocumentSynopsisCommand, &Document::synopsis>(text);
 }
 
 void DocumentSection::showDocument(const core::ContentId& id)

@@ -49,7 +49,8 @@ private:
     void commitSynopsis();
     void fillSuggestions();
     /** Builds a command for the shown document and applies it. */
-    template <class Command, class Value>
+    /** One step, unless the document is locked or says this already. */
+    template <class Command, auto Getter, class Value>
     void apply(Value value);
     [[nodiscard]] const core::document::Document* document() const;
 

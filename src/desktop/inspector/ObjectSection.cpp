@@ -108,6 +108,13 @@ void ObjectSection::apply(Value value)
         m_desk.session.apply(std::make_unique<Command>(*shown, std::move(value)));
 }
 
+template <class Command, class Value>
+void ObjectSection::applyUnlessLocked(Value value)
+{
+    if (object() && !object()->isLocked())
+        apply<Command>(std::move(value));
+}
+
 const core::content::ContentObject* ObjectSection::object() const
 {
     return m_desk.session.project().find(m_id);
@@ -123,7 +130,8 @@ void ObjectSection::showObject(const core::ContentId& id)
         return;
     if (readTags(m_tags->text()) != shown->tags() || !m_tags->hasFocus())
         m_tags->setText(writeTags(shown->tags()));
-    m_tags->setEnabled(!shown->isLocked());
+    for (QWidget* const edit : {static_cast<QWidget*>(m_tags), m_threadGroup, m_audienceGroup})
+        edit->setEnabled(!shown->isLocked());
     m_locked->setChecked(shown->isLocked());
     m_aiExcluded->setChecked(shown->isAiExcluded());
     m_pinned->setChecked(m_desk.session.project().isPinned(id));
@@ -190,7 +198,7 @@ void ObjectSection::toggleThread(const QString& threadId, bool on)
     ids.removeAll(threadId);
     if (on)
         ids.append(threadId);
-    apply<core::plot::SetObjectPlotThreadsCommand>(ids);
+    applyUnlessLocked<core::plot::SetObjectPlotThreadsCommand>(ids);
 }
 
 void ObjectSection::toggleAudience(const QString& audience, bool on)
@@ -202,14 +210,14 @@ void ObjectSection::toggleAudience(const QString& audience, bool on)
         audiences.insert(audience);
     else
         audiences.erase(audience);
-    apply<core::content::SetObjectVisibilityCommand>(audiences);
+    applyUnlessLocked<core::content::SetObjectVisibilityCommand>(audiences);
 }
 
 void ObjectSection::commitTags()
 {
     const NameSet tags = readTags(m_tags->text());
     if (object() && tags != object()->tags())
-        apply<core::content::SetObjectTagsCommand>(tags);
+        applyUnlessLocked<core::content::SetObjectTagsCommand>(tags);
 }
 
 } // namespace tw::desktop::inspector

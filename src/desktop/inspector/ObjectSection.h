@@ -37,6 +37,8 @@ private:
 
     template <class Command, class Value>
     void apply(Value value);
+    template <class Command, class Value>
+    void applyUnlessLocked(Value value);
     [[nodiscard]] const core::content::ContentObject* object() const;
     [[nodiscard]] static QWidget* makeGroup(const QString& title, QWidget*& box, QWidget* parent);
     void fillThreads();

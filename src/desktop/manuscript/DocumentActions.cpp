@@ -94,7 +94,15 @@ void DocumentActions::makeEditActions()
         m_editActions.append(action);
     };
     const auto step = [this](MoveDirection direction) {
-        return [this, direction] { stepDocument(m_desk.session, current(), direction); };
+        return [this, direction] {
+            const auto* const object = m_desk.session.project().find(current());
+            if (object && object->isLocked()) {
+                m_desk.navigator.say(tr("“%1” is locked. Unlock it in the inspector to move it.")
+                                         .arg(shell::objectTitle(*object)));
+            } else {
+                stepDocument(m_desk.session, current(), direction);
+            }
+        };
     };
     add(u"manuscript.rename"_s, Icon::Rename, tr("Re&name Document"), QKeySequence(Qt::Key_F2), [this] {
         if (const DocumentList* const list = activeList(); list && !current().isNull())

@@ -342,7 +342,9 @@ void DocumentPage::openLink(const QString& target)
 void DocumentPage::showLock()
 {
     const auto* const document = m_desk.session.project().findAs<Document>(objectId());
-    m_lockNotice->setVisible(document && document->isLocked());
+    const bool isLocked = document && document->isLocked();
+    m_lockNotice->setVisible(isLocked);
+    m_notes->setReadOnly(isLocked);
 }
 
 void DocumentPage::recount()

@@ -60,7 +60,7 @@ void setNoteText(
     const QString& text)
 {
     auto* const document = session.projectForCommands().findAsForEdit<Document>(documentId);
-    if (!document)
+    if (!document || document->isLocked())
         return;
     std::vector<Footnote> notes = document->footnotes();
     const auto found = std::ranges::find(notes, label, &Footnote::id);
@@ -73,7 +73,7 @@ void setNoteText(
 void removeNote(shell::ProjectSession& session, const core::ContentId& documentId, const QString& label)
 {
     auto* const document = session.projectForCommands().findAsForEdit<Document>(documentId);
-    if (!document)
+    if (!document || document->isLocked())
         return;
     std::vector<Footnote> notes = document->footnotes();
     if (std::erase_if(notes, [&label](const Footnote& note) { return note.id == label; }) > 0)

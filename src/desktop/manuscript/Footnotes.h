@@ -24,6 +24,7 @@ class RichPage;
 /** Adds an empty note at the cursor, as one step; gives its label, empty when the document cannot be changed.
  */
 QString insertNote(shell::ProjectSession& session, rich::RichPage& page, bool isEndnote);
+// Both leave the notes of a locked document as they are.
 /** Gives a note another text, as one step. */
 void setNoteText(
     shell::ProjectSession& session, const core::ContentId& documentId, const QString& label,

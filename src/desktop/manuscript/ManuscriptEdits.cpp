@@ -28,13 +28,21 @@ QString label(const char* text)
 /** The documents that no other one of the list lies above. */
 std::vector<ContentId> topmost(const core::project::Project& project, const std::vector<ContentId>& ids)
 {
+    const std::set<ContentId> listed(ids.begin(), ids.end());
     std::vector<ContentId> result;
     for (const ContentId& id : ids) {
         const auto* const document = project.findAs<Document>(id);
-        const bool isCarried = document && std::ranges::any_of(ids, [&](const ContentId& other) {
-                                   return other != id && core::document::isSameOrBeneath(project, id, other);
-                               });
-        if (document && !isCarried)
+        if (!document)
+            continue;
+        std::set<ContentId> visited{id};
+        ContentId above = document->parentId();
+        while (!listed.contains(above) && visited.insert(above).second) {
+            const auto* const parent = project.findAs<Document>(above);
+            if (!parent)
+                break;
+            above = parent->parentId();
+        }
+        if (above == id || !listed.contains(above))
             result.push_back(id);
     }
     return result;
@@ -135,7 +143,7 @@ void moveDocuments(
 
     const auto step = session.macro(label(QT_TRANSLATE_NOOP("ManuscriptEdits", "Move document")));
     for (const ContentId& id : moved) {
-        if (!core::document::canMoveDocument(project, id, parentId))
+        if (project.find(id)->isLocked() || !core::document::canMoveDocument(project, id, parentId))
             continue;
         session.apply(std::make_unique<MoveDocumentCommand>(
             project, id, parentId, indexBefore(project, parentId, anchorId, id)));
@@ -146,7 +154,7 @@ bool stepDocument(ProjectSession& session, const ContentId& id, MoveDirection di
 {
     auto& project = session.projectForCommands();
     const auto* const document = project.findAs<Document>(id);
-    if (!document)
+    if (!document || document->isLocked())
         return false;
     const ContentId parentId = parentInTree(project, *document);
     const std::vector<ContentId> siblings = siblingsInTree(project, *document);
@@ -184,9 +192,11 @@ bool stepDocument(ProjectSession& session, const ContentId& id, MoveDirection di
 
 ContentId firstLocked(const ProjectSession& session, const std::vector<ContentId>& ids)
 {
-    for (const ContentId& id : ids) {
-        for (const ContentId& below : core::document::documentSubtree(session.project(), id)) {
-            if (session.project().find(below)->isLocked())
+    const core::project::Project& project = session.project();
+    const core::document::DocumentTree tree = core::document::documentTree(project);
+    for (const ContentId& id : topmost(project, ids)) {
+        for (const ContentId& below : core::document::documentSubtree(tree, id)) {
+            if (project.find(below)->isLocked())
                 return below;
         }
     }
@@ -197,8 +207,9 @@ std::size_t removeDocuments(ProjectSession& session, const std::vector<ContentId
 {
     auto& project = session.projectForCommands();
     std::vector<ContentId> removed;
+    const core::document::DocumentTree tree = core::document::documentTree(project);
     for (const ContentId& id : topmost(project, ids)) {
-        const std::vector<ContentId> subtree = core::document::documentSubtree(project, id);
+        const std::vector<ContentId> subtree = core::document::documentSubtree(tree, id);
         removed.insert(removed.end(), subtree.begin(), subtree.end());
     }
     if (removed.empty())

@@ -28,7 +28,7 @@ core::ContentId addDocument(
 
 /**
  * Moves documents, in the given order, as one step. Those that lie beneath another one of the list go along
- * with it. Moves that would put a document under itself are left out.
+ * with it. Moves that would put a document under itself are left out, and so are locked documents.
  */
 void moveDocuments(
     shell::ProjectSession& session, const std::vector<core::ContentId>& ids, const core::ContentId& parentId,
@@ -44,7 +44,7 @@ enum class MoveDirection
     Out,
 };
 
-/** Moves one document a step; false when there is no such step. */
+/** Moves one document a step; false when there is no such step or the document is locked. */
 bool stepDocument(shell::ProjectSession& session, const core::ContentId& id, MoveDirection direction);
 
 /** The first locked document among these and everything beneath them; null when there is none. */

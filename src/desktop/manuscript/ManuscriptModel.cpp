@@ -12,6 +12,8 @@
 #include <QLocale>
 #include <QMimeData>
 
+#include <optional>
+
 namespace tw::desktop::manuscript {
 
 using namespace Qt::Literals::StringLiterals;
@@ -58,13 +60,15 @@ struct ManuscriptModel::Node
     ContentId id;
     Node* parent = nullptr;
     int row = 0;
-    std::vector<std::unique_ptr<Node>> children;
+    std::vector<Node*> children;
+    /** Of the document and all beneath it; none until it is asked for. */
+    mutable std::optional<qint64> words = {};
 };
 
 ManuscriptModel::ManuscriptModel(const shell::DeskContext& desk, QObject* parent)
     : QAbstractItemModel(parent)
     , m_desk(desk)
-    , m_root(std::make_unique<Node>())
+    , m_places(desk.session.project())
 {
     connect(&desk.session, &shell::ProjectSession::changed, this, &ManuscriptModel::followChanges);
     rebuild();
@@ -74,62 +78,55 @@ ManuscriptModel::~ManuscriptModel() = default;
 
 void ManuscriptModel::followChanges(const core::project::ProjectChanges& changes)
 {
-    if (changes.isEverything || !isSameStructure()) {
+    if (m_places.follow(m_desk.session.project(), changes)) {
         beginResetModel();
         rebuild();
         endResetModel();
         return;
     }
     for (const ContentId& id : changes.changed) {
+        const auto entry = m_nodes.find(id);
+        if (entry == m_nodes.end())
+            continue;
         // Words count upwards, so the parents show something else as well.
-        for (QModelIndex index = indexOf(id); index.isValid(); index = index.parent())
-            emit dataChanged(index, index.siblingAtColumn(outlineColumnCount - 1));
+        for (Node* node = entry->second.get(); node; node = node->parent)
+            node->words.reset();
+        for (const Node* node = entry->second.get(); node->parent; node = node->parent)
+            emit dataChanged(indexOfNode(*node), indexOfNode(*node, outlineColumnCount - 1));
     }
 }
 
-bool ManuscriptModel::isSameStructure() const
+ManuscriptModel::Node& ManuscriptModel::addNode(const ContentId& id, Node* parent)
 {
-    const DocumentTree tree = core::document::documentTree(m_desk.session.project());
-    std::size_t shown = 0;
-    for (const auto& [parentId, childIds] : tree) {
-        const auto entry = m_nodes.find(parentId);
-        if (entry == m_nodes.end())
-            return false;
-        const bool isSame = std::ranges::equal(
-            childIds, entry->second->children, {}, {}, [](const auto& child) { return child->id; });
-        if (!isSame)
-            return false;
-        shown += childIds.size();
+    auto node = std::make_unique<Node>();
+    node->id = id;
+    node->parent = parent;
+    if (parent) {
+        node->row = static_cast<int>(parent->children.size());
+        parent->children.push_back(node.get());
     }
-    // The root counts among the nodes.
-    return shown + 1 == m_nodes.size();
+    return *m_nodes.insert_or_assign(id, std::move(node)).first->second;
 }
 
 void ManuscriptModel::rebuild()
 {
     const DocumentTree tree = core::document::documentTree(m_desk.session.project());
-    m_root = std::make_unique<Node>();
-    m_nodes = {{ContentId(), m_root.get()}};
-    const auto fill = [&](auto&& self, Node& node) -> void {
+    m_nodes.clear();
+    std::vector<Node*> open{&addNode({}, nullptr)};
+    while (!open.empty()) {
+        Node& node = *open.back();
+        open.pop_back();
         const auto children = tree.find(node.id);
         if (children == tree.end())
-            return;
-        for (const ContentId& id : children->second) {
-            auto child = std::make_unique<Node>();
-            child->id = id;
-            child->parent = &node;
-            child->row = static_cast<int>(node.children.size());
-            m_nodes.emplace(id, child.get());
-            self(self, *child);
-            node.children.push_back(std::move(child));
-        }
-    };
-    fill(fill, *m_root);
+            continue;
+        for (const ContentId& id : children->second)
+            open.push_back(&addNode(id, &node));
+    }
 }
 
 const ManuscriptModel::Node* ManuscriptModel::nodeAt(const QModelIndex& index) const
 {
-    return index.isValid() ? static_cast<const Node*>(index.constInternalPointer()) : m_root.get();
+    return index.isValid() ? static_cast<const Node*>(index.constInternalPointer()) : m_nodes.at({}).get();
 }
 
 QModelIndex ManuscriptModel::indexOfNode(const Node& node, int column) const
@@ -185,10 +182,26 @@ QVariant ManuscriptModel::headerData(int section, Qt::Orientation orientation, i
 
 qint64 ManuscriptModel::wordsBeneath(const Node& node) const
 {
-    qint64 words = m_desk.session.words().ofDocument(node.id);
-    for (const auto& child : node.children)
-        words += wordsBeneath(*child);
-    return words;
+    if (node.words)
+        return *node.words;
+    // Children before their parents.
+    std::vector<const Node*> open{&node};
+    while (!open.empty()) {
+        const Node& current = *open.back();
+        const std::size_t before = open.size();
+        qint64 words = m_desk.session.words().ofDocument(current.id);
+        for (const Node* const child : current.children) {
+            if (child->words)
+                words += *child->words;
+            else
+                open.push_back(child);
+        }
+        if (open.size() > before)
+            continue;
+        current.words = words;
+        open.pop_back();
+    }
+    return *node.words;
 }
 
 QVariant ManuscriptModel::data(const QModelIndex& index, int role) const
@@ -256,11 +269,13 @@ Qt::ItemFlags ManuscriptModel::flags(const QModelIndex& index) const
     if (!index.isValid())
         return Qt::ItemIsDropEnabled;
     const auto* const document = m_desk.session.project().findAs<Document>(idAt(index));
-    const Qt::ItemFlags always =
-        Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
-    const bool canEdit =
-        document && !document->isLocked() && isEditable(static_cast<OutlineColumn>(index.column()));
-    return canEdit ? always | Qt::ItemIsEditable : always;
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDropEnabled;
+    if (document && !document->isLocked()) {
+        flags |= Qt::ItemIsDragEnabled;
+        if (isEditable(static_cast<OutlineColumn>(index.column())))
+            flags |= Qt::ItemIsEditable;
+    }
+    return flags;
 }
 
 Qt::DropActions ManuscriptModel::supportedDropActions() const

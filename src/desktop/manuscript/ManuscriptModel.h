@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/document/DocumentPlaces.h"
 #include "core/project/ProjectChanges.h"
 #include "desktop/icons/Icon.h"
 #include "desktop/manuscript/OutlineColumns.h"
@@ -11,10 +12,6 @@
 #include <map>
 #include <memory>
 #include <vector>
-
-namespace tw::core::document {
-class Document;
-}
 
 namespace tw::desktop::manuscript {
 
@@ -65,16 +62,18 @@ private:
     struct Node;
 
     void followChanges(const core::project::ProjectChanges& changes);
-    [[nodiscard]] bool isSameStructure() const;
     void rebuild();
+    [[nodiscard]] Node& addNode(const core::ContentId& id, Node* parent);
     [[nodiscard]] const Node* nodeAt(const QModelIndex& index) const;
     [[nodiscard]] QModelIndex indexOfNode(const Node& node, int column = 0) const;
     [[nodiscard]] QVariant textAt(const Node& node, OutlineColumn column) const;
     [[nodiscard]] qint64 wordsBeneath(const Node& node) const;
 
     shell::DeskContext m_desk;
-    std::unique_ptr<Node> m_root;
-    std::map<core::ContentId, Node*> m_nodes;
+    core::document::DocumentPlaces m_places;
+    /** By id, the top level under the null one. Held here and not by their parents: a damaged manuscript may
+     * be as deep as it is long. */
+    std::map<core::ContentId, std::unique_ptr<Node>> m_nodes;
 };
 
 } // namespace tw::desktop::manuscript

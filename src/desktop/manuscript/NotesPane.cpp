@@ -57,7 +57,7 @@ QSize NotesPane::sizeHint() const
 
 NotesPane::Row NotesPane::makeRow(const Footnote& note)
 {
-    Row row{note, new QWidget(this), nullptr};
+    Row row{note, new QWidget(this), nullptr, nullptr};
     auto* const layout = new QHBoxLayout(row.widget);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* const jump = new QToolButton(row.widget);
@@ -71,7 +71,8 @@ NotesPane::Row NotesPane::makeRow(const Footnote& note)
     row.text->setText(note.text);
     row.text->setPlaceholderText(note.isEndnote ? tr("Text of the endnote") : tr("Text of the footnote"));
     row.text->setAccessibleName(tr("Text of note %1").arg(note.id));
-    auto* const remove = new QToolButton(row.widget);
+    row.remove = new QToolButton(row.widget);
+    auto* const remove = row.remove;
     remove->setAutoRaise(true);
     remove->setIcon(m_desk.icons.icon(icons::Icon::Remove));
     remove->setToolTip(tr("Remove the note; its reference in the text stays"));
@@ -88,7 +89,21 @@ NotesPane::Row NotesPane::makeRow(const Footnote& note)
     connect(
         remove, &QToolButton::clicked, this,
         [this, label = note.id] { removeNote(m_desk.session, m_documentId, label); }, Qt::QueuedConnection);
+    applyReadOnly(row);
     return row;
+}
+
+void NotesPane::applyReadOnly(const Row& row) const
+{
+    row.text->setReadOnly(m_isReadOnly);
+    row.remove->setEnabled(!m_isReadOnly);
+}
+
+void NotesPane::setReadOnly(bool isReadOnly)
+{
+    m_isReadOnly = isReadOnly;
+    for (const Row& row : m_rows)
+        applyReadOnly(row);
 }
 
 void NotesPane::showNotes(const std::vector<Footnote>& notes, const QStringList& references)

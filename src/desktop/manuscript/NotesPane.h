@@ -8,6 +8,7 @@
 #include <vector>
 
 class QScrollArea;
+class QToolButton;
 class QVBoxLayout;
 
 namespace tw::desktop::fields {
@@ -27,6 +28,8 @@ public:
 
     /** Shows the notes in the order of the references. */
     void showNotes(const std::vector<core::document::Footnote>& notes, const QStringList& references);
+    /** The notes of a locked document can be read and not written. */
+    void setReadOnly(bool isReadOnly);
     [[nodiscard]] bool hasNotes() const { return !m_rows.empty(); }
     /** Puts the cursor into the note's text; false when there is no such note. */
     bool focusNote(const QString& label);
@@ -45,8 +48,10 @@ private:
         core::document::Footnote note;
         QWidget* widget = nullptr;
         fields::GrowingTextEdit* text = nullptr;
+        QToolButton* remove = nullptr;
     };
 
+    void applyReadOnly(const Row& row) const;
     [[nodiscard]] Row makeRow(const core::document::Footnote& note);
 
     shell::DeskContext m_desk;
@@ -54,6 +59,7 @@ private:
     QScrollArea* m_scroll;
     QVBoxLayout* m_layout;
     std::vector<Row> m_rows;
+    bool m_isReadOnly = false;
 };
 
 } // namespace tw::desktop::manuscript

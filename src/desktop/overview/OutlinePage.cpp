@@ -6,6 +6,7 @@
 #include "desktop/overview/ChoiceDelegate.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/trees/CommittingView.h"
+#include "desktop/trees/OpenRows.h"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -109,16 +110,8 @@ void OutlinePage::renameIn(const ContentId& id)
 void OutlinePage::restoreView()
 {
     const QScopedValueRollback guard(m_isRestoring, true);
-    restoreExpansion(filter().rootIndex());
-}
-
-void OutlinePage::restoreExpansion(const QModelIndex& parent)
-{
-    for (int row = 0; row < filter().rowCount(parent); ++row) {
-        const QModelIndex index = filter().index(row, 0, parent);
+    for (const QModelIndex& index : trees::rowsToOpen(filter(), filter().rootIndex()))
         m_tree->setExpanded(index, !m_collapsed.contains(filter().idAt(index)));
-        restoreExpansion(index);
-    }
 }
 
 } // namespace tw::desktop::overview

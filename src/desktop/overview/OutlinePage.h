@@ -27,7 +27,6 @@ protected:
 private:
     void setUpColumns();
     void renameIn(const core::ContentId& id);
-    void restoreExpansion(const QModelIndex& parent);
 
     QTreeView* m_tree;
     QSet<core::ContentId> m_collapsed;

@@ -70,8 +70,10 @@ void EditorProofreader::checkSlice()
         return;
     }
     const QDeadlineTimer deadline(sliceLength);
+    // Nothing scrolls within a slice, and asking costs about as much as a paragraph.
+    const VisibleBlocks inSight = visibleBlocks(m_editor);
     while (!deadline.hasExpired()) {
-        if (!checkNext()) {
+        if (!checkNext(inSight)) {
             m_slice.stop();
             return;
         }
@@ -80,15 +82,15 @@ void EditorProofreader::checkSlice()
 
 void EditorProofreader::finishNow()
 {
-    while (checkNext()) {
+    const VisibleBlocks inSight = visibleBlocks(m_editor);
+    while (checkNext(inSight)) {
     }
     m_slice.stop();
 }
 
-bool EditorProofreader::checkNext()
+bool EditorProofreader::checkNext(const VisibleBlocks& inSight)
 {
-    const auto [first, last] = visibleBlocks(m_editor);
-    int block = m_findings.nextExpired(first, last);
+    int block = m_findings.nextExpired(inSight.first, inSight.second);
     if (block < 0)
         block = m_findings.nextExpired();
     if (block < 0)

@@ -15,6 +15,7 @@ namespace tw::desktop::proofreading {
 
 class ProofreadingService;
 class UnderlineOverlay;
+struct VisibleBlocks;
 
 /**
  * Proofreads what one editor shows while it is written: what is in sight first and the rest when the writer
@@ -60,8 +61,8 @@ protected:
 private:
     void restart();
     void checkSlice();
-    /** Checks the next paragraph; false when none is left. */
-    bool checkNext();
+    /** Checks the next paragraph, those in sight first; false when none is left. */
+    bool checkNext(const VisibleBlocks& inSight);
     void check(int block);
     [[nodiscard]] QTextBlock blockOf(const Place& place) const;
 

@@ -133,6 +133,14 @@ bool ProofreadingService::hasLanguagesOfItsOwn(const core::ContentId& document) 
     return !documentLanguages(m_desk.settings, document).isEmpty();
 }
 
+QLocale ProofreadingService::spokenLanguageOf(const core::ContentId& document) const
+{
+    const QStringList own = documentLanguages(m_desk.settings, document);
+    const QLocale language = own.isEmpty() ? QLocale() : QLocale(own.constFirst());
+    // A word list may have a name that is no language.
+    return language.language() == QLocale::C ? QLocale() : language;
+}
+
 void ProofreadingService::setLanguagesOf(const core::ContentId& document, const QStringList& languages)
 {
     storeDocumentLanguages(m_desk.settings, document, languages);

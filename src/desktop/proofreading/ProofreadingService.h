@@ -7,6 +7,7 @@
 #include "desktop/shell/DeskContext.h"
 
 #include <QHash>
+#include <QLocale>
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
@@ -68,6 +69,8 @@ public:
     /** What a document is checked in: its own languages, the user's, or that of the system. */
     [[nodiscard]] QStringList languagesOf(const core::ContentId& document) const;
     [[nodiscard]] bool hasLanguagesOfItsOwn(const core::ContentId& document) const;
+    /** What a document is read aloud in: the first of its own languages, or that of the interface. */
+    [[nodiscard]] QLocale spokenLanguageOf(const core::ContentId& document) const;
     /** None has it follow the settings again. */
     void setLanguagesOf(const core::ContentId& document, const QStringList& languages);
     /** Why a chosen dictionary could not be read; empty when all could. */

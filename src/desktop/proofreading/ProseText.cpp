@@ -1,5 +1,6 @@
 #include "desktop/proofreading/ProseText.h"
 
+#include "core/document/markup/Attributes.h"
 #include "core/document/markup/Blocks.h"
 #include "core/document/markup/Inline.h"
 #include "core/document/markup/LegacyHtml.h"
@@ -14,6 +15,15 @@ using markup::BlockKind;
 using markup::RunKind;
 
 namespace {
+
+/** Blanks the groups that stand among the words. */
+void blankGroups(QString& text)
+{
+    for (const markup::SourceRange& group : markup::findGroups(text)) {
+        const qsizetype length = group.end - group.start;
+        text.replace(group.start, length, QString(length, QChar::ObjectReplacementCharacter));
+    }
+}
 
 QString proseOf(QStringView inlineMarkdown)
 {
@@ -36,20 +46,8 @@ QString proseOf(QStringView inlineMarkdown)
             break;
         }
     }
+    blankGroups(prose);
     return prose;
-}
-
-/** Blanks the groups "{.tw ...}" of the source. */
-void blankGroups(QString& text)
-{
-    const QLatin1StringView opening("{.tw");
-    for (qsizetype start = text.indexOf(opening); start >= 0; start = text.indexOf(opening, start + 1)) {
-        const qsizetype close = text.indexOf(u'}', start);
-        if (close < 0)
-            return;
-        for (qsizetype index = start; index <= close; ++index)
-            text[index] = QChar::ObjectReplacementCharacter;
-    }
 }
 
 } // namespace

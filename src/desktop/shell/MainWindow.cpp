@@ -50,15 +50,12 @@ constexpr int messageTime = 6000;
 core::ContentId firstDocumentToWriteIn(const core::project::Project& project)
 {
     const core::document::DocumentTree tree = core::document::documentTree(project);
-    const auto roots = tree.find({});
     core::ContentId firstLeaf;
-    for (const core::ContentId& root : roots == tree.end() ? std::vector<core::ContentId>() : roots->second) {
-        for (const core::ContentId& id : core::document::documentSubtree(project, root)) {
-            if (!project.findAs<core::document::Document>(id)->body().text.isEmpty())
-                return id;
-            if (firstLeaf.isNull() && !tree.contains(id))
-                firstLeaf = id;
-        }
+    for (const core::ContentId& id : core::document::documentsInReadingOrder(project)) {
+        if (!project.findAs<core::document::Document>(id)->body().text.isEmpty())
+            return id;
+        if (firstLeaf.isNull() && !tree.contains(id))
+            firstLeaf = id;
     }
     return firstLeaf;
 }

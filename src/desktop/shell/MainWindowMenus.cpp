@@ -169,7 +169,8 @@ void MainWindow::readAloud()
     QTextCursor cursor = editor->textCursor();
     if (!cursor.hasSelection())
         cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
-    if (!m_readAloud->read(cursor.selectedText(), QLocale()))
+    const QLocale language = m_proofreading->spokenLanguageOf(page->editedDocument());
+    if (!m_readAloud->read(cursor.selectedText(), language))
         say(tr("No voice is installed. Install a speech engine for your system to have texts read aloud."));
 }
 

@@ -33,6 +33,13 @@ Document* documentForEdit(shell::ProjectSession& session, const core::ContentId&
     return session.projectForCommands().findAsForEdit<Document>(id);
 }
 
+/** The same, for edits that a lock forbids. */
+Document* unlockedForEdit(shell::ProjectSession& session, const core::ContentId& id)
+{
+    Document* const document = documentForEdit(session, id);
+    return document && !document->isLocked() ? document : nullptr;
+}
+
 DocumentVersion versionOf(const DocumentBody& body, const QString& label, const QDateTime& now)
 {
     return {label, now.toUTC().toString(Qt::ISODate), body.text, body.format};
@@ -98,7 +105,7 @@ void takeSnapshot(
 void restoreSnapshot(
     shell::ProjectSession& session, const core::ContentId& id, std::size_t snapshot, const QDateTime& now)
 {
-    Document* const document = documentForEdit(session, id);
+    Document* const document = unlockedForEdit(session, id);
     if (!document || snapshot >= document->versions().size())
         return;
     const DocumentVersion version = document->versions()[snapshot];
@@ -111,7 +118,7 @@ bool restorePassage(
     shell::ProjectSession& session, const core::ContentId& id, std::size_t snapshot,
     const app::text::ChangedPassage& passage, const QDateTime& now)
 {
-    Document* const document = documentForEdit(session, id);
+    Document* const document = unlockedForEdit(session, id);
     if (!document || snapshot >= document->versions().size())
         return false;
     const DocumentVersion version = document->versions()[snapshot];
@@ -132,7 +139,7 @@ bool restorePassage(
 void renameSnapshot(
     shell::ProjectSession& session, const core::ContentId& id, std::size_t snapshot, const QString& label)
 {
-    Document* const document = documentForEdit(session, id);
+    Document* const document = unlockedForEdit(session, id);
     if (!document || snapshot >= document->versions().size() || document->versions()[snapshot].label == label)
         return;
     std::vector<DocumentVersion> versions = document->versions();
@@ -142,7 +149,7 @@ void renameSnapshot(
 
 void removeSnapshot(shell::ProjectSession& session, const core::ContentId& id, std::size_t snapshot)
 {
-    Document* const document = documentForEdit(session, id);
+    Document* const document = unlockedForEdit(session, id);
     if (!document || snapshot >= document->versions().size())
         return;
     std::vector<DocumentVersion> versions = document->versions();
@@ -168,7 +175,7 @@ QString variantNameProblem(const Document& document, const QString& name, const 
 
 void addVariant(shell::ProjectSession& session, const core::ContentId& id, const QString& name)
 {
-    Document* const document = documentForEdit(session, id);
+    Document* const document = unlockedForEdit(session, id);
     if (!document || !variantNameProblem(*document, name).isEmpty())
         return;
     DocumentVariants variants = document->variants();
@@ -180,7 +187,7 @@ void addVariant(shell::ProjectSession& session, const core::ContentId& id, const
 
 void useVariant(shell::ProjectSession& session, const core::ContentId& id, const QString& name)
 {
-    Document* const document = documentForEdit(session, id);
+    Document* const document = unlockedForEdit(session, id);
     if (!document || document->variants().active == name)
         return;
     DocumentVariants variants = document->variants();
@@ -193,7 +200,7 @@ void useVariant(shell::ProjectSession& session, const core::ContentId& id, const
 void renameVariant(
     shell::ProjectSession& session, const core::ContentId& id, const QString& name, const QString& newName)
 {
-    Document* const document = documentForEdit(session, id);
+    Document* const document = unlockedForEdit(session, id);
     if (!document || newName.trimmed() == name || !variantNameProblem(*document, newName, name).isEmpty())
         return;
     DocumentVariants variants = document->variants();
@@ -208,7 +215,7 @@ void renameVariant(
 
 void removeVariant(shell::ProjectSession& session, const core::ContentId& id, const QString& name)
 {
-    Document* const document = documentForEdit(session, id);
+    Document* const document = unlockedForEdit(session, id);
     if (!document)
         return;
     DocumentVariants variants = document->variants();

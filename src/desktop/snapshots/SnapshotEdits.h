@@ -10,7 +10,8 @@ class ProjectSession;
 }
 
 // What is done with snapshots and variants of a document, each as one undo step. Snapshots are told by their
-// place in Document::versions(); functions do nothing where the document or the place does not exist.
+// place in Document::versions(); functions do nothing where the document or the place does not exist. Of a
+// locked document snapshots can be taken, and nothing else.
 namespace tw::desktop::snapshots {
 
 /** Keeps the text in use. A text that the newest snapshot holds already is not kept twice, unless it is named

@@ -127,6 +127,8 @@ void SnapshotsPanel::makeActions()
     m_remove = makeAction(Icon::Remove, tr("&Delete Snapshot"), [this] { remove(); });
     m_remove->setShortcut(QKeySequence::Delete);
     m_remove->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_addVariant =
+        makeAction(Icon::Add, tr("&New Variant from the Present Text…"), [this] { nameVariant({}); });
     m_renameVariant = makeAction(
         Icon::Rename, tr("&Rename Variant…"), [this] { nameVariant(m_variant->currentData().toString()); });
     m_removeVariant = makeAction(Icon::Remove, tr("&Delete Variant"), [this] {
@@ -143,9 +145,7 @@ QWidget* SnapshotsPanel::makeVariantRow()
     m_variant->setToolTip(tr("The variant of the text that the editor shows"));
     m_variant->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     row->addWidget(m_variant, 1);
-    row->addWidget(buttonFor(
-        makeAction(Icon::Add, tr("&New Variant from the Present Text…"), [this] { nameVariant({}); }),
-        widget));
+    row->addWidget(buttonFor(m_addVariant, widget));
     auto* const more = new QToolButton(widget);
     more->setIcon(m_desk.icons.icon(Icon::More));
     more->setToolTip(tr("More for this variant"));
@@ -225,6 +225,11 @@ void SnapshotsPanel::buildLayout()
 const Document* SnapshotsPanel::document() const
 {
     return m_desk.session.project().findAs<Document>(m_desk.navigator.current());
+}
+
+bool SnapshotsPanel::canEdit() const
+{
+    return document() && !document()->isLocked();
 }
 
 std::optional<std::size_t> SnapshotsPanel::selected() const
@@ -308,6 +313,8 @@ void SnapshotsPanel::showDocument()
     const int last = m_model->rowCount() - 1;
     m_list->setCurrentIndex(
         m_model->index(kept ? std::clamp(m_model->rowOf(*kept), 0, last) : std::min(1, last)));
+    m_list->setEditTriggers(
+        canEdit() ? QAbstractItemView::EditKeyPressed : QAbstractItemView::NoEditTriggers);
     showVariants();
     refreshOthers();
     refreshComparison();
@@ -322,15 +329,17 @@ void SnapshotsPanel::showVariants()
         m_variant->addItem(tr("Variant: %1").arg(variant.name), variant.name);
     const auto* const active = core::document::activeVariant(*document());
     m_variant->setCurrentIndex(active ? m_variant->findData(active->name) : 0);
-    m_renameVariant->setEnabled(active != nullptr);
-    m_removeVariant->setEnabled(active != nullptr);
+    m_variant->setEnabled(canEdit());
+    m_addVariant->setEnabled(canEdit());
+    m_renameVariant->setEnabled(active && canEdit());
+    m_removeVariant->setEnabled(active && canEdit());
 }
 
 void SnapshotsPanel::refreshOthers()
 {
     const auto snapshot = selected();
     for (QAction* const action : {m_restore, m_rename, m_remove})
-        action->setEnabled(snapshot.has_value());
+        action->setEnabled(snapshot.has_value() && canEdit());
     const QVariant kept = m_other->currentData();
     m_other->clear();
     for (int row = 0; row < m_model->rowCount(); ++row) {
@@ -353,7 +362,8 @@ void SnapshotsPanel::refreshComparison()
     const bool isOlder = snapshot && (!other || *snapshot < *other);
     m_difference->compare(
         textOf(isOlder ? snapshot : other), textOf(isOlder ? other : snapshot),
-        snapshot && !other ? DifferenceView::Restoring::Offered : DifferenceView::Restoring::NotOffered);
+        snapshot && !other && canEdit() ? DifferenceView::Restoring::Offered
+                                        : DifferenceView::Restoring::NotOffered);
 }
 
 void SnapshotsPanel::showContextMenu(const QPoint& place)

@@ -56,6 +56,7 @@ private:
     void refreshComparison();
     void showContextMenu(const QPoint& place);
     [[nodiscard]] const core::document::Document* document() const;
+    [[nodiscard]] bool canEdit() const;
     /** The snapshot that is selected; none for the present text. */
     [[nodiscard]] std::optional<std::size_t> selected() const;
     /** What a row of the list says, as Markdown. */
@@ -74,6 +75,7 @@ private:
     QAction* m_restore = nullptr;
     QAction* m_rename = nullptr;
     QAction* m_remove = nullptr;
+    QAction* m_addVariant = nullptr;
     QAction* m_renameVariant = nullptr;
     QAction* m_removeVariant = nullptr;
 };

@@ -3,6 +3,8 @@
 #include <QTextToSpeech>
 #include <QVoice>
 
+#include <algorithm>
+
 namespace tw::desktop::speech {
 
 using namespace Qt::Literals::StringLiterals;
@@ -50,6 +52,14 @@ QStringList speakablePieces(const QString& text)
     return pieces;
 }
 
+std::optional<QLocale> nearestLocale(const QList<QLocale>& available, const QLocale& language)
+{
+    if (available.contains(language))
+        return language;
+    const auto near = std::ranges::find(available, language.language(), &QLocale::language);
+    return near == available.end() ? std::nullopt : std::optional(*near);
+}
+
 ReadAloud::ReadAloud(QObject* parent)
     : QObject(parent)
 {}
@@ -70,6 +80,7 @@ bool ReadAloud::findVoice(const QLocale& language)
         if (engines.isEmpty())
             return false;
         m_speech = new QTextToSpeech(engines.constFirst(), this);
+        m_systemLocale = m_speech->locale();
         connect(m_speech, &QTextToSpeech::stateChanged, this, [this](QTextToSpeech::State state) {
             if (state == QTextToSpeech::Ready && m_isReading)
                 sayNext();
@@ -79,8 +90,10 @@ bool ReadAloud::findVoice(const QLocale& language)
     }
     if (m_speech->state() == QTextToSpeech::Error)
         return false;
-    if (m_speech->availableLocales().contains(language))
-        m_speech->setLocale(language);
+    // The text before this one may have been in another language.
+    const QLocale locale = nearestLocale(m_speech->availableLocales(), language).value_or(m_systemLocale);
+    if (m_speech->locale() != locale)
+        m_speech->setLocale(locale);
     return !m_speech->availableVoices().isEmpty();
 }
 

@@ -4,12 +4,17 @@
 #include <QObject>
 #include <QStringList>
 
+#include <optional>
+
 class QTextToSpeech;
 
 namespace tw::desktop::speech {
 
 /** The paragraphs of a text that have something to be read, in pieces that a voice takes at once. */
 [[nodiscard]] QStringList speakablePieces(const QString& text);
+
+/** The one that can read the language: of the same country if there is one. None when nobody speaks it. */
+[[nodiscard]] std::optional<QLocale> nearestLocale(const QList<QLocale>& available, const QLocale& language);
 
 /**
  * Reads texts aloud with the voices of the system, paragraph by paragraph. The system's speech is looked for
@@ -24,7 +29,10 @@ public:
     ~ReadAloud() override;
 
     [[nodiscard]] bool isReading() const { return m_isReading; }
-    /** Begins with this text instead of whatever is being read. False when no voice is installed. */
+    /**
+     * Begins with this text instead of whatever is being read, in the voice of the system where no voice
+     * speaks the language. False when no voice is installed.
+     */
     bool read(const QString& text, const QLocale& language);
     void stop();
 
@@ -37,6 +45,7 @@ private:
     void setReading(bool isReading);
 
     QTextToSpeech* m_speech = nullptr;
+    QLocale m_systemLocale;
     QStringList m_waiting;
     bool m_isReading = false;
 };

@@ -1,5 +1,6 @@
 #include "desktop/trees/NavigatorTree.h"
 
+#include "desktop/trees/OpenRows.h"
 #include "desktop/trees/TreeRoles.h"
 #include "desktop/trees/TreeRowDelegate.h"
 
@@ -69,7 +70,7 @@ void NavigatorTree::setFilter(const QString& text)
     setDragEnabled(text.isEmpty());
     setAcceptDrops(text.isEmpty());
     if (text.isEmpty())
-        restoreExpansion({});
+        restoreExpansion();
     else
         expandAll();
     showHint();
@@ -149,7 +150,7 @@ void NavigatorTree::setCollapsedIds(const QStringList& ids)
 {
     m_collapsed = QSet<QString>(ids.begin(), ids.end());
     const QScopedValueRollback guard(m_restoring, true);
-    restoreExpansion({});
+    restoreExpansion();
 }
 
 void NavigatorTree::currentChanged(const QModelIndex& current, const QModelIndex& previous)
@@ -180,21 +181,19 @@ void NavigatorTree::rememberState()
 void NavigatorTree::restoreState()
 {
     const QScopedValueRollback guard(m_restoring, true);
-    restoreExpansion({});
+    restoreExpansion();
     showHint();
 }
 
-void NavigatorTree::restoreExpansion(const QModelIndex& parent)
+void NavigatorTree::restoreExpansion()
 {
-    for (int row = 0; row < m_filter.rowCount(parent); ++row) {
-        const QModelIndex index = m_filter.index(row, 0, parent);
+    for (const QModelIndex& index : rowsToOpen(m_filter)) {
         const QString id = index.data(IdRole).toString();
         setExpanded(index, !m_collapsed.contains(id));
         if (id == m_currentId)
             selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
         if (m_selectedIds.contains(id))
             selectionModel()->select(index, QItemSelectionModel::Select);
-        restoreExpansion(index);
     }
 }
 

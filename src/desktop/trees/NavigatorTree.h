@@ -57,7 +57,7 @@ protected:
 private:
     void rememberState();
     void restoreState();
-    void restoreExpansion(const QModelIndex& parent);
+    void restoreExpansion();
     void showHint();
 
     /** Rows that match, and of each the first column. */

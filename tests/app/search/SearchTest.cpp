@@ -55,6 +55,10 @@ TEST(SearchTest, looksThroughTheProseAndPointsIntoTheBody)
         {{u"tide"_s, false, true}, u"Tide, tides, low-tide"_s, u"Tide / tide"_s},
         {{u"red"_s}, u"[red]{.tw color=red} [^red] [x](red) {.tw style=\"red\"}"_s, u"red"_s},
         {{u"a & b"_s}, u"a &amp; b"_s, u"a &amp; b"_s},
+        {{u"zzz"_s},
+         u"a {.tw color=zzz} *{.tw zzz\nzzz}* `{.tw zzz}` \\{.tw zzz}\n\n```\n{.tw zzz}\n```\n\n| {.tw zzz} |\n|---|"_s,
+         QString()},
+        {{u"zzz"_s}, u"{.tw zzz {\\.tw zzz} zzz"_s, u"zzz"_s},
         {{u"one two"_s}, u"one\ntwo\n\n> one\n> two"_s, u"one\ntwo / one\n> two"_s},
         {{u"a\\s+b"_s, false, false, true}, u"a\n\nb a b"_s, u"a b"_s},
         {{u"^\\w+"_s, false, false, true}, u"# One two\n\n- three four"_s, u"One / three"_s},
@@ -123,6 +127,13 @@ TEST(SearchTest, replacementsLeaveTheMarkupWhole)
          u"a {.tw align=center}\n\nb {.tw indent=2}"_s,
          u"c"_s,
          u"a {.tw align=center}\n\nc {.tw indent=2}"_s},
+        {{u"b"_s},
+         u"b {.tw color=b} `b {.tw b}` *b*{.tw b} b\n\n~~~\nb {.tw b} b\n~~~"_s,
+         u"c"_s,
+         u"c {.tw color=b} `c {.tw b}` *c*{.tw b} c\n\n~~~\nc {.tw b} c\n~~~"_s},
+        {{u"a  b"_s}, u"x a {.tw u} b y"_s, u"c"_s, u"x c{.tw u} y"_s},
+        // Marks that a group tears apart are left alone.
+        {{u"b"_s}, u"b {.tw *b} b*"_s, u"c"_s, u"b {.tw *b} b*"_s},
     };
     for (const auto& sample : cases)
         EXPECT_EQ(replaced(sample.query, sample.body, sample.replacement), sample.expected)

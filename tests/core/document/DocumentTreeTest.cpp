@@ -1,5 +1,6 @@
 #include "core/document/DocumentTree.h"
 #include "core/document/DocumentCommands.h"
+#include "core/document/DocumentPlaces.h"
 #include "core/undo/UndoStack.h"
 
 #include <gtest/gtest.h>
@@ -109,6 +110,55 @@ TEST_F(DocumentTreeTest, treeShowsEveryDocumentOnceAlsoWhenLinksAreDamaged)
     EXPECT_EQ(tree.at({}).size(), 4U) << "chapter, orphan and the two in the loop";
     EXPECT_EQ(tree.at(orphan), std::vector{child});
     EXPECT_EQ(documentSubtree(project, chapter), (std::vector{chapter, scene}));
+}
+
+TEST_F(DocumentTreeTest, chainsAndLoopsCostNoMoreThanTheirDocuments)
+{
+    constexpr qint32 length = 20'000;
+    ContentId above;
+    ContentId first;
+    for (qint32 index = 0; index < length; ++index) {
+        above = add(QString(), above, index);
+        first = first.isNull() ? above : first;
+    }
+    EXPECT_EQ(documentTree(project).size(), static_cast<std::size_t>(length));
+    const std::vector<ContentId> order = documentsInReadingOrder(project);
+    EXPECT_EQ(order.size(), static_cast<std::size_t>(length));
+    EXPECT_EQ(order.back(), above);
+    EXPECT_EQ(documentSubtree(project, first), order);
+
+    edit(first).setParentId(above);
+    EXPECT_EQ(documentTree(project).at({}).size(), static_cast<std::size_t>(length));
+    EXPECT_EQ(documentsInReadingOrder(project).size(), static_cast<std::size_t>(length));
+}
+
+TEST_F(DocumentTreeTest, placesTellWhetherTheShapeIsAnother)
+{
+    const ContentId chapter = add(u"chapter"_s, {}, 0);
+    const ContentId scene = add(u"scene"_s, {}, 1);
+    DocumentPlaces places(project);
+    static_cast<void>(project.takeChanges());
+    const auto isMoved = [&] { return places.follow(project, project.takeChanges()); };
+    const auto touched = [&](const ContentId& id) -> Document& {
+        edit(id).touch();
+        return edit(id);
+    };
+    touched(scene).setTitle(u"Scene"_s);
+    EXPECT_FALSE(isMoved());
+    move(scene, chapter, 0);
+    EXPECT_TRUE(isMoved());
+    EXPECT_FALSE(isMoved());
+    touched(scene).setSortIndex(7);
+    EXPECT_TRUE(isMoved());
+    touched(scene).setDocumentKind(DocumentKind::Note);
+    EXPECT_TRUE(isMoved());
+    const ContentId other = add(u"other"_s, {}, 2);
+    EXPECT_TRUE(isMoved());
+    EXPECT_TRUE(project.take(other));
+    EXPECT_TRUE(isMoved());
+    project::ProjectChanges everything;
+    everything.isEverything = true;
+    EXPECT_TRUE(places.follow(project, everything));
 }
 
 } // namespace tw::core::document

@@ -165,21 +165,6 @@ TEST_F(SchemaTest, damagedLoopsEnd)
     EXPECT_TRUE(isCategoryBeneath(project, b, a));
 }
 
-TEST_F(SchemaTest, aKeyCrossesAnyNumberOfEntities)
-{
-    constexpr int levels = 20'000;
-    Entity* holder = &addEntity(u"Outermost"_s, {});
-    holder->setOwnFields({field(u"k"_s), field(u"other"_s)});
-    CategoryId innermost;
-    for (int level = 0; level < levels; ++level) {
-        innermost = addCategory(u"C"_s, {}, {});
-        edit(innermost).parentEntityId = holder->id();
-        edit(innermost).inheritedKeys = {u"k"_s};
-        holder = &addEntity(u"E"_s, innermost);
-    }
-    EXPECT_EQ(keys(schemaOfEntity(project, *holder)), QStringList{u"k"_s});
-}
-
 TEST_F(SchemaTest, movesThatWouldCloseALoopAreRefused)
 {
     const auto a = addCategory(u"A"_s, {}, {});
@@ -227,6 +212,22 @@ TEST_F(SchemaTest, removingACategoryPromotesWhatItHeld)
     EXPECT_EQ(stack.undoText(), u"Set excluded properties"_s);
     stack.undo();
     EXPECT_EQ(project.taxonomy().categories().size(), 3U);
+}
+
+TEST_F(SchemaTest, aWayThroughAnyNumberOfEntitiesIsWalked)
+{
+    const auto outermost = addCategory(u"0"_s, {}, {field(u"key"_s)});
+    CategoryId innermost = outermost;
+    for (int level = 1; level < 20'000; ++level) {
+        const Entity& holder = addEntity(QString(), innermost);
+        innermost = addCategory(QString(), {}, {});
+        edit(innermost).parentEntityId = holder.id();
+        edit(innermost).inheritedKeys = {u"key"_s};
+    }
+    const auto schema = schemaOfCategory(project, innermost);
+    EXPECT_EQ(keys(schema), QStringList{u"key"_s});
+    EXPECT_EQ(schema[0].origin, FieldOrigin::ParentEntity);
+    EXPECT_EQ(schema[0].definedBy, outermost);
 }
 
 } // namespace tw::core::entity

@@ -201,6 +201,19 @@ TEST_F(CodexModelTest, droppingMovesOrSaysWhyNot)
     EXPECT_FALSE(desk.session.canUndo());
 }
 
+TEST_F(CodexModelTest, whatIsLockedStaysInItsCategory)
+{
+    QSignalSpy said(&desk.navigator, &shell::Navigator::said);
+    const QString before = shape(model);
+    entity(annis).setLocked(true);
+    drop(model, {CodexItem::entity(annis), CodexItem::entity(bream)}, -1, at(CodexItem::category(places)));
+    EXPECT_EQ(shape(model), before);
+    ASSERT_EQ(said.count(), 1);
+    EXPECT_EQ(said[0][0].toString(), u"“Annis” is locked. Unlock it in the inspector to move it."_s);
+    EXPECT_FALSE(renameEntity(desk.session, annis, u"Other"_s));
+    EXPECT_FALSE(desk.session.canUndo());
+}
+
 TEST_F(CodexModelTest, staysTrueThroughRandomEdits)
 {
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);

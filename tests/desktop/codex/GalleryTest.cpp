@@ -83,6 +83,13 @@ TEST_F(GalleryTest, movesAndRemovesFromThePage)
     EXPECT_EQ(gallery(), (QStringList{u"two"_s, u"one"_s})) << "it is the first already";
     EXPECT_EQ(desk.session.undoText(), before);
 
+    entity(annis).setLocked(true);
+    EXPECT_TRUE(addToGallery(desk.session, annis, files({u"three.png"_s})));
+    moveInGallery(desk.session, annis, entity(annis).gallery().back(), GalleryMove::Earlier);
+    removeFromGallery(desk.session, annis, entity(annis).gallery().front());
+    EXPECT_EQ(gallery(), (QStringList{u"two"_s, u"one"_s})) << "the entity is locked";
+    entity(annis).setLocked(false);
+
     section.showEntity(entity(annis));
     auto pictures = section.findChildren<GalleryPicture*>();
     ASSERT_EQ(pictures.size(), 2);

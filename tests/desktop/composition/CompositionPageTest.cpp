@@ -1,5 +1,6 @@
 #include "desktop/composition/CompositionPage.h"
 
+#include "core/document/DocumentCommands.h"
 #include "desktop/composition/SceneSlot.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/ManuscriptEdits.h"
@@ -81,6 +82,22 @@ TEST_F(CompositionPageTest, comesBackToWhereTheWriterWas)
     page = show();
     page->takeFocus();
     EXPECT_TRUE(page->currentEditor()) << "another document where that one is gone";
+}
+
+TEST_F(CompositionPageTest, theWholeManuscriptLeavesNothingOut)
+{
+    const ContentId orphan = desk.addDocument(u"Orphan"_s, ContentId::create(), 5);
+    const ContentId child = desk.addDocument(u"Child"_s, orphan, 0);
+    const ContentId loop = desk.addDocument(u"Loop"_s, {}, 6);
+    desk.document(loop).setParentId(loop);
+    desk.announce();
+    const CompositionPage page(desk.context, {}, nullptr);
+    EXPECT_EQ(shown(page), (std::vector{part, one, two, orphan, child, loop}));
+    manuscript::moveDocuments(desk.session, {two}, part, one);
+    EXPECT_EQ(shown(page), (std::vector{part, two, one, orphan, child, loop}));
+    desk.session.apply(
+        std::make_unique<core::document::SetDocumentKindCommand>(desk.document(two), DocumentKind::Note));
+    EXPECT_EQ(shown(page), (std::vector{part, one, orphan, child, loop}));
 }
 
 TEST_F(CompositionPageTest, eachEditGoesToItsDocument)

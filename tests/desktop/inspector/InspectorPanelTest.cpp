@@ -1,9 +1,13 @@
 #include "desktop/inspector/InspectorPanel.h"
 
+#include "core/content/ContentCommands.h"
 #include "desktop/fields/StoryDateEdit.h"
+#include "desktop/inspector/DocumentSection.h"
+#include "desktop/inspector/ObjectSection.h"
 #include "desktop/support/TestDesk.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -116,6 +120,28 @@ TEST_F(InspectorPanelTest, whatTheProgramDoesInPassingDoesNotWriteHalfADateAnew)
     desk.session.commitPendingEdits(shell::CommitReason::InPassing);
     EXPECT_EQ(lineOf(fields.back().label)->text(), fields.back().typed);
     EXPECT_TRUE(desk.session.isTypingPending());
+}
+
+TEST_F(InspectorPanelTest, choosingWhatIsThereIsNoStep)
+{
+    for (QComboBox* const box : panel.findChildren<QComboBox*>())
+        emit box->activated(box->currentIndex());
+    for (QLineEdit* const edit : panel.findChildren<QLineEdit*>())
+        emit edit->editingFinished();
+    EXPECT_FALSE(desk.session.canUndo()) << desk.session.undoText().toStdString();
+}
+
+TEST_F(InspectorPanelTest, ofWhatIsLockedOnlyTheSwitchesMove)
+{
+    auto* const tags = panel.findChild<ObjectSection*>()->findChild<QLineEdit*>();
+    desk.session.apply(std::make_unique<core::content::SetObjectLockCommand>(desk.document(one), true));
+    tags->setText(u"typed"_s);
+    emit tags->editingFinished();
+    EXPECT_TRUE(desk.document(one).tags().empty());
+    EXPECT_FALSE(tags->isEnabled());
+    EXPECT_FALSE(panel.findChild<DocumentSection*>()->isEnabled());
+    for (QCheckBox* const box : panel.findChildren<QCheckBox*>())
+        EXPECT_TRUE(box->isEnabled()) << box->text().toStdString();
 }
 
 } // namespace tw::desktop::inspector

@@ -1,7 +1,11 @@
 #include "desktop/manuscript/DocumentPage.h"
+#include "core/content/ContentCommands.h"
 #include "core/document/DocumentCommands.h"
 #include "core/document/WordCount.h"
+#include "desktop/fields/GrowingTextEdit.h"
+#include "desktop/manuscript/Footnotes.h"
 #include "desktop/manuscript/MarkdownPage.h"
+#include "desktop/manuscript/NotesPane.h"
 #include "desktop/manuscript/rich/RichPage.h"
 #include "desktop/support/TestDesk.h"
 
@@ -117,6 +121,22 @@ TEST_P(DocumentPageTest, lockedDocumentsAreReadOnly)
     desk.session.commitPendingEdits();
     EXPECT_EQ(body(), u"First paragraph.\n\nSecond."_s);
     EXPECT_FALSE(desk.session.canUndo());
+}
+
+TEST_P(DocumentPageTest, notesOfALockedDocumentAreReadOnly)
+{
+    desk.document(id).setFootnotes({{u"1"_s, u"A note."_s, false}});
+    desk.document(id).setLocked(true);
+    setNoteText(desk.session, id, u"1"_s, u"no"_s);
+    removeNote(desk.session, id, u"1"_s);
+    EXPECT_EQ(desk.document(id).footnotes()[0].text, u"A note."_s);
+    EXPECT_FALSE(desk.session.canUndo());
+
+    const DocumentPage locked(desk.context, id, nullptr);
+    auto* const note = locked.findChild<NotesPane*>()->findChild<fields::GrowingTextEdit*>();
+    EXPECT_TRUE(note->isReadOnly());
+    desk.session.apply(std::make_unique<core::content::SetObjectLockCommand>(desk.document(id), false));
+    EXPECT_FALSE(note->isReadOnly());
 }
 
 TEST_P(DocumentPageTest, zoomIsApartFromTheFontAndChangesNoText)

@@ -1,3 +1,4 @@
+#include "core/document/ActiveText.h"
 #include "core/document/DocumentTree.h"
 #include "desktop/manuscript/ManuscriptEdits.h"
 #include "desktop/manuscript/ManuscriptModel.h"
@@ -194,6 +195,53 @@ TEST_F(ManuscriptTest, rowsTellWordsOfWhatIsBeneath)
     EXPECT_EQ(desk.document(one).title(), u"Renamed"_s);
     EXPECT_FALSE(model.setData(model.indexOf(one), u"   "_s));
     EXPECT_EQ(desk.session.undoText(), u"Rename document"_s);
+}
+
+TEST_F(ManuscriptTest, countsFollowWhatIsTypedBeneath)
+{
+    ManuscriptModel model(desk.context);
+    const auto words = [&](const ContentId& id) {
+        return model.indexOf(id).data(trees::CountRole).toString();
+    };
+    EXPECT_EQ(words(part), u"4"_s);
+    desk.session.apply(core::document::makeSetActiveTextCommand(desk.document(two), {u"Two more."_s, {}}));
+    EXPECT_EQ(words(part), u"6"_s);
+    desk.session.undo();
+    EXPECT_EQ(words(part), u"4"_s);
+}
+
+TEST_F(ManuscriptTest, aChainAsLongAsADamagedProjectIsShown)
+{
+    constexpr int length = 20'000;
+    ContentId above = notes;
+    for (int index = 0; index < length; ++index)
+        above = desk.addDocument(QString(), above, 0);
+    desk.document(above).setBody({u"At the end."_s, {}});
+    desk.announce();
+    ManuscriptModel model(desk.context);
+    EXPECT_EQ(model.indexOf(notes).data(trees::CountRole).toString(), u"3"_s);
+    desk.session.apply(core::document::makeSetActiveTextCommand(desk.document(above), {u"The end."_s, {}}));
+    EXPECT_EQ(model.indexOf(notes).data(trees::CountRole).toString(), u"2"_s);
+    desk.document(notes).setLocked(true);
+    EXPECT_EQ(firstLocked(desk.session, {notes}), notes);
+    trees::NavigatorTree tree(desk.themes, nullptr);
+    tree.setSource(model);
+    tree.resize(300, 400);
+    tree.show();
+    EXPECT_TRUE(tree.isExpanded(tree.model()->index(1, 0)));
+}
+
+TEST_F(ManuscriptTest, whatIsLockedStaysWhereItIs)
+{
+    desk.document(two).setLocked(true);
+    EXPECT_FALSE(stepDocument(desk.session, two, MoveDirection::Up));
+    moveDocuments(desk.session, {two}, {}, notes);
+    EXPECT_FALSE(desk.session.canUndo());
+    moveDocuments(desk.session, {one, two}, {}, notes);
+    EXPECT_EQ(shape(), u"Part(Two Three) One Notes"_s);
+    const ManuscriptModel model(desk.context);
+    EXPECT_FALSE(model.flags(model.indexOf(two)).testFlag(Qt::ItemIsDragEnabled));
+    EXPECT_TRUE(model.flags(model.indexOf(three)).testFlag(Qt::ItemIsDragEnabled));
 }
 
 TEST_F(ManuscriptTest, droppingRowsReordersThem)

@@ -2,10 +2,12 @@
 
 #include "core/document/DocumentCommands.h"
 #include "core/entity/Entity.h"
+#include "desktop/proofreading/ProseText.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QTest>
+#include <QTextBlock>
 
 namespace tw::desktop::proofreading {
 
@@ -119,6 +121,25 @@ TEST_F(EditorProofreaderTest, leavesTheWordUnderTheHandsUntilTheCursorIsGone)
     const QImage writing = page->editor().grab().toImage();
     page->editor().moveCursor(QTextCursor::Start);
     EXPECT_NE(page->editor().grab().toImage(), writing);
+}
+
+TEST_F(EditorProofreaderTest, theListOfProblemsReadsWhatTheEditorReads)
+{
+    const QString body = u"The `zzz` ship {.tw color=zzz} sailed [quickly]{.tw zzz}."_s;
+    open(body);
+    EXPECT_EQ(paragraphsOf({body, {}}), QStringList{proseOf(page->editor().document()->firstBlock())});
+    EXPECT_FALSE(paragraphsOf({body, {}}).constFirst().contains(u"zzz"_s));
+}
+
+TEST_F(EditorProofreaderTest, aDocumentIsSpokenInItsOwnLanguage)
+{
+    open(u"The ship."_s);
+    EXPECT_EQ(service->spokenLanguageOf(id), QLocale());
+    service->setLanguagesOf(id, {u"fr_CA"_s, u"en_US"_s});
+    EXPECT_EQ(service->spokenLanguageOf(id), QLocale(u"fr_CA"_s));
+    EXPECT_EQ(service->spokenLanguageOf({}), QLocale());
+    service->setLanguagesOf(id, {u"names"_s});
+    EXPECT_EQ(service->spokenLanguageOf(id), QLocale());
 }
 
 TEST_F(EditorProofreaderTest, saysWhichDictionaryIsMissingOrBroken)

@@ -99,6 +99,48 @@ TEST_F(SnapshotsTest, variantsHaveTextsOfTheirOwn)
     EXPECT_EQ(text(), u"One.\n\nTwo.\n\nThree."_s);
 }
 
+TEST_F(SnapshotsTest, aLockedDocumentIsKeptAndNotRewritten)
+{
+    takeSnapshot(desk.session, id, u"First"_s, now);
+    addVariant(desk.session, id, u"Dark"_s);
+    useVariant(desk.session, id, {});
+    const QString before = text();
+    write(u"Locked."_s);
+    desk.document(id).setLocked(true);
+    desk.announce();
+    const auto passages = app::text::compareTexts(before, text());
+    ASSERT_FALSE(passages.empty());
+    const QString lastStep = desk.session.undoText();
+    restoreSnapshot(desk.session, id, 0, now);
+    EXPECT_FALSE(restorePassage(desk.session, id, 0, passages[0], now));
+    renameSnapshot(desk.session, id, 0, u"Other"_s);
+    removeSnapshot(desk.session, id, 0);
+    addVariant(desk.session, id, u"Light"_s);
+    useVariant(desk.session, id, u"Dark"_s);
+    renameVariant(desk.session, id, u"Dark"_s, u"Night"_s);
+    removeVariant(desk.session, id, u"Dark"_s);
+    EXPECT_EQ(text(), u"Locked."_s);
+    EXPECT_EQ(labels(), u"First"_s);
+    EXPECT_EQ(desk.document(id).variants().list.size(), 1U);
+    EXPECT_EQ(desk.session.undoText(), lastStep);
+
+    SnapshotsPanel panel(desk.context, nullptr);
+    panel.show();
+    desk.navigator.setCurrent(id);
+    auto* const list = panel.findChild<QListView*>(u"snapshotList"_s);
+    list->setCurrentIndex(list->model()->index(1, 0));
+    for (const QAction* const action : list->actions())
+        EXPECT_FALSE(action->isEnabled()) << action->text().toStdString();
+    EXPECT_FALSE(panel.findChild<DifferenceView*>()->toPlainText().contains("Restore this"_L1));
+    for (const QComboBox* const box : panel.findChildren<QComboBox*>()) {
+        if (box->accessibleName() == u"Variant in use"_s)
+            EXPECT_FALSE(box->isEnabled());
+    }
+    panel.takeAction()->trigger();
+    EXPECT_EQ(labels(), u"First, "_s) << "a snapshot changes no text";
+    desk.navigator.setCurrent({});
+}
+
 TEST_F(SnapshotsTest, thePanelComparesAndRestores)
 {
     SnapshotsPanel panel(desk.context, nullptr);

@@ -22,4 +22,12 @@ TEST(ReadAloud, whatIsReadHasWordsAndALengthThatVoicesTake)
     EXPECT_EQ(speakablePieces(QString(5000, u'a')).join(QString()).size(), 5000);
 }
 
+TEST(ReadAloud, theVoiceSpeaksTheLanguageOfTheText)
+{
+    const QList<QLocale> voices{QLocale(u"en_US"_s), QLocale(u"de_AT"_s), QLocale(u"en_GB"_s)};
+    EXPECT_EQ(nearestLocale(voices, QLocale(u"en_GB"_s)), QLocale(u"en_GB"_s));
+    EXPECT_EQ(nearestLocale(voices, QLocale(u"de_DE"_s)), QLocale(u"de_AT"_s));
+    EXPECT_EQ(nearestLocale(voices, QLocale(u"fr_FR"_s)), std::nullopt);
+}
+
 } // namespace tw::desktop::speech

@@ -8,6 +8,8 @@
 #include "core/document/markup/LegacyHtml.h"
 #include "core/document/markup/PlainText.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <limits>
 
@@ -87,14 +89,23 @@ private:
         m_lines.append(indent + u"- "_s + (document.isAiExcluded() ? excludedDocument : described(document)));
     }
 
-    [[nodiscard]] QString described(const Document& document) const
+    /** Whether several documents have the title, or nobody can be found by it. Looked up once a title: there
+     * may be as many without one as there are documents. */
+    [[nodiscard]] bool isAmbiguous(const QString& title)
     {
-        QString line = document.title() + u' ' + kindAndWords(document);
-        const auto sameTitle = m_project.names().named(document.title());
+        if (const auto known = m_ambiguous.constFind(title); known != m_ambiguous.cend())
+            return *known;
+        const auto sameTitle = m_project.names().named(title);
         const auto documents = std::ranges::count_if(
             sameTitle, [this](const ContentId& id) { return m_project.findAs<Document>(id) != nullptr; });
+        return *m_ambiguous.insert(title, documents != 1);
+    }
+
+    [[nodiscard]] QString described(const Document& document)
+    {
+        QString line = document.title() + u' ' + kindAndWords(document);
         // Titles that several share, and empty ones, can only be reached by id.
-        if (documents != 1)
+        if (isAmbiguous(document.title()))
             line += u" [id %1]"_s.arg(document.id().toString());
         if (document.isLocked())
             line += u" [locked]"_s;
@@ -105,6 +116,7 @@ private:
     DocumentTree m_tree;
     std::vector<std::pair<ContentId, int>> m_waiting;
     QStringList m_lines;
+    QHash<QString, bool> m_ambiguous;
     qsizetype m_omitted = 0;
 };
 

@@ -122,6 +122,19 @@ qint32 readCount(QStringView text)
 
 } // namespace
 
+std::vector<SourceRange> findGroups(QStringView text)
+{
+    std::vector<SourceRange> groups;
+    for (qsizetype start = text.indexOf(groupStart); start >= 0;) {
+        const qsizetype brace = text.indexOf(u'}', start + groupStart.size());
+        if (brace < 0)
+            break;
+        groups.push_back({start, brace + 1});
+        start = text.indexOf(groupStart, brace + 1);
+    }
+    return groups;
+}
+
 QString writeBlockAttributes(const BlockAttributes& attributes)
 {
     if (attributes.isEmpty())

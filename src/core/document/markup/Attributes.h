@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace tw::core::document::markup {
 
 /** What plain Markdown cannot say of a paragraph or heading; written as a group "{.tw ...}" at the end of its
@@ -42,6 +44,16 @@ struct InlineAttributes
 
 /** What every group begins with; it ends with the next "}". */
 inline constexpr QStringView groupStart = u"{.tw";
+
+/** A stretch of a text. */
+struct SourceRange
+{
+    qsizetype start = 0;
+    qsizetype end = 0;
+};
+
+/** All groups in a text, whatever they stand in, in ascending order. */
+[[nodiscard]] std::vector<SourceRange> findGroups(QStringView text);
 
 /**
  * The whole group, "{.tw" and "}" included; nothing for an empty record. Characters that no value can hold

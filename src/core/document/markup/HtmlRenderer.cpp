@@ -129,9 +129,8 @@ void HtmlRenderer::writeQuotation(const Block& block)
 
 void HtmlRenderer::writeCode(const Block& block)
 {
-    const QString language = block.label.section(u' ', 0, 0);
     const QString attribute =
-        language.isEmpty() ? QString() : u" class=\"language-"_s + escapedForHtml(language) + u'"';
+        block.label.isEmpty() ? QString() : u" class=\"language-"_s + escapedForHtml(block.label) + u'"';
     m_html += u"<pre><code%1>%2</code></pre>\n"_s.arg(attribute, escapedForHtml(block.text));
 }
 

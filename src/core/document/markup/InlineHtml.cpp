@@ -111,10 +111,14 @@ QString blockAttributesForHtml(const BlockAttributes& attributes)
 
 QString footnoteAnchor(const QString& label)
 {
-    QString anchor = label;
-    for (QChar& character : anchor) {
-        if (!character.isLetterOrNumber() && character != u'_')
-            character = u'-';
+    // Characters that no id or address holds stand as their numbers between full stops, so that no two labels
+    // share an anchor.
+    QString anchor;
+    for (const QChar character : label) {
+        if (character.isLetterOrNumber() || character == u'_' || character == u'-')
+            anchor += character;
+        else
+            anchor += u'.' + QString::number(character.unicode(), 16) + u'.';
     }
     return anchor;
 }
@@ -125,7 +129,8 @@ QString InlineHtml::referenceTo(const QString& label)
     if (count == 1)
         m_references.append(label);
     const QString anchor = footnoteAnchor(label);
-    const QString id = u"fnref-"_s + anchor + (count > 1 ? u'-' + QString::number(count) : QString());
+    // No anchor has an odd number of full stops.
+    const QString id = u"fnref-"_s + anchor + (count > 1 ? u'.' + QString::number(count) : QString());
     return u"<sup class=\"footnote-ref\" id=\"%1\"><a href=\"#fn-%2\">%3</a></sup>"_s.arg(
         id, anchor, escapedForHtml(label));
 }

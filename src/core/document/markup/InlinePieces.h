@@ -39,4 +39,10 @@ struct InlinePieces
 /** In time linear in the text. Neighbouring pieces of one style are not merged. */
 [[nodiscard]] InlinePieces takeApart(QStringView text);
 
+/**
+ * The groups that belong to no run but stand among the words, or in code. They show as they are written, and
+ * readers of the prose pass over them. `pieces` are those of the text.
+ */
+[[nodiscard]] std::vector<SourceRange> findLooseGroups(QStringView text, const InlinePieces& pieces);
+
 } // namespace tw::core::document::markup

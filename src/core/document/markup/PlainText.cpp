@@ -78,13 +78,13 @@ PlainText::PlainText(QStringView body)
             }
         } else if (block.kind == BlockKind::Code) {
             addPart(index, 0, 0, u'\n', [&] {
+                const std::vector<SourceRange> groups = findGroups(block.text);
+                TextPlaces toBody(block.lines);
                 for (std::size_t line = 0; line < block.lines.size(); ++line) {
                     const qsizetype start = block.lines[line].inText;
                     const qsizetype end =
                         line + 1 < block.lines.size() ? block.lines[line + 1].inText : block.text.size();
-                    append(
-                        QStringView(block.text).sliced(start, end - start), block.lines[line].inBody,
-                        end - start);
+                    appendOutside(groups, QStringView(block.text).sliced(start, end - start), start, toBody);
                 }
             });
         } else if (block.kind != BlockKind::Rule) {
@@ -102,19 +102,65 @@ void PlainText::append(QStringView text, qsizetype body, qsizetype bodyLength)
 }
 
 template <class ToBody>
+void PlainText::appendOutside(
+    const std::vector<SourceRange>& groups, QStringView text, qsizetype start, ToBody& toBody)
+{
+    const qsizetype end = start + text.size();
+    qsizetype position = start;
+    const auto appendTo = [&](qsizetype next) {
+        if (next > position)
+            append(text.sliced(position - start, next - position), toBody(position), next - position);
+    };
+    for (auto group = std::ranges::upper_bound(groups, start, {}, &SourceRange::end);
+         group != groups.end() && group->start < end; ++group) {
+        appendTo(group->start);
+        position = std::min(group->end, end);
+    }
+    appendTo(end);
+}
+
+template <class ToBody>
+void PlainText::appendConverted(
+    const std::vector<SourceRange>& groups, const InlinePiece& piece, ToBody& toBody)
+{
+    const qsizetype end = piece.sourceStart + piece.sourceLength;
+    const auto group = std::ranges::upper_bound(groups, piece.sourceStart, {}, &SourceRange::end);
+    QString text = piece.text;
+    if (group != groups.end() && group->start < end) {
+        // One escaped character of a group, unless it is a span of code that holds groups.
+        if (!piece.isCode)
+            return;
+        const std::vector<SourceRange> within = findGroups(text);
+        for (auto each = within.rbegin(); each != within.rend(); ++each)
+            text.remove(each->start, each->end - each->start);
+    }
+    append(text, toBody(piece.sourceStart), piece.sourceLength);
+}
+
+template <class ToBody>
 void PlainText::appendInline(QStringView text, ToBody toBody)
 {
     const qsizetype start = m_text.size();
-    for (const InlinePiece& piece : takeApart(text).list) {
+    const InlinePieces pieces = takeApart(text);
+    const std::vector<SourceRange> groups = findLooseGroups(text, pieces);
+    const auto isInGroup = [&groups](const InlinePiece& piece) {
+        const auto group = std::ranges::upper_bound(groups, piece.sourceStart, {}, &SourceRange::end);
+        return group != groups.end() && group->start <= piece.sourceStart;
+    };
+    bool hasBegun = false;
+    for (const InlinePiece& piece : pieces.list) {
         const bool isBreak = piece.kind == RunKind::SoftBreak || piece.kind == RunKind::HardBreak;
-        if (isBreak && (m_text.size() > start || piece.kind == RunKind::HardBreak))
+        if (isBreak && (hasBegun || piece.kind == RunKind::HardBreak) && !isInGroup(piece))
             append(
                 piece.kind == RunKind::SoftBreak ? u" " : u"\n", toBody(piece.sourceStart),
                 piece.sourceLength);
         else if (piece.kind == RunKind::Text && piece.textStart >= 0)
-            append(piece.text, toBody(piece.textStart), piece.text.size());
+            appendOutside(groups, piece.text, piece.textStart, toBody);
         else if (piece.kind == RunKind::Text)
-            append(piece.text, toBody(piece.sourceStart), piece.sourceLength);
+            appendConverted(groups, piece, toBody);
+        // A group at the beginning counts: a break behind it is a blank, also for who sees the group.
+        hasBegun =
+            hasBegun || m_text.size() > start || (piece.kind == RunKind::Text && !piece.text.isEmpty());
     }
 }
 

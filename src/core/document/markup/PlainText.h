@@ -6,6 +6,9 @@
 
 namespace tw::core::document::markup {
 
+struct InlinePiece;
+struct SourceRange;
+
 /** A stretch of the prose that belongs to one block, or to one cell of a table. */
 struct PlainPart
 {
@@ -20,8 +23,9 @@ struct PlainPart
 };
 
 /**
- * The prose of a Markdown body, for searching and for analysis: no marks, no groups, no footnote references,
- * no descriptions of images. Blocks are parted by \n, cells by tabs; a soft break is a blank.
+ * The prose of a Markdown body, for searching and for analysis: no marks, no groups (wherever they stand in a
+ * block), no footnote references, no descriptions of images. Blocks are parted by \n, cells by tabs; a soft
+ * break is a blank.
  */
 class PlainText
 {
@@ -47,6 +51,12 @@ private:
     };
 
     void append(QStringView text, qsizetype body, qsizetype bodyLength);
+    /** Text that stands in its source as it is, from `start` on, without the groups. */
+    template <class ToBody>
+    void appendOutside(
+        const std::vector<SourceRange>& groups, QStringView text, qsizetype start, ToBody& toBody);
+    template <class ToBody>
+    void appendConverted(const std::vector<SourceRange>& groups, const InlinePiece& piece, ToBody& toBody);
     template <class ToBody>
     void appendInline(QStringView text, ToBody toBody);
     [[nodiscard]] const Segment* segmentAt(qsizetype offset) const;

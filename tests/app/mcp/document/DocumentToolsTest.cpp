@@ -74,6 +74,19 @@ TEST_F(DocumentToolsTest, theTreeShowsWhatMayBeSeenInReadingOrder)
                                               u"]\n\n2 document(s) excluded from AI were omitted."_s);
 }
 
+TEST_F(DocumentToolsTest, aTreeAsDeepAsItIsLongIsRead)
+{
+    constexpr int length = 20'000;
+    ContentId above;
+    for (int index = 0; index < length; ++index) {
+        auto document = std::make_unique<Document>(ContentId::create(), DocumentKind::Prose, u"Untitled"_s);
+        document->setParentId(above);
+        above = document->id();
+        workspace.projectForEdit().add(std::move(document));
+    }
+    EXPECT_EQ(call("get_manuscript_tree").text.count(u"- Untitled (prose, 0 words) [id "_s), length);
+}
+
 TEST_F(DocumentToolsTest, readsADocumentWholeAndInPieces)
 {
     Document& part = addDocument(u"Part"_s);

@@ -2,6 +2,8 @@
 #include "core/document/markup/LegacyHtml.h"
 #include "support/MarkdownBodies.h"
 
+#include <QRegularExpression>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -168,6 +170,7 @@ TEST(HtmlRendererTest, constructsFollowTheirTemplates)
         {u"---"_s, u"<hr>\n"_s},
         {u"```cpp\na < b\n```\n\n~~~\nx\n~~~"_s,
          u"<pre><code class=\"language-cpp\">a &lt; b</code></pre>\n<pre><code>x</code></pre>\n"_s},
+        {u"``` c++ \"x\"\n```"_s, u"<pre><code class=\"language-c++ &quot;x&quot;\"></code></pre>\n"_s},
         {u"- a\n  - b\n- c\n1. d"_s,
          u"<ul>\n<li>a\n<ul>\n<li>b</li>\n</ul>\n</li>\n<li>c</li>\n</ul>\n<ol>\n<li>d</li>\n</ol>\n"_s},
         {u"| a | b |\n|---|:-:|\n| c | d |"_s,
@@ -182,6 +185,18 @@ TEST(HtmlRendererTest, constructsFollowTheirTemplates)
     for (const auto& sample : cases)
         EXPECT_EQ(renderHtml(sample.body), sample.html) << sample.body.toStdString();
     EXPECT_TRUE(renderHtml(u"a[^n]", {{{u"n"_s, u"kept apart"_s, true}}}).contains("<p>kept apart <a"_L1));
+}
+
+TEST(HtmlRendererTest, everyFootnoteHasIdsOfItsOwn)
+{
+    QStringList ids;
+    const QString html = renderHtml(u"[^a b] [^a-b] [^a.b] [^a_b] [^a-b-2] [^a-b] [^a.2] [^a-b]"_s);
+    static const QRegularExpression idAttribute(u"id=\"([^\"]*)\""_s);
+    for (const auto& match : idAttribute.globalMatch(html))
+        ids.append(match.captured(1));
+    EXPECT_EQ(ids.size(), 8) << html.toStdString();
+    EXPECT_EQ(ids.removeDuplicates(), 0) << html.toStdString();
+    EXPECT_FALSE(ids.join(QString()).contains(u' '));
 }
 
 TEST(HtmlRendererTest, nothingHostileGetsThrough)

@@ -23,6 +23,8 @@ TEST(PlainTextTest, onlyTheProseIsLeft)
         {u"| a | b\\|c |\n|---|---|\n| `d` | |"_s, u"a\tb|c\nd\t"_s},
         {u"```cpp\r\nx y\r\n```\r\n\r\nz &amp; \\*"_s, u"x y\nz & *"_s},
         {u"{.tw pagebreak}\n\na"_s, u"\na"_s},
+        {u"a {.tw u} b `c{.tw\nu}d` [e]{.tw u} {.tw f"_s, u"a  b cd e {.tw f"_s},
+        {u"```\na{.tw u\n}b\n{.tw c\n```"_s, u"ab\n{.tw c"_s},
     };
     for (const auto& sample : cases)
         EXPECT_EQ(PlainText(sample.body).text(), sample.text) << sample.body.toStdString();
