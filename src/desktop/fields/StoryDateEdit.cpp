@@ -1,6 +1,6 @@
 #include "desktop/fields/StoryDateEdit.h"
 
-#include "core/calendar/DateReader.h"
+#include "app/codex/DateText.h"
 #include "desktop/fields/EditorKeys.h"
 #include "desktop/fields/NoteLabel.h"
 
@@ -60,13 +60,12 @@ void StoryDateEdit::setReadOnly(bool readOnly)
 
 QString StoryDateEdit::shownText() const
 {
-    return m_instant ? m_calendar.formatInstant(*m_instant) : QString();
+    return m_instant ? app::codex::dateText(m_calendar, *m_instant) : QString();
 }
 
 std::optional<StoryInstant> StoryDateEdit::reading() const
 {
-    const auto parts = core::calendar::parseDate(m_calendar, m_text->text());
-    return parts ? std::optional(m_calendar.minutesFromParts(*parts)) : std::nullopt;
+    return app::codex::readDateText(m_calendar, m_text->text());
 }
 
 bool StoryDateEdit::isReadable() const
@@ -83,13 +82,13 @@ void StoryDateEdit::showReading()
     else
         m_reading->setNote(
             tr("Not a date this calendar can read. Write it like “%1” or just a year.")
-                .arg(m_calendar.formatInstant(0)),
+                .arg(app::codex::dateText(m_calendar, m_instant.value_or(0))),
             NoteLabel::Tone::Error);
 }
 
 void StoryDateEdit::commit()
 {
-    // The formatter's own text may be a date the reader cannot take back; untouched text is no edit.
+    // Untouched text is no edit, whatever it would read as.
     if (m_text->text() == shownText()) {
         m_reading->setNote({});
         return;

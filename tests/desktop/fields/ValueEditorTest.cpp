@@ -194,6 +194,30 @@ TEST_F(ValueEditorTest, dateShowsOtherTextUntilItIsTakenOutAndFollowsTheCalendar
     EXPECT_TRUE(line().text().endsWith(u"of Survey"_s));
 }
 
+TEST_F(ValueEditorTest, aDateOfNamedErasIsEditedInPlaceAndHintedAtAsItReads)
+{
+    core::calendar::Calendar calendar;
+    calendar.setEras({{u"of Survey"_s, 1200, false}});
+    auto& project = desk.session.projectForCommands();
+    desk.session.apply(std::make_unique<core::calendar::SetCalendarCommand>(project, calendar));
+    const auto instant = calendar.minutesFromParts({1250, 3, 14, 8, 30});
+    make(FieldType::Date).setValue(QString::number(instant));
+    const QString shown = line().text();
+    line().setCursorPosition(2);
+    QTest::keyClick(&line(), Qt::Key_Backspace);
+    QTest::keyClicks(&line(), u"5"_s);
+    QTest::keyClick(&line(), Qt::Key_Return);
+    EXPECT_EQ(edits, (std::vector<Value>{QString::number(instant + 24 * 60)})) << qPrintable(shown);
+
+    line().setText(u"some day"_s);
+    QTest::keyClick(&line(), Qt::Key_Return);
+    ASSERT_TRUE(note().startsWith(u"Not a date this calendar can read. "_s));
+    const QString hint = note().section(u'“', 1).section(u'”', 0, 0);
+    line().setText(hint);
+    QTest::keyClick(&line(), Qt::Key_Return);
+    EXPECT_TRUE(note().isEmpty()) << qPrintable(hint);
+}
+
 TEST_F(ValueEditorTest, referencesArePickedByNameOrAlias)
 {
     const ContentId annis = addEntity(u"Annis Lusk"_s, {u"No. 31"_s});
