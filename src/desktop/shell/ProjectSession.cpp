@@ -236,6 +236,7 @@ void ProjectSession::announceReload()
     m_typingPending = false;
     m_saveFailure.clear();
     announceEverything();
+    emit reloaded();
 }
 
 Result<app::workspace::ExternalReview> ProjectSession::beginReview()
