@@ -16,13 +16,42 @@ constexpr int hintMargin = 24;
 
 } // namespace
 
+void NavigatorTree::Filter::setWithheld(std::function<bool(const QModelIndex& source)> isWithheld)
+{
+    m_isWithheld = std::move(isWithheld);
+    invalidate();
+}
+
+bool NavigatorTree::Filter::isOff() const
+{
+    return !m_isWithheld && filterRegularExpression().pattern().isEmpty();
+}
+
+QVariant NavigatorTree::Filter::data(const QModelIndex& index, int role) const
+{
+    if (!m_isWithheld || role == IdRole || !m_isWithheld(mapToSource(index)))
+        return QSortFilterProxyModel::data(index, role);
+    return role == Qt::DisplayRole ? QVariant(QStringLiteral("…")) : QVariant();
+}
+
+bool NavigatorTree::Filter::filterAcceptsRow(int row, const QModelIndex& parent) const
+{
+    const QModelIndex index = sourceModel()->index(row, 0, parent);
+    if (m_isWithheld && m_isWithheld(index))
+        return false;
+    for (QModelIndex each = index; each.isValid(); each = each.parent()) {
+        if (QSortFilterProxyModel::filterAcceptsRow(each.row(), each.parent()))
+            return true;
+    }
+    return false;
+}
+
 NavigatorTree::NavigatorTree(const theme::ThemeManager& themes, QWidget* parent)
     : QTreeView(parent)
     , m_hint(new QLabel(viewport()))
 {
     m_filter.setRecursiveFilteringEnabled(true);
     m_filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
-    m_filter.setAutoAcceptChildRows(true);
     setItemDelegate(new TreeRowDelegate(themes, this));
     setHeaderHidden(true);
     setUniformRowHeights(true);
@@ -65,13 +94,27 @@ void NavigatorTree::setFilter(const QString& text)
 {
     const QScopedValueRollback guard(m_restoring, true);
     m_filter.setFilterFixedString(text);
-    setDragEnabled(text.isEmpty());
-    setAcceptDrops(text.isEmpty());
+    refreshDragging();
     if (text.isEmpty())
         restoreExpansion({});
     else
         expandAll();
     showHint();
+}
+
+void NavigatorTree::setWithheld(std::function<bool(const QModelIndex& source)> isWithheld)
+{
+    const QScopedValueRollback guard(m_restoring, true);
+    m_filter.setWithheld(std::move(isWithheld));
+    refreshDragging();
+    restoreExpansion({});
+    showHint();
+}
+
+void NavigatorTree::refreshDragging()
+{
+    setDragEnabled(m_filter.isOff());
+    setAcceptDrops(m_filter.isOff());
 }
 
 void NavigatorTree::setEmptyHint(const QString& text)
