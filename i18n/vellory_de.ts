@@ -2272,6 +2272,173 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::calendar::CalendarDialog</name>
+    <message>
+        <source>Edit Calendar</source>
+        <translation>Kalender bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Calendar</source>
+        <translation>&amp;Kalender</translation>
+    </message>
+    <message>
+        <source>&amp;Reckonings</source>
+        <translation>&amp;Zeitrechnungen</translation>
+    </message>
+    <message>
+        <source>No event moves: every date keeps its day and is read in the new calendar.</source>
+        <translation>Kein Ereignis verschiebt sich: jedes Datum behält seinen Tag und wird im neuen Kalender gelesen.</translation>
+    </message>
+    <message>
+        <source>Apply Calendar</source>
+        <translation>Kalender übernehmen</translation>
+    </message>
+    <message>
+        <source>Edit calendar</source>
+        <translation>Kalender bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::calendar::CalendarForm</name>
+    <message>
+        <source>Months</source>
+        <translation>Monate</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>New month</source>
+        <translation>Neuer Monat</translation>
+    </message>
+    <message>
+        <source>Weekdays</source>
+        <translation>Wochentage</translation>
+    </message>
+    <message>
+        <source>No weekdays yet.</source>
+        <translation>Noch keine Wochentage.</translation>
+    </message>
+    <message>
+        <source>Named eras</source>
+        <translation>Benannte Ären</translation>
+    </message>
+    <message>
+        <source>Era</source>
+        <translation>Ära</translation>
+    </message>
+    <message>
+        <source>First year</source>
+        <translation>Erstes Jahr</translation>
+    </message>
+    <message>
+        <source>Counts down</source>
+        <translation>Zählt rückwärts</translation>
+    </message>
+    <message>
+        <source>New era</source>
+        <translation>Neue Ära</translation>
+    </message>
+    <message>
+        <source>A&amp;dd Weekday</source>
+        <translation>Wochentag &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>New weekday</source>
+        <translation>Neuer Wochentag</translation>
+    </message>
+    <message>
+        <source>&amp;Months</source>
+        <translation>&amp;Monate</translation>
+    </message>
+    <message>
+        <source>&amp;Weekdays, from the first day of year 1</source>
+        <translation>&amp;Wochentage, ab dem ersten Tag des Jahres 1</translation>
+    </message>
+    <message>
+        <source>&amp;Era after every year, while no era is named</source>
+        <translation>&amp;Ära hinter jedem Jahr, solange keine benannt ist</translation>
+    </message>
+    <message>
+        <source>&amp;Named eras</source>
+        <translation>&amp;Benannte Ären</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days a year. Year 1 begins on %1, %2.</source>
+        <translation>
+            <numerusform>%n Tag im Jahr. Das Jahr 1 beginnt am %1, %2.</numerusform>
+            <numerusform>%n Tage im Jahr. Das Jahr 1 beginnt am %1, %2.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::calendar::ReckoningsForm</name>
+    <message>
+        <source>(unnamed reckoning)</source>
+        <translation>(unbenannte Zeitrechnung)</translation>
+    </message>
+    <message>
+        <source>Reckonings</source>
+        <translation>Zeitrechnungen</translation>
+    </message>
+    <message>
+        <source>No reckonings: add one to tell the same days in another count of years.</source>
+        <translation>Keine Zeitrechnungen: Fügen Sie eine hinzu, um dieselben Tage mit anderer Jahreszählung zu nennen.</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>&amp;Era</source>
+        <translation>&amp;Ära</translation>
+    </message>
+    <message>
+        <source>Year &amp;1 is the calendar’s year</source>
+        <translation>Jahr &amp;1 ist im Kalender das Jahr</translation>
+    </message>
+    <message>
+        <source>&amp;Add Reckoning</source>
+        <translation>Zeitrechnung &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>New reckoning</source>
+        <translation>Neue Zeitrechnung</translation>
+    </message>
+    <message>
+        <source>%1 is %2 here.</source>
+        <translation>%1 ist hier %2.</translation>
+    </message>
+    <message>
+        <source>Its named eras stand in place of the era.</source>
+        <translation>Ihre benannten Ären stehen anstelle der Ära.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::calendar::RowTable</name>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::codex::CategoryChooser</name>
     <message>
         <source>Find a category</source>
@@ -2725,6 +2892,67 @@
     <message>
         <source>No document names it yet.</source>
         <translation>Noch kein Dokument nennt ihn.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::codex::PropertyCleanUpDialog</name>
+    <message>
+        <source>Clean Up Properties</source>
+        <translation>Eigenschaften aufräumen</translation>
+    </message>
+    <message>
+        <source>A property that only one entity of its category uses can belong to that entity alone, and categories that are one and the same can become one. No value is changed or lost, and a backup is made first.</source>
+        <translation>Eine Eigenschaft, die nur ein Eintrag ihrer Kategorie nutzt, kann diesem Eintrag allein gehören, und Kategorien, die ein und dieselbe sind, können eine werden. Kein Wert wird geändert oder geht verloren, und vorher entsteht eine Sicherung.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more can be put in order once their entities are unlocked.</source>
+        <translation>
+            <numerusform>%n weitere lässt sich aufräumen, sobald der Eintrag entsperrt ist.</numerusform>
+            <numerusform>%n weitere lassen sich aufräumen, sobald ihre Einträge entsperrt sind.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back Up and Clean Up</source>
+        <translation>Sichern und aufräumen</translation>
+    </message>
+    <message>
+        <source>What to clean up</source>
+        <translation>Was aufzuräumen ist</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Nach</translation>
+    </message>
+    <message>
+        <source>Properties that one entity uses</source>
+        <translation>Eigenschaften, die ein Eintrag nutzt</translation>
+    </message>
+    <message>
+        <source>Categories written two ways</source>
+        <translation>Kategorien in zwei Schreibweisen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entities move</source>
+        <translation>
+            <numerusform>%n Eintrag zieht um</numerusform>
+            <numerusform>%n Einträge ziehen um</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to clean up: every property is where it is used, and no category is written two ways.</source>
+        <translation>Es gibt nichts aufzuräumen: Jede Eigenschaft steht dort, wo sie gebraucht wird, und keine Kategorie kommt in zwei Schreibweisen vor.</translation>
+    </message>
+    <message>
+        <source>Clean up properties</source>
+        <translation>Eigenschaften aufräumen</translation>
     </message>
 </context>
 <context>
@@ -4581,6 +4809,10 @@
         <source>Resolution</source>
         <translation>Entscheidung</translation>
     </message>
+    <message>
+        <source>Keep both, marked in the text</source>
+        <translation>Beide behalten, im Text markiert</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::review::ExternalChanges</name>
@@ -5077,6 +5309,14 @@
         <source>&amp;Quotes</source>
         <translation>An&amp;führungszeichen</translation>
     </message>
+    <message>
+        <source>Show word &amp;counts in the status bar</source>
+        <translation>Wort&amp;zahlen in der Statusleiste zeigen</translation>
+    </message>
+    <message>
+        <source>Correct while &amp;typing</source>
+        <translation>Beim &amp;Tippen korrigieren</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::settings::KeysModel</name>
@@ -5301,6 +5541,25 @@
     <message>
         <source>Built with Qt %1, Qt Advanced Docking System, simdjson and Hunspell.</source>
         <translation>Gebaut mit Qt %1, Qt Advanced Docking System, simdjson und Hunspell.</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::shell::AudienceSelector</name>
+    <message>
+        <source>View as:</source>
+        <translation>Ansicht für:</translation>
+    </message>
+    <message>
+        <source>Preview the codex and manuscript as a chosen audience sees them</source>
+        <translation>Kodex und Manuskript so ansehen, wie eine gewählte Zielgruppe sie sieht</translation>
+    </message>
+    <message>
+        <source>This project has no audiences. Project Settings in the menu Project adds them.</source>
+        <translation>Dieses Projekt hat keine Zielgruppen. Hinzufügen lassen sie sich in den Projekteinstellungen im Menü Projekt.</translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation>Alles</translation>
     </message>
 </context>
 <context>
@@ -5671,6 +5930,22 @@
             <numerusform>Die Geschichte hat %Ln Widersprüche.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Vie&amp;w As…</source>
+        <translation>Ansicht &amp;für…</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge View</source>
+        <translation>Sei&amp;tenansicht</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Calendar…</source>
+        <translation>&amp;Kalender bearbeiten…</translation>
+    </message>
+    <message>
+        <source>Clean &amp;Up Properties…</source>
+        <translation>Eigenschaften a&amp;ufräumen…</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::OpenRequests</name>
@@ -6019,6 +6294,10 @@
     <message>
         <source>Nothing here contains “%1”. Clear the filter to see everything.</source>
         <translation>Nichts hier enthält „%1“. Leeren Sie den Filter, um alles zu sehen.</translation>
+    </message>
+    <message>
+        <source>Nothing here is for the audience that you view it as.</source>
+        <translation>Hier ist nichts für die Zielgruppe, als die Sie es ansehen.</translation>
     </message>
 </context>
 </TS>

@@ -46,6 +46,16 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::calendar::CalendarForm</name>
+    <message numerus="yes">
+        <source>%n days a year. Year 1 begins on %1, %2.</source>
+        <translation>
+            <numerusform>%n day a year. Year 1 begins on %1, %2.</numerusform>
+            <numerusform>%n days a year. Year 1 begins on %1, %2.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::codex::CodexPanel</name>
     <message numerus="yes">
         <source>Removed %n things from the codex. Undo brings them back.</source>
@@ -69,6 +79,23 @@
         <translation>
             <numerusform>once</numerusform>
             <numerusform>%n times</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::codex::PropertyCleanUpDialog</name>
+    <message numerus="yes">
+        <source>%n more can be put in order once their entities are unlocked.</source>
+        <translation>
+            <numerusform>%n more can be put in order once its entity is unlocked.</numerusform>
+            <numerusform>%n more can be put in order once their entities are unlocked.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entities move</source>
+        <translation>
+            <numerusform>%n entity moves</numerusform>
+            <numerusform>%n entities move</numerusform>
         </translation>
     </message>
 </context>

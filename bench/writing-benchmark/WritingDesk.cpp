@@ -1,7 +1,6 @@
 #include "bench/writing-benchmark/WritingDesk.h"
 
 #include "bench/writing-benchmark/WrittenTexts.h"
-#include "core/document/Document.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,7 +8,6 @@
 namespace tw::bench {
 
 using namespace Qt::Literals::StringLiterals;
-using core::document::Document;
 
 namespace {
 
@@ -23,17 +21,12 @@ void write(const QString& path, const QByteArray& bytes)
 } // namespace
 
 WritingDesk::WritingDesk()
-{
-    session.startNew(u"Bench"_s);
-    auto document = std::make_unique<Document>(
-        core::ContentId::create(), core::document::DocumentKind::Prose, u"Chapter"_s);
-    id = document->id();
-    session.projectForCommands().add(std::move(document));
-}
+    : id(addDocument(u"Chapter"_s, {}, 0))
+{}
 
 void WritingDesk::setText(const QString& text)
 {
-    session.projectForCommands().findAsForEdit<Document>(id)->setBody({text, {}});
+    document(id).setBody({text, {}});
 }
 
 std::unique_ptr<desktop::proofreading::ProofreadingService> WritingDesk::makeProofreadingService()

@@ -1,5 +1,6 @@
 #include "app/persistence/StorageEnvironment.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/icons/StandardIcons.h"
 #include "desktop/shell/CommandLine.h"
 #include "desktop/shell/DialogSelfTest.h"
 #include "desktop/shell/MainWindow.h"
@@ -128,6 +129,7 @@ int main(int argc, char* argv[])
     desktop::theme::ThemeManager themes(settings);
     themes.apply(application);
     const desktop::icons::IconSet icons(themes);
+    desktop::icons::registerStandardIcons(icons, themes);
 
     app::persistence::DiskFileSystem fileSystem;
     const app::persistence::StorageEnvironment environment{

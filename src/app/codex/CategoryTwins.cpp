@@ -166,10 +166,10 @@ std::vector<CategoryTwins> findCategoryTwins(const Project& project)
     return twins;
 }
 
-bool isMergeHindered(const Project& project, const CategoryTwins& twins)
+bool isMergeHindered(const Project& project, const CategoryTwins& twins, Actor actor)
 {
-    return std::ranges::any_of(core::project::objectsOf<Entity>(project), [&twins](const Entity* entity) {
-        return (entity->isLocked() || entity->isAiExcluded()) &&
+    return std::ranges::any_of(core::project::objectsOf<Entity>(project), [&](const Entity* entity) {
+        return isLeftAlone(*entity, actor) &&
                std::ranges::find(twins.merged, entity->categoryId()) != twins.merged.end();
     });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/codex/Actor.h"
 #include "core/foundation/Id.h"
 #include "core/project/Project.h"
 #include "core/undo/Command.h"
@@ -29,8 +30,9 @@ struct CategoryTwins
 /** All groups, by name. Categories that are simply called the same are none. */
 [[nodiscard]] std::vector<CategoryTwins> findCategoryTwins(const core::project::Project& project);
 
-/** True when an entity that is locked or excluded from AI would have to move. */
-[[nodiscard]] bool isMergeHindered(const core::project::Project& project, const CategoryTwins& twins);
+/** True when an entity that the actor leaves alone would have to move. */
+[[nodiscard]] bool isMergeHindered(
+    const core::project::Project& project, const CategoryTwins& twins, Actor actor);
 
 /**
  * Gives the kept category what the others declare and it does not, moves their entities, subcategories and

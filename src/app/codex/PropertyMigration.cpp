@@ -85,7 +85,7 @@ bool isFixedElsewhere(const Project& project, const CategoryId& category, const 
 
 } // namespace
 
-PropertyPlan planPropertyMigration(const Project& project)
+PropertyPlan planPropertyMigration(const Project& project, Actor actor)
 {
     const std::map<PropertyKey, Holders> holders = countHolders(project);
     PropertyPlan plan;
@@ -96,7 +96,7 @@ PropertyPlan planPropertyMigration(const Project& project)
                 isFixedElsewhere(project, id, field.key))
                 continue;
             const auto* holder = project.findAs<Entity>(*found->second.seeing.begin());
-            if (holder->isLocked() || holder->isAiExcluded())
+            if (isLeftAlone(*holder, actor))
                 ++plan.heldBack;
             else
                 plan.moves.push_back({id, holder->id(), field});

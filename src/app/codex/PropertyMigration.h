@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/codex/Actor.h"
 #include "core/foundation/Id.h"
 #include "core/project/Project.h"
 #include "core/taxonomy/Field.h"
@@ -35,9 +36,9 @@ struct PropertyPlan
 /**
  * What would move. The rule is a count: exactly one entity beneath the category holds a value, now or over
  * time, whatever it says. Fixed properties stay, because their value stands on the category; so do those
- * whose holder is locked or excluded from AI, or does not see the property.
+ * whose holder the actor leaves alone, or does not see the property.
  */
-[[nodiscard]] PropertyPlan planPropertyMigration(const core::project::Project& project);
+[[nodiscard]] PropertyPlan planPropertyMigration(const core::project::Project& project, Actor actor);
 
 /** Moves the definitions; no value is read, written or deleted. */
 [[nodiscard]] std::vector<std::unique_ptr<core::undo::Command>> makePropertyMigration(

@@ -258,6 +258,9 @@ Result<void> Workspace::saveAsFolder(const QString& folder)
 
 Result<void> Workspace::saveAsSingleFile(const QString& bundlePath)
 {
+    const QString parent = QFileInfo(bundlePath).path();
+    if (!m_environment.fileSystem.makeFolders(parent))
+        return placeFailure(QT_TRANSLATE_NOOP("Workspace", "Cannot create project folder: %1"), parent);
     persistence::SingleFile file(
         m_environment, persistence::workingCopyOf(bundlePath, m_environment.dataFolder));
     const persistence::WorkingCopy& place = file.workingCopy();

@@ -4,6 +4,7 @@
 #include "desktop/codex/CategoryPropertiesDialog.h"
 #include "desktop/codex/CodexModel.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/PanelHeader.h"
 #include "desktop/shell/ProjectSession.h"
@@ -56,6 +57,11 @@ CodexPanel::CodexPanel(const shell::DeskContext& desk, QWidget* parent)
             m_desk.navigator.setCurrent(item.entityId);
     });
     connect(&desk.navigator, &shell::Navigator::currentChanged, this, &CodexPanel::showCurrent);
+    connect(&desk.navigator, &shell::Navigator::audienceChanged, this, [this](const QString& audience) {
+        m_tree->setWithheld(shell::withheldFrom(m_desk.session, audience, [this](const QModelIndex& index) {
+            return m_model->itemAt(index).entityId;
+        }));
+    });
     connect(&desk.session, &shell::ProjectSession::changed, this, &CodexPanel::refreshActions);
     refreshActions();
 }

@@ -120,7 +120,9 @@ qreal BodyEditor::columnWidth() const
 
 SheetMargins sheetMargins(const PageStyle& style, int available)
 {
-    const int column = static_cast<int>(characterWidth(pageFont(style)) * style.columnCharacters);
+    const int column = style.isPageView
+                           ? static_cast<int>(characterWidth(pageFont(style)) * style.columnCharacters)
+                           : available;
     const int side = std::clamp((available - column) / 2, std::min(narrowMargin, available / 12), available);
     return {std::max(0, side - sideMargin), side};
 }

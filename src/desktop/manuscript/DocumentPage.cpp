@@ -37,7 +37,7 @@ namespace {
 
 /** A selection that is being drawn is not counted at every step. */
 constexpr auto selectionRest = 150ms;
-constexpr QLatin1StringView sourceKey = "editor/markdownSource"_L1;
+constexpr QLatin1StringView sourceKey = "editor/sourceMode"_L1;
 constexpr QLatin1StringView typewriterKey = "editor/typewriterScrolling"_L1;
 
 } // namespace

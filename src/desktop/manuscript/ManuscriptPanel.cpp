@@ -3,6 +3,7 @@
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/DocumentActions.h"
 #include "desktop/manuscript/ManuscriptModel.h"
+#include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/PanelHeader.h"
 #include "desktop/shell/ProjectSession.h"
@@ -44,6 +45,10 @@ ManuscriptPanel::ManuscriptPanel(const shell::DeskContext& desk, QWidget* parent
             m_desk.navigator.setCurrent(m_model->idAt(index));
     });
     connect(&desk.navigator, &shell::Navigator::currentChanged, this, &ManuscriptPanel::showCurrent);
+    connect(&desk.navigator, &shell::Navigator::audienceChanged, this, [this](const QString& audience) {
+        m_tree->setWithheld(shell::withheldFrom(
+            m_desk.session, audience, [this](const QModelIndex& index) { return m_model->idAt(index); }));
+    });
     connect(&desk.session, &shell::ProjectSession::changed, this, &ManuscriptPanel::refreshHint);
     refreshHint();
 }
@@ -54,6 +59,7 @@ ManuscriptPanel::~ManuscriptPanel()
     m_actions->detach(m_tree);
     m_tree->disconnect(this);
     m_desk.session.disconnect(this);
+    m_desk.navigator.disconnect(this);
 }
 
 void ManuscriptPanel::attachActions()

@@ -18,6 +18,7 @@ constexpr QLatin1StringView sizeKey = "editor/fontSize"_L1;
 constexpr QLatin1StringView widthKey = "editor/pageWidth"_L1;
 constexpr QLatin1StringView lineHeightKey = "editor/lineHeight"_L1;
 constexpr QLatin1StringView indentsKey = "editor/firstLineIndents"_L1;
+constexpr QLatin1StringView pageViewKey = "editor/pageView"_L1;
 constexpr qreal smallestZoom = 0.5;
 constexpr qreal largestZoom = 3.0;
 constexpr qreal zoomStep = 0.1;
@@ -36,6 +37,7 @@ PageStyle pageStyleFrom(const QSettings& settings)
     style.lineHeight = std::clamp(
         settings.value(lineHeightKey, style.lineHeight).toReal(), PageLimits::tightest, PageLimits::loosest);
     style.hasFirstLineIndents = settings.value(indentsKey, style.hasFirstLineIndents).toBool();
+    style.isPageView = settings.value(pageViewKey, style.isPageView).toBool();
     style.namedStyles = namedStylesFrom(settings);
     style.zoom = std::clamp(settings.value("editor/zoom", style.zoom).toReal(), smallestZoom, largestZoom);
     return style;
@@ -54,6 +56,11 @@ void forgetPageStyle(QSettings& settings)
 {
     for (const QLatin1StringView key : {familyKey, sizeKey, widthKey, lineHeightKey, indentsKey})
         settings.remove(key);
+}
+
+void setPageView(QSettings& settings, bool isPageView)
+{
+    settings.setValue(pageViewKey, isPageView);
 }
 
 void stepPageZoom(QSettings& settings, int steps)

@@ -18,6 +18,8 @@ struct PageStyle
     qreal zoom = 1.0;
     /** Width of the column, in characters of running text. */
     int columnCharacters = 66;
+    /** Whether the text stands on a page of that width; it fills the window otherwise. */
+    bool isPageView = true;
     /** Of the font's size. */
     qreal lineHeight = 1.5;
     /** Paragraphs begin with an indented line rather than after a gap, as in a printed novel. */
@@ -40,13 +42,15 @@ struct PageLimits
 
 /**
  * How the user wants pages set: "editor/fontFamily", "editor/fontSize", "editor/pageWidth",
- * "editor/lineHeight", "editor/firstLineIndents", "editor/zoom", and the named styles.
+ * "editor/lineHeight", "editor/firstLineIndents", "editor/zoom", "editor/pageView", and the named styles.
  */
 [[nodiscard]] PageStyle pageStyleFrom(const QSettings& settings);
-/** Keeps all of it but the zoom, which has its own keys, and the named styles. */
+/** Keeps all of it but the zoom and the page view, which have their own commands, and the named styles. */
 void storePageStyle(QSettings& settings, const PageStyle& style);
 /** Back to how pages came. */
 void forgetPageStyle(QSettings& settings);
+/** Shows texts as pages, or over the whole window. */
+void setPageView(QSettings& settings, bool isPageView);
 /** Makes pages larger or smaller by so many steps, within sensible limits; none changes nothing. */
 void stepPageZoom(QSettings& settings, int steps);
 

@@ -7,12 +7,14 @@ class QSettings;
 namespace tw::desktop::manuscript {
 
 /**
- * What is corrected while one types: "typing/quotes" is a language ("de-CH"), "off", or unset for the
- * language of the program; "typing/dashes" and "typing/ellipsis" are switches, on until set.
+ * What is corrected while one types: nothing when "editor/autoCorrect" is off. "typing/quotes" is a language
+ * ("de-CH"), "off", or unset for the language of the program; "typing/dashes" and "typing/ellipsis" are
+ * switches, on until set.
  */
 [[nodiscard]] app::typing::TypingRules typingRulesFrom(const QSettings& settings);
 
 namespace typingkeys {
+inline constexpr QLatin1StringView autoCorrect{"editor/autoCorrect"};
 inline constexpr QLatin1StringView quotes{"typing/quotes"};
 inline constexpr QLatin1StringView dashes{"typing/dashes"};
 inline constexpr QLatin1StringView ellipsis{"typing/ellipsis"};

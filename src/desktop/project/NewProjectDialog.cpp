@@ -105,15 +105,21 @@ NewProject NewProjectDialog::project() const
     return {m_place->place(), static_cast<ProjectTemplate>(m_templates->currentItem()->data(idRole).toInt())};
 }
 
-std::optional<NewProject> askForNewProject(const shell::DeskContext& desk, QWidget* parent)
+std::optional<NewProject> askForNewProject(
+    const shell::DeskContext& desk, QWidget* parent, const NewProject& start)
 {
-    const NewProject start{withFreeName(
-        {NewProjectDialog::tr("Untitled"), usualFolder(desk.settings), preferredForm(desk.settings)})};
     NewProjectDialog dialog(desk, start, parent);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     setUsualFolder(desk.settings, dialog.project().place.folder);
     return dialog.project();
+}
+
+std::optional<NewProject> askForNewProject(const shell::DeskContext& desk, QWidget* parent)
+{
+    const NewProject start{withFreeName(
+        {NewProjectDialog::tr("Untitled"), usualFolder(desk.settings), preferredForm(desk.settings)})};
+    return askForNewProject(desk, parent, start);
 }
 
 } // namespace tw::desktop::project

@@ -46,7 +46,11 @@ private:
     fields::NoteLabel* m_description;
 };
 
-/** The project that the user settled on; none when the dialog was left. */
+/** The project that the user settled on, beginning with `start`; none when the dialog was left. */
+[[nodiscard]] std::optional<NewProject> askForNewProject(
+    const shell::DeskContext& desk, QWidget* parent, const NewProject& start);
+
+/** Begins with the usual folder, a free name and the first template. */
 [[nodiscard]] std::optional<NewProject> askForNewProject(const shell::DeskContext& desk, QWidget* parent);
 
 } // namespace tw::desktop::project

@@ -13,8 +13,9 @@ ConflictModel::ConflictModel(
     , m_icons(icons)
 {
     for (const FileMerge* const conflict : merge.conflicts()) {
-        // The one choice that gives up nothing.
-        const Resolution first = conflict->byParagraphs ? Resolution::Paragraphs : Resolution::Open;
+        // The one choice that gives up nothing and leaves nothing to do.
+        const bool goTogether = conflict->byParagraphs && !conflict->hasMarks;
+        const Resolution first = goTogether ? Resolution::Paragraphs : Resolution::Open;
         m_rows.push_back({conflict, fileTitle(*conflict), first});
     }
 }
@@ -44,7 +45,9 @@ QString ConflictModel::choiceText(const FileMerge& file, Resolution resolution)
         return file.versions.theirs ? tr("Take on-disk version")
                                     : tr("Take on-disk version (delete the file)");
     case Resolution::Paragraphs:
-        return file.byParagraphs ? tr("Merge both by paragraphs") : QString();
+        if (!file.byParagraphs)
+            return {};
+        return file.hasMarks ? tr("Keep both, marked in the text") : tr("Merge both by paragraphs");
     }
     return {};
 }

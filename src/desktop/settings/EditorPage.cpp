@@ -21,6 +21,7 @@ namespace typingkeys = manuscript::typingkeys;
 
 namespace {
 
+constexpr QLatin1StringView wordCountKey = "editor/showWordCount"_L1;
 constexpr qreal fontStep = 0.5;
 constexpr qreal lineStep = 0.1;
 
@@ -34,6 +35,8 @@ EditorPage::EditorPage(const shell::DeskContext& desk, QWidget* parent)
     , m_width(new QSpinBox(this))
     , m_lineHeight(new QDoubleSpinBox(this))
     , m_indents(new QCheckBox(tr("Begin paragraphs with an &indented line"), this))
+    , m_wordCount(new QCheckBox(tr("Show word &counts in the status bar"), this))
+    , m_autoCorrect(new QCheckBox(tr("Correct while &typing"), this))
     , m_quotes(new QComboBox(this))
     , m_dashes(new QCheckBox(tr("Make &dashes of two or three hyphens"), this))
     , m_ellipsis(new QCheckBox(tr("Make an &ellipsis of three dots"), this))
@@ -41,6 +44,7 @@ EditorPage::EditorPage(const shell::DeskContext& desk, QWidget* parent)
 {
     using manuscript::PageLimits;
     m_font->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_autoCorrect->setObjectName(u"autoCorrect"_s);
     m_size->setRange(PageLimits::smallestFont, PageLimits::largestFont);
     m_size->setSingleStep(fontStep);
     m_size->setDecimals(1);
@@ -74,11 +78,12 @@ EditorPage::EditorPage(const shell::DeskContext& desk, QWidget* parent)
     connect(reset, &QPushButton::clicked, this, [this] {
         manuscript::forgetPageStyle(m_desk.settings);
         for (const QLatin1StringView key :
-             {typingkeys::quotes, typingkeys::dashes, typingkeys::ellipsis, typingkeys::mentions})
+             {wordCountKey, typingkeys::autoCorrect, typingkeys::quotes, typingkeys::dashes,
+              typingkeys::ellipsis, typingkeys::mentions})
             m_desk.settings.remove(key);
         showTyping();
         show(manuscript::pageStyleFrom(m_desk.settings));
-        emit pageStyleChanged();
+        emit editorSettingsChanged();
     });
 }
 
@@ -96,11 +101,15 @@ void EditorPage::addTypingRows(QFormLayout& form)
             QString(marks.language));
     }
     m_quotes->setAccessibleName(tr("Typographic quotes"));
+    form.addRow(QString(), m_mentions);
+    form.addRow(QString(), m_wordCount);
+    form.addRow(QString(), m_autoCorrect);
     form.addRow(tr("&Quotes"), m_quotes);
     form.addRow(QString(), m_dashes);
     form.addRow(QString(), m_ellipsis);
-    form.addRow(QString(), m_mentions);
     showTyping();
+    connect(m_wordCount, &QCheckBox::toggled, this, &EditorPage::storeTyping);
+    connect(m_autoCorrect, &QCheckBox::toggled, this, &EditorPage::storeTyping);
     connect(m_quotes, &QComboBox::currentIndexChanged, this, &EditorPage::storeTyping);
     connect(m_dashes, &QCheckBox::toggled, this, &EditorPage::storeTyping);
     connect(m_ellipsis, &QCheckBox::toggled, this, &EditorPage::storeTyping);
@@ -113,16 +122,26 @@ void EditorPage::showTyping()
     const QSignalBlocker dashes(m_dashes);
     const QSignalBlocker ellipsis(m_ellipsis);
     const QSignalBlocker mentions(m_mentions);
-    m_mentions->setChecked(m_desk.settings.value(typingkeys::mentions).toBool());
-    const QVariant chosen = m_desk.settings.value(typingkeys::quotes, QString());
+    const QSignalBlocker wordCount(m_wordCount);
+    const QSignalBlocker autoCorrect(m_autoCorrect);
+    const QSettings& settings = m_desk.settings;
+    m_wordCount->setChecked(settings.value(wordCountKey, true).toBool());
+    m_autoCorrect->setChecked(settings.value(typingkeys::autoCorrect, true).toBool());
+    m_mentions->setChecked(settings.value(typingkeys::mentions).toBool());
+    const QVariant chosen = settings.value(typingkeys::quotes, QString());
     m_quotes->setCurrentIndex(std::max(0, m_quotes->findData(chosen)));
-    const auto rules = manuscript::typingRulesFrom(m_desk.settings);
-    m_dashes->setChecked(rules.joinsDashes);
-    m_ellipsis->setChecked(rules.joinsEllipsis);
+    m_dashes->setChecked(settings.value(typingkeys::dashes, true).toBool());
+    m_ellipsis->setChecked(settings.value(typingkeys::ellipsis, true).toBool());
+    for (QWidget* const rule :
+         {static_cast<QWidget*>(m_quotes), static_cast<QWidget*>(m_dashes),
+          static_cast<QWidget*>(m_ellipsis)})
+        rule->setEnabled(m_autoCorrect->isChecked());
 }
 
 void EditorPage::storeTyping()
 {
+    m_desk.settings.setValue(wordCountKey, m_wordCount->isChecked());
+    m_desk.settings.setValue(typingkeys::autoCorrect, m_autoCorrect->isChecked());
     const QString quotes = m_quotes->currentData().toString();
     if (quotes.isEmpty())
         m_desk.settings.remove(typingkeys::quotes);
@@ -131,7 +150,8 @@ void EditorPage::storeTyping()
     m_desk.settings.setValue(typingkeys::dashes, m_dashes->isChecked());
     m_desk.settings.setValue(typingkeys::ellipsis, m_ellipsis->isChecked());
     m_desk.settings.setValue(typingkeys::mentions, m_mentions->isChecked());
-    emit pageStyleChanged();
+    showTyping();
+    emit editorSettingsChanged();
 }
 
 void EditorPage::show(const PageStyle& style)
@@ -157,7 +177,7 @@ void EditorPage::store()
     style.lineHeight = m_lineHeight->value();
     style.hasFirstLineIndents = m_indents->isChecked();
     manuscript::storePageStyle(m_desk.settings, style);
-    emit pageStyleChanged();
+    emit editorSettingsChanged();
 }
 
 } // namespace tw::desktop::settings

@@ -24,7 +24,7 @@ public:
 
 signals:
     /** The settings say something else now; open pages do not follow by themselves. */
-    void pageStyleChanged();
+    void editorSettingsChanged();
 
 private:
     void show(const manuscript::PageStyle& style);
@@ -39,6 +39,8 @@ private:
     QSpinBox* m_width;
     QDoubleSpinBox* m_lineHeight;
     QCheckBox* m_indents;
+    QCheckBox* m_wordCount;
+    QCheckBox* m_autoCorrect;
     QComboBox* m_quotes;
     QCheckBox* m_dashes;
     QCheckBox* m_ellipsis;

@@ -43,7 +43,7 @@ SettingsDialog::SettingsDialog(
     m_list->setAccessibleName(tr("Pages of the settings"));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto* const editor = new EditorPage(desk, this);
-    connect(editor, &EditorPage::pageStyleChanged, this, &SettingsDialog::pageStyleChanged);
+    connect(editor, &EditorPage::editorSettingsChanged, this, &SettingsDialog::editorSettingsChanged);
     addPage(tr("Appearance"), desk.icons.icon(Icon::Theme), new AppearancePage(desk, this));
     addPage(tr("Editor"), desk.icons.icon(Icon::Text), editor);
     addPage(tr("Proofreading"), desk.icons.icon(Icon::Check), new ProofreadingPage(desk, proofreading, this));

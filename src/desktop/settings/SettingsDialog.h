@@ -30,7 +30,7 @@ public:
 
 signals:
     /** Open pages are to take up how pages are set now. */
-    void pageStyleChanged();
+    void editorSettingsChanged();
 
 private:
     /** Pages are added in the order of SettingsPage. */

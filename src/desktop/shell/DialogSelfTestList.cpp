@@ -1,5 +1,7 @@
+#include "desktop/calendar/CalendarDialog.h"
 #include "desktop/codex/CategoryPropertiesDialog.h"
 #include "desktop/codex/FieldDialog.h"
+#include "desktop/codex/PropertyCleanUpDialog.h"
 #include "desktop/codex/TimedValueDialog.h"
 #include "desktop/continuity/RulesDialog.h"
 #include "desktop/goals/GoalsDialog.h"
@@ -9,6 +11,7 @@
 #include "desktop/project/ProjectSettingsDialog.h"
 #include "desktop/project/RestoreDialog.h"
 #include "desktop/proofreading/ProofreadingService.h"
+#include "desktop/review/ResolveDialog.h"
 #include "desktop/settings/SettingsDialog.h"
 #include "desktop/settings/Shortcuts.h"
 #include "desktop/shell/AboutDialog.h"
@@ -167,6 +170,59 @@ QStringList checkRulesDialog(const DeskContext& desk)
     return dialog.rules() == rules ? QStringList() : QStringList{u"changes rules by itself"_s};
 }
 
+codex::PropertyCleanUp throwAwayCleanUp()
+{
+    codex::PropertyCleanUp plan;
+    for (const Field& field : throwAwayFields())
+        plan.moves.push_back({core::CategoryId::create(), core::ContentId::create(), field});
+    plan.twins.push_back({u"Selftest Category"_s, core::CategoryId::create(), 2, {}, 1});
+    plan.heldBack = 1;
+    return plan;
+}
+
+std::unique_ptr<QDialog> makeCleanUpDialog(const DeskContext& desk)
+{
+    return std::make_unique<codex::PropertyCleanUpDialog>(desk, throwAwayCleanUp(), nullptr);
+}
+
+/** Everything is to be done unless the user says otherwise. */
+QStringList checkCleanUpDialog(const DeskContext& desk)
+{
+    const codex::PropertyCleanUp plan = throwAwayCleanUp();
+    const codex::PropertyCleanUp chosen = codex::PropertyCleanUpDialog(desk, plan, nullptr).chosen();
+    return chosen.moves == plan.moves && chosen.twins.size() == plan.twins.size()
+               ? QStringList()
+               : QStringList{u"leaves something out by itself"_s};
+}
+
+calendar::Timekeeping throwAwayTimekeeping()
+{
+    core::calendar::Calendar calendar;
+    calendar.setEras({{u"Selftest Era 1"_s, -300, true}, {u"Selftest Era 2"_s, 1, false}});
+    return {calendar, {{u"Selftest 1"_s, calendar, 1234}, {{}, calendar, -1234}}};
+}
+
+std::unique_ptr<QDialog> makeCalendarDialog(const DeskContext& desk)
+{
+    return std::make_unique<calendar::CalendarDialog>(desk, throwAwayTimekeeping(), nullptr);
+}
+
+/** A calendar that nobody touched comes out as it went in. */
+QStringList checkCalendarDialog(const DeskContext& desk)
+{
+    const calendar::Timekeeping start = throwAwayTimekeeping();
+    const calendar::CalendarDialog dialog(desk, start, nullptr);
+    return dialog.timekeeping() == start ? QStringList() : QStringList{u"changes the calendar by itself"_s};
+}
+
+std::unique_ptr<QDialog> makeResolveDialog(const DeskContext& desk)
+{
+    using app::persistence::ProjectMerge;
+    // The dialog refers to it until its end.
+    static const ProjectMerge merge({{}, {{u"project.json"_s, "{}"}}, {{u"project.json"_s, "{ }"}}});
+    return std::make_unique<review::ResolveDialog>(desk, merge, nullptr);
+}
+
 std::unique_ptr<QDialog> makeExportPackDialog(const DeskContext& desk)
 {
     return std::make_unique<project::ExportPackDialog>(
@@ -227,6 +283,9 @@ std::vector<SelfTestDialog> selfTestDialogs()
         {u"project settings"_s, makeProjectSettingsDialog, checkProjectSettingsDialog},
         {u"writing goals"_s, makeGoalsDialog, {}},
         {u"paragraph styles"_s, makeNamedStylesDialog, {}},
+        {u"edit calendar"_s, makeCalendarDialog, checkCalendarDialog},
+        {u"property clean-up"_s, makeCleanUpDialog, checkCleanUpDialog},
+        {u"resolve external changes"_s, makeResolveDialog, {}},
         {u"continuity rules"_s, makeRulesDialog, checkRulesDialog},
         {u"export content pack"_s, makeExportPackDialog, {}},
         {u"settings"_s, makeSettingsDialog, {}},

@@ -13,6 +13,7 @@
 #include "desktop/screenplay/ScreenplayActions.h"
 #include "desktop/settings/AutosaveChoice.h"
 #include "desktop/settings/Shortcuts.h"
+#include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/FocusMode.h"
 #include "desktop/shell/Navigator.h"
@@ -76,6 +77,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_writing(new goals::WritingSession(desk.session, &QDate::currentDate, this))
     , m_readAloud(new speech::ReadAloud(this))
     , m_status(new StatusStrip(desk, *m_writing, *statusBar()))
+    , m_audience(new AudienceSelector(desk, menuBar()))
     , m_textActions(new manuscript::TextActions(desk, this))
     , m_screenplayActions(new screenplay::ScreenplayActions(desk, this))
     , m_focusMode(nullptr)

@@ -57,6 +57,7 @@ class ReadAloud;
 
 namespace tw::desktop::shell {
 
+class AudienceSelector;
 class DockLayout;
 class FocusMode;
 class ProjectLife;
@@ -115,6 +116,8 @@ private:
     void buildFormatBar();
     void addWritingViews(QMenu& menu);
     void zoomPages(int steps);
+    /** After a change of how texts are shown and counted. */
+    void followEditorSettings();
     void followPage(WorkPage* page);
     void buildProjectMenu();
     void buildCodexMenu();
@@ -155,6 +158,7 @@ private:
     goals::WritingSession* m_writing;
     speech::ReadAloud* m_readAloud;
     StatusStrip* m_status;
+    AudienceSelector* m_audience;
     manuscript::TextActions* m_textActions;
     screenplay::ScreenplayActions* m_screenplayActions;
     FocusMode* m_focusMode;

@@ -13,6 +13,7 @@
 #include "desktop/screenplay/ScreenplayActions.h"
 #include "desktop/search/SearchPanel.h"
 #include "desktop/settings/SettingsDialog.h"
+#include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/FocusMode.h"
 #include "desktop/shell/Navigator.h"
@@ -203,6 +204,12 @@ void MainWindow::zoomPages(int steps)
         page->applyStyle();
 }
 
+void MainWindow::followEditorSettings()
+{
+    zoomPages(0);
+    m_status->followSettings();
+}
+
 void MainWindow::buildViewMenu()
 {
     QMenu& menu = *menuBar()->addMenu(tr("&View"));
@@ -252,6 +259,8 @@ void MainWindow::buildViewMenu()
             zoomPages(0);
         });
     menu.addSeparator();
+    addAction(menu, u"view.audience"_s, Icon::Eye, tr("Vie&w As…"), {}, [this] { m_audience->open(); });
+    menu.addSeparator();
     addWritingViews(menu);
     menu.addSeparator();
     addAction(
@@ -284,6 +293,14 @@ void MainWindow::addWritingViews(QMenu& menu)
                 page->setSourceShown(m_sourceAction->isChecked());
         });
     m_sourceAction->setCheckable(true);
+    const auto isPageView = [this] { return manuscript::pageStyleFrom(m_desk.settings).isPageView; };
+    QAction* const pageView =
+        addAction(menu, u"view.page"_s, Icon::Document, tr("Pa&ge View"), {}, [this, isPageView] {
+            manuscript::setPageView(m_desk.settings, !isPageView());
+            zoomPages(0);
+        });
+    pageView->setCheckable(true);
+    pageView->setChecked(isPageView());
     m_formatBarAction = addAction(menu, u"view.formatBar"_s, Icon::Text, tr("Format &Bar"), {}, [this] {
         m_desk.settings.setValue("view/formatBar", m_formatBarAction->isChecked());
         followPage(m_workArea->currentPage());

@@ -1,6 +1,8 @@
 #include "desktop/shell/MainWindow.h"
 
+#include "desktop/calendar/CalendarDialog.h"
 #include "desktop/codex/CodexPanel.h"
+#include "desktop/codex/PropertyCleanUpDialog.h"
 #include "desktop/continuity/ContinuityProblems.h"
 #include "desktop/continuity/RulesDialog.h"
 #include "desktop/goals/GoalsDialog.h"
@@ -18,6 +20,7 @@
 #include "desktop/settings/SettingsDialog.h"
 #include "desktop/settings/Shortcuts.h"
 #include "desktop/shell/AboutDialog.h"
+#include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
@@ -64,6 +67,7 @@ void MainWindow::buildMenus()
     windows->setObjectName(u"windowsMenu"_s);
     m_docks->fillMenu(*windows);
     buildHelpMenu();
+    menuBar()->setCornerWidget(m_audience);
     m_shortcuts->collect(*menuBar());
 }
 
@@ -114,6 +118,9 @@ void MainWindow::buildProjectMenu()
     m_projectActions.append(addAction(
         menu, u"project.settings"_s, Icon::Settings, tr("Project &Settings…"), {},
         [this] { project::editProjectSettings(m_desk, this); }));
+    m_projectActions.append(addAction(
+        menu, u"project.calendar"_s, Icon::Date, tr("Edit &Calendar…"), {},
+        [this] { calendar::editCalendar(m_desk, this); }));
     m_projectActions.append(addAction(
         menu, u"project.goals"_s, Icon::Target, tr("Writing &Goals…"), {},
         [this] { goals::editGoals(m_desk, *m_writing, this); }));
@@ -234,7 +241,8 @@ void MainWindow::showProblems()
 void MainWindow::showSettings(settings::SettingsPage page)
 {
     settings::SettingsDialog dialog(m_desk, *m_shortcuts, *m_proofreading, this);
-    connect(&dialog, &settings::SettingsDialog::pageStyleChanged, this, [this] { zoomPages(0); });
+    connect(
+        &dialog, &settings::SettingsDialog::editorSettingsChanged, this, &MainWindow::followEditorSettings);
     dialog.showPage(page);
     dialog.exec();
 }
@@ -245,6 +253,9 @@ void MainWindow::buildCodexMenu()
     for (QAction* const action : m_codex->menuActions())
         menu.addAction(action);
     menu.addSeparator();
+    m_projectActions.append(addAction(
+        menu, u"codex.cleanUp"_s, Icon::OwnField, tr("Clean &Up Properties…"), {},
+        [this] { codex::cleanUpProperties(m_desk, this); }));
     m_projectActions.append(addAction(
         menu, u"codex.importPack"_s, Icon::Import, tr("&Import Content Pack…"), {},
         [this] { project::importContentPack(m_desk, this); }));

@@ -33,6 +33,14 @@ void Navigator::openPassage(const core::ContentId& id, const TextPassage& passag
     emit passageRequested(id, passage);
 }
 
+void Navigator::setAudience(const QString& audience)
+{
+    if (m_audience == audience)
+        return;
+    m_audience = audience;
+    emit audienceChanged(m_audience);
+}
+
 void Navigator::say(const QString& text)
 {
     emit said(text);

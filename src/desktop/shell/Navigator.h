@@ -35,6 +35,10 @@ public:
     /** Opens the object's page at a place in its text. */
     void openPassage(const core::ContentId& id, const TextPassage& passage);
 
+    /** The audience as which the trees are looked at; empty for a look at everything. */
+    [[nodiscard]] const QString& audience() const { return m_audience; }
+    void setAudience(const QString& audience);
+
     /** A line for the status bar: something happened that needs no decision. */
     void say(const QString& text);
 
@@ -44,10 +48,12 @@ signals:
     void viewRequested(const tw::core::ContentId& id, const QString& view);
     /** Comes after openRequested() for the same object. */
     void passageRequested(const tw::core::ContentId& id, const tw::desktop::shell::TextPassage& passage);
+    void audienceChanged(const QString& audience);
     void said(const QString& text);
 
 private:
     core::ContentId m_current;
+    QString m_audience;
 };
 
 } // namespace tw::desktop::shell

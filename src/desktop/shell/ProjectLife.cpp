@@ -39,6 +39,10 @@ ProjectLife::ProjectLife(const DeskContext& desk, QString samplePath, QWidget* w
     , m_backups(new project::ProjectBackups(desk, window))
 {
     connect(m_crashKeeper, &CrashKeeper::failed, this, &ProjectLife::said);
+    // Queued: what asked for the reload says its own first.
+    connect(
+        &m_desk.session, &ProjectSession::reloaded, this, &ProjectLife::tellOpeningNotice,
+        Qt::QueuedConnection);
     m_backups->setSave([this] { return saveForBackup(); });
     connect(m_backups, &project::ProjectBackups::said, this, &ProjectLife::said);
     connect(m_backups, &project::ProjectBackups::restored, this, &ProjectLife::open);
@@ -92,39 +96,45 @@ bool ProjectLife::reopenLast()
 void ProjectLife::openSample()
 {
     const QString copy = documentsFolder() + u"/Vellory/"_s + QFileInfo(m_samplePath).fileName();
-    if (QFileInfo::exists(copy)) {
-        open(copy);
-        return;
+    if (!QFileInfo::exists(copy)) {
+        // The sample itself stays as it came: the writer gets a copy to play with.
+        const auto sample =
+            app::workspace::Workspace::open(m_desk.session.workspace().environment(), m_samplePath);
+        const auto copied = sample ? sample.value()->saveAs(copy) : core::Failure{sample.message()};
+        if (!copied) {
+            tell(m_window, tr("Open the Sample"), copied.message());
+            return;
+        }
     }
-    // The sample itself stays as it came: the writer gets a copy to play with.
-    if (!settleUnsavedChanges())
-        return;
-    emit aboutToLeave();
-    auto result = m_desk.session.open(m_samplePath);
-    if (result)
-        result = m_desk.session.saveAs(copy);
-    if (!result)
-        tell(m_window, tr("Open the Sample"), result.message());
-    emit opened();
+    open(copy);
 }
 
 void ProjectLife::startNew()
 {
-    const auto wanted = project::askForNewProject(m_desk, m_window);
+    auto wanted = project::askForNewProject(m_desk, m_window);
     if (!wanted || !settleUnsavedChanges())
         return;
     emit aboutToLeave();
+    // What was filled in is not asked for again when the place turns out to be no good.
+    while (wanted && !create(*wanted))
+        wanted = project::askForNewProject(m_desk, m_window, *wanted);
+    if (wanted)
+        emit opened();
+    else
+        emit openFailed();
+}
+
+bool ProjectLife::create(const project::NewProject& wanted)
+{
     const auto fill = [&wanted](core::project::Project& created) {
-        created.setName(wanted->place.name);
-        app::workspace::templates::fillProject(created, wanted->chosen);
+        created.setName(wanted.place.name);
+        app::workspace::templates::fillProject(created, wanted.chosen);
     };
     // Saved at once, so that nothing that is written from now on is without a place.
-    if (const auto created = m_desk.session.create(project::pathOf(wanted->place), fill); !created) {
+    const auto created = m_desk.session.create(project::pathOf(wanted.place), fill);
+    if (!created)
         tell(m_window, tr("New Project"), created.message());
-        emit openFailed();
-        return;
-    }
-    emit opened();
+    return created.isOk();
 }
 
 void ProjectLife::chooseAndOpen()
@@ -201,8 +211,6 @@ void ProjectLife::reload()
     }
     if (const auto reloaded = m_desk.session.reload(); !reloaded)
         tell(m_window, tr("Reload Project"), reloaded.message());
-    else
-        tellOpeningNotice();
 }
 
 bool ProjectLife::settleUnsavedChanges()

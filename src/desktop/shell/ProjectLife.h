@@ -13,7 +13,8 @@ class ExternalChanges;
 }
 namespace tw::desktop::project {
 class ProjectBackups;
-}
+struct NewProject;
+} // namespace tw::desktop::project
 
 namespace tw::desktop::shell {
 
@@ -74,6 +75,8 @@ signals:
     void said(const QString& text);
 
 private:
+    /** Leaves the open project alone and tells the user when it fails. */
+    [[nodiscard]] bool create(const project::NewProject& wanted);
     [[nodiscard]] bool saveOrTell(app::persistence::SaveExtent extent);
     [[nodiscard]] bool saveForBackup();
     void tellOpeningNotice();

@@ -249,6 +249,7 @@ void ProjectSession::announceReload()
     m_typingEditors.clear();
     m_saveFailure.clear();
     announceEverything();
+    emit reloaded();
 }
 
 Result<app::workspace::ExternalReview> ProjectSession::beginReview()

@@ -185,6 +185,8 @@ signals:
     void autosaveFailed(const QString& message);
     /** The list of mounted libraries changed, and they were read anew. */
     void librariesRead();
+    /** What is on disk has taken the place of the project in memory, by reload() or settle(). */
+    void reloaded();
 
 private:
     void announce();

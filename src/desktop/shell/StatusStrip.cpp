@@ -1,5 +1,6 @@
 #include "desktop/shell/StatusStrip.h"
 
+#include "core/calendar/Reckoning.h"
 #include "core/document/Document.h"
 #include "desktop/goals/WritingSession.h"
 #include "desktop/icons/IconSet.h"
@@ -9,9 +10,12 @@
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
+#include <QSettings>
 #include <QStatusBar>
 
 namespace tw::desktop::shell {
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -28,6 +32,11 @@ QLabel* addLabel(QStatusBar& bar)
     auto* const label = new QLabel(&bar);
     bar.addPermanentWidget(label);
     return label;
+}
+
+bool showsWordCount(const QSettings& settings)
+{
+    return settings.value("editor/showWordCount", true).toBool();
 }
 
 } // namespace
@@ -69,6 +78,12 @@ void StatusStrip::setPage(WorkPage* page)
     refreshPage();
 }
 
+void StatusStrip::followSettings()
+{
+    refreshWords();
+    refreshPage();
+}
+
 void StatusStrip::followChanges()
 {
     refreshWords();
@@ -79,22 +94,28 @@ void StatusStrip::followChanges()
 void StatusStrip::refreshPage()
 {
     m_pageText->setText(m_page ? m_page->statusText() : QString());
-    m_pageText->setVisible(!m_pageText->text().isEmpty());
+    m_pageText->setVisible(!m_pageText->text().isEmpty() && showsWordCount(m_desk.settings));
     const auto& project = m_desk.session.project();
     const auto* const document =
         m_page ? project.findAs<core::document::Document>(m_page->objectId()) : nullptr;
     const bool hasDate = document && document->sceneInstant();
     m_storyDate->setText(hasDate ? project.calendar().formatInstant(*document->sceneInstant()) : QString());
-    m_storyDate->setToolTip(tr("When the scene happens in the story"));
+    QString explained = tr("When the scene happens in the story");
+    for (const core::calendar::Reckoning& reckoning : project.reckonings()) {
+        if (hasDate)
+            explained += u"\n%1: %2"_s.arg(
+                reckoning.name, core::calendar::formatInstantIn(reckoning, *document->sceneInstant()));
+    }
+    m_storyDate->setToolTip(explained);
     m_storyDate->setVisible(hasDate);
 }
 
 void StatusStrip::refreshWords()
 {
-    const bool isOpen = m_desk.session.isProjectOpen();
+    const bool isShown = m_desk.session.isProjectOpen() && showsWordCount(m_desk.settings);
     for (QWidget* const widget :
          {static_cast<QWidget*>(m_projectWords), static_cast<QWidget*>(m_sessionWords)})
-        widget->setVisible(isOpen);
+        widget->setVisible(isShown);
     const qint64 total = m_desk.session.words().total();
     const qint64 session = m_writing.sessionWords();
     m_projectWords->setText(tr("Manuscript: %Ln words", nullptr, static_cast<int>(total)));
@@ -102,7 +123,7 @@ void StatusStrip::refreshWords()
         session >= 0 ? tr("Session: +%1").arg(grouped(session)) : tr("Session: −%1").arg(grouped(-session)));
     m_sessionWords->setToolTip(tr("Words since the project was opened"));
     const qint64 target = m_desk.session.project().writingGoal().dailyWordTarget;
-    m_dailyTarget->setVisible(isOpen && target > 0);
+    m_dailyTarget->setVisible(isShown && target > 0);
     if (target > 0) {
         constexpr int steps = 1000;
         m_dailyTarget->setRange(0, steps);

@@ -30,6 +30,9 @@ public:
 
     void setPage(WorkPage* page);
 
+    /** Word counts are shown unless "editor/showWordCount" is off. */
+    void followSettings();
+
 private:
     void followChanges();
     void refreshWords();

@@ -33,6 +33,12 @@ DeskStyle::DeskStyle()
     , m_theme(builtInThemes().front())
 {}
 
+QIcon DeskStyle::standardIcon(StandardPixmap place, const QStyleOption* option, const QWidget* widget) const
+{
+    const auto own = m_standardIcons.constFind(place);
+    return own == m_standardIcons.cend() ? QProxyStyle::standardIcon(place, option, widget) : *own;
+}
+
 int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     switch (metric) {
@@ -51,6 +57,8 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
         return indicatorSize;
+    case PM_MessageBoxIconSize:
+        return 8 * step;
     case PM_LayoutLeftMargin:
     case PM_LayoutTopMargin:
     case PM_LayoutRightMargin:

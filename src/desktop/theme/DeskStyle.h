@@ -2,6 +2,8 @@
 
 #include "desktop/theme/Theme.h"
 
+#include <QHash>
+#include <QIcon>
 #include <QProxyStyle>
 
 namespace tw::desktop::theme {
@@ -21,6 +23,11 @@ public:
     /** Takes effect with the next painting. */
     void setTheme(const Theme& theme) { m_theme = theme; }
 
+    /** Used in place of Fusion's own. */
+    void setStandardIcon(StandardPixmap place, const QIcon& icon) { m_standardIcons.insert(place, icon); }
+
+    QIcon standardIcon(
+        StandardPixmap place, const QStyleOption* option, const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data)
         const override;
@@ -69,6 +76,7 @@ private:
     void drawSlider(const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const;
 
     Theme m_theme;
+    QHash<StandardPixmap, QIcon> m_standardIcons;
 };
 
 } // namespace tw::desktop::theme

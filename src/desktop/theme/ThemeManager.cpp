@@ -103,6 +103,12 @@ void ThemeManager::apply(QApplication& application)
     application.setStyleSheet(applicationStyleSheet(m_theme));
 }
 
+void ThemeManager::setStandardIcon(QStyle::StandardPixmap place, const QIcon& icon)
+{
+    if (m_style)
+        m_style->setStandardIcon(place, icon);
+}
+
 // Reads the choice anew into the theme in use.
 void ThemeManager::refresh()
 {

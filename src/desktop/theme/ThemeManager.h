@@ -4,8 +4,10 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QStyle>
 
 class QApplication;
+class QIcon;
 class QSettings;
 
 namespace tw::desktop::theme {
@@ -49,6 +51,9 @@ public:
 
     /** Sets style, palette, font and style sheet now and again whenever the theme or the scale changes. */
     void apply(QApplication& application);
+
+    /** Shown by message boxes and file dialogs. Only once the theme is on the application. */
+    void setStandardIcon(QStyle::StandardPixmap place, const QIcon& icon);
 
 signals:
     /** The colours or the font scale are different now; the application itself is already up to date. */

@@ -16,13 +16,42 @@ constexpr int hintMargin = 24;
 
 } // namespace
 
+void NavigatorTree::Filter::setWithheld(std::function<bool(const QModelIndex& source)> isWithheld)
+{
+    m_isWithheld = std::move(isWithheld);
+    invalidate();
+}
+
+bool NavigatorTree::Filter::isOff() const
+{
+    return !m_isWithheld && filterRegularExpression().pattern().isEmpty();
+}
+
+QVariant NavigatorTree::Filter::data(const QModelIndex& index, int role) const
+{
+    if (!m_isWithheld || role == IdRole || !m_isWithheld(mapToSource(index)))
+        return QSortFilterProxyModel::data(index, role);
+    return role == Qt::DisplayRole ? QVariant(QStringLiteral("…")) : QVariant();
+}
+
+bool NavigatorTree::Filter::filterAcceptsRow(int row, const QModelIndex& parent) const
+{
+    const QModelIndex index = sourceModel()->index(row, 0, parent);
+    if (m_isWithheld && m_isWithheld(index))
+        return false;
+    for (QModelIndex each = index; each.isValid(); each = each.parent()) {
+        if (QSortFilterProxyModel::filterAcceptsRow(each.row(), each.parent()))
+            return true;
+    }
+    return false;
+}
+
 NavigatorTree::NavigatorTree(const shell::DeskContext& desk, QWidget* parent)
     : CommittingView(desk.session, parent)
     , m_hint(new QLabel(viewport()))
 {
     m_filter.setRecursiveFilteringEnabled(true);
     m_filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
-    m_filter.setAutoAcceptChildRows(true);
     setItemDelegate(new TreeRowDelegate(desk.themes, this));
     setHeaderHidden(true);
     setUniformRowHeights(true);
@@ -67,13 +96,27 @@ void NavigatorTree::setFilter(const QString& text)
     const QScopedValueRollback guard(m_restoring, true);
     m_filterText = text;
     m_filter.setFilterFixedString(text);
-    setDragEnabled(text.isEmpty());
-    setAcceptDrops(text.isEmpty());
+    refreshDragging();
     if (text.isEmpty())
         restoreExpansion();
     else
         expandAll();
     showHint();
+}
+
+void NavigatorTree::setWithheld(std::function<bool(const QModelIndex& source)> isWithheld)
+{
+    const QScopedValueRollback guard(m_restoring, true);
+    m_filter.setWithheld(std::move(isWithheld));
+    refreshDragging();
+    restoreExpansion();
+    showHint();
+}
+
+void NavigatorTree::refreshDragging()
+{
+    setDragEnabled(m_filter.isOff());
+    setAcceptDrops(m_filter.isOff());
 }
 
 void NavigatorTree::setEmptyHint(const QString& text)
@@ -87,10 +130,14 @@ void NavigatorTree::showHint()
     m_hint->setGeometry(viewport()->rect().adjusted(hintMargin, hintMargin, -hintMargin, -hintMargin));
     // Where nothing is at all, the filter is not what keeps it away.
     const auto* const source = m_filter.sourceModel();
-    const bool isFiltered = !m_filterText.isEmpty() && source && source->rowCount() > 0;
-    m_hint->setText(
-        isFiltered ? tr("Nothing here contains “%1”. Clear the filter to see everything.").arg(m_filterText)
-                   : m_emptyHint);
+    const bool isNarrowed = !m_filter.isOff() && source && source->rowCount() > 0;
+    if (isNarrowed && m_filterText.isEmpty())
+        m_hint->setText(tr("Nothing here is for the audience that you view it as."));
+    else if (isNarrowed)
+        m_hint->setText(
+            tr("Nothing here contains “%1”. Clear the filter to see everything.").arg(m_filterText));
+    else
+        m_hint->setText(m_emptyHint);
     m_hint->setVisible(m_filter.rowCount() == 0);
 }
 

@@ -7,6 +7,8 @@
 #include <QSortFilterProxyModel>
 #include <QTreeView>
 
+#include <functional>
+
 class QLabel;
 
 namespace tw::desktop::trees {
@@ -27,6 +29,11 @@ public:
     void setSource(QAbstractItemModel& source);
     /** Rows that contain the text, with the rows above them. Dragging rests while a filter is set. */
     void setFilter(const QString& text);
+    /**
+     * Rows to leave out whatever the filter says, or null for none. One above a row that stays is there
+     * without its title. Dragging rests. Asked again for rows that the model says are different.
+     */
+    void setWithheld(std::function<bool(const QModelIndex& source)> isWithheld);
     /** What to say and do when there is nothing, whatever the filter. */
     void setEmptyHint(const QString& text);
 
@@ -59,12 +66,25 @@ private:
     void restoreState();
     void restoreExpansion();
     void showHint();
+    void refreshDragging();
 
-    /** Rows that match, and of each the first column. */
+    /** Rows that match and those beneath them, and of each the first column. */
     class Filter final : public QSortFilterProxyModel
     {
+    public:
+        void setWithheld(std::function<bool(const QModelIndex& source)> isWithheld);
+        [[nodiscard]] bool isOff() const;
+        [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+
     protected:
-        bool filterAcceptsColumn(int column, const QModelIndex&) const override { return column == 0; }
+        [[nodiscard]] bool filterAcceptsColumn(int column, const QModelIndex&) const override
+        {
+            return column == 0;
+        }
+        [[nodiscard]] bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
+
+    private:
+        std::function<bool(const QModelIndex& source)> m_isWithheld;
     };
 
     Filter m_filter;

@@ -34,7 +34,7 @@ protected:
     DocumentPageTest()
         : id(desk.addDocument(u"Chapter"_s, {}, 0))
     {
-        desk.settings.setValue("editor/markdownSource", GetParam() == TextView::MarkdownSource);
+        desk.settings.setValue("editor/sourceMode", GetParam() == TextView::MarkdownSource);
         desk.document(id).setBody({u"First paragraph.\n\nSecond."_s, {}});
         page = std::make_unique<DocumentPage>(desk.context, id, nullptr);
         page->resize(900, 600);

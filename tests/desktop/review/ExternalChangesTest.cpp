@@ -240,6 +240,24 @@ TEST_F(ExternalChangesTest, modelOffersWhatAppliesToEachFile)
     EXPECT_TRUE(model.isDecided());
 }
 
+TEST_F(ExternalChangesTest, tellsWhereTheWorkingCopyOfASingleFileWent)
+{
+    const QString path = folder.filePath(u"low water.vellory"_s);
+    ASSERT_TRUE(desk.session.saveAs(path));
+    ASSERT_TRUE(QFile::copy(path, folder.filePath(u"theirs"_s)));
+    rename(first, u"Slack"_s);
+    ASSERT_TRUE(desk.session.save());
+    ASSERT_TRUE(QFile::remove(path));
+    ASSERT_TRUE(QFile::rename(folder.filePath(u"theirs"_s), path));
+
+    const NextMessage message(u"Load On-Disk Version"_s, [] { return new NextMessage(u"Close"_s); });
+    changes().check();
+    EXPECT_EQ(desk.document(first).title(), u"Ebb"_s);
+    ASSERT_TRUE(QTest::qWaitFor([&message] { return message.next && !message.next->title.isEmpty(); }));
+    EXPECT_EQ(message.next->title, u"Project File Changed"_s);
+    EXPECT_TRUE(message.next->text.contains(u"backed up to"_s)) << message.next->text.toStdString();
+}
+
 TEST_F(ExternalChangesTest, savingOpensTheReviewAndGoesOn)
 {
     rename(first, u"Slack"_s);

@@ -1,6 +1,7 @@
 #include "desktop/settings/Shortcuts.h"
 
 #include "desktop/manuscript/BodyEditor.h"
+#include "desktop/manuscript/TypingSettings.h"
 #include "desktop/proofreading/ProofreadingService.h"
 #include "desktop/settings/AutosaveChoice.h"
 #include "desktop/settings/SettingsDialog.h"
@@ -135,7 +136,7 @@ TEST_F(ShortcutsTest, theDialogTakesEffectAtOnce)
     proofreading::ProofreadingService service(desk.context, places, nullptr);
     service.addToDictionary(u"Thalos"_s);
     SettingsDialog dialog(desk.context, *shortcuts, service, nullptr);
-    const QSignalSpy pageStyle(&dialog, &SettingsDialog::pageStyleChanged);
+    const QSignalSpy pageStyle(&dialog, &SettingsDialog::editorSettingsChanged);
     dialog.findChild<QSpinBox*>(u"autosaveInterval"_s)->setValue(120);
     dialog.findChild<QCheckBox*>(u"autosave"_s)->click();
     const shell::AutosaveSettings expected{false, std::chrono::seconds(120)};
@@ -156,6 +157,10 @@ TEST_F(ShortcutsTest, theDialogTakesEffectAtOnce)
     dialog.findChild<QSpinBox*>(u"pageWidth"_s)->setValue(80);
     EXPECT_EQ(pageStyle.size(), 1);
     EXPECT_EQ(manuscript::pageStyleFrom(desk.settings).columnCharacters, 80);
+    EXPECT_TRUE(manuscript::typingRulesFrom(desk.settings).joinsDashes);
+    dialog.findChild<QCheckBox*>(u"autoCorrect"_s)->click();
+    const app::typing::TypingRules rules = manuscript::typingRulesFrom(desk.settings);
+    EXPECT_TRUE(!rules.quotes && !rules.joinsDashes && !rules.joinsEllipsis);
 }
 
 TEST(AutosaveChoice, unreadableSettingsAreBroughtIntoRange)

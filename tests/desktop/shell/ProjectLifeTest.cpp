@@ -121,6 +121,34 @@ TEST_F(ProjectLifeTest, fromNewToRestored)
         (QStringList{path(u"Restored.vellory"_s), path(u"as file.vellory"_s)}));
 }
 
+TEST_F(ProjectLifeTest, aPlaceThatFailsIsAskedForAgain)
+{
+    QFile file(path(u"file"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const auto fillIn = [](project::NewProjectDialog& shown, const QString& place) {
+        shown.findChild<QLineEdit*>(u"projectFolder"_s)->setText(QDir::toNativeSeparators(place));
+        shown.findChild<QPushButton*>(u"createProject"_s)->click();
+    };
+    QString nameAgain;
+    std::unique_ptr<NextDialog<project::NewProjectDialog>> second;
+    std::unique_ptr<NextMessage> message;
+    const NextDialog<project::NewProjectDialog> first([&](project::NewProjectDialog& shown) {
+        shown.findChild<QLineEdit*>(u"projectName"_s)->setText(u"Ebb"_s);
+        fillIn(shown, path(u"file/below"_s));
+        message = std::make_unique<NextMessage>(u"Close"_s);
+        second =
+            std::make_unique<NextDialog<project::NewProjectDialog>>([&](project::NewProjectDialog& again) {
+                nameAgain = again.findChild<QLineEdit*>(u"projectName"_s)->text();
+                fillIn(again, path(u"not/there/yet"_s));
+            });
+    });
+    window.life().startNew();
+    EXPECT_EQ(
+        message->text, u"Cannot create project folder: "_s + QDir::toNativeSeparators(path(u"file/below"_s)));
+    EXPECT_EQ(nameAgain, u"Ebb"_s);
+    EXPECT_TRUE(QFileInfo::exists(path(u"not/there/yet/Ebb.vellory"_s)));
+}
+
 TEST_F(ProjectLifeTest, aNewProjectNeverTakesThePlaceOfAnything)
 {
     QFile taken(path(u"Taken.vellory"_s));

@@ -49,9 +49,9 @@ McpToolResult backupProject(ToolContext& context, const ToolArguments&)
     const auto backup = backUpNow(context.workspace);
     if (!backup)
         return McpToolResult::failure(backup.message());
-    QString text = u"Backed the project up to %1."_s.arg(backup.value().path);
+    QString text = u"Backed up the project to %1."_s.arg(backup.value().path);
     if (backup.value().pruned > 0)
-        text += u" Removed %1 older backup(s)."_s.arg(backup.value().pruned);
+        text += u" Pruned %1 older backup(s)."_s.arg(backup.value().pruned);
     return McpToolResult::success(text);
 }
 

@@ -8,8 +8,12 @@
 
 namespace tw::app::mcp {
 
+using namespace Qt::Literals::StringLiterals;
+
 core::Result<persistence::Backup> backUpNow(workspace::Workspace& workspace)
 {
+    if (!workspace.hasPath())
+        return core::Failure{u"The project has no folder yet, so it cannot be backed up."_s};
     // A backup holds what was written last, not what is in memory.
     if (workspace.isModified()) {
         if (const auto saved = workspace.save(); !saved)

@@ -56,7 +56,7 @@ const QString nothingToMove = u"Nothing to move: no category property is held by
 McpToolResult preview(ToolContext& context)
 {
     const Project& project = context.workspace.project();
-    const PropertyPlan plan = codex::planPropertyMigration(project);
+    const PropertyPlan plan = codex::planPropertyMigration(project, codex::Actor::Assistant);
     QString text = nothingToMove;
     if (!plan.moves.empty()) {
         text = u"These properties are held by exactly one entity each and would move down to it:\n"_s;
@@ -71,7 +71,8 @@ McpToolResult preview(ToolContext& context)
 
 McpToolResult apply(ToolContext& context)
 {
-    const PropertyPlan plan = codex::planPropertyMigration(context.workspace.project());
+    const PropertyPlan plan =
+        codex::planPropertyMigration(context.workspace.project(), codex::Actor::Assistant);
     if (plan.moves.empty())
         return McpToolResult::success(nothingToMove + heldBackText(plan));
     const auto backup = backUpNow(context.workspace);
@@ -128,7 +129,7 @@ McpToolResult mergeDuplicates(ToolContext& context, const QString& name)
             u"Nothing matched, so nothing was merged. Run \"duplicates\" to see what this project has."_s);
     }
     for (const CategoryTwins& twins : groups) {
-        if (codex::isMergeHindered(project, twins)) {
+        if (codex::isMergeHindered(project, twins, codex::Actor::Assistant)) {
             return McpToolResult::failure(
                 u"An entity of \"%1\" that would have to move is locked or excluded from AI, so nothing was "
                 u"merged. "

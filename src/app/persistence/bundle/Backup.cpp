@@ -5,6 +5,7 @@
 #include "app/persistence/files/SafeWriter.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 
@@ -17,6 +18,21 @@ using core::Result;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+/**
+ * Of the project, fit for files. Two names that begin alike stay apart, as backups of the same name count
+ * together; one too long for a file beside the time stamp is cut and ends in a hash of the whole.
+ */
+QString backupName(const QString& project)
+{
+    constexpr qsizetype mostBytes = 200;
+    const QString whole = safeFileName(project, project.size());
+    if (whole.toUtf8().size() <= mostBytes)
+        return whole;
+    constexpr qsizetype hashDigits = 12;
+    const QByteArray hash = QCryptographicHash::hash(project.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return safeFileName(project) + u'-' + QString::fromLatin1(hash.first(hashDigits));
+}
 
 QString fileName(const QString& name, const QDateTime& timestamp)
 {
@@ -60,7 +76,7 @@ BackupRequest backupRequest(
     const StorageEnvironment& environment, const QString& projectPath, const QString& folder,
     const QDateTime& timestamp)
 {
-    const QString name = safeFileName(
+    const QString name = backupName(
         isBundlePath(projectPath) ? QFileInfo(projectPath).completeBaseName() : QDir(projectPath).dirName());
     return {folder, backupsFolder(environment) + u'/' + name, name, timestamp};
 }

@@ -18,8 +18,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr qsizetype hashDigitsInName = 12;
-/** With the digits, suffixes and four bytes a character still within the 255 bytes of most systems. */
-constexpr qsizetype longestSafeName = 50;
 
 constexpr auto pathKey = "bundlePath"_L1;
 constexpr auto hashKey = "bundleSha256"_L1;
@@ -41,10 +39,10 @@ bool isDeviceName(const QString& name)
 
 } // namespace
 
-QString safeFileName(const QString& name)
+QString safeFileName(const QString& name, qsizetype longest)
 {
     QString safe;
-    for (const QChar character : name.left(longestSafeName))
+    for (const QChar character : name.left(longest))
         safe.append(isSafeInName(character) || character.isSurrogate() ? character : QChar(u'-'));
     if (!safe.isEmpty() && safe.back().isHighSurrogate())
         safe.chop(1);

@@ -58,7 +58,11 @@ struct WorkingCopy
 /** Removes what lies in the place for a new copy. */
 void discardFreshCopy(const WorkingCopy& copy);
 
-/** A name that is safe for a file on every system; "project" when nothing of it is. */
-[[nodiscard]] QString safeFileName(const QString& name);
+/** Of characters. With a hash, suffixes and four bytes each still within the 255 bytes of most systems. */
+inline constexpr qsizetype longestSafeName = 50;
+
+/** A name that is safe for a file on every system, cut at `longest` characters; "project" when nothing of it
+ * is. */
+[[nodiscard]] QString safeFileName(const QString& name, qsizetype longest = longestSafeName);
 
 } // namespace tw::app::persistence

@@ -13,6 +13,7 @@
 namespace tw::app::persistence {
 
 using core::content::ContentKind;
+using core::document::BodyFormat;
 using core::document::Document;
 using core::document::DocumentBody;
 
@@ -34,29 +35,35 @@ std::unique_ptr<Document> documentIn(const QString& path, const QByteArray& byte
     return std::unique_ptr<Document>(static_cast<Document*>(std::move(object).value().release()));
 }
 
-/** See FileMerge::byParagraphs; all three versions are there. */
-FileVersion mergedByParagraphs(const QString& path, const FileVersions& versions)
+/** Sets FileMerge::byParagraphs; all three versions are there. */
+void mergeByParagraphs(FileMerge& merge)
 {
+    const QString& path = merge.path;
+    const FileVersions& versions = merge.versions;
     if (!isJsonFileIn(objectsFolder, path))
-        return std::nullopt;
+        return;
     const std::unique_ptr<Document> base = documentIn(path, *versions.base);
     const std::unique_ptr<Document> mine = documentIn(path, *versions.mine);
     const std::unique_ptr<Document> theirs = documentIn(path, *versions.theirs);
     if (!base || !mine || !theirs)
-        return std::nullopt;
+        return;
     const auto format = base->body().format;
     if (mine->body().format != format || theirs->body().format != format)
-        return std::nullopt;
+        return;
     const LineMerge text =
         mergeLines(base->body().text.toUtf8(), mine->body().text.toUtf8(), theirs->body().text.toUtf8());
-    if (!text.isClean())
-        return std::nullopt;
+    // Between the tags of an older body marks would not be seen.
+    if (!text.isClean() && format != BodyFormat::Markdown)
+        return;
     // With the same text everywhere, whatever still conflicts is something else.
     for (Document* const document : {base.get(), mine.get(), theirs.get()})
         document->setBody(DocumentBody{QString::fromUtf8(text.text), format});
     auto merged =
         mergeProjectFile(path, serializeObject(*base), serializeObject(*mine), serializeObject(*theirs));
-    return merged ? FileVersion(std::move(merged).value()) : std::nullopt;
+    if (!merged)
+        return;
+    merge.byParagraphs = std::move(merged).value();
+    merge.hasMarks = !text.isClean();
 }
 
 } // namespace
@@ -102,7 +109,7 @@ core::Result<QByteArray> mergeProjectFile(
 
 FileMerge mergeFile(const QString& path, FileVersions versions)
 {
-    FileMerge merge{path, std::move(versions), FileStanding::Untouched, {}, {}};
+    FileMerge merge{path, std::move(versions), FileStanding::Untouched, {}, {}, false};
     const auto& [base, mine, theirs] = merge.versions;
     const auto settle = [&merge](FileStanding standing, const FileVersion& result) {
         merge.standing = standing;
@@ -120,7 +127,7 @@ FileMerge mergeFile(const QString& path, FileVersions versions)
         return settle(FileStanding::Conflict, std::nullopt);
     if (const auto merged = mergeProjectFile(path, *base, *mine, *theirs))
         return settle(FileStanding::Merged, merged.value());
-    merge.byParagraphs = mergedByParagraphs(path, merge.versions);
+    mergeByParagraphs(merge);
     return settle(FileStanding::Conflict, std::nullopt);
 }
 

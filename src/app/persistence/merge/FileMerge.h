@@ -40,9 +40,11 @@ struct FileMerge
     FileVersion result;
     /**
      * For a conflict in a document: both edits of the text brought together paragraph by paragraph, where
-     * these do not overlap and nothing else of the document is in conflict.
+     * nothing else of the document is in conflict.
      */
     FileVersion byParagraphs;
+    /** In `byParagraphs`, paragraphs that both sides changed stand in both versions between marks. */
+    bool hasMarks = false;
 };
 
 /** Whether a project is made of this file: objects, categories, project.json, but nothing further down. */

@@ -26,6 +26,9 @@ constexpr quint64 bestRatio = 1032;
 constexpr quint16 sizesFollow = 0x0008;
 constexpr quint16 harmlessFlags = 0x0006 | sizesFollow | 0x0800;
 
+constexpr quint32 sizesInExtraField = 0xFFFFFFFF;
+constexpr quint16 largeSizesField = 0x0001;
+
 Failure refused(ZipRefusal refusal)
 {
     return {zipRefusalMessage(refusal)};
@@ -201,11 +204,35 @@ private:
             numberAt<quint16>(header, 8) != numberAt<quint16>(record, 10))
             return std::nullopt;
         // Checksum and both sizes, unless the tool learned them only after the data.
-        constexpr qsizetype length = 12;
         const bool isKnown = (numberAt<quint16>(header, 6) & sizesFollow) == 0;
-        if (isKnown && header.sliced(14, length) != record.sliced(16, length))
+        const QByteArrayView extra = m_archive.sliced(nameBegin + name.size(), numberAt<quint16>(header, 28));
+        if (isKnown &&
+            (numberAt<quint32>(header, 14) != numberAt<quint32>(record, 16) ||
+             sizesOf(header, extra) != Sizes(numberAt<quint32>(record, 20), numberAt<quint32>(record, 24))))
             return std::nullopt;
         return data;
+    }
+
+    /** Packed and unpacked, in bytes. */
+    using Sizes = std::pair<quint64, quint64>;
+
+    /** Of a local header. Tools that do not know beforehand how much will come leave room for large sizes. */
+    static Sizes sizesOf(QByteArrayView header, QByteArrayView extra)
+    {
+        const Sizes sizes(numberAt<quint32>(header, 18), numberAt<quint32>(header, 22));
+        if (sizes != Sizes(sizesInExtraField, sizesInExtraField))
+            return sizes;
+        constexpr qsizetype fieldHead = 4;
+        while (extra.size() >= fieldHead) {
+            const qsizetype length = numberAt<quint16>(extra, 2);
+            const QByteArrayView field = extra.sliced(fieldHead);
+            if (length > field.size())
+                break;
+            if (numberAt<quint16>(extra, 0) == largeSizesField && length >= 16)
+                return {numberAt<quint64>(field, 8), numberAt<quint64>(field, 0)};
+            extra = field.sliced(length);
+        }
+        return sizes;
     }
 
     bool isOverlapping()

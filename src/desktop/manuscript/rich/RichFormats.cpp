@@ -52,7 +52,7 @@ qreal luminance(const QColor& color)
 
 qreal contrast(const QColor& left, const QColor& right)
 {
-    const auto [darker, lighter] = std::minmax(luminance(left), luminance(right));
+    const auto [darker, lighter] = std::minmax({luminance(left), luminance(right)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

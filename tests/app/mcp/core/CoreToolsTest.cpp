@@ -84,7 +84,7 @@ TEST_F(CoreToolsTest, aBackupHoldsWhatWasNotSavedYet)
     ASSERT_TRUE(result.ok) << result.text.toStdString();
     EXPECT_FALSE(workspace.isModified());
     QString path = result.text;
-    path.remove(u"Backed the project up to "_s).chop(1);
+    path.remove(u"Backed up the project to "_s).chop(1);
     EXPECT_TRUE(path.endsWith(u".twbackup"));
     EXPECT_TRUE(QFile::exists(path));
 

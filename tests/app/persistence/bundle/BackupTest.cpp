@@ -67,6 +67,21 @@ TEST_F(BackupTest, keepsTheNewestFifteenAndWhatIsNotItsOwn)
     EXPECT_EQ(names().size(), 15 + others.size());
 }
 
+TEST_F(BackupTest, keepsProjectsApartWhoseNamesBeginAlike)
+{
+    const auto nameOf = [this](const QString& project) {
+        return backupRequest(m_environment, project, {}, {}).name;
+    };
+    const QString series = u"/books/The Long and Winding Chronicle of the House of Ashgrove, Book "_s;
+    EXPECT_EQ(nameOf(series + u"One.vellory"_s), QFileInfo(series + u"One"_s).fileName());
+    EXPECT_NE(nameOf(series + u"One.vellory"_s), nameOf(series + u"Two.vellory"_s));
+
+    // Too long for a file system.
+    const QString tide = u"/books/"_s + QString(240, u'潮');
+    EXPECT_NE(nameOf(tide + u"1"_s), nameOf(tide + u"2"_s));
+    EXPECT_LT(nameOf(tide).toUtf8().size(), 220);
+}
+
 TEST_F(BackupTest, leavesOutTheBackupsThemselves)
 {
     BackupRequest inside = request(0);

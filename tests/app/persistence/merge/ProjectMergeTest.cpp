@@ -98,20 +98,25 @@ TEST(FileMergeTest, bringsParagraphsTogetherOnRequest)
         QByteArray mine;
         QByteArray theirs;
         FileVersion merged;
+        bool hasMarks = false;
     } cases[] = {
         {"apart", chapter(u"Ebb"_s, u"ONE two three"_s), chapter(u"Ebb"_s, u"one two THREE end"_s),
          chapter(u"Ebb"_s, u"ONE two THREE end"_s)},
         {"and the title of one side", chapter(u"Flood"_s, u"ONE two three"_s),
          chapter(u"Ebb"_s, u"one two THREE"_s), chapter(u"Flood"_s, u"ONE two THREE"_s)},
         {"same paragraph", chapter(u"Ebb"_s, u"ONE two three"_s), chapter(u"Ebb"_s, u"Uno two three"_s),
-         std::nullopt},
+         chapter(u"Ebb"_s, u"<<<<<<< ONE ======= Uno >>>>>>> two three"_s), true},
+        {"same and others", chapter(u"Ebb"_s, u"ONE two THREE"_s), chapter(u"Ebb"_s, u"Uno two three end"_s),
+         chapter(u"Ebb"_s, u"<<<<<<< ONE ======= Uno >>>>>>> two <<<<<<< THREE ======= three end >>>>>>>"_s),
+         true},
         {"the title as well", chapter(u"Flood"_s, u"ONE two three"_s),
          chapter(u"Slack"_s, u"one two THREE"_s), std::nullopt},
     };
-    for (const auto& [name, mine, theirs, merged] : cases) {
+    for (const auto& [name, mine, theirs, merged, hasMarks] : cases) {
         const FileMerge merge = mergeFile(chapterPath, {base, mine, theirs});
         EXPECT_EQ(merge.standing, FileStanding::Conflict) << name;
         EXPECT_EQ(merge.byParagraphs, merged) << name;
+        EXPECT_EQ(merge.hasMarks, hasMarks) << name;
     }
 }
 

@@ -160,7 +160,7 @@ private:
         for (const FileMerge* const conflict : merge.conflicts()) {
             ++conflicts;
             Resolution resolution = below(2) == 0 ? Resolution::Mine : Resolution::Theirs;
-            if (conflict->byParagraphs && below(3) > 0) {
+            if (conflict->byParagraphs && !conflict->hasMarks && below(3) > 0) {
                 resolution = Resolution::Paragraphs;
                 ++paragraphMerges;
             }

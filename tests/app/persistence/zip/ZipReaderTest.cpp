@@ -136,6 +136,29 @@ TEST(ZipReader, refusesHostileArchives)
     }
 }
 
+TEST(ZipReader, readsSizesFromTheExtraFieldOfALocalHeader)
+{
+    // As written by tools that do not know beforehand how much will come.
+    const auto withExtraField = [](quint16 kind, quint64 size) {
+        QByteArray field(20, '\0');
+        patch(field, 0, kind);
+        patch(field, 2, quint16(16));
+        patch(field, 4, size);
+        patch(field, 12, size);
+        QByteArray archive = twoFiles();
+        patch(archive, endRecord + 16, quint32(directory + field.size()));
+        patch(archive, secondLocal + 18, quint32(0xFFFFFFFF));
+        patch(archive, secondLocal + 22, quint32(0xFFFFFFFF));
+        patch(archive, secondLocal + 28, quint16(field.size()));
+        return archive.insert(secondLocal + 33, field);
+    };
+    const auto contents = readAll(withExtraField(0x0001, 3));
+    ASSERT_TRUE(contents.isOk()) << contents.message().toStdString();
+    EXPECT_EQ(contents.value(), (QList<QByteArray>{"one", "two"}));
+    EXPECT_FALSE(readAll(withExtraField(0x0001, 4)).isOk()) << "not what the directory says";
+    EXPECT_FALSE(readAll(withExtraField(0x0002, 3)).isOk()) << "another field";
+}
+
 TEST(ZipReader, refusesNamesThatCannotStandTogether)
 {
     struct Case
