@@ -33,6 +33,7 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QSettings>
+#include <QMenuBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>

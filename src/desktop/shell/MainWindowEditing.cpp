@@ -18,6 +18,7 @@
 #include "desktop/shell/FocusMode.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
+#include "desktop/shell/StatusStrip.h"
 #include "desktop/shell/WorkArea.h"
 #include "desktop/snapshots/SnapshotsPanel.h"
 #include "desktop/theme/Theme.h"
