@@ -2,6 +2,8 @@
 
 #include "mcp/ServerFixture.h"
 
+#include <QMap>
+
 namespace tw::mcp::server {
 
 using namespace Qt::Literals::StringLiterals;
@@ -91,6 +93,31 @@ TEST_F(ProtocolServerTest, listsToolsWithTitlesAndHints)
     }
     EXPECT_EQ(names.first(), u"save_project"_s);
     EXPECT_TRUE(names.contains(u"manage_variants"_s));
+}
+
+TEST_F(ProtocolServerTest, schemasListWhatMayBeChosen)
+{
+    const QMap<QString, QString> choices{
+        {u"search"_s, u"type"_s},          {u"delete_object"_s, u"type"_s},
+        {u"set_visibility"_s, u"type"_s},  {u"set_ai_exclusion"_s, u"type"_s},
+        {u"add_comment"_s, u"type"_s},     {u"list_comments"_s, u"type"_s},
+        {u"add_field"_s, u"type"_s},       {u"entity_property"_s, u"type"_s},
+        {u"convert_field"_s, u"type"_s},   {u"create_document"_s, u"kind"_s},
+        {u"update_document"_s, u"kind"_s},
+    };
+    qsizetype found = 0;
+    for (const QJsonValue& tool : catalogue->listing()) {
+        const QString name = tool[u"name"].toString();
+        const QJsonValue schema = tool[u"inputSchema"];
+        if (choices.contains(name)) {
+            ++found;
+            EXPECT_FALSE(schema[u"properties"][choices.value(name)][u"enum"].toArray().isEmpty())
+                << name.toStdString();
+        }
+        if (name == u"create_category")
+            EXPECT_TRUE(schema[u"required"].toArray().contains(u"name"_s));
+    }
+    EXPECT_EQ(found, choices.size());
 }
 
 TEST_F(ProtocolServerTest, callsTools)
