@@ -31,9 +31,9 @@
 #include <QCryptographicHash>
 #include <QDragEnterEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QSettings>
-#include <QMenuBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTimer>
