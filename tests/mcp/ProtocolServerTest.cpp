@@ -114,8 +114,9 @@ TEST_F(ProtocolServerTest, schemasListWhatMayBeChosen)
             EXPECT_FALSE(schema[u"properties"][choices.value(name)][u"enum"].toArray().isEmpty())
                 << name.toStdString();
         }
-        if (name == u"create_category")
+        if (name == u"create_category") {
             EXPECT_TRUE(schema[u"required"].toArray().contains(u"name"_s));
+        }
     }
     EXPECT_EQ(found, choices.size());
 }

@@ -83,9 +83,8 @@ protected:
 
     QStringList messages(const ContinuityScope& scope = {})
     {
-        int number = 100;
         for (EventDetails& details : m_details)
-            m_project.add(std::make_unique<TimelineEvent>(idOf(number++), std::move(details)));
+            m_project.add(std::make_unique<TimelineEvent>(idOf(m_nextEvent++), std::move(details)));
         m_details.clear();
         QStringList texts;
         for (const ContinuityConflict& conflict : validateTimeline(m_project, scope))
@@ -94,6 +93,7 @@ protected:
     }
 
     Project m_project;
+    int m_nextEvent = 100;
     std::deque<EventDetails> m_details;
 };
 

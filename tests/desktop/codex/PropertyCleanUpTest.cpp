@@ -43,7 +43,7 @@ TEST(PropertyCleanUpTest, putsInOrderWhatIsTickedBehindABackup)
     const auto* const entity = project.findAs<Entity>(annis);
     ASSERT_EQ(entity->ownFields().size(), 1U);
     EXPECT_EQ(entity->ownFields().front().key, u"oath"_s);
-    EXPECT_EQ(entity->values().at(u"oath"_s).toString(), u"sworn"_s);
+    EXPECT_EQ(entity->values().at(u"oath"_s), u"sworn"_s);
     EXPECT_EQ(project.taxonomy().category(people.id)->fields.size(), 1U);
     EXPECT_EQ(desk.session.undoText(), u"Clean up properties"_s);
     EXPECT_FALSE(

@@ -133,8 +133,9 @@ TEST_F(SnapshotsTest, aLockedDocumentIsKeptAndNotRewritten)
         EXPECT_FALSE(action->isEnabled()) << action->text().toStdString();
     EXPECT_FALSE(panel.findChild<DifferenceView*>()->toPlainText().contains("Restore this"_L1));
     for (const QComboBox* const box : panel.findChildren<QComboBox*>()) {
-        if (box->accessibleName() == u"Variant in use"_s)
+        if (box->accessibleName() == u"Variant in use"_s) {
             EXPECT_FALSE(box->isEnabled());
+        }
     }
     panel.takeAction()->trigger();
     EXPECT_EQ(labels(), u"First, "_s) << "a snapshot changes no text";

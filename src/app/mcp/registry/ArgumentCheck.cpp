@@ -201,8 +201,12 @@ Result<void> checkArguments(
     QJsonObject properties = spec.inputSchema.value(u"properties").toObject();
     QStringList required = textsOf(spec.inputSchema.value(u"required"));
     for (const QString& name : refusedByHandler) {
-        required.removeAll(name);
+        // Of a choice the handler refuses the wrong words, of anything else that it is missing.
         QJsonObject property = properties.value(name).toObject();
+        if (!property.contains(u"enum")) {
+            required.removeAll(name);
+            continue;
+        }
         property.remove(u"enum");
         properties.insert(name, property);
     }

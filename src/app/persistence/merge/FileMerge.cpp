@@ -55,14 +55,19 @@ void mergeByParagraphs(FileMerge& merge)
     // Between the tags of an older body marks would not be seen.
     if (!text.isClean() && format != BodyFormat::Markdown)
         return;
+    // The last mark is a line; the text need not end in one.
+    const bool endsInLine = mine->body().text.endsWith(u'\n') || theirs->body().text.endsWith(u'\n');
+    QString merged = QString::fromUtf8(text.text);
+    if (!endsInLine && merged.endsWith(u'\n'))
+        merged.chop(1);
     // With the same text everywhere, whatever still conflicts is something else.
     for (Document* const document : {base.get(), mine.get(), theirs.get()})
-        document->setBody(DocumentBody{QString::fromUtf8(text.text), format});
-    auto merged =
+        document->setBody(DocumentBody{merged, format});
+    auto file =
         mergeProjectFile(path, serializeObject(*base), serializeObject(*mine), serializeObject(*theirs));
-    if (!merged)
+    if (!file)
         return;
-    merge.byParagraphs = std::move(merged).value();
+    merge.byParagraphs = std::move(file).value();
     merge.hasMarks = !text.isClean();
 }
 

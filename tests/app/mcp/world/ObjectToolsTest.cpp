@@ -213,16 +213,16 @@ TEST_F(ObjectToolsTest, commentsOnWhatIsHiddenTakeNoPlaceAmongTheResults)
     for (std::size_t index = 0; index < comments.size(); ++index) {
         const core::research::CommentTarget target{index < 2 ? ids.mardana : ids.tom, {}};
         workspace.projectForEdit().add(std::make_unique<Comment>(
-            comments.at(index), target, core::research::CommentDetails{{}, u"a kraken"_s, {}, {}, false}));
+            comments.at(index), target, core::research::CommentDetails{{}, u"a lamprey"_s, {}, {}, false}));
     }
     save();
-    const QString first = u"- comment '%1': a kraken"_s.arg(comments.at(2).toString());
+    const QString first = u"- comment '%1': a lamprey"_s.arg(comments.at(2).toString());
     expectCalls({
-        {"search", R"({"query": "kraken", "limit": 1})", none,
+        {"search", R"({"query": "lamprey", "limit": 1})", none,
          first + u"\n\nOnly the first 1 are shown. Narrow the query, pass \"type\", or raise \"limit\" (at "
                  "most 500)."_s},
-        {"search", R"({"query": "kraken", "limit": 2})", none,
-         first + u"\n- comment '%1': a kraken"_s.arg(comments.at(3).toString())},
+        {"search", R"({"query": "lamprey", "limit": 2})", none,
+         first + u"\n- comment '%1': a lamprey"_s.arg(comments.at(3).toString())},
     });
 }
 
