@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -65,6 +66,8 @@ RowTable::RowTable(
 
 void RowTable::addRow(const QVariantList& values)
 {
+    // Nobody is to look at half a row.
+    const QSignalBlocker blocker(m_table);
     const int row = m_table->rowCount();
     m_table->insertRow(row);
     for (int column = 0; column < m_table->columnCount(); ++column) {
@@ -106,12 +109,14 @@ void RowTable::moveCurrent(int step)
 {
     const int row = m_table->currentRow();
     const int column = m_table->currentColumn();
+    const QSignalBlocker blocker(m_table);
     for (int each = 0; each < m_table->columnCount(); ++each) {
         QTableWidgetItem* const moved = m_table->takeItem(row, each);
         m_table->setItem(row, each, m_table->takeItem(row + step, each));
         m_table->setItem(row + step, each, moved);
     }
     m_table->setCurrentCell(row + step, column);
+    refresh();
     emit edited();
 }
 

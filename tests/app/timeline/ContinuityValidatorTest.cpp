@@ -83,8 +83,12 @@ protected:
 
     QStringList messages(const ContinuityScope& scope = {})
     {
-        for (EventDetails& details : m_details)
-            m_project.add(std::make_unique<TimelineEvent>(idOf(m_nextEvent++), std::move(details)));
+        int number = 100;
+        for (EventDetails& details : m_details) {
+            while (m_project.contains(idOf(number)))
+                ++number;
+            m_project.add(std::make_unique<TimelineEvent>(idOf(number), std::move(details)));
+        }
         m_details.clear();
         QStringList texts;
         for (const ContinuityConflict& conflict : validateTimeline(m_project, scope))
@@ -93,7 +97,6 @@ protected:
     }
 
     Project m_project;
-    int m_nextEvent = 100;
     std::deque<EventDetails> m_details;
 };
 

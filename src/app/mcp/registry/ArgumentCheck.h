@@ -21,8 +21,8 @@ namespace tw::app::mcp {
  * - optional ones must be null or of their type (""index" must be a whole number.");
  * - a choice must be one of its words ("Unknown "action" 'x'; use add (default), remove, or promote.").
  *
- * Unknown arguments are passed over, and so are, as long as they are of their type, those that the handler
- * refuses in words of its own. The message is for the model.
+ * Unknown arguments are passed over. Of what the handler refuses in words of its own, a choice need only be
+ * there and of its type, and anything else may be missing. The message is for the model.
  */
 [[nodiscard]] core::Result<void> checkArguments(
     const McpToolSpec& spec, const QString& subject, const QJsonObject& arguments,
