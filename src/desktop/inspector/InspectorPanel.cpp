@@ -76,6 +76,13 @@ void InspectorPanel::followChanges(const core::project::ProjectChanges& changes)
         showCurrent();
 }
 
+InspectorPanel::~InspectorPanel()
+{
+    // The fields go after this; what is still being typed into one is committed on its way out.
+    m_desk.session.disconnect(this);
+    m_desk.navigator.disconnect(this);
+}
+
 void InspectorPanel::showCurrent()
 {
     const core::ContentId& id = m_desk.navigator.current();

@@ -20,6 +20,7 @@ class InspectorPanel final : public QWidget
 
 public:
     InspectorPanel(const shell::DeskContext& desk, QWidget* parent);
+    ~InspectorPanel() override;
 
 private:
     void showCurrent();
