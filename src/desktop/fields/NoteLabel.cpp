@@ -3,6 +3,7 @@
 #include "desktop/theme/ThemeManager.h"
 
 #include <QPainter>
+#include <QResizeEvent>
 #include <QStyle>
 
 namespace tw::desktop::fields {
@@ -40,6 +41,23 @@ void NoteLabel::setNote(const QString& text, Tone tone)
     setText(text);
     update();
     setVisible(!text.isEmpty());
+}
+
+QSize NoteLabel::sizeHint() const
+{
+    return {QLabel::sizeHint().width(), heightForWidth(width())};
+}
+
+QSize NoteLabel::minimumSizeHint() const
+{
+    return {QLabel::minimumSizeHint().width(), heightForWidth(width())};
+}
+
+void NoteLabel::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
+        updateGeometry();
 }
 
 void NoteLabel::paintEvent(QPaintEvent*)

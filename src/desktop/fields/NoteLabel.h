@@ -25,8 +25,13 @@ public:
 
     void setNote(const QString& text, Tone tone = Tone::Quiet);
 
+    /** As high as the text is at the present width: a form asks for this where the text has changed. */
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     theme::ThemeManager& m_themes;

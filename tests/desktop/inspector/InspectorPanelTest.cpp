@@ -1,6 +1,7 @@
 #include "desktop/inspector/InspectorPanel.h"
 
 #include "core/content/ContentCommands.h"
+#include "desktop/fields/NoteLabel.h"
 #include "desktop/fields/StoryDateEdit.h"
 #include "desktop/inspector/DocumentSection.h"
 #include "desktop/inspector/ObjectSection.h"
@@ -116,6 +117,9 @@ TEST_F(InspectorPanelTest, whatStillStandsInAFieldStaysWithItsDocument)
 
 TEST_F(InspectorPanelTest, whatTheProgramDoesInPassingDoesNotWriteHalfADateAnew)
 {
+    type(fields.front());
+    desk.session.commitPendingEdits(shell::CommitReason::InPassing);
+    EXPECT_EQ(fields.front().read(desk.document(one)), fields.front().stored);
     type(fields.back());
     desk.session.commitPendingEdits(shell::CommitReason::InPassing);
     EXPECT_EQ(lineOf(fields.back().label)->text(), fields.back().typed);
@@ -142,6 +146,21 @@ TEST_F(InspectorPanelTest, ofWhatIsLockedOnlyTheSwitchesMove)
     EXPECT_FALSE(panel.findChild<DocumentSection*>()->isEnabled());
     for (QCheckBox* const box : panel.findChildren<QCheckBox*>())
         EXPECT_TRUE(box->isEnabled()) << box->text().toStdString();
+}
+
+TEST_F(InspectorPanelTest, whyADateDoesNotReadCanBeReadWhole)
+{
+    // As wide as the panel is at first.
+    panel.resize(300, 700);
+    QCoreApplication::processEvents();
+    // The reading comes first, on fewer lines than the reason why it is none.
+    for (const QString& typed : {u"1 January 1"_s, u"1 January 1 of"_s}) {
+        type({u"Story date"_s, typed, {}, nullptr});
+        QCoreApplication::processEvents();
+    }
+    const auto* const note = panel.findChild<fields::NoteLabel*>();
+    ASSERT_TRUE(note && note->isVisible());
+    EXPECT_GE(note->height(), note->heightForWidth(note->width()));
 }
 
 } // namespace tw::desktop::inspector
