@@ -90,7 +90,7 @@ void EditorProofreader::finishNow()
 
 bool EditorProofreader::checkNext(const VisibleBlocks& inSight)
 {
-    int block = m_findings.nextExpired(inSight.first, inSight.second);
+    int block = m_findings.nextExpired(inSight.first, inSight.last);
     if (block < 0)
         block = m_findings.nextExpired();
     if (block < 0)
