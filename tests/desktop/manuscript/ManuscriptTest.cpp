@@ -224,7 +224,7 @@ TEST_F(ManuscriptTest, aChainAsLongAsADamagedProjectIsShown)
     EXPECT_EQ(model.indexOf(notes).data(trees::CountRole).toString(), u"2"_s);
     desk.document(notes).setLocked(true);
     EXPECT_EQ(firstLocked(desk.session, {notes}), notes);
-    trees::NavigatorTree tree(desk.themes, nullptr);
+    trees::NavigatorTree tree(desk.context, nullptr);
     tree.setSource(model);
     tree.resize(300, 400);
     tree.show();
