@@ -45,7 +45,7 @@ protected:
     void type(const QString& text)
     {
         held = text;
-        desk.session.setTypingPending(desk.session, !text.isNull());
+        desk.session.setTypingPending(editor, !text.isNull());
     }
 
     void rename(const QString& title)
@@ -84,6 +84,7 @@ protected:
     test::TestDesk desk;
     core::ContentId id;
     QString held;
+    QObject editor;
     std::unique_ptr<CrashKeeper> keeper;
 };
 
