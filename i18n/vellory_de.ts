@@ -5932,11 +5932,11 @@
     </message>
     <message>
         <source>Vie&amp;w As…</source>
-        <translation>Ansicht &amp;für…</translation>
+        <translation>Ansi&amp;cht für…</translation>
     </message>
     <message>
         <source>Pa&amp;ge View</source>
-        <translation>Sei&amp;tenansicht</translation>
+        <translation>S&amp;eitenansicht</translation>
     </message>
     <message>
         <source>Edit &amp;Calendar…</source>
@@ -5944,7 +5944,7 @@
     </message>
     <message>
         <source>Clean &amp;Up Properties…</source>
-        <translation>Eigenschaften a&amp;ufräumen…</translation>
+        <translation>Eigenschaften &amp;aufräumen…</translation>
     </message>
 </context>
 <context>

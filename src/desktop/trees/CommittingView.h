@@ -62,12 +62,15 @@ private:
     void finishEditing()
     {
         const QPointer<QWidget> editor = m_editor;
-        if (editor)
+        if (isOpen(editor))
             commitData(editor);
-        // The commit may have made the rows anew, and the editor is gone.
-        if (editor)
+        // The commit may have made the rows anew, and the editor is let go.
+        if (isOpen(editor))
             closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
+
+    /** The view hides an editor that it lets go, and deletes it later. */
+    static bool isOpen(const QWidget* editor) { return editor && !editor->isHidden(); }
 
     shell::PendingEdit* m_typing;
     QPointer<QWidget> m_editor;

@@ -160,7 +160,7 @@ TEST_F(InspectorPanelTest, whyADateDoesNotReadCanBeReadWhole)
     }
     const auto* const note = panel.findChild<fields::NoteLabel*>();
     ASSERT_TRUE(note && note->isVisible());
-    EXPECT_GE(note->height(), note->heightForWidth(note->width()));
+    EXPECT_TRUE(QTest::qWaitFor([note] { return note->height() >= note->heightForWidth(note->width()); }));
 }
 
 } // namespace tw::desktop::inspector

@@ -292,12 +292,12 @@ TEST_F(ExternalChangesTest, neverLooksWhileSomebodyTypes)
 {
     DiskWatch watch(desk.session, nullptr, std::chrono::milliseconds(0));
     QSignalSpy looked(&watch, &DiskWatch::looked);
-    desk.session.setTypingPending(desk.session, true);
+    desk.session.setTypingPending(window, true);
     watch.lookSoon();
     for (int turn = 0; turn < 20; ++turn)
         QApplication::processEvents();
     EXPECT_TRUE(looked.isEmpty());
-    desk.session.setTypingPending(desk.session, false);
+    desk.session.setTypingPending(window, false);
     EXPECT_TRUE(looked.wait());
 }
 
