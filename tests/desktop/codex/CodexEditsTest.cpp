@@ -131,6 +131,7 @@ TEST_F(CodexEditsTest, panelWorksByKeyboardAndSaysWhatMoved)
     }
     EXPECT_EQ(shown(), startShape);
     EXPECT_EQ(said.count(), 0);
+    panel.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
     const test::NextMessage removed(u"Delete"_s);
     QTest::keyClick(&tree, Qt::Key_Delete);
