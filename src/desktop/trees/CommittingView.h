@@ -35,13 +35,15 @@ protected:
     void commitData(QWidget* editor) override
     {
         m_typing->end();
-        View::commitData(editor);
+        if (isOpen(editor))
+            View::commitData(editor);
     }
 
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override
     {
         m_typing->end();
-        View::closeEditor(editor, hint);
+        if (isOpen(editor))
+            View::closeEditor(editor, hint);
     }
 
 private:
@@ -69,7 +71,7 @@ private:
             closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
 
-    /** The view hides an editor that it lets go, and deletes it later. */
+    /** The view hides an editor that it lets go, and deletes it later; losing the focus it asks once more. */
     static bool isOpen(const QWidget* editor) { return editor && !editor->isHidden(); }
 
     shell::PendingEdit* m_typing;
