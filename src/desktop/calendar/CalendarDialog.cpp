@@ -45,6 +45,7 @@ CalendarDialog::CalendarDialog(const shell::DeskContext& desk, const Timekeeping
     connect(buttons, &QDialogButtonBox::accepted, this, &CalendarDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &CalendarDialog::reject);
     connect(m_calendar, &CalendarForm::edited, this, &CalendarDialog::followCalendar);
+    m_calendar->setFocus();
     resize(fontMetrics().averageCharWidth() * charactersWide, fontMetrics().height() * linesHigh);
 }
 

@@ -58,6 +58,7 @@ CalendarForm::CalendarForm(const shell::DeskContext& desk, const Calendar& calen
     , m_note(new fields::NoteLabel(desk.themes, this))
 {
     m_months->table().setObjectName(u"months"_s);
+    setFocusProxy(&m_months->table());
     m_weekdays->list().setObjectName(u"weekdays"_s);
     m_eras->table().setObjectName(u"eras"_s);
     m_eraName->setObjectName(u"eraName"_s);

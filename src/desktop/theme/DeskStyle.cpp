@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTabBar>
 #include <QTextEdit>
 
 #include <algorithm>
@@ -220,6 +221,12 @@ void DeskStyle::drawPrimitive(
     case PE_IndicatorTabClose:
         return drawTabClose(*option, *painter);
     case PE_FrameFocusRect:
+        // Fusion leaves the focus of a tab less room than its text has.
+        if (qobject_cast<const QTabBar*>(widget) != nullptr) {
+            QStyleOption around = *option;
+            around.rect.adjust(-2 * step, -step - 1, 2 * step, step + 1);
+            return drawFocus(around, *painter);
+        }
         return drawFocus(*option, *painter);
     case PE_FrameStatusBarItem:
     case PE_FrameTabBarBase:
