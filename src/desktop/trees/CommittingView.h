@@ -50,7 +50,8 @@ private:
     void follow(QWidget& editor)
     {
         m_editor = &editor;
-        const auto begin = [this] { m_typing->begin(); };
+        // The last words of an editor may come when the view is half gone.
+        const auto begin = [typing = m_typing] { typing->begin(); };
         QList<QLineEdit*> lines = editor.findChildren<QLineEdit*>();
         if (auto* const line = qobject_cast<QLineEdit*>(&editor))
             lines.append(line);
@@ -58,7 +59,7 @@ private:
             QObject::connect(line, &QLineEdit::textEdited, m_typing, begin);
         for (const QPlainTextEdit* const text : editor.findChildren<QPlainTextEdit*>())
             QObject::connect(text, &QPlainTextEdit::textChanged, m_typing, begin);
-        QObject::connect(&editor, &QObject::destroyed, m_typing, [this] { m_typing->end(); });
+        QObject::connect(&editor, &QObject::destroyed, m_typing, [typing = m_typing] { typing->end(); });
     }
 
     void finishEditing()
