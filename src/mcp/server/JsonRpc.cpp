@@ -9,6 +9,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/** Room for most answers, so that they need not be moved as they grow. */
+constexpr qsizetype usualLine = 512;
+
 QByteArray compact(const QJsonObject& object)
 {
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
@@ -104,7 +107,9 @@ bool isRequestId(const QJsonValue& id)
 
 QByteArray responseLine(const QJsonValue& id, const RpcOutcome& outcome)
 {
-    QByteArray line = R"({"jsonrpc":"2.0","id":)" + scalar(id) + ',';
+    QByteArray line;
+    line.reserve(usualLine);
+    line.append(R"({"jsonrpc":"2.0","id":)").append(scalar(id)).append(',');
     std::visit([&line](const auto& shown) { append(line, shown); }, outcome);
     return line.append('}');
 }

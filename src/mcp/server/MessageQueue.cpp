@@ -3,6 +3,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <utility>
 
 namespace tw::mcp::server {
 
@@ -41,16 +42,17 @@ void MessageQueue::finish()
 void MessageQueue::addLine(const QByteArray& line)
 {
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(line, &error);
+    QJsonDocument document = QJsonDocument::fromJson(line, &error);
     if (error.error != QJsonParseError::NoError) {
         m_messages.push_back({{}, error.errorString()});
         return;
     }
+    static const QJsonValue cancellation(u"notifications/cancelled"_s);
     const QJsonObject message = document.object();
-    if (message.value(u"method") == "notifications/cancelled"_L1 && !message.contains(u"id"))
+    if (message.value(u"method") == cancellation && !message.contains(u"id"))
         cancel(message.value(u"params").toObject().value(u"requestId"));
     else
-        m_messages.push_back({document, {}});
+        m_messages.push_back({std::move(document), {}});
 }
 
 void MessageQueue::cancel(const QJsonValue& requestId)

@@ -115,14 +115,15 @@ std::optional<QByteArray> ProtocolServer::answerBatch(const QJsonArray& batch)
 
 std::optional<QByteArray> ProtocolServer::answerMessage(const QJsonValue& value)
 {
+    static const QJsonValue rpcVersion(u"2.0"_s);
     const QJsonObject message = value.toObject();
     const QJsonValue id = message.value(u"id");
     // Nothing is ever asked of the client, so that a response can only be a mistake: answering it would go on
     // for ever.
     if (!message.contains(u"method") && (message.contains(u"result") || message.contains(u"error")))
         return std::nullopt;
-    if (!value.isObject() || message.value(u"jsonrpc") != "2.0"_L1 || !message.value(u"method").isString() ||
-        (!id.isUndefined() && !isRequestId(id))) {
+    if (!value.isObject() || message.value(u"jsonrpc") != rpcVersion ||
+        !message.value(u"method").isString() || (!id.isUndefined() && !isRequestId(id))) {
         const RpcError error{
             ErrorCode::InvalidRequest, u"A message needs \"jsonrpc\": \"2.0\", a \"method\", and, to be "
                                        u"answered, an \"id\" that is a text or a "
@@ -227,17 +228,18 @@ RpcOutcome ProtocolServer::listTools(const Request&)
 
 RpcOutcome ProtocolServer::callTool(const Request& request)
 {
-    const QJsonValue name = request.params.value(u"name");
-    if (!name.isString())
+    const QJsonValue given = request.params.value(u"name");
+    if (!given.isString())
         return invalidParams(u"tools/call needs \"name\", the name of a tool."_s);
     const QJsonValue arguments = request.params.value(u"arguments");
     if (!arguments.isUndefined() && !arguments.isNull() && !arguments.isObject())
         return invalidParams(u"\"arguments\" must be an object."_s);
-    if (!m_catalogue.hasTool(name.toString()))
-        return invalidParams(m_catalogue.server().callTool(name.toString(), {}).text);
+    const QString name = given.toString();
+    if (!m_catalogue.hasTool(name))
+        return invalidParams(m_catalogue.server().callTool(name, {}).text);
     m_hooks.beforeUse();
-    auto result = m_catalogue.server().callTool(name.toString(), arguments.toObject());
-    if (m_catalogue.access(name.toString()) == app::mcp::ToolAccess::Changing) {
+    auto result = m_catalogue.server().callTool(name, arguments.toObject());
+    if (m_catalogue.access(name) == app::mcp::ToolAccess::Changing) {
         const QString nextStep = m_hooks.afterChange();
         if (!result.ok && !nextStep.isEmpty())
             result.text += u' ' + nextStep;
