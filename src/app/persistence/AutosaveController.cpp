@@ -3,6 +3,7 @@
 #include "app/workspace/Workspace.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tw::app::persistence {
 
@@ -53,10 +54,13 @@ void AutosaveController::saveNow()
 std::chrono::seconds autosaveInterval(const QString& setting)
 {
     bool isNumber = false;
-    const qint64 seconds = setting.toLongLong(&isNumber);
-    if (!isNumber)
+    // As a floating-point number, so that one of any length is too long and not no number.
+    const double seconds = setting.toDouble(&isNumber);
+    if (!isNumber || std::isnan(seconds))
         return shortestAutosave;
-    return std::clamp(std::chrono::seconds(seconds), shortestAutosave, longestAutosave);
+    const auto within = [](std::chrono::seconds bound) { return static_cast<double>(bound.count()); };
+    return std::chrono::seconds(
+        static_cast<qint64>(std::clamp(seconds, within(shortestAutosave), within(longestAutosave))));
 }
 
 } // namespace tw::app::persistence

@@ -56,7 +56,7 @@ persistence::SavedState savedStateOf(const std::vector<persistence::LoadedFile>&
 Result<persistence::LoadedProject> loadLibrary(persistence::FileSystem& fileSystem, const QString& path)
 {
     if (!isSingleFile(path))
-        return persistence::loadFolder(fileSystem, path);
+        return persistence::loadProject(fileSystem, path);
     const auto archive = persistence::readArchive(fileSystem, path);
     if (!archive)
         return Failure{archive.message()};
@@ -106,7 +106,7 @@ Result<void> Workspace::load(const QString& path, BundlePurpose purpose)
         return loadSingleFile(path, purpose);
     if (auto checked = checkIsProject(path); !checked)
         return checked;
-    auto loaded = persistence::loadFolder(m_environment.fileSystem, path);
+    auto loaded = persistence::loadProject(m_environment.fileSystem, path);
     if (!loaded)
         return Failure{loaded.message()};
     m_singleFile.reset();

@@ -87,7 +87,7 @@ public:
         if (!persistence::isBundlePath(path)) {
             if (!QFile::exists(path + u"/project.json"_s))
                 return {};
-            auto loaded = persistence::loadFolder(files, path);
+            auto loaded = persistence::loadProject(files, path);
             EXPECT_TRUE(loaded) << loaded.message().toStdString();
             return loaded ? titlesOf(*loaded.value().project) : QStringList();
         }

@@ -15,7 +15,7 @@ using core::content::ContentKind;
 TEST(SampleTest, loadsCanonicalAndHoldsEverything)
 {
     persistence::DiskFileSystem files;
-    auto loaded = persistence::loadFolder(files, test::repositoryPath(u"examples/low-water"));
+    auto loaded = persistence::loadProject(files, test::repositoryPath(u"examples/low-water"));
     ASSERT_TRUE(loaded) << loaded.message().toStdString();
     const auto& sample = loaded.value();
     for (const persistence::LoadedFile& file : sample.files)

@@ -172,8 +172,10 @@ TEST(AutosaveChoice, unreadableSettingsAreBroughtIntoRange)
     settings.setValue("editor/autosave", u"perhaps"_s);
     EXPECT_EQ(autosaveFrom(settings).interval, std::chrono::seconds(15));
     EXPECT_FALSE(autosaveFrom(settings).isOn);
-    settings.setValue("editor/autosaveIntervalSeconds", u"99999"_s);
-    EXPECT_EQ(autosaveFrom(settings).interval, std::chrono::seconds(3600));
+    for (const QString& tooLong : {u"99999"_s, u"123456789012345678901234567890"_s}) {
+        settings.setValue("editor/autosaveIntervalSeconds", tooLong);
+        EXPECT_EQ(autosaveFrom(settings).interval, std::chrono::seconds(3600));
+    }
 }
 
 } // namespace tw::desktop::settings

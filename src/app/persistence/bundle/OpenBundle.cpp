@@ -51,7 +51,7 @@ public:
         if (listed.value().empty())
             return unpack(BundleOpening::Unpacked, {});
 
-        Result<LoadedProject> loaded = loadFolder(m_environment.fileSystem, m_copy.folder);
+        Result<LoadedProject> loaded = loadProject(m_environment.fileSystem, m_copy.folder);
         const bool isRecorded = recordedHash(m_environment.fileSystem, m_copy) == m_known.hash;
         if (isSameAsArchive(listed.value(), loaded))
             return loaded ? finish(std::move(loaded).value(), BundleOpening::Intact, {})
@@ -191,7 +191,7 @@ private:
             return Failure{retired.message()};
         if (auto installed = installFreshCopy(m_environment, m_copy); !installed)
             return workingFolderFailure(installed.message());
-        Result<LoadedProject> loaded = loadFolder(m_environment.fileSystem, m_copy.folder);
+        Result<LoadedProject> loaded = loadProject(m_environment.fileSystem, m_copy.folder);
         if (!loaded)
             return Failure{loaded.message()};
         indexUnpacked();

@@ -1,13 +1,11 @@
 #include "app/persistence/bundle/WorkingCopy.h"
 
-#include "app/persistence/files/SafeWriter.h"
+#include "app/persistence/files/JsonFile.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 namespace tw::app::persistence {
 
@@ -78,13 +76,10 @@ WorkingCopy workingCopyOf(const QString& bundlePath, const QString& dataFolder)
 
 QByteArray recordedHash(FileSystem& fileSystem, const WorkingCopy& copy)
 {
-    const std::optional<FileContent> content = fileSystem.readFile(copy.recordPath);
-    if (!content)
+    const Result<QJsonObject> record = readJsonFile(fileSystem, copy.recordPath);
+    if (!record || record.value().value(pathKey).toString() != copy.bundlePath)
         return {};
-    const QJsonObject record = QJsonDocument::fromJson(content->bytes).object();
-    if (record.value(pathKey).toString() != copy.bundlePath)
-        return {};
-    return record.value(hashKey).toString().toLatin1();
+    return record.value().value(hashKey).toString().toLatin1();
 }
 
 Result<void> recordHash(
@@ -94,7 +89,7 @@ Result<void> recordHash(
     SafeWriter writer(environment.fileSystem, environment.retryPolicy, environment.sleeper);
     if (!environment.fileSystem.makeFolders(QFileInfo(copy.recordPath).path()))
         return writeFailure(copy.recordPath);
-    if (auto written = writer.write({copy.recordPath, QJsonDocument(record).toJson()}); !written)
+    if (auto written = writeJsonFile(environment.fileSystem, writer, copy.recordPath, record); !written)
         return written;
     return writer.syncFolders();
 }

@@ -262,7 +262,7 @@ struct Contents
 
 } // namespace
 
-core::Result<LoadedProject> loadFolder(FileSystem& fileSystem, const QString& folder)
+core::Result<LoadedProject> loadProject(FileSystem& fileSystem, const QString& folder)
 {
     FolderScan listing = listFolder(folder, ScannedFiles::Text);
     for (const QStringView part : {QStringView(), objectsFolder, taxonomyFolder}) {

@@ -43,7 +43,7 @@ struct LoadedProject
  * Reads a project from its folder; failures name the file. Files are read once, and parsed on all processors;
  * the failure is that of the first bad file in the order objects, categories, project.json.
  */
-[[nodiscard]] core::Result<LoadedProject> loadFolder(FileSystem& fileSystem, const QString& folder);
+[[nodiscard]] core::Result<LoadedProject> loadProject(FileSystem& fileSystem, const QString& folder);
 
 /** Reads a project from memory; failures name the path in the map. Files of no interest are passed over. */
 [[nodiscard]] core::Result<LoadedProject> parseProject(const ProjectFileMap& files);

@@ -3,7 +3,6 @@
 #include "app/persistence/json/JsonWriter.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QJsonDocument>
 
 namespace tw::app::persistence {
@@ -31,34 +30,25 @@ core::Failure invalidJson(const QString& path)
     return {QCoreApplication::translate("Persistence", "Invalid JSON in file: %1").arg(path)};
 }
 
-core::Result<QJsonObject> readJsonFile(const QString& path)
+core::Result<QJsonObject> readJsonFile(FileSystem& fileSystem, const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    const std::optional<FileContent> content = fileSystem.readFile(path);
+    if (!content)
         return cannotRead(path);
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
+    const QJsonDocument document = QJsonDocument::fromJson(content->bytes);
     if (!document.isObject())
         return invalidJson(path);
     return document.object();
 }
 
 core::Result<void> writeJsonFile(
-    FileSystem& fileSystem, SafeWriter& writer, const QString& path, const QByteArray& bytes)
-{
-    if (holdsAlready(fileSystem, path, bytes))
-        return {};
-    return writer.write({path, bytes});
-}
-
-core::Result<void> writeJsonFile(const QString& path, const QJsonObject& object)
+    FileSystem& fileSystem, SafeWriter& writer, const QString& path, const QJsonObject& object)
 {
     QByteArray bytes;
     JsonWriter(bytes).writeValue(object);
-    DiskFileSystem fileSystem;
-    SafeWriter writer(fileSystem);
-    if (const core::Result<void> result = writeJsonFile(fileSystem, writer, path, bytes); !result)
-        return result;
-    return writer.syncFolders();
+    if (holdsAlready(fileSystem, path, bytes))
+        return {};
+    return writer.write({path, bytes});
 }
 
 } // namespace tw::app::persistence

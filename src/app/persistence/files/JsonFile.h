@@ -11,16 +11,13 @@ namespace tw::app::persistence {
 [[nodiscard]] core::Failure invalidJson(const QString& path);
 
 /** The top-level object of a file, or why there is none. */
-[[nodiscard]] core::Result<QJsonObject> readJsonFile(const QString& path);
+[[nodiscard]] core::Result<QJsonObject> readJsonFile(FileSystem& fileSystem, const QString& path);
 
 /**
- * Writes a JSON file through the writer, unless it holds these very bytes already: an unchanged file keeps
- * its times, so that sync clients see only real changes.
+ * Writes an object through the writer, unless the file holds these very bytes already: an unchanged file
+ * keeps its times, so that sync clients see only real changes. The writer's folders are the caller's to sync.
  */
 [[nodiscard]] core::Result<void> writeJsonFile(
-    FileSystem& fileSystem, SafeWriter& writer, const QString& path, const QByteArray& bytes);
-
-/** The same on the computer's own file system, with the name in its folder made to last as well. */
-[[nodiscard]] core::Result<void> writeJsonFile(const QString& path, const QJsonObject& object);
+    FileSystem& fileSystem, SafeWriter& writer, const QString& path, const QJsonObject& object);
 
 } // namespace tw::app::persistence

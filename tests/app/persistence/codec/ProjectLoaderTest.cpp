@@ -89,7 +89,7 @@ TEST(ProjectLoader, namesTheFirstBadFileInTheOrderOfLoading)
                                     .replace(u"%1project"_s, u"project"_s));
         const QTemporaryDir folder;
         store(folder.path(), expected.files);
-        const auto fromDisk = loadFolder(disk, folder.path());
+        const auto fromDisk = loadProject(disk, folder.path());
         const QString prefix = folder.path() + u'/';
         EXPECT_EQ(
             fromDisk.message(), QString(expected.message)
@@ -116,7 +116,7 @@ TEST(ProjectLoader, readsTheProjectsFilesAndNoOthers)
     ASSERT_TRUE(QDir(folder.path()).mkpath(u"objects/folder.json"_s));
 
     DiskFileSystem disk;
-    const auto fromDisk = loadFolder(disk, folder.path());
+    const auto fromDisk = loadProject(disk, folder.path());
     const auto inMemory = parseProject(files);
     ASSERT_EQ(fromDisk.message(), QString());
     ASSERT_EQ(inMemory.message(), QString());
@@ -174,7 +174,7 @@ TEST(ProjectLoader, sharesTheTextsThatManyObjectsHave)
 TEST(ProjectLoader, readsTheSampleProjectAndWritesItTheSameWayEveryTime)
 {
     DiskFileSystem disk;
-    const auto sample = loadFolder(disk, tw::test::repositoryPath(u"examples/low-water"));
+    const auto sample = loadProject(disk, tw::test::repositoryPath(u"examples/low-water"));
     ASSERT_EQ(sample.message(), QString());
     EXPECT_GT(sample.value().project->objects().size(), 100u);
     const ProjectFileMap written = serializeProject(*sample.value().project);
