@@ -1,8 +1,8 @@
 #include "desktop/calendar/CalendarForm.h"
 
 #include "desktop/calendar/RowTable.h"
+#include "desktop/fields/ListEditor.h"
 #include "desktop/fields/NoteLabel.h"
-#include "desktop/project/ListEditor.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -50,7 +50,7 @@ CalendarForm::CalendarForm(const shell::DeskContext& desk, const Calendar& calen
     : QWidget(parent)
     , m_months(new RowTable(
           desk, tr("Months"), {tr("Month"), tr("Days")}, {tr("New month"), daysOfNewMonth}, this))
-    , m_weekdays(new project::ListEditor(desk, tr("Weekdays"), tr("No weekdays yet."), this))
+    , m_weekdays(new fields::ListEditor(desk, tr("Weekdays"), tr("No weekdays yet."), this))
     , m_eraName(new QLineEdit(calendar.eraName(), this))
     , m_eras(new RowTable(
           desk, tr("Named eras"), {tr("Era"), tr("First year"), tr("Counts down")},
@@ -76,7 +76,7 @@ CalendarForm::CalendarForm(const shell::DeskContext& desk, const Calendar& calen
         list.editItem(list.currentItem());
         refresh();
     });
-    connect(m_weekdays, &project::ListEditor::removeRequested, this, [this](int row) {
+    connect(m_weekdays, &fields::ListEditor::removeRequested, this, [this](int row) {
         delete m_weekdays->list().takeItem(row);
         refresh();
     });

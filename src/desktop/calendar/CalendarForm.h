@@ -8,11 +8,9 @@
 class QLineEdit;
 
 namespace tw::desktop::fields {
-class NoteLabel;
-}
-namespace tw::desktop::project {
 class ListEditor;
-}
+class NoteLabel;
+} // namespace tw::desktop::fields
 
 namespace tw::desktop::calendar {
 
@@ -36,7 +34,7 @@ private:
     void refresh();
 
     RowTable* m_months;
-    project::ListEditor* m_weekdays;
+    fields::ListEditor* m_weekdays;
     QLineEdit* m_eraName;
     RowTable* m_eras;
     fields::NoteLabel* m_note;

@@ -1,7 +1,7 @@
 #include "desktop/calendar/ReckoningsForm.h"
 
+#include "desktop/fields/ListEditor.h"
 #include "desktop/fields/NoteLabel.h"
-#include "desktop/project/ListEditor.h"
 
 #include <QFormLayout>
 #include <QLineEdit>
@@ -37,7 +37,7 @@ ReckoningsForm::ReckoningsForm(
     : QWidget(parent)
     , m_calendar(calendar)
     , m_reckonings(std::move(reckonings))
-    , m_list(new project::ListEditor(
+    , m_list(new fields::ListEditor(
           desk, tr("Reckonings"),
           tr("No reckonings: add one to tell the same days in another count of years."), this))
     , m_form(new QWidget(this))
@@ -62,7 +62,7 @@ ReckoningsForm::ReckoningsForm(
     layout->addWidget(m_form);
     connect(
         m_list->addButton(tr("&Add Reckoning")), &QPushButton::clicked, this, &ReckoningsForm::addReckoning);
-    connect(m_list, &project::ListEditor::removeRequested, this, [this](int row) {
+    connect(m_list, &fields::ListEditor::removeRequested, this, [this](int row) {
         delete m_list->list().takeItem(row);
         showCurrent();
     });

@@ -11,11 +11,9 @@ class QLineEdit;
 class QSpinBox;
 
 namespace tw::desktop::fields {
-class NoteLabel;
-}
-namespace tw::desktop::project {
 class ListEditor;
-}
+class NoteLabel;
+} // namespace tw::desktop::fields
 
 namespace tw::desktop::calendar {
 
@@ -46,7 +44,7 @@ private:
     core::calendar::Calendar m_calendar;
     /** The rows of the list know their numbers here; removed ones stay. */
     std::vector<core::calendar::Reckoning> m_reckonings;
-    project::ListEditor* m_list;
+    fields::ListEditor* m_list;
     QWidget* m_form;
     QLineEdit* m_name;
     QLineEdit* m_eraName;

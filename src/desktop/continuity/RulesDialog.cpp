@@ -2,8 +2,8 @@
 
 #include "core/timeline/TimelineCommands.h"
 #include "desktop/continuity/RuleForm.h"
+#include "desktop/fields/ListEditor.h"
 #include "desktop/fields/NoteLabel.h"
-#include "desktop/project/ListEditor.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QDialogButtonBox>
@@ -47,7 +47,7 @@ QString faultIn(const RuleList& rules)
 RulesDialog::RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget* parent)
     : QDialog(parent)
     , m_rules(std::move(rules))
-    , m_list(new project::ListEditor(
+    , m_list(new fields::ListEditor(
           desk, tr("Continuity rules"),
           tr("No rules: add one to hear when an entity is not what the story needs."), this))
     , m_form(new RuleForm(desk, this))
@@ -58,7 +58,7 @@ RulesDialog::RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget
     // Long names are cut; nothing is to be scrolled for.
     m_list->list().setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_list->addButton(tr("&Add Rule")), &QPushButton::clicked, this, &RulesDialog::addRule);
-    connect(m_list, &project::ListEditor::removeRequested, this, &RulesDialog::removeRow);
+    connect(m_list, &fields::ListEditor::removeRequested, this, &RulesDialog::removeRow);
     connect(&m_list->list(), &QListWidget::currentRowChanged, this, &RulesDialog::showCurrent);
     connect(m_form, &RuleForm::edited, this, &RulesDialog::takeForm);
     for (std::size_t rule = 0; rule < m_rules.size(); ++rule)

@@ -8,11 +8,9 @@
 #include <vector>
 
 namespace tw::desktop::fields {
-class NoteLabel;
-}
-namespace tw::desktop::project {
 class ListEditor;
-}
+class NoteLabel;
+} // namespace tw::desktop::fields
 
 namespace tw::desktop::continuity {
 
@@ -44,7 +42,7 @@ private:
 
     /** The rows of the list know their numbers here; removed ones stay. */
     RuleList m_rules;
-    project::ListEditor* m_list;
+    fields::ListEditor* m_list;
     RuleForm* m_form;
     fields::NoteLabel* m_note;
 };

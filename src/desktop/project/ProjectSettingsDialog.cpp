@@ -1,8 +1,8 @@
 #include "desktop/project/ProjectSettingsDialog.h"
 
 #include "app/workspace/ProjectPlace.h"
+#include "desktop/fields/ListEditor.h"
 #include "desktop/fields/NoteLabel.h"
-#include "desktop/project/ListEditor.h"
 #include "desktop/project/ProjectFileDialogs.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/Questions.h"
@@ -39,9 +39,9 @@ ProjectSettingsDialog::ProjectSettingsDialog(
     : QDialog(parent)
     , m_desk(desk)
     , m_name(new QLineEdit(settings.name, this))
-    , m_audiences(
-          new ListEditor(desk, tr("Audiences"), tr("No audiences: everything is for everyone."), this))
-    , m_libraries(new ListEditor(
+    , m_audiences(new fields::ListEditor(
+          desk, tr("Audiences"), tr("No audiences: everything is for everyone."), this))
+    , m_libraries(new fields::ListEditor(
           desk, tr("Libraries"), tr("No libraries: add another project to refer to what it holds."), this))
     , m_note(new fields::NoteLabel(desk.themes, this))
 {
@@ -89,7 +89,7 @@ void ProjectSettingsDialog::addAudiences()
         list.setFocus();
         list.editItem(list.currentItem());
     });
-    connect(m_audiences, &ListEditor::removeRequested, this, &ProjectSettingsDialog::removeAudience);
+    connect(m_audiences, &fields::ListEditor::removeRequested, this, &ProjectSettingsDialog::removeAudience);
 }
 
 void ProjectSettingsDialog::addAudience(const AudienceRow& row)
@@ -127,7 +127,7 @@ void ProjectSettingsDialog::addLibraries()
     connect(m_libraries->addButton(tr("Add F&older…")), &QPushButton::clicked, this, [this] {
         chooseLibrary(askForProjectFolder(m_desk.settings, this));
     });
-    connect(m_libraries, &ListEditor::removeRequested, this, [this](int row) {
+    connect(m_libraries, &fields::ListEditor::removeRequested, this, [this](int row) {
         delete m_libraries->list().takeItem(row);
     });
 }

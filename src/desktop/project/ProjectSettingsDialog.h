@@ -8,12 +8,11 @@
 class QLineEdit;
 
 namespace tw::desktop::fields {
+class ListEditor;
 class NoteLabel;
-}
+} // namespace tw::desktop::fields
 
 namespace tw::desktop::project {
-
-class ListEditor;
 
 /** Asks what is to be set for the project as a whole. Changes nothing by itself. */
 class ProjectSettingsDialog final : public QDialog
@@ -38,8 +37,8 @@ private:
 
     shell::DeskContext m_desk;
     QLineEdit* m_name;
-    ListEditor* m_audiences;
-    ListEditor* m_libraries;
+    fields::ListEditor* m_audiences;
+    fields::ListEditor* m_libraries;
     fields::NoteLabel* m_note;
 };
 

@@ -1,4 +1,4 @@
-#include "desktop/project/ListEditor.h"
+#include "desktop/fields/ListEditor.h"
 
 #include "desktop/icons/IconSet.h"
 
@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace tw::desktop::project {
+namespace tw::desktop::fields {
 
 using icons::Icon;
 
@@ -91,4 +91,4 @@ bool ListEditor::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
-} // namespace tw::desktop::project
+} // namespace tw::desktop::fields

@@ -8,7 +8,7 @@ class QListWidget;
 class QPushButton;
 class QVBoxLayout;
 
-namespace tw::desktop::project {
+namespace tw::desktop::fields {
 
 /** A short list with buttons beside it: those that add, and those that move and remove the current row. */
 class ListEditor final : public QWidget
@@ -44,4 +44,4 @@ private:
     QPushButton* m_remove;
 };
 
-} // namespace tw::desktop::project
+} // namespace tw::desktop::fields
