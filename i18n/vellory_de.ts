@@ -3008,10 +3008,6 @@
 <context>
     <name>tw::desktop::composition::CompositionPage</name>
     <message>
-        <source>No documents in here yet. Press Ctrl+Shift+N to write the first one.</source>
-        <translation>Hier sind noch keine Dokumente. Strg+Umschalt+N beginnt das erste.</translation>
-    </message>
-    <message>
         <source>Continuous text</source>
         <translation>Durchgehender Text</translation>
     </message>
@@ -3029,6 +3025,13 @@
     <message>
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::composition::SceneColumn</name>
+    <message>
+        <source>No documents in here yet. Press Ctrl+Shift+N to write the first one.</source>
+        <translation>Hier sind noch keine Dokumente. Strg+Umschalt+N beginnt das erste.</translation>
     </message>
 </context>
 <context>
@@ -3181,6 +3184,21 @@
     <message>
         <source>Remove this text</source>
         <translation>Diesen Text entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::fields::ListEditor</name>
+    <message>
+        <source>Move Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -4513,21 +4531,6 @@
     </message>
 </context>
 <context>
-    <name>tw::desktop::project::ListEditor</name>
-    <message>
-        <source>Move Up</source>
-        <translation>Nach oben</translation>
-    </message>
-    <message>
-        <source>Move Down</source>
-        <translation>Nach unten</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
-    </message>
-</context>
-<context>
     <name>tw::desktop::project::NewProjectDialog</name>
     <message>
         <source>New Project</source>
@@ -5561,6 +5564,10 @@
         <source>Everything</source>
         <translation>Alles</translation>
     </message>
+    <message>
+        <source>Nothing here is for the audience that you view it as.</source>
+        <translation>Hier ist nichts für die Zielgruppe, als die Sie es ansehen.</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::DockLayout</name>
@@ -6294,10 +6301,6 @@
     <message>
         <source>Nothing here contains “%1”. Clear the filter to see everything.</source>
         <translation>Nichts hier enthält „%1“. Leeren Sie den Filter, um alles zu sehen.</translation>
-    </message>
-    <message>
-        <source>Nothing here is for the audience that you view it as.</source>
-        <translation>Hier ist nichts für die Zielgruppe, als die Sie es ansehen.</translation>
     </message>
 </context>
 </TS>

@@ -1,7 +1,7 @@
 #include "desktop/composition/CompositionPage.h"
 
 #include "core/document/ActiveText.h"
-#include "core/document/DocumentTree.h"
+#include "desktop/composition/SceneColumn.h"
 #include "desktop/composition/SceneSlot.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/BodyEditor.h"
@@ -12,16 +12,13 @@
 #include "desktop/shell/ProjectSession.h"
 
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLocale>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTextBlock>
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <map>
+#include <algorithm>
 
 namespace tw::desktop::composition {
 
@@ -49,12 +46,9 @@ CompositionPage::CompositionPage(const shell::DeskContext& desk, const ContentId
     : TextPage({rootId, compositionView}, parent)
     , m_desk(desk)
     , m_places(desk.settings, desk.session.workspace().displayPath())
-    , m_documentPlaces(desk.session.project())
     , m_area(new QScrollArea(this))
     , m_findBar(new manuscript::FindBar(desk, this))
-    , m_text(new QWidget)
-    , m_layout(new QVBoxLayout(m_text))
-    , m_hint(new QLabel(tr("No documents in here yet. Press Ctrl+Shift+N to write the first one."), m_text))
+    , m_scenes(new SceneColumn(desk, rootId, nullptr))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -66,7 +60,7 @@ CompositionPage::CompositionPage(const shell::DeskContext& desk, const ContentId
         if (const BodyEditor* const editor = currentEditor())
             showCursor(*editor);
     });
-    m_area->setWidget(m_text);
+    m_area->setWidget(m_scenes);
     m_area->setWidgetResizable(true);
     m_area->setFrameShape(QFrame::NoFrame);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -74,73 +68,30 @@ CompositionPage::CompositionPage(const shell::DeskContext& desk, const ContentId
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     m_area->setAccessibleName(tr("Continuous text"));
     m_area->setFocusPolicy(Qt::NoFocus);
-    m_layout->setContentsMargins(0, 0, 0, 0);
-    m_layout->setSpacing(0);
-    m_layout->addWidget(m_hint);
-    m_layout->addStretch();
-    m_hint->setAlignment(Qt::AlignCenter);
-    m_hint->setForegroundRole(QPalette::PlaceholderText);
     connect(m_area->verticalScrollBar(), &QScrollBar::valueChanged, this, &CompositionPage::wakeVisible);
     connect(m_area->verticalScrollBar(), &QScrollBar::rangeChanged, this, &CompositionPage::wakeVisible);
-    connect(&desk.session, &shell::ProjectSession::changed, this, &CompositionPage::followChanges);
-    rebuild();
+    connect(m_scenes, &SceneColumn::slotMade, this, &CompositionPage::follow);
+    connect(m_scenes, &SceneColumn::changed, this, &CompositionPage::titleChanged);
+    connect(m_scenes, &SceneColumn::changed, this, &CompositionPage::statusTextChanged);
+    m_scenes->fill();
 }
 
 CompositionPage::~CompositionPage()
 {
     rememberPlace();
-    m_desk.session.disconnect(this);
+    m_scenes->disconnect(this);
     m_area->verticalScrollBar()->disconnect(this);
 }
 
-std::vector<ContentId> CompositionPage::documentsInOrder() const
+const std::vector<SceneSlot*>& CompositionPage::slotsInOrder() const
 {
-    const core::project::Project& project = m_desk.session.project();
-    std::vector<ContentId> ids = objectId().isNull() ? core::document::documentsInReadingOrder(project)
-                                                     : core::document::documentSubtree(project, objectId());
-    // Notes are beside the text; a part without words of its own shows as the title above its scenes.
-    std::erase_if(ids, [&](const ContentId& id) {
-        return id != objectId() &&
-               project.findAs<Document>(id)->documentKind() == core::document::DocumentKind::Note;
-    });
-    return ids;
+    return m_scenes->slotsInOrder();
 }
 
-void CompositionPage::rebuild()
+void CompositionPage::follow(SceneSlot* slot)
 {
-    std::map<ContentId, SceneSlot*> present;
-    for (SceneSlot* const slot : m_slots) {
-        present.emplace(slot->documentId(), slot);
-        m_layout->removeWidget(slot);
-    }
-    m_slots.clear();
-    for (const ContentId& id : documentsInOrder()) {
-        const auto known = present.extract(id);
-        SceneSlot* const slot = known ? known.mapped() : new SceneSlot(m_desk, id, m_text);
-        if (!known) {
-            connect(slot, &SceneSlot::editorMade, this, [this, slot](BodyEditor* editor) {
-                prepare(*slot, *editor);
-            });
-        }
-        m_layout->insertWidget(static_cast<int>(m_slots.size()), slot);
-        slot->show();
-        m_slots.push_back(slot);
-    }
-    for (const auto& [id, slot] : present)
-        slot->deleteLater();
-    m_hint->setVisible(m_slots.empty());
-}
-
-void CompositionPage::followChanges(const core::project::ProjectChanges& changes)
-{
-    if (m_documentPlaces.follow(m_desk.session.project(), changes))
-        rebuild();
-    for (SceneSlot* const slot : m_slots) {
-        if (changes.concerns(slot->documentId()))
-            slot->refresh();
-    }
-    emit titleChanged();
-    emit statusTextChanged();
+    connect(
+        slot, &SceneSlot::editorMade, this, [this, slot](BodyEditor* editor) { prepare(*slot, *editor); });
 }
 
 void CompositionPage::prepare(SceneSlot& slot, BodyEditor& editor)
@@ -167,15 +118,14 @@ void CompositionPage::wakeVisible()
     QScrollBar& bar = *m_area->verticalScrollBar();
     const int window = m_area->viewport()->height();
     const int beyond = static_cast<int>(window * readyBeyond);
-    for (SceneSlot* const slot : m_slots) {
+    for (SceneSlot* const slot : slotsInOrder()) {
         const int top = slot->y() - bar.value();
         if (slot->editor() || top > window + beyond || top + slot->height() < -beyond)
             continue;
         // What is in the window must not move when something above turns out to be of another height.
         const int before = slot->height();
         slot->wake();
-        m_layout->activate();
-        m_text->adjustSize();
+        m_scenes->settle();
         if (top + before <= 0)
             bar.setValue(bar.value() + slot->height() - before);
     }
@@ -184,8 +134,8 @@ void CompositionPage::wakeVisible()
 void CompositionPage::showCursor(const BodyEditor& editor)
 {
     const QRect cursor = editor.cursorRect();
-    const QPoint place = editor.viewport()->mapTo(m_text, cursor.center());
-    m_area->ensureVisible(m_text->width() / 2, place.y(), 0, cursorMargin);
+    const QPoint place = editor.viewport()->mapTo(m_scenes, cursor.center());
+    m_area->ensureVisible(m_scenes->width() / 2, place.y(), 0, cursorMargin);
 }
 
 void CompositionPage::setCurrentSlot(SceneSlot* slot)
@@ -206,21 +156,20 @@ bool CompositionPage::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::FocusIn)
         return TextPage::eventFilter(watched, event);
-    for (SceneSlot* const slot : m_slots) {
-        if (slot->editor() != watched)
-            continue;
+    auto* const slot = qobject_cast<SceneSlot*>(watched->parent());
+    if (slot && slot->editor() == watched) {
         if (event->type() == QEvent::FocusIn)
             setCurrentSlot(slot);
         else if (const auto* const key = static_cast<QKeyEvent*>(event); key->modifiers() == Qt::NoModifier)
             return leaveEditor(*slot, key->key());
-        break;
     }
     return TextPage::eventFilter(watched, event);
 }
 
 bool CompositionPage::leaveEditor(SceneSlot& slot, int key)
 {
-    const auto index = static_cast<std::size_t>(std::ranges::find(m_slots, &slot) - m_slots.begin());
+    const auto index =
+        static_cast<std::size_t>(std::ranges::find(slotsInOrder(), &slot) - slotsInOrder().begin());
     const BodyEditor& editor = *slot.editor();
     QScrollBar& bar = *m_area->verticalScrollBar();
     switch (key) {
@@ -232,7 +181,7 @@ bool CompositionPage::leaveEditor(SceneSlot& slot, int key)
         return true;
     case Qt::Key_Down:
     case Qt::Key_Right:
-        if (index + 1 == m_slots.size() ||
+        if (index + 1 == slotsInOrder().size() ||
             !isAtEdge(editor, key == Qt::Key_Down ? QTextCursor::Down : QTextCursor::Right))
             return false;
         enter(index + 1, false);
@@ -250,11 +199,10 @@ bool CompositionPage::leaveEditor(SceneSlot& slot, int key)
 
 void CompositionPage::enter(std::size_t index, bool atEnd)
 {
-    BodyEditor& editor = m_slots[index]->wake();
+    BodyEditor& editor = slotsInOrder()[index]->wake();
     editor.moveCursor(atEnd ? QTextCursor::End : QTextCursor::Start);
     editor.setFocus(Qt::OtherFocusReason);
-    m_layout->activate();
-    m_text->adjustSize();
+    m_scenes->settle();
     showCursor(editor);
 }
 
@@ -274,7 +222,7 @@ void CompositionPage::takeFocus()
 {
     if (m_current && m_current->editor())
         m_current->editor()->setFocus(Qt::OtherFocusReason);
-    else if (!enterLatestPlace() && !m_slots.empty())
+    else if (!enterLatestPlace() && !slotsInOrder().empty())
         enter(0, false);
 }
 
@@ -292,7 +240,7 @@ void CompositionPage::rememberPlace()
 bool CompositionPage::enterLatestPlace()
 {
     std::vector<ContentId> shown;
-    for (const SceneSlot* const slot : m_slots)
+    for (const SceneSlot* const slot : slotsInOrder())
         shown.push_back(slot->documentId());
     const auto latest = m_places.latestOf(shown);
     if (!latest)
@@ -300,7 +248,7 @@ bool CompositionPage::enterLatestPlace()
     const auto& [documentId, place] = *latest;
     const auto index = static_cast<std::size_t>(std::ranges::find(shown, documentId) - shown.begin());
     enter(index, false);
-    BodyEditor& editor = *m_slots[index]->editor();
+    BodyEditor& editor = *slotsInOrder()[index]->editor();
     QTextCursor cursor = editor.textCursor();
     cursor.setPosition(place.positionIn(editor.document()->characterCount()));
     editor.setTextCursor(cursor);
@@ -341,16 +289,15 @@ bool CompositionPage::hasMatch(const SceneSlot& slot, const manuscript::TextFind
 
 bool CompositionPage::goOn(const manuscript::TextFinder& finder, bool isForward)
 {
-    const auto count = static_cast<std::ptrdiff_t>(m_slots.size());
-    const auto present = std::ranges::find(m_slots, m_current.data()) - m_slots.begin();
+    const auto count = static_cast<std::ptrdiff_t>(slotsInOrder().size());
+    const auto present = std::ranges::find(slotsInOrder(), m_current.data()) - slotsInOrder().begin();
     for (std::ptrdiff_t step = 1; step < count; ++step) {
         SceneSlot& slot =
-            *m_slots[static_cast<std::size_t>((present + (isForward ? step : count - step)) % count)];
+            *slotsInOrder()[static_cast<std::size_t>((present + (isForward ? step : count - step)) % count)];
         if (!hasMatch(slot, finder))
             continue;
         slot.wake();
-        m_layout->activate();
-        m_text->adjustSize();
+        m_scenes->settle();
         setCurrentSlot(&slot);
         return true;
     }
@@ -360,7 +307,7 @@ bool CompositionPage::goOn(const manuscript::TextFinder& finder, bool isForward)
 void CompositionPage::visitAll(const manuscript::TextFinder& finder, const std::function<void()>& work)
 {
     SceneSlot* const present = m_current;
-    for (SceneSlot* const slot : m_slots) {
+    for (SceneSlot* const slot : slotsInOrder()) {
         if (!hasMatch(*slot, finder))
             continue;
         slot->wake();
@@ -377,7 +324,7 @@ void CompositionPage::showNote(const QString&)
 
 void CompositionPage::applyStyle()
 {
-    for (SceneSlot* const slot : m_slots)
+    for (SceneSlot* const slot : slotsInOrder())
         slot->applyStyle();
 }
 
@@ -394,10 +341,7 @@ QIcon CompositionPage::icon() const
 
 QString CompositionPage::statusText() const
 {
-    qint64 words = 0;
-    for (const SceneSlot* const slot : m_slots)
-        words += m_desk.session.words().ofDocument(slot->documentId());
-    const QString total = tr("%Ln words", nullptr, static_cast<int>(words));
+    const QString total = tr("%Ln words", nullptr, static_cast<int>(m_scenes->wordCount()));
     const auto* const object = m_desk.session.project().find(editedDocument());
     return object ? tr("%1 · %2").arg(shell::objectTitle(*object), total) : total;
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/document/DocumentPlaces.h"
-#include "core/project/ProjectChanges.h"
 #include "desktop/manuscript/FindBar.h"
 #include "desktop/manuscript/ReadingPlaces.h"
 #include "desktop/manuscript/TextPage.h"
@@ -11,12 +9,11 @@
 
 #include <vector>
 
-class QLabel;
 class QScrollArea;
-class QVBoxLayout;
 
 namespace tw::desktop::composition {
 
+class SceneColumn;
 class SceneSlot;
 
 /** The view, as page addresses name it. */
@@ -48,7 +45,7 @@ public:
     void showNote(const QString& label) override;
     void applyStyle() override;
 
-    [[nodiscard]] const std::vector<SceneSlot*>& slotsInOrder() const { return m_slots; }
+    [[nodiscard]] const std::vector<SceneSlot*>& slotsInOrder() const;
 
 signals:
     /** A document is about to be seen. */
@@ -63,9 +60,7 @@ private:
     bool goOn(const manuscript::TextFinder& finder, bool isForward) override;
     void visitAll(const manuscript::TextFinder& finder, const std::function<void()>& work) override;
     [[nodiscard]] bool hasMatch(const SceneSlot& slot, const manuscript::TextFinder& finder) const;
-    [[nodiscard]] std::vector<core::ContentId> documentsInOrder() const;
-    void rebuild();
-    void followChanges(const core::project::ProjectChanges& changes);
+    void follow(SceneSlot* slot);
     void prepare(SceneSlot& slot, manuscript::BodyEditor& editor);
     void wakeVisible();
     void showCursor(const manuscript::BodyEditor& editor);
@@ -78,13 +73,9 @@ private:
 
     shell::DeskContext m_desk;
     manuscript::ReadingPlaces m_places;
-    core::document::DocumentPlaces m_documentPlaces;
     QScrollArea* m_area;
     manuscript::FindBar* m_findBar;
-    QWidget* m_text;
-    QVBoxLayout* m_layout;
-    QLabel* m_hint;
-    std::vector<SceneSlot*> m_slots;
+    SceneColumn* m_scenes;
     QPointer<SceneSlot> m_current;
     bool m_isWaking = false;
 };

@@ -125,6 +125,10 @@ void CardDelegate::paintCard(
         titlePlace, Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
         QFontMetrics(titleFont).elidedText(index.data().toString(), Qt::ElideRight, inner.width()));
 
+    const QVariant wordCount = index.data(trees::CountRole);
+    // Of a card that is there for those below it alone.
+    if (!wordCount.isValid())
+        return;
     painter.setFont(option.font);
     const int foot = inner.bottom() - metrics.lineSpacing() + 1;
     const QRect synopsisPlace(
@@ -135,7 +139,7 @@ void CardDelegate::paintCard(
 
     painter.setPen(colors.color(Role::QuietInk));
     const QRect footPlace(inner.left(), foot, inner.width(), metrics.lineSpacing());
-    const QString words = tr("%1 words").arg(index.data(trees::CountRole).toString());
+    const QString words = tr("%1 words").arg(wordCount.toString());
     painter.drawText(footPlace, Qt::AlignTrailing | Qt::AlignVCenter, words);
     const int statusWidth = footPlace.width() - metrics.horizontalAdvance(words) - padding;
     painter.drawText(

@@ -7,12 +7,10 @@ namespace tw::desktop::overview {
 using core::ContentId;
 
 DocumentFilter::DocumentFilter(manuscript::ManuscriptModel& model, const ContentId& rootId, QObject* parent)
-    : QSortFilterProxyModel(parent)
+    : WithholdingFilter(parent)
     , m_model(model)
     , m_rootId(rootId)
 {
-    setRecursiveFilteringEnabled(true);
-    setFilterCaseSensitivity(Qt::CaseInsensitive);
     setFilterKeyColumn(-1);
     setSourceModel(&model);
 }
@@ -39,7 +37,8 @@ bool DocumentFilter::filterAcceptsRow(int row, const QModelIndex& parent) const
         if (above.row() == row && above.parent() == parent)
             return true;
     }
-    return QSortFilterProxyModel::filterAcceptsRow(row, parent);
+    return !isSourceWithheld(m_model.index(row, 0, parent)) &&
+           QSortFilterProxyModel::filterAcceptsRow(row, parent);
 }
 
 } // namespace tw::desktop::overview

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "core/foundation/Id.h"
-
-#include <QSortFilterProxyModel>
+#include "desktop/trees/WithholdingFilter.h"
 
 namespace tw::desktop::manuscript {
 class ManuscriptModel;
@@ -14,7 +13,7 @@ namespace tw::desktop::overview {
  * The part of the manuscript below one document (null: all of it), of which only what contains a text is
  * shown: in its title, synopsis, status or point of view.
  */
-class DocumentFilter final : public QSortFilterProxyModel
+class DocumentFilter final : public trees::WithholdingFilter
 {
     Q_OBJECT
 

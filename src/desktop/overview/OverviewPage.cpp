@@ -3,6 +3,7 @@
 #include "core/document/DocumentTree.h"
 #include "desktop/manuscript/DocumentActions.h"
 #include "desktop/manuscript/ManuscriptModel.h"
+#include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/PanelHeader.h"
@@ -98,7 +99,6 @@ void OverviewPage::setList(QAbstractItemView& list, const std::function<void(con
     list.setFrameShape(QFrame::NoFrame);
     list.setSelectionMode(QAbstractItemView::ExtendedSelection);
     list.setEditTriggers(QAbstractItemView::EditKeyPressed);
-    list.setDragEnabled(true);
     list.setDragDropMode(QAbstractItemView::InternalMove);
     list.setDragDropOverwriteMode(false);
     connect(m_filter, &QAbstractItemModel::modelReset, this, &OverviewPage::takeRoot);
@@ -114,6 +114,8 @@ void OverviewPage::setList(QAbstractItemView& list, const std::function<void(con
                 m_context.desk.navigator.setCurrent(m_filter->idAt(index));
         });
     connect(&m_context.desk.navigator, &shell::Navigator::currentChanged, this, &OverviewPage::selectCurrent);
+    connect(
+        &m_context.desk.navigator, &shell::Navigator::audienceChanged, this, &OverviewPage::followAudience);
     m_attachedTo = &m_context.actions;
     m_attachedTo->attach(
         {&list, objectId(), [this] { return m_filter->idAt(m_list->currentIndex()); },
@@ -134,6 +136,18 @@ void OverviewPage::setList(QAbstractItemView& list, const std::function<void(con
              return ids;
          },
          rename});
+    followAudience();
+}
+
+void OverviewPage::followAudience()
+{
+    const QString& audience = m_context.desk.navigator.audience();
+    m_filter->setWithheld(shell::withheldFrom(
+        m_context.desk.session, audience,
+        [this](const QModelIndex& source) { return m_context.model.idAt(source); }));
+    // Between two cards others may lie unseen.
+    m_list->setDragEnabled(audience.isEmpty());
+    fillPath();
     takeRoot();
 }
 
@@ -167,10 +181,12 @@ void OverviewPage::activate(const ContentId& id)
 void OverviewPage::showHint()
 {
     const bool isEmpty = m_filter->rowCount(m_filter->rootIndex()) == 0;
-    const bool isFiltered = !m_header->filterText().isEmpty();
-    m_hint->setText(
-        isFiltered ? tr("Nothing here contains “%1”.").arg(m_header->filterText())
-                   : tr("No documents in here yet. Press Ctrl+Shift+N to add the first one."));
+    if (!m_header->filterText().isEmpty())
+        m_hint->setText(tr("Nothing here contains “%1”.").arg(m_header->filterText()));
+    else if (m_context.model.rowCount(m_context.model.indexOf(objectId())) > 0)
+        m_hint->setText(shell::nothingForAudience());
+    else
+        m_hint->setText(tr("No documents in here yet. Press Ctrl+Shift+N to add the first one."));
     m_hint->setVisible(isEmpty);
 }
 
@@ -183,7 +199,9 @@ void OverviewPage::fillPath()
     while (const auto* const document = project.findAs<Document>(id)) {
         if (!seen.insert(id).second)
             break;
-        const QString name = shell::objectTitle(*document).toHtmlEscaped();
+        const QString& audience = m_context.desk.navigator.audience();
+        const bool isShown = audience.isEmpty() || document->isVisibleTo(audience);
+        const QString name = isShown ? shell::objectTitle(*document).toHtmlEscaped() : u"…"_s;
         steps.prepend(id == objectId() ? name : u"<a href=\"%1\">%2</a>"_s.arg(id.toString(), name));
         id = document->parentId();
     }

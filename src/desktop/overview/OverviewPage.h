@@ -73,6 +73,7 @@ private:
     void showHint();
     void selectCurrent(const core::ContentId& id);
     void takeRoot();
+    void followAudience();
 
     OverviewContext m_context;
     /** A closing window may take the actions away before its pages. */

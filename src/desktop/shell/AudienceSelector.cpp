@@ -80,4 +80,9 @@ std::function<bool(const QModelIndex& source)> withheldFrom(
     };
 }
 
+QString nothingForAudience()
+{
+    return AudienceSelector::tr("Nothing here is for the audience that you view it as.");
+}
+
 } // namespace tw::desktop::shell

@@ -12,7 +12,10 @@ class QComboBox;
 
 namespace tw::desktop::shell {
 
-/** Chooses as which audience the trees are looked at. Hidden while the project has no audiences. */
+/**
+ * Chooses as which audience the codex and the manuscript are looked at. Hidden while the project has no
+ * audiences.
+ */
 class AudienceSelector final : public QWidget
 {
     Q_OBJECT
@@ -31,11 +34,14 @@ private:
 };
 
 /**
- * For a tree: whether a row's object, as `idAt` tells it, is not for the audience. Null when no audience is
- * chosen. Rows that stand for no object are for everyone.
+ * For a tree or a list: whether a row's object, as `idAt` tells it, is not for the audience. Null when no
+ * audience is chosen. Rows that stand for no object are for everyone.
  */
 [[nodiscard]] std::function<bool(const QModelIndex& source)> withheldFrom(
     const ProjectSession& session, const QString& audience,
     std::function<core::ContentId(const QModelIndex& source)> idAt);
+
+/** What stands where an audience sees nothing of what there is. */
+[[nodiscard]] QString nothingForAudience();
 
 } // namespace tw::desktop::shell

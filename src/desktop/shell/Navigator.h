@@ -35,7 +35,7 @@ public:
     /** Opens the object's page at a place in its text. */
     void openPassage(const core::ContentId& id, const TextPassage& passage);
 
-    /** The audience as which the trees are looked at; empty for a look at everything. */
+    /** The audience as which the codex and the manuscript are looked at; empty for a look at everything. */
     [[nodiscard]] const QString& audience() const { return m_audience; }
     void setAudience(const QString& audience);
 

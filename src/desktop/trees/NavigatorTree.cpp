@@ -1,5 +1,6 @@
 #include "desktop/trees/NavigatorTree.h"
 
+#include "desktop/shell/AudienceSelector.h"
 #include "desktop/trees/OpenRows.h"
 #include "desktop/trees/TreeRoles.h"
 #include "desktop/trees/TreeRowDelegate.h"
@@ -16,28 +17,15 @@ constexpr int hintMargin = 24;
 
 } // namespace
 
-void NavigatorTree::Filter::setWithheld(std::function<bool(const QModelIndex& source)> isWithheld)
-{
-    m_isWithheld = std::move(isWithheld);
-    invalidate();
-}
-
 bool NavigatorTree::Filter::isOff() const
 {
-    return !m_isWithheld && filterRegularExpression().pattern().isEmpty();
-}
-
-QVariant NavigatorTree::Filter::data(const QModelIndex& index, int role) const
-{
-    if (!m_isWithheld || role == IdRole || !m_isWithheld(mapToSource(index)))
-        return QSortFilterProxyModel::data(index, role);
-    return role == Qt::DisplayRole ? QVariant(QStringLiteral("…")) : QVariant();
+    return !isWithholding() && filterRegularExpression().pattern().isEmpty();
 }
 
 bool NavigatorTree::Filter::filterAcceptsRow(int row, const QModelIndex& parent) const
 {
     const QModelIndex index = sourceModel()->index(row, 0, parent);
-    if (m_isWithheld && m_isWithheld(index))
+    if (isSourceWithheld(index))
         return false;
     for (QModelIndex each = index; each.isValid(); each = each.parent()) {
         if (QSortFilterProxyModel::filterAcceptsRow(each.row(), each.parent()))
@@ -50,8 +38,6 @@ NavigatorTree::NavigatorTree(const shell::DeskContext& desk, QWidget* parent)
     : CommittingView(desk.session, parent)
     , m_hint(new QLabel(viewport()))
 {
-    m_filter.setRecursiveFilteringEnabled(true);
-    m_filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
     setItemDelegate(new TreeRowDelegate(desk.themes, this));
     setHeaderHidden(true);
     setUniformRowHeights(true);
@@ -132,7 +118,7 @@ void NavigatorTree::showHint()
     const auto* const source = m_filter.sourceModel();
     const bool isNarrowed = !m_filter.isOff() && source && source->rowCount() > 0;
     if (isNarrowed && m_filterText.isEmpty())
-        m_hint->setText(tr("Nothing here is for the audience that you view it as."));
+        m_hint->setText(shell::nothingForAudience());
     else if (isNarrowed)
         m_hint->setText(
             tr("Nothing here contains “%1”. Clear the filter to see everything.").arg(m_filterText));

@@ -2,9 +2,9 @@
 
 #include "desktop/shell/DeskContext.h"
 #include "desktop/trees/CommittingView.h"
+#include "desktop/trees/WithholdingFilter.h"
 
 #include <QSet>
-#include <QSortFilterProxyModel>
 #include <QTreeView>
 
 #include <functional>
@@ -30,8 +30,7 @@ public:
     /** Rows that contain the text, with the rows above them. Dragging rests while a filter is set. */
     void setFilter(const QString& text);
     /**
-     * Rows to leave out whatever the filter says, or null for none. One above a row that stays is there
-     * without its title. Dragging rests. Asked again for rows that the model says are different.
+     * Rows to leave out whatever the filter says, as WithholdingFilter does. Dragging rests.
      */
     void setWithheld(std::function<bool(const QModelIndex& source)> isWithheld);
     /** What to say and do when there is nothing, whatever the filter. */
@@ -69,12 +68,10 @@ private:
     void refreshDragging();
 
     /** Rows that match and those beneath them, and of each the first column. */
-    class Filter final : public QSortFilterProxyModel
+    class Filter final : public WithholdingFilter
     {
     public:
-        void setWithheld(std::function<bool(const QModelIndex& source)> isWithheld);
         [[nodiscard]] bool isOff() const;
-        [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
     protected:
         [[nodiscard]] bool filterAcceptsColumn(int column, const QModelIndex&) const override
@@ -82,9 +79,6 @@ private:
             return column == 0;
         }
         [[nodiscard]] bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
-
-    private:
-        std::function<bool(const QModelIndex& source)> m_isWithheld;
     };
 
     Filter m_filter;

@@ -1,9 +1,11 @@
 #include "desktop/composition/CompositionPage.h"
 
+#include "core/content/ContentCommands.h"
 #include "core/document/DocumentCommands.h"
 #include "desktop/composition/SceneSlot.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/ManuscriptEdits.h"
+#include "desktop/shell/Navigator.h"
 #include "desktop/support/TestDesk.h"
 
 #include <QApplication>
@@ -137,6 +139,24 @@ TEST_F(CompositionPageTest, followsTheManuscript)
     EXPECT_EQ(shown(*page).size(), 4U) << "notes are beside the text";
     manuscript::removeDocuments(desk.session, {two});
     EXPECT_EQ(shown(*page), (std::vector{part, one, added}));
+}
+
+TEST_F(CompositionPageTest, anAudienceReadsWhatIsForIt)
+{
+    desk.document(two).setVisibleTo({u"Master"_s});
+    const auto page = show();
+    desk.navigator.setAudience(u"Players"_s);
+    EXPECT_EQ(shown(*page), (std::vector{part, one}));
+    const auto restrict = [this](const ContentId& id, const core::content::NameSet& audiences) {
+        desk.session.apply(
+            std::make_unique<core::content::SetObjectVisibilityCommand>(desk.document(id), audiences));
+    };
+    restrict(one, {u"Master"_s});
+    EXPECT_EQ(shown(*page), (std::vector{part}));
+    restrict(two, {u"Players"_s});
+    EXPECT_EQ(shown(*page), (std::vector{part, two}));
+    desk.navigator.setAudience({});
+    EXPECT_EQ(shown(*page), (std::vector{part, one, two}));
 }
 
 TEST_F(CompositionPageTest, onlyWhatIsSeenHasEditors)

@@ -1,8 +1,10 @@
+#include "core/content/ContentCommands.h"
 #include "core/document/DocumentTree.h"
 #include "desktop/manuscript/DocumentActions.h"
 #include "desktop/manuscript/ManuscriptModel.h"
 #include "desktop/overview/CorkboardPage.h"
 #include "desktop/overview/OutlinePage.h"
+#include "desktop/shell/Navigator.h"
 #include "desktop/support/TestDesk.h"
 
 #include <QAbstractItemModelTester>
@@ -100,6 +102,33 @@ TEST_F(OverviewTest, theFilterKeepsItsRootAndWhatMatchesInAnyColumn)
     filter.setFilterFixedString(u"nowhere"_s);
     EXPECT_TRUE(filter.rootIndex().isValid());
     EXPECT_EQ(filter.rowCount(filter.rootIndex()), 0);
+}
+
+TEST_F(OverviewTest, anAudienceSeesWhatIsForItAndNothingOfTheRest)
+{
+    desk.document(one).setVisibleTo({u"Players"_s});
+    desk.document(two).setVisibleTo({u"Master"_s});
+    const auto page = show<OutlinePage>(part);
+    const auto& tree = *page->findChild<QTreeView*>();
+    const auto rows = [&tree] {
+        QStringList cells;
+        for (int row = 0; row < tree.model()->rowCount(tree.rootIndex()); ++row) {
+            for (const OutlineColumn column : {OutlineColumn::Title, OutlineColumn::Target})
+                cells.append(
+                    tree.model()->index(row, static_cast<int>(column), tree.rootIndex()).data().toString());
+        }
+        return cells.join(u'|');
+    };
+    EXPECT_EQ(rows(), u"One||Two|1,200"_s);
+    desk.navigator.setAudience(u"Players"_s);
+    EXPECT_EQ(rows(), u"One||…|"_s) << "what lies below it is for everyone";
+    const QModelIndex masked = tree.model()->index(1, 0, tree.rootIndex());
+    EXPECT_FALSE(masked.flags().testFlag(Qt::ItemIsEditable));
+    desk.session.apply(std::make_unique<core::content::SetObjectVisibilityCommand>(
+        desk.document(below), core::content::NameSet{u"Master"_s}));
+    EXPECT_EQ(rows(), u"One|"_s);
+    desk.navigator.setAudience({});
+    EXPECT_EQ(rows(), u"One||Two|1,200"_s);
 }
 
 TEST_F(OverviewTest, cellsOfTheOutlineAreEditedAsOneStepEach)
