@@ -20,6 +20,12 @@ double secondsOf(const Timed& timed)
     return static_cast<double>(timer.nsecsElapsed()) / 1e9;
 }
 
+/** Two digits that say something, also of a ratio far below 1. */
+QString figure(double ratio)
+{
+    return ratio < 0.1 ? QString::number(ratio, 'g', 2) : QString::number(ratio, 'f', 2);
+}
+
 } // namespace
 
 Comparison compare(const Runs& runs, const Timed& reference, const Timed& measured)
@@ -68,11 +74,11 @@ void ResultTable::addLine(
     const bool isReached = !aim || ratio <= *aim;
     m_areAimsReached = m_areAimsReached && isReached;
     const QString verdict =
-        aim ? u"  aim %1%2"_s.arg(*aim, 0, 'f', 1).arg(isReached ? QString() : u"  MISSED"_s) : QString();
-    const QString line = u"  %1%2%3  ratio %4%5"_s.arg(what, -34)
-                             .arg(reference, -38)
+        aim ? u"  aim %1%2"_s.arg(figure(*aim), isReached ? QString() : u"  MISSED"_s) : QString();
+    const QString line = u"  %1 %2 %3  ratio %4%5"_s.arg(what, -39)
+                             .arg(reference, -39)
                              .arg(amounts)
-                             .arg(ratio, 5, 'f', 2)
+                             .arg(figure(ratio), 6)
                              .arg(verdict);
     std::printf("%s\n", qUtf8Printable(line));
     std::fflush(stdout);

@@ -45,7 +45,7 @@ FolderSaver::FolderSaver(
     , m_writer(environment.fileSystem, environment.retryPolicy, environment.sleeper)
 {}
 
-Result<void> FolderSaver::save(const Project& project, SaveExtent extent)
+Result<void> FolderSaver::saveProject(const Project& project, SaveExtent extent)
 {
     if (auto saved = saveObjects(project, extent); !saved)
         return saved;

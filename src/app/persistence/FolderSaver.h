@@ -51,7 +51,7 @@ public:
     /** `disk` and `saved` are brought up to date file by file. */
     FolderSaver(const StorageEnvironment& environment, QString folder, DiskState& disk, SavedState& saved);
 
-    [[nodiscard]] core::Result<void> save(const core::project::Project& project, SaveExtent extent);
+    [[nodiscard]] core::Result<void> saveProject(const core::project::Project& project, SaveExtent extent);
 
     /**
      * Removes what is left of saves that never ended, of the given temporary files those that lie where a

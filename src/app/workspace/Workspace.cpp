@@ -199,7 +199,7 @@ Result<void> Workspace::save(SaveExtent extent)
         return persistence::changedOnDiskFailure();
     persistence::FolderSaver saver(m_environment, m_folderPath, m_openedFolderFingerprint, m_saved);
     saver.removeLeftovers(changes.leftovers);
-    if (auto saved = saver.save(*m_project, extent); !saved)
+    if (auto saved = saver.saveProject(*m_project, extent); !saved)
         return saved;
     // Also when nothing was written just now: an earlier save may have ended before the archive.
     if (m_singleFile) {
@@ -302,7 +302,7 @@ Result<Workspace::SavedCopy> Workspace::writeCopy(const QString& folder)
     SavedCopy copy{persistence::DiskState(m_environment.fileSystem, m_environment.clock), {}};
     copy.disk.recordUnseen(folder);
     persistence::FolderSaver saver(m_environment, folder, copy.disk, copy.saved);
-    if (auto written = saver.save(*m_project, SaveExtent::Everything); !written)
+    if (auto written = saver.saveProject(*m_project, SaveExtent::Everything); !written)
         return Failure{written.message()};
     return copy;
 }
