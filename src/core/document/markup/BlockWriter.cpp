@@ -91,7 +91,11 @@ QString writeCode(const Block& block)
             fence = QString(matchFence(line)->fence.size() + 1, fence.front());
     }
     const QString code = block.text.isEmpty() ? QString() : block.text + u'\n';
-    return fence + inOneLine(block.label) + u'\n' + code + fence;
+    QString label = inOneLine(block.label);
+    // One that goes on with the mark of the fence would lengthen it.
+    if (label.startsWith(fence.front()))
+        label.prepend(u' ');
+    return fence + label + u'\n' + code + fence;
 }
 
 } // namespace

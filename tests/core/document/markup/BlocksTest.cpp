@@ -170,6 +170,7 @@ TEST(BlocksTest, blocksTheEditorMakesReadAsThemselves)
         {{.kind = BlockKind::Quotation, .level = 1}, u">"_s},
         {{.kind = BlockKind::Code, .label = u"txt"_s, .text = u"a\n```\n````"_s},
          u"`````txt\na\n```\n````\n`````"_s},
+        {{.kind = BlockKind::Code, .marker = u"~~~"_s, .label = u"~x"_s}, u"~~~ ~x\n~~~"_s},
         {{.kind = BlockKind::BulletItem, .text = u"  a"_s}, u"- &#32; a"_s},
         {{.kind = BlockKind::Table,
           .table = {{ColumnAlignment::Center}, {{u"a"_s, u"b"_s}, {u"x|y"_s, QString()}}}},
