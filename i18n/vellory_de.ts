@@ -4423,7 +4423,7 @@
     </message>
     <message>
         <source>Reading…</source>
-        <translation>Wird gelesen …</translation>
+        <translation>Wird gelesen…</translation>
     </message>
     <message>
         <source>Nothing to complain about.</source>
@@ -4442,7 +4442,7 @@
     </message>
     <message>
         <source>%1, still reading…</source>
-        <translation>%1, wird noch gelesen …</translation>
+        <translation>%1, wird noch gelesen…</translation>
     </message>
     <message>
         <source>Replace with “%1”</source>
@@ -5924,7 +5924,7 @@
     </message>
     <message>
         <source>Continuity R&amp;ules…</source>
-        <translation>Kontinuitätsrege&amp;ln …</translation>
+        <translation>Kontinuitätsrege&amp;ln…</translation>
     </message>
     <message>
         <source>The story has no conflicts.</source>
