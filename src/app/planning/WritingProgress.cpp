@@ -1,6 +1,7 @@
 #include "app/planning/WritingProgress.h"
 
 #include <algorithm>
+#include <limits>
 #include <map>
 
 namespace tw::app::planning {
@@ -22,8 +23,8 @@ qint64 wordsOn(const WritingLog& log, QDate day)
     // A file merged from two machines may hold a day twice: both were written.
     qint64 words = 0;
     for (const WritingLogEntry& entry : log) {
-        if (dateOf(entry.date) == day)
-            words += entry.words;
+        if (dateOf(entry.date) == day && qAddOverflow(words, entry.words, &words))
+            return std::numeric_limits<qint64>::max();
     }
     return words;
 }

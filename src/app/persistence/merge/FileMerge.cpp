@@ -10,6 +10,10 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <array>
+#include <map>
+
 namespace tw::app::persistence {
 
 using core::content::ContentKind;
@@ -71,6 +75,59 @@ void mergeByParagraphs(FileMerge& merge)
     merge.hasMarks = !text.isClean();
 }
 
+using WritingLog = std::vector<core::writing::WritingLogEntry>;
+
+std::map<QString, quint64> wordsByDay(const WritingLog& log)
+{
+    // Unsigned, since a file may hold numbers whose sum has no room.
+    std::map<QString, quint64> words;
+    for (const auto& [date, count] : log)
+        words[date] += static_cast<quint64>(count);
+    return words;
+}
+
+/** Mine, with what others wrote on each day since the base. */
+WritingLog joinedLog(const WritingLog& base, WritingLog mine, const WritingLog& theirs)
+{
+    std::map<QString, quint64> before = wordsByDay(base);
+    for (const auto& [date, words] : wordsByDay(theirs)) {
+        const quint64 gain = words - before[date];
+        if (gain == 0)
+            continue;
+        const auto day = std::ranges::find(mine, date, &core::writing::WritingLogEntry::date);
+        if (day != mine.end()) {
+            day->words = static_cast<qint64>(static_cast<quint64>(day->words) + gain);
+            continue;
+        }
+        const auto later = std::ranges::find_if(mine, [&](const auto& entry) { return entry.date > date; });
+        mine.insert(later, {date, static_cast<qint64>(gain)});
+    }
+    return mine;
+}
+
+/**
+ * Gives all three versions of project.json one log of the words of each day: two machines that were written
+ * on the same day would otherwise always be in conflict over a number that both of them merely add to.
+ */
+void joinWritingLogs(QByteArray& base, QByteArray& mine, QByteArray& theirs)
+{
+    std::array<core::project::Project, 3> projects;
+    std::size_t read = 0;
+    for (const QByteArray* const bytes : {&base, &mine, &theirs}) {
+        if (!readProjectDocument(*bytes, projectFileName.toString(), projects[read++]))
+            return;
+    }
+    auto& [before, ours, others] = projects;
+    if (ours.writingLog() == before.writingLog() || others.writingLog() == before.writingLog())
+        return;
+    const WritingLog joined = joinedLog(before.writingLog(), ours.writingLog(), others.writingLog());
+    for (core::project::Project& project : projects)
+        project.setWritingLog(joined);
+    base = serializeProjectDocument(before);
+    mine = serializeProjectDocument(ours);
+    theirs = serializeProjectDocument(others);
+}
+
 } // namespace
 
 bool isLoadedFile(const QString& path)
@@ -98,10 +155,13 @@ FileVersion canonicalForm(const QString& path, const QByteArray& bytes)
 core::Result<QByteArray> mergeProjectFile(
     const QString& path, const QByteArray& base, const QByteArray& mine, const QByteArray& theirs)
 {
-    const FileVersion plainBase = canonicalForm(path, base);
-    const FileVersion plainTheirs = canonicalForm(path, theirs);
+    FileVersion plainBase = canonicalForm(path, base);
+    FileVersion plainTheirs = canonicalForm(path, theirs);
     if (plainBase && plainTheirs) {
-        const LineMerge merge = mergeLines(*plainBase, mine, *plainTheirs);
+        QByteArray plainMine = mine;
+        if (path == projectFileName)
+            joinWritingLogs(*plainBase, plainMine, *plainTheirs);
+        const LineMerge merge = mergeLines(*plainBase, plainMine, *plainTheirs);
         // Lines that fit together need not make a file that does. What reading drops would be a lost edit, so
         // the merged file has to survive reading and writing as it is.
         if (merge.isClean() && canonicalForm(path, merge.text) == merge.text &&

@@ -54,9 +54,10 @@ struct FileMerge
 [[nodiscard]] FileVersion canonicalForm(const QString& path, const QByteArray& bytes);
 
 /**
- * Merges two edits of one project file by lines. Fails with the path when the edits overlap, or when what
- * comes out is not exactly what a save writes: broken JSON, a key that stands twice, another id. Base and
- * theirs may be written in any form, mine is as a save writes it.
+ * Merges two edits of one project file by lines; the words that both sides logged for a day are added up.
+ * Fails with the path when the edits overlap, or when what comes out is not exactly what a save writes:
+ * broken JSON, a key that stands twice, another id. Base and theirs may be written in any form, mine is as a
+ * save writes it.
  */
 [[nodiscard]] core::Result<QByteArray> mergeProjectFile(
     const QString& path, const QByteArray& base, const QByteArray& mine, const QByteArray& theirs);

@@ -1,6 +1,7 @@
 #include "app/persistence/merge/ProjectMerge.h"
 
 #include "app/persistence/codec/ObjectCodec.h"
+#include "app/persistence/codec/ProjectCodec.h"
 #include "app/persistence/codec/ProjectLoader.h"
 #include "app/persistence/files/ProjectFiles.h"
 #include "core/document/Document.h"
@@ -117,6 +118,45 @@ TEST(FileMergeTest, bringsParagraphsTogetherOnRequest)
         EXPECT_EQ(merge.standing, FileStanding::Conflict) << name;
         EXPECT_EQ(merge.byParagraphs, merged) << name;
         EXPECT_EQ(merge.hasMarks, hasMarks) << name;
+    }
+}
+
+TEST(FileMergeTest, theWordsOfADayOnTwoMachinesAddUp)
+{
+    using WritingLog = std::vector<core::writing::WritingLogEntry>;
+    const auto file = [](const QString& name, const WritingLog& log) {
+        core::project::Project project;
+        project.setName(name);
+        project.setWritingLog(log);
+        return serializeProjectDocument(project);
+    };
+    const QString monday = u"2026-03-02"_s;
+    const QString tuesday = u"2026-03-03"_s;
+    const QString wednesday = u"2026-03-04"_s;
+    const WritingLog base{{monday, 100}};
+    const WritingLog mine{{monday, 150}, {wednesday, 20}};
+    constexpr qint64 most = std::numeric_limits<qint64>::max();
+    const struct
+    {
+        const char* name;
+        WritingLog theirs;
+        WritingLog joined;
+    } cases[] = {
+        {"other days and the same",
+         {{monday, 130}, {tuesday, 5}},
+         {{monday, 180}, {tuesday, 5}, {wednesday, 20}}},
+        {"a day twice", {{monday, 100}, {wednesday, 1}, {wednesday, 2}}, {{monday, 150}, {wednesday, 23}}},
+        {"less than before", {{monday, 60}}, {{monday, 110}, {wednesday, 20}}},
+        {"no number of words",
+         {{tuesday, most}, {tuesday, most}, {monday, 100}},
+         {{monday, 150}, {tuesday, -2}, {wednesday, 20}}},
+    };
+    for (const auto& [name, theirs, joined] : cases) {
+        const FileMerge merge = mergeFile(
+            projectFileName.toString(),
+            {file(u"Ebb"_s, base), file(u"Ebb"_s, mine), file(u"Flood"_s, theirs)});
+        EXPECT_EQ(merge.standing, FileStanding::Merged) << name;
+        EXPECT_EQ(merge.result, file(u"Flood"_s, joined)) << name;
     }
 }
 
