@@ -118,12 +118,13 @@ std::optional<QByteArray> ProtocolServer::answerMessage(const QJsonValue& value)
     static const QJsonValue rpcVersion(u"2.0"_s);
     const QJsonObject message = value.toObject();
     const QJsonValue id = message.value(u"id");
+    const QJsonValue method = message.value(u"method");
     // Nothing is ever asked of the client, so that a response can only be a mistake: answering it would go on
     // for ever.
-    if (!message.contains(u"method") && (message.contains(u"result") || message.contains(u"error")))
+    if (method.isUndefined() && (message.contains(u"result") || message.contains(u"error")))
         return std::nullopt;
-    if (!value.isObject() || message.value(u"jsonrpc") != rpcVersion ||
-        !message.value(u"method").isString() || (!id.isUndefined() && !isRequestId(id))) {
+    if (!value.isObject() || message.value(u"jsonrpc") != rpcVersion || !method.isString() ||
+        (!id.isUndefined() && !isRequestId(id))) {
         const RpcError error{
             ErrorCode::InvalidRequest, u"A message needs \"jsonrpc\": \"2.0\", a \"method\", and, to be "
                                        u"answered, an \"id\" that is a text or a "
@@ -132,7 +133,7 @@ std::optional<QByteArray> ProtocolServer::answerMessage(const QJsonValue& value)
     }
     if (id.isUndefined())
         return std::nullopt;
-    return responseLine(id, run(message));
+    return responseLine(id, run(method.toString(), message.value(u"params")));
 }
 
 std::optional<RpcError> ProtocolServer::checkEnvelope(const QJsonObject& meta)
@@ -153,16 +154,14 @@ std::optional<RpcError> ProtocolServer::checkEnvelope(const QJsonObject& meta)
     return std::nullopt;
 }
 
-RpcOutcome ProtocolServer::run(const QJsonObject& message)
+RpcOutcome ProtocolServer::run(const QString& methodName, const QJsonValue& params)
 {
-    Request request{message.value(u"method").toString(), {}, Generation::Session};
-    const Method* const method = findMethod(request.method);
+    const Method* const method = findMethod(methodName);
     if (!method)
-        return RpcError{ErrorCode::MethodNotFound, u"Unknown method: %1"_s.arg(request.method)};
-    const QJsonValue params = message.value(u"params");
+        return RpcError{ErrorCode::MethodNotFound, u"Unknown method: %1"_s.arg(methodName)};
     if (!params.isUndefined() && !params.isObject())
         return invalidParams(u"\"params\" must be an object."_s);
-    request.params = params.toObject();
+    Request request{params.toObject(), Generation::Session};
 
     const QJsonObject meta = request.params.value(u"_meta").toObject();
     if (meta.contains(protocolVersionKey) || method->handler == &ProtocolServer::discover) {

@@ -45,7 +45,6 @@ private:
     };
     struct Request
     {
-        QString method;
         QJsonObject params;
         Generation generation = Generation::Session;
     };
@@ -54,7 +53,7 @@ private:
 
     [[nodiscard]] std::optional<QByteArray> answerMessage(const QJsonValue& message);
     [[nodiscard]] std::optional<QByteArray> answerBatch(const QJsonArray& batch);
-    [[nodiscard]] RpcOutcome run(const QJsonObject& message);
+    [[nodiscard]] RpcOutcome run(const QString& methodName, const QJsonValue& params);
     [[nodiscard]] static std::optional<RpcError> checkEnvelope(const QJsonObject& meta);
 
     [[nodiscard]] RpcOutcome initialize(const Request& request);

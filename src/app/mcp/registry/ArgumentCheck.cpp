@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tw::app::mcp {
 
@@ -194,31 +195,35 @@ std::optional<double> finiteNumber(const QJsonValue& value)
     return value.toDouble();
 }
 
-Result<void> checkArguments(
-    const McpToolSpec& spec, const QString& subject, const QJsonObject& arguments,
-    const QStringList& refusedByHandler)
+ArgumentRules::ArgumentRules(const McpToolSpec& spec, QString subject, const QStringList& refusedByHandler)
+    : m_tool(spec.name)
+    , m_subject(std::move(subject))
+    , m_properties(spec.inputSchema.value(u"properties").toObject())
+    , m_required(textsOf(spec.inputSchema.value(u"required")))
 {
-    QJsonObject properties = spec.inputSchema.value(u"properties").toObject();
-    QStringList required = textsOf(spec.inputSchema.value(u"required"));
     for (const QString& name : refusedByHandler) {
         // Of a choice the handler refuses the wrong words, of anything else that it is missing.
-        QJsonObject property = properties.value(name).toObject();
+        QJsonObject property = m_properties.value(name).toObject();
         if (!property.contains(u"enum")) {
-            required.removeAll(name);
+            m_required.removeAll(name);
             continue;
         }
         property.remove(u"enum");
-        properties.insert(name, property);
+        m_properties.insert(name, property);
     }
-    const bool isSubjectMissing = !subject.isEmpty() && isMissing(subject, arguments, properties) &&
-                                  isMissing(u"id"_s, arguments, properties);
-    if (isSubjectMissing || isAnyMissing(required, arguments, properties)) {
-        QStringList needed = allQuoted(required);
-        if (!subject.isEmpty())
-            needed.prepend(u"%1 (or \"id\")"_s.arg(quoted(subject)));
-        return Failure{u"%1 needs %2."_s.arg(spec.name, enumerated(needed, u"and"_s))};
+}
+
+Result<void> ArgumentRules::check(const QJsonObject& arguments) const
+{
+    const bool isSubjectMissing = !m_subject.isEmpty() && isMissing(m_subject, arguments, m_properties) &&
+                                  isMissing(u"id"_s, arguments, m_properties);
+    if (isSubjectMissing || isAnyMissing(m_required, arguments, m_properties)) {
+        QStringList needed = allQuoted(m_required);
+        if (!m_subject.isEmpty())
+            needed.prepend(u"%1 (or \"id\")"_s.arg(quoted(m_subject)));
+        return Failure{u"%1 needs %2."_s.arg(m_tool, enumerated(needed, u"and"_s))};
     }
-    return checkPresent(arguments, properties);
+    return checkPresent(arguments, m_properties);
 }
 
 QString enumerated(const QStringList& parts, const QString& conjunction)

@@ -13,7 +13,8 @@ namespace tw::app::mcp {
 [[nodiscard]] std::optional<double> finiteNumber(const QJsonValue& value);
 
 /**
- * Checks a call against the tool's schema, so that handlers read without looking twice:
+ * What a tool's schema asks of the arguments of a call. Checked before the handler runs, which then reads
+ * without looking twice:
  *
  * - required arguments must be there: absent, null and of the wrong type are all missing
  *   ("create_entity needs "name" and "category".");
@@ -22,11 +23,22 @@ namespace tw::app::mcp {
  * - a choice must be one of its words ("Unknown "action" 'x'; use add (default), remove, or promote.").
  *
  * Unknown arguments are passed over. Of what the handler refuses in words of its own, a choice need only be
- * there and of its type, and anything else may be missing. The message is for the model.
+ * there and of its type, and anything else may be missing.
  */
-[[nodiscard]] core::Result<void> checkArguments(
-    const McpToolSpec& spec, const QString& subject, const QJsonObject& arguments,
-    const QStringList& refusedByHandler = {});
+class ArgumentRules
+{
+public:
+    ArgumentRules(const McpToolSpec& spec, QString subject, const QStringList& refusedByHandler = {});
+
+    /** The message is for the model. */
+    [[nodiscard]] core::Result<void> check(const QJsonObject& arguments) const;
+
+private:
+    QString m_tool;
+    QString m_subject;
+    QJsonObject m_properties;
+    QStringList m_required;
+};
 
 /** "a", "a and b", "a, b, and c"; with `conjunction` "or", "a, b, or c". */
 [[nodiscard]] QString enumerated(const QStringList& parts, const QString& conjunction);

@@ -2,19 +2,23 @@
 
 #include "app/mcp/registry/ArgumentCheck.h"
 
+#include <utility>
+
 namespace tw::app::mcp {
 
 void registerTools(
     McpServer& server, workspace::Workspace& workspace, McpChangeLog& changeLog, const ToolTable& tools)
 {
     for (const Tool& tool : tools) {
-        server.registerTool(tool.spec, [&workspace, &changeLog, tool](const QJsonObject& arguments) {
-            const auto checked = checkArguments(tool.spec, tool.subject, arguments, tool.refusedByHandler);
-            if (!checked)
-                return McpToolResult::failure(checked.message());
-            ToolContext context{workspace, changeLog};
-            return tool.handler(context, ToolArguments(arguments));
-        });
+        ArgumentRules rules(tool.spec, tool.subject, tool.refusedByHandler);
+        server.registerTool(
+            tool.spec, [&workspace, &changeLog, rules = std::move(rules),
+                        handler = tool.handler](const QJsonObject& arguments) {
+                if (const auto checked = rules.check(arguments); !checked)
+                    return McpToolResult::failure(checked.message());
+                ToolContext context{workspace, changeLog};
+                return handler(context, ToolArguments(arguments));
+            });
     }
 }
 

@@ -115,7 +115,7 @@ TEST(ArgumentCheckTest, saysWhatIsMissingOrMistyped)
         {R"({"lamp":"a","place":"b","steps":[{"at":1,"note":2}]})", u"\"note\" must be a text."_s},
     };
     for (const Case& sample : cases) {
-        EXPECT_EQ(checkArguments(spec, u"lamp"_s, json(sample.arguments)).message(), sample.message)
+        EXPECT_EQ(ArgumentRules(spec, u"lamp"_s).check(json(sample.arguments)).message(), sample.message)
             << sample.arguments;
     }
 }
@@ -129,11 +129,11 @@ TEST(ArgumentCheckTest, leavesToTheHandlerWhatItRefusesItself)
             {{u"mode"_s, choiceProperty({}, {u"steady"_s, u"blink"_s}, Default::None)},
              {u"name"_s, textProperty({})}},
             {u"mode"_s, u"name"_s})};
-    EXPECT_FALSE(checkArguments(spec, {}, json(R"({"mode":"dark","name":"a"})")));
-    EXPECT_TRUE(checkArguments(spec, {}, json(R"({"mode":"dark"})"), {u"mode"_s, u"name"_s}));
+    EXPECT_FALSE(ArgumentRules(spec, {}).check(json(R"({"mode":"dark","name":"a"})")));
+    EXPECT_TRUE(ArgumentRules(spec, {}, {u"mode"_s, u"name"_s}).check(json(R"({"mode":"dark"})")));
     for (const char* const arguments : {"{}", R"({"mode":7})"}) {
         EXPECT_EQ(
-            checkArguments(spec, {}, json(arguments), {u"mode"_s, u"name"_s}).message(),
+            ArgumentRules(spec, {}, {u"mode"_s, u"name"_s}).check(json(arguments)).message(),
             u"light_lamp needs \"mode\"."_s);
     }
 }
