@@ -392,6 +392,14 @@ QIcon CompositionPage::icon() const
     return m_desk.icons.icon(icons::Icon::Manuscript);
 }
 
+std::vector<core::ContentId> CompositionPage::shownObjects() const
+{
+    std::vector<core::ContentId> documents;
+    for (const SceneSlot* const slot : m_slots)
+        documents.push_back(slot->documentId());
+    return documents;
+}
+
 QString CompositionPage::statusText() const
 {
     qint64 words = 0;

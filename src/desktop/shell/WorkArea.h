@@ -14,6 +14,8 @@ class QTabWidget;
 
 namespace tw::desktop::shell {
 
+class UnsavedObjects;
+
 /**
  * The centre of the window: pages in tabs, side by side in at most two panes. Owns the pages; a page closes
  * by itself when its object leaves the project.
@@ -65,9 +67,12 @@ private:
     void showPane(QTabWidget* pane);
     void followChanges(const core::project::ProjectChanges& changes);
     void refreshTab(WorkPage* page);
+    void refreshTabs();
+    [[nodiscard]] bool isUnsaved(const WorkPage& page) const;
     void announceCurrent();
 
     DeskContext m_desk;
+    UnsavedObjects* m_unsaved;
     std::map<core::content::ContentKind, PageFactory> m_factories;
     std::map<QString, PageFactory> m_viewFactories;
     QTabWidget* m_activePane = nullptr;
