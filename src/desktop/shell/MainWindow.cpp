@@ -16,6 +16,7 @@
 #include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/FocusMode.h"
+#include "desktop/shell/NamedLayouts.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectLife.h"
@@ -73,7 +74,8 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_workArea(new WorkArea(desk, m_work))
     , m_welcome(new WelcomePage(desk.icons, m_life->hasSample(), m_center))
     , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entity in the codex."), m_center))
-    , m_docks(nullptr)
+    , m_docks(new DockLayout(*this, m_center, desk.themes, desk.icons))
+    , m_layouts(new NamedLayouts(*m_docks, desk.settings, desk.icons, this))
     , m_shortcuts(new settings::Shortcuts(desk.settings, this))
     , m_writing(new goals::WritingSession(desk.session, &QDate::currentDate, this))
     , m_readAloud(new speech::ReadAloud(this))
@@ -92,7 +94,6 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     m_center->addWidget(m_emptyHint);
     m_emptyHint->setAlignment(Qt::AlignCenter);
     m_emptyHint->setForegroundRole(QPalette::PlaceholderText);
-    m_docks = new DockLayout(*this, m_center, desk.themes, desk.icons);
     m_focusMode = new FocusMode(*this, *m_docks, *m_workArea);
     addPanels();
     buildMenus();
@@ -161,7 +162,7 @@ void MainWindow::restoreWindow()
     const QByteArray geometry = m_desk.settings.value("window/geometry").toByteArray();
     if (!geometry.isEmpty())
         restoreGeometry(geometry);
-    m_docks->restore(m_desk.settings);
+    m_layouts->restore();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -172,7 +173,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     }
     rememberPages();
     m_desk.settings.setValue("window/geometry", saveGeometry());
-    m_docks->save(m_desk.settings);
+    m_layouts->save();
     m_life->end();
     event->accept();
 }

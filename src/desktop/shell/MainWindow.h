@@ -60,6 +60,7 @@ namespace tw::desktop::shell {
 class AudienceSelector;
 class DockLayout;
 class FocusMode;
+class NamedLayouts;
 class ProjectLife;
 class StatusStrip;
 class WelcomePage;
@@ -154,6 +155,7 @@ private:
     WelcomePage* m_welcome;
     QLabel* m_emptyHint;
     DockLayout* m_docks;
+    NamedLayouts* m_layouts;
     settings::Shortcuts* m_shortcuts;
     goals::WritingSession* m_writing;
     speech::ReadAloud* m_readAloud;
