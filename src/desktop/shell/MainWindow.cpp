@@ -3,6 +3,9 @@
 #include "core/document/DocumentTree.h"
 #include "desktop/assistant/ProjectTools.h"
 #include "desktop/codex/CodexPanel.h"
+#include "desktop/finder/CommandPalette.h"
+#include "desktop/finder/FinderPopup.h"
+#include "desktop/finder/GoToFinder.h"
 #include "desktop/goals/WritingSession.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
@@ -77,6 +80,9 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_docks(new DockLayout(*this, m_center, desk.themes, desk.icons))
     , m_layouts(new NamedLayouts(*m_docks, desk.settings, desk.icons, this))
     , m_shortcuts(new settings::Shortcuts(desk.settings, this))
+    , m_palette(std::make_unique<finder::CommandPalette>(*m_shortcuts, desk.icons, desk.settings))
+    , m_goTo(new finder::GoToFinder(desk, *m_workArea, this))
+    , m_finder(new finder::FinderPopup(desk.themes, this))
     , m_writing(new goals::WritingSession(desk.session, &QDate::currentDate, this))
     , m_readAloud(new speech::ReadAloud(this))
     , m_status(new StatusStrip(desk, *m_writing, *statusBar()))
@@ -203,6 +209,7 @@ void MainWindow::noteOpened()
             m_desk.settings.value(projectKey(u"closedDocuments")).toStringList());
         m_codex->tree().setCollapsedIds(m_desk.settings.value(projectKey(u"closedEntries")).toStringList());
         m_workArea->restoreAddresses(m_desk.settings.value(projectKey(u"pages")).toStringList());
+        m_goTo->setVisited(m_desk.settings.value(projectKey(u"visited")).toStringList());
     }
     if (!m_workArea->hasPages())
         openFirstDocument();
@@ -238,6 +245,7 @@ void MainWindow::rememberPages()
     if (!m_desk.session.workspace().hasPath())
         return;
     m_desk.settings.setValue(projectKey(u"pages"), m_workArea->openAddresses());
+    m_desk.settings.setValue(projectKey(u"visited"), m_goTo->visited());
     m_desk.settings.setValue(projectKey(u"closedDocuments"), m_manuscript->tree().collapsedIds());
     m_desk.settings.setValue(projectKey(u"closedEntries"), m_codex->tree().collapsedIds());
 }

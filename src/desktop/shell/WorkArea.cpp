@@ -90,6 +90,14 @@ void WorkArea::setViewFactory(const QString& view, PageFactory factory)
     m_viewFactories.insert_or_assign(view, std::move(factory));
 }
 
+std::set<core::content::ContentKind> WorkArea::shownKinds() const
+{
+    std::set<core::content::ContentKind> kinds;
+    for (const auto& [kind, factory] : m_factories)
+        kinds.insert(kind);
+    return kinds;
+}
+
 bool WorkArea::canShow(const core::ContentId& id) const
 {
     return id.isNull() || m_desk.session.project().contains(id);
@@ -177,18 +185,23 @@ void WorkArea::openPage(const PageAddress& address)
     announceCurrent();
 }
 
-void WorkArea::splitCurrent()
+void WorkArea::openBeside(const PageAddress& address)
 {
-    const WorkPage* const page = currentPage();
-    if (!page)
+    if (!factoryFor(address))
         return;
-    const PageAddress address = page->address();
-    if (count() < maximumPanes) {
+    if (count() < maximumPanes && currentPage()) {
         static_cast<void>(addPane());
         setSizes({width() / 2, width() / 2});
     }
-    m_activePane = static_cast<QTabWidget*>(widget(activePane() == widget(0) ? 1 : 0));
+    if (count() > 1)
+        m_activePane = static_cast<QTabWidget*>(widget(activePane() == widget(0) ? 1 : 0));
     openPage(address);
+}
+
+void WorkArea::splitCurrent()
+{
+    if (const WorkPage* const page = currentPage())
+        openBeside(PageAddress(page->address()));
 }
 
 void WorkArea::closeCurrent()

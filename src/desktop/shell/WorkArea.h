@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 
 class QTabWidget;
 
@@ -34,9 +35,14 @@ public:
     void setFactory(core::content::ContentKind kind, PageFactory factory);
     /** For pages that show an object, or all of a kind, in a way of their own. */
     void setViewFactory(const QString& view, PageFactory factory);
+    /** The kinds of objects that have a page of their own. */
+    [[nodiscard]] std::set<core::content::ContentKind> shownKinds() const;
 
     /** Shows a page in the active pane, making it when it is not there. */
     void openPage(const PageAddress& address);
+    /** The same in the other pane, which is made when there is only one; in the only one while that is empty.
+     */
+    void openBeside(const PageAddress& address);
     /** Shows the present page in the other pane as well. */
     void splitCurrent();
     void closeCurrent();
