@@ -44,6 +44,10 @@ QString folded(QStringView name)
     QString plain;
     plain.reserve(text.size());
     for (const QChar character : std::as_const(text)) {
+        if (isAscii(character)) {
+            plain += character;
+            continue;
+        }
         const auto* const letter = std::ranges::find(
             plainLetters, character.unicode(), &std::pair<char16_t, QLatin1StringView>::first);
         if (letter != plainLetters.end())
@@ -101,6 +105,7 @@ FoldedName::FoldedName(QStringView name)
 NameQuery::NameQuery(QStringView typed)
     : m_typed(typed)
     , m_words(m_typed.text.split(u' ', Qt::SkipEmptyParts))
+    , m_letters(m_words.join(QString()))
 {}
 
 std::optional<NameRank> NameQuery::rankOf(const FoldedName& name) const
@@ -124,16 +129,12 @@ std::optional<NameRank> NameQuery::rankOf(const FoldedName& name) const
 
 bool NameQuery::hasLettersInOrder(QStringView text) const
 {
-    qsizetype at = 0;
-    for (const QChar letter : m_typed.text) {
-        if (letter == u' ')
-            continue;
-        at = text.indexOf(letter, at);
-        if (at < 0)
-            return false;
-        ++at;
+    auto wanted = m_letters.cbegin();
+    for (auto letter = text.begin(); letter != text.end() && wanted != m_letters.cend(); ++letter) {
+        if (*letter == *wanted)
+            ++wanted;
     }
-    return true;
+    return wanted == m_letters.cend();
 }
 
 } // namespace tw::app::search

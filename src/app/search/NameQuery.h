@@ -47,6 +47,8 @@ private:
 
     FoldedName m_typed;
     QStringList m_words;
+    /** The words without the blanks between. */
+    QString m_letters;
 };
 
 } // namespace tw::app::search
