@@ -99,6 +99,21 @@
     </message>
 </context>
 <context>
+    <name>CommandPalette</name>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Type a few words of a command</source>
+        <translation>Einige Wörter eines Befehls eingeben</translation>
+    </message>
+    <message>
+        <source>No command has all these words in its name or its menu. Type fewer letters.</source>
+        <translation>Kein Befehl hat alle diese Wörter in seinem Namen oder seinem Menü. Geben Sie weniger Buchstaben ein.</translation>
+    </message>
+</context>
+<context>
     <name>Continuity</name>
     <message>
         <source>must start after</source>
@@ -3262,6 +3277,47 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::finder::FinderModel</name>
+    <message>
+        <source>not available now</source>
+        <translation>jetzt nicht verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::finder::FinderPopup</name>
+    <message>
+        <source>What was found</source>
+        <translation>Was gefunden wurde</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::finder::GoToFinder</name>
+    <message>
+        <source>Go to</source>
+        <translation>Gehe zu</translation>
+    </message>
+    <message>
+        <source>Type a few letters of a title – Ctrl+Return opens it in the other pane</source>
+        <translation>Einige Buchstaben eines Titels eingeben – Strg+Eingabe öffnet im anderen Bereich</translation>
+    </message>
+    <message>
+        <source>Here stands what you have visited. Type to find documents and entities by their titles.</source>
+        <translation>Hier steht, was Sie besucht haben. Geben Sie Buchstaben ein, um Dokumente und Einträge nach ihren Titeln zu finden.</translation>
+    </message>
+    <message>
+        <source>Nothing has these letters in its title. Type fewer, or press Escape and search the texts with Find in the Project.</source>
+        <translation>Kein Titel enthält diese Buchstaben. Geben Sie weniger ein, oder drücken Sie Esc und durchsuchen Sie die Texte mit „Im Projekt suchen“.</translation>
+    </message>
+    <message>
+        <source>library %1</source>
+        <translation>Bibliothek %1</translation>
+    </message>
+    <message>
+        <source>“%1” stands in the library “%2”. Open that project to read or change it.</source>
+        <translation>„%1“ steht in der Bibliothek „%2“. Öffnen Sie jenes Projekt, um es zu lesen oder zu ändern.</translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::goals::GoalsDialog</name>
     <message>
         <source>None</source>
@@ -5570,13 +5626,6 @@
     </message>
 </context>
 <context>
-    <name>tw::desktop::shell::DockLayout</name>
-    <message>
-        <source>Reset Layout</source>
-        <translation>Anordnung zurücksetzen</translation>
-    </message>
-</context>
-<context>
     <name>tw::desktop::shell::MainWindow</name>
     <message>
         <source>Choose a document in the manuscript or an entity in the codex.</source>
@@ -5942,16 +5991,51 @@
         <translation>Ansi&amp;cht für…</translation>
     </message>
     <message>
-        <source>Pa&amp;ge View</source>
-        <translation>S&amp;eitenansicht</translation>
-    </message>
-    <message>
         <source>Edit &amp;Calendar…</source>
         <translation>&amp;Kalender bearbeiten…</translation>
     </message>
     <message>
         <source>Clean &amp;Up Properties…</source>
         <translation>Eigenschaften &amp;aufräumen…</translation>
+    </message>
+    <message>
+        <source>&amp;Go to…</source>
+        <translation>Gehe &amp;zu…</translation>
+    </message>
+    <message>
+        <source>Comman&amp;d Palette…</source>
+        <translation>Befehls&amp;palette…</translation>
+    </message>
+    <message>
+        <source>Page &amp;View</source>
+        <translation>S&amp;eitenansicht</translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::shell::NamedLayouts</name>
+    <message>
+        <source>&amp;Layout</source>
+        <translation>&amp;Anordnung</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Layout</source>
+        <translation>Anordnung &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation>&amp;Schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Plan</source>
+        <translation>&amp;Planen</translation>
+    </message>
+    <message>
+        <source>W&amp;orld</source>
+        <translation>&amp;Welt</translation>
+    </message>
+    <message>
+        <source>P&amp;lay</source>
+        <translation>Sp&amp;ielen</translation>
     </message>
 </context>
 <context>
@@ -6165,6 +6249,10 @@
     <message>
         <source>Open pages</source>
         <translation>Offene Seiten</translation>
+    </message>
+    <message>
+        <source>%1 (unsaved)</source>
+        <translation>%1 (nicht gespeichert)</translation>
     </message>
 </context>
 <context>

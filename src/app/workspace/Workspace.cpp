@@ -1,6 +1,7 @@
 #include "app/workspace/Workspace.h"
 
 #include "app/persistence/ProjectLock.h"
+#include "app/persistence/codec/ObjectCodec.h"
 #include "app/persistence/codec/ProjectLoader.h"
 #include "app/persistence/files/ProjectFiles.h"
 #include "app/workspace/ProjectPlace.h"
@@ -98,6 +99,22 @@ QString Workspace::displayName() const
     if (!m_project->name().isEmpty())
         return m_project->name();
     return nameOfPlace(displayPath());
+}
+
+bool Workspace::isUnsaved(const core::ContentId& id) const
+{
+    const auto* const object = m_project->find(id);
+    if (!isModified() || !object)
+        return false;
+    const auto saved = m_saved.revisions.find(id);
+    if (saved != m_saved.revisions.end() && saved->second == object->revision())
+        return false;
+    // Data are compared, not bytes: a file may say the same in other words than ours.
+    const QString path = persistence::objectPath(id);
+    const QByteArray bytes = m_openedFolderFingerprint.bytes(path);
+    persistence::ParseScratch scratch;
+    const auto onDisk = persistence::parseObject(bytes, path, scratch);
+    return !onDisk || !core::content::isSameData(*onDisk.value(), *object);
 }
 
 Result<void> Workspace::load(const QString& path, BundlePurpose purpose)

@@ -66,6 +66,11 @@ public:
 
     [[nodiscard]] bool isModified() const { return m_undoStack.isModified(); }
     void markModified() { m_undoStack.markModified(); }
+    /**
+     * Whether the object has changes that are not on disk: an edit that was undone is none. Costs as much as
+     * reading the object's file when it was touched since the last save, otherwise next to nothing.
+     */
+    [[nodiscard]] bool isUnsaved(const core::ContentId& id) const;
 
     /** What to tell the user about how the project was opened or reloaded. */
     [[nodiscard]] const OpeningNotice& openingNotice() const { return m_openingNotice; }

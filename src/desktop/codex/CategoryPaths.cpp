@@ -13,7 +13,7 @@ using namespace Qt::Literals::StringLiterals;
 using core::CategoryId;
 using core::project::Project;
 
-QString categoryPath(const Project& project, const CategoryId& id)
+QString categoryPath(const Project& project, const CategoryId& id, const QString& audience)
 {
     QStringList names;
     std::set<CategoryId> visited;
@@ -22,7 +22,8 @@ QString categoryPath(const Project& project, const CategoryId& id)
         names.prepend(category->name);
         CategoryId above = category->parentId;
         if (const auto* const entity = project.findAs<core::entity::Entity>(category->parentEntityId)) {
-            names.prepend(entity->name());
+            const bool isShown = audience.isEmpty() || entity->isVisibleTo(audience);
+            names.prepend(isShown ? entity->name() : u"…"_s);
             above = entity->categoryId();
         }
         category = project.taxonomy().category(above);

@@ -6,8 +6,12 @@
 
 namespace tw::desktop::codex {
 
-/** The way to a category from the top, by names: "Places › Great Staithe › Wards". Survives loops. */
-[[nodiscard]] QString categoryPath(const core::project::Project& project, const core::CategoryId& id);
+/**
+ * The way to a category from the top, by names: "Places › Great Staithe › Wards". Entities that the audience
+ * (empty: everyone) may not see stand there as "…". Survives loops.
+ */
+[[nodiscard]] QString categoryPath(
+    const core::project::Project& project, const core::CategoryId& id, const QString& audience = {});
 
 struct CategoryChoice
 {

@@ -339,6 +339,14 @@ QIcon CompositionPage::icon() const
     return m_desk.icons.icon(icons::Icon::Manuscript);
 }
 
+std::vector<core::ContentId> CompositionPage::shownObjects() const
+{
+    std::vector<core::ContentId> documents;
+    for (const SceneSlot* const slot : slotsInOrder())
+        documents.push_back(slot->documentId());
+    return documents;
+}
+
 QString CompositionPage::statusText() const
 {
     const QString total = tr("%Ln words", nullptr, static_cast<int>(m_scenes->wordCount()));

@@ -34,6 +34,7 @@ public:
 
     [[nodiscard]] QString title() const override;
     [[nodiscard]] QIcon icon() const override;
+    [[nodiscard]] std::vector<core::ContentId> shownObjects() const override;
     void takeFocus() override;
     [[nodiscard]] QString statusText() const override;
 

@@ -34,6 +34,11 @@ bool isPanelAction(const QAction& action)
 
 } // namespace
 
+QString titleOf(const QAction& action)
+{
+    return plainText(action.text());
+}
+
 const Shortcut* findConflict(
     const std::vector<Shortcut>& shortcuts, const Shortcut& asking, const QKeySequence& keys)
 {
@@ -70,7 +75,7 @@ void Shortcuts::collectFrom(const QMenu& menu, const QString& title)
         }
         if (action->isSeparator() || action->objectName().isEmpty())
             continue;
-        Shortcut shortcut{action->objectName(), title, plainText(action->text())};
+        Shortcut shortcut{action->objectName(), title, titleOf(*action)};
         shortcut.panel = isPanelAction(*action) ? action->parent() : nullptr;
         shortcut.standard = action->shortcuts();
         shortcut.current = shortcut.standard;
@@ -84,6 +89,11 @@ void Shortcuts::collectFrom(const QMenu& menu, const QString& title)
         m_shortcuts.push_back(std::move(shortcut));
         m_actions.emplace_back(action);
     }
+}
+
+QAction* Shortcuts::action(std::size_t position) const
+{
+    return m_actions[position];
 }
 
 void Shortcuts::set(std::size_t position, const QList<QKeySequence>& keys)

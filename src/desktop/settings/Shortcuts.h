@@ -31,6 +31,9 @@ struct Shortcut
     [[nodiscard]] bool isChanged() const { return current != standard; }
 };
 
+/** The text of an action as it reads, without the marks of access keys. */
+[[nodiscard]] QString titleOf(const QAction& action);
+
 /** Which other one would answer to the keys in the same place; none when they are free. */
 [[nodiscard]] const Shortcut* findConflict(
     const std::vector<Shortcut>& shortcuts, const Shortcut& asking, const QKeySequence& keys);
@@ -53,6 +56,8 @@ public:
     void collect(const QMenuBar& menus);
 
     [[nodiscard]] const std::vector<Shortcut>& all() const { return m_shortcuts; }
+    /** The action at a position in all(); null when it is gone. */
+    [[nodiscard]] QAction* action(std::size_t position) const;
 
     /** The positions are those in all(). Others that answer to the keys in the same place lose them. */
     void assign(std::size_t position, const QKeySequence& keys);

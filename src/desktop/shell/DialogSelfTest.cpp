@@ -11,7 +11,6 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QComboBox>
-#include <QDialog>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
@@ -48,7 +47,7 @@ QString described(const QWidget& widget)
     return u"%1 \"%2\""_s.arg(QString::fromLatin1(widget.metaObject()->className()), widget.objectName());
 }
 
-QStringList faultsOf(QDialog& dialog)
+QStringList faultsOf(QWidget& dialog)
 {
     QStringList faults;
     if (dialog.windowTitle().isEmpty())

@@ -8,18 +8,18 @@
 #include <memory>
 #include <vector>
 
-class QDialog;
 class QMainWindow;
+class QWidget;
 
 namespace tw::desktop::shell {
 
-/** One dialog of the program, as the self-test builds it. */
+/** One dialog of the program, or what pops up as one, as the self-test builds it. */
 struct SelfTestDialog
 {
     /** Stable, for the report: "property". */
     QString name;
     /** The desk is a throw-away one with an empty project; the dialog has no parent. */
-    std::function<std::unique_ptr<QDialog>(const DeskContext& desk)> make;
+    std::function<std::unique_ptr<QWidget>(const DeskContext& desk)> make;
     /** What is wrong with the dialog beyond what is checked of each; may be left out. */
     std::function<QStringList(const DeskContext& desk)> check;
 };

@@ -4,6 +4,7 @@
 #include "desktop/codex/PropertyCleanUpDialog.h"
 #include "desktop/codex/TimedValueDialog.h"
 #include "desktop/continuity/RulesDialog.h"
+#include "desktop/finder/FinderPopup.h"
 #include "desktop/goals/GoalsDialog.h"
 #include "desktop/manuscript/NamedStylesDialog.h"
 #include "desktop/project/ExportPackDialog.h"
@@ -265,6 +266,30 @@ std::unique_ptr<QDialog> makeSettingsDialog(const DeskContext& desk)
     return dialog;
 }
 
+/** Offers a row of each sort whatever is typed. */
+class ThrowAwayFinder final : public finder::FinderSource
+{
+public:
+    [[nodiscard]] QString title() const override { return u"Selftest"_s; }
+    [[nodiscard]] QString hint() const override { return u"Selftest"_s; }
+    [[nodiscard]] QString emptyText(const QString&) const override { return u"Selftest"_s; }
+    [[nodiscard]] std::vector<finder::FinderRow> rowsFor(const QString&) override
+    {
+        return {
+            {{}, u"Selftest 1"_s, u"Selftest Place"_s, u"Ctrl+1"_s}, {{}, u"Selftest 2"_s, {}, {}, false}};
+    }
+    void choose(std::size_t, finder::FinderTarget) override {}
+};
+
+std::unique_ptr<QWidget> makeFinderPopup(const DeskContext& desk)
+{
+    // The popup refers to it until its end.
+    static ThrowAwayFinder source;
+    auto popup = std::make_unique<finder::FinderPopup>(desk.themes, nullptr);
+    popup->fill(source);
+    return popup;
+}
+
 std::unique_ptr<QDialog> makeAboutDialog(const DeskContext& /*desk*/)
 {
     return std::make_unique<AboutDialog>(nullptr);
@@ -289,6 +314,7 @@ std::vector<SelfTestDialog> selfTestDialogs()
         {u"continuity rules"_s, makeRulesDialog, checkRulesDialog},
         {u"export content pack"_s, makeExportPackDialog, {}},
         {u"settings"_s, makeSettingsDialog, {}},
+        {u"finder"_s, makeFinderPopup, {}},
         {u"about"_s, makeAboutDialog, {}},
     };
 }

@@ -10,11 +10,14 @@
 #include <DockSplitter.h>
 #include <DockWidget.h>
 #include <QAction>
+#include <QApplication>
 #include <QMainWindow>
 #include <QMenu>
-#include <QSettings>
+#include <QPointer>
+#include <QTimer>
 
 #include <array>
+#include <utility>
 
 namespace tw::desktop::shell {
 
@@ -51,6 +54,15 @@ void configureDocking()
         ads::CDockManager::HideSingleCentralWidgetTitleBar | ads::CDockManager::FocusHighlighting |
         ads::CDockManager::DockAreaHasCloseButton | ads::CDockManager::DockAreaCloseButtonClosesTab |
         ads::CDockManager::DockAreaHideDisabledButtons);
+}
+
+/** Panels that move may take the keyboard, also a moment later; whoever has it gets it back. */
+void keepFocus(QObject& context)
+{
+    QTimer::singleShot(0, &context, [focused = QPointer(QApplication::focusWidget())] {
+        if (focused && focused->isVisible())
+            focused->setFocus(Qt::OtherFocusReason);
+    });
 }
 
 } // namespace
@@ -107,9 +119,6 @@ void DockLayout::fillMenu(QMenu& menu)
         if (!isEmpty)
             menu.addSeparator();
     }
-    auto* const resetAction = menu.addAction(m_icons.icon(icons::Icon::Layout), tr("Reset Layout"));
-    resetAction->setObjectName(u"windows.resetLayout"_s);
-    connect(resetAction, &QAction::triggered, this, &DockLayout::reset);
 }
 
 bool DockLayout::showPanel(const QString& objectName)
@@ -133,12 +142,35 @@ QStringList DockLayout::panelNames() const
     return names;
 }
 
-void DockLayout::placeAll()
+DockArrangement DockLayout::usualArrangement() const
 {
-    // One tab group a place, the first panel of each in front.
+    DockArrangement usual;
+    for (const DockPlace place : allPlaces) {
+        bool isFirst = true;
+        for (const Panel& panel : m_panels) {
+            if (panel.spec.place != place || !panel.spec.isShownAtFirst)
+                continue;
+            usual.shown.append(panel.spec.objectName);
+            if (std::exchange(isFirst, false))
+                usual.inFront.append(panel.spec.objectName);
+        }
+    }
+    return usual;
+}
+
+void DockLayout::arrange(const DockArrangement& arrangement)
+{
+    emit aboutToArrange();
+    keepFocus(*this);
+    place(arrangement);
+    resizeAreas();
+}
+
+void DockLayout::place(const DockArrangement& arrangement)
+{
+    // One tab group a place.
     for (const DockPlace place : allPlaces) {
         ads::CDockAreaWidget* group = nullptr;
-        ads::CDockWidget* first = nullptr;
         for (const Panel& panel : m_panels) {
             if (panel.spec.place != place)
                 continue;
@@ -146,40 +178,49 @@ void DockLayout::placeAll()
                           : m_manager->addDockWidget(areaOf(place), panel.dock);
             // A dock that was closed before would leave its new group on the screen, empty.
             panel.dock->toggleView(true);
-            if (!panel.spec.isShownAtFirst)
+            if (!arrangement.shown.contains(panel.spec.objectName))
                 panel.dock->toggleView(false);
-            else if (!first)
-                first = panel.dock;
         }
-        if (first)
-            first->setAsCurrentTab();
+    }
+    for (const Panel& panel : m_panels) {
+        if (arrangement.inFront.contains(panel.spec.objectName))
+            panel.dock->setAsCurrentTab();
     }
 }
 
-void DockLayout::reset()
+void DockLayout::resizeAreas()
 {
-    placeAll();
     // Navigators and inspector keep their size, the work gets the rest.
     const int unit = m_window.fontMetrics().averageCharWidth();
     const QList<ads::CDockSplitter*> splitters = m_manager->findChildren<ads::CDockSplitter*>();
     for (ads::CDockSplitter* const splitter : splitters) {
-        if (splitter->orientation() != Qt::Horizontal || splitter->count() != 3)
-            continue;
-        // Wide enough for the names of three navigators in their tabs.
-        const int total = std::max(splitter->width(), m_window.width());
-        // With large text the page still gets nearly half of the window.
-        const int left = std::min(44 * unit, total * 26 / 100);
-        const int right = std::min(38 * unit, total * 28 / 100);
-        splitter->setSizes({left, std::max(total - left - right, right), right});
+        if (splitter->orientation() == Qt::Horizontal && splitter->count() == 3) {
+            // Wide enough for the names of three navigators in their tabs.
+            const int total = std::max(splitter->width(), m_window.width());
+            // With large text the page still gets nearly half of the window.
+            const int left = std::min(44 * unit, total * 26 / 100);
+            const int right = std::min(38 * unit, total * 28 / 100);
+            splitter->setSizes({left, std::max(total - left - right, right), right});
+        } else if (splitter->orientation() == Qt::Vertical && splitter->count() == 2) {
+            const int total = std::max(splitter->height(), m_window.height());
+            const int bottom = total * 24 / 100;
+            splitter->setSizes({total - bottom, bottom});
+        }
     }
 }
 
-void DockLayout::restore(const QSettings& settings)
+QByteArray DockLayout::state() const
 {
-    placeAll();
-    const QByteArray state = settings.value("window/dockState").toByteArray();
-    if (state.isEmpty() || !m_manager->restoreState(state, layoutVersion))
-        reset();
+    return m_shownState.isEmpty() ? m_manager->saveState(layoutVersion) : m_shownState;
+}
+
+bool DockLayout::setState(const QByteArray& state)
+{
+    if (state.isEmpty())
+        return false;
+    emit aboutToArrange();
+    keepFocus(*this);
+    return m_manager->restoreState(state, layoutVersion);
 }
 
 void DockLayout::setHidden(bool isHidden)
@@ -193,12 +234,6 @@ void DockLayout::setHidden(bool isHidden)
     m_shownState = m_manager->saveState(layoutVersion);
     for (const Panel& panel : m_panels)
         panel.dock->toggleView(false);
-}
-
-void DockLayout::save(QSettings& settings) const
-{
-    settings.setValue(
-        "window/dockState", m_shownState.isEmpty() ? m_manager->saveState(layoutVersion) : m_shownState);
 }
 
 } // namespace tw::desktop::shell

@@ -4,12 +4,12 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
 class QMainWindow;
 class QMenu;
-class QSettings;
 
 namespace ads {
 class CDockManager;
@@ -45,9 +45,17 @@ struct PanelSpec
     bool isShownAtFirst = true;
 };
 
+/** Which panels stand in their own places, by object name; all others wait in the Windows menu. */
+struct DockArrangement
+{
+    QStringList shown;
+    /** Those whose tabs are in front. */
+    QStringList inFront;
+};
+
 /**
- * The docks around the work area: their default places, the saved layout, and their entries in the Windows
- * menu, each exactly once. Owned by the main window.
+ * The docks around the work area: their places, and their entries in the Windows menu, each exactly once.
+ * Owned by the main window.
  */
 class DockLayout final : public QObject
 {
@@ -58,10 +66,10 @@ public:
     DockLayout(
         QMainWindow& window, QWidget* center, theme::ThemeManager& themes, const icons::IconSet& icons);
 
-    /** Adds a panel; the dock owns the widget. Call before restore(). */
+    /** Adds a panel; the dock owns the widget. Call before anything is arranged. */
     void addPanel(const PanelSpec& spec, QWidget* panel);
 
-    /** Entries for every panel by place, then the layout commands. */
+    /** Entries for every panel by place, each place a group. */
     void fillMenu(QMenu& menu);
 
     /** Shows a panel and brings it to the front; false when there is none of that name. */
@@ -71,9 +79,21 @@ public:
     /** Puts all panels away, and brings them back as they were. */
     void setHidden(bool isHidden);
 
-    void reset();
-    void restore(const QSettings& settings);
-    void save(QSettings& settings) const;
+    /** What is shown where nobody asked for anything else: the first panel of each place in front. */
+    [[nodiscard]] DockArrangement usualArrangement() const;
+    /** Puts every panel back to its own place, in its usual size. Names of panels that are not there do not
+     * matter. */
+    void arrange(const DockArrangement& arrangement);
+
+    /** Places and sizes of everything, as bytes to come back to. Of panels put away: where they were. */
+    [[nodiscard]] QByteArray state() const;
+    /** False, with nothing changed, for bytes that fit no more, or none. Panels must have been arranged
+     * before. */
+    bool setState(const QByteArray& state);
+
+signals:
+    /** Panels are about to be shown in other places; whoever put them away lets go of them. */
+    void aboutToArrange();
 
 private:
     struct Panel
@@ -82,7 +102,8 @@ private:
         ads::CDockWidget* dock;
     };
 
-    void placeAll();
+    void place(const DockArrangement& arrangement);
+    void resizeAreas();
     void applyTheme();
 
     theme::ThemeManager& m_themes;

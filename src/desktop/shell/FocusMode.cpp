@@ -23,6 +23,7 @@ FocusMode::FocusMode(QMainWindow& window, DockLayout& docks, WorkArea& work)
     m_leave->setEnabled(false);
     window.addAction(m_leave);
     connect(m_leave, &QAction::triggered, this, [this] { setOn(false); });
+    connect(&docks, &DockLayout::aboutToArrange, this, [this] { setOn(false); });
 }
 
 void FocusMode::setOn(bool isOn)

@@ -3,6 +3,9 @@
 #include "core/document/DocumentTree.h"
 #include "desktop/assistant/ProjectTools.h"
 #include "desktop/codex/CodexPanel.h"
+#include "desktop/finder/CommandPalette.h"
+#include "desktop/finder/FinderPopup.h"
+#include "desktop/finder/GoToFinder.h"
 #include "desktop/goals/WritingSession.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptPanel.h"
@@ -16,6 +19,7 @@
 #include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/FocusMode.h"
+#include "desktop/shell/NamedLayouts.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectLife.h"
@@ -73,8 +77,12 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_workArea(new WorkArea(desk, m_work))
     , m_welcome(new WelcomePage(desk.icons, m_life->hasSample(), m_center))
     , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entity in the codex."), m_center))
-    , m_docks(nullptr)
+    , m_docks(new DockLayout(*this, m_center, desk.themes, desk.icons))
+    , m_layouts(new NamedLayouts(*m_docks, desk.settings, desk.icons, this))
     , m_shortcuts(new settings::Shortcuts(desk.settings, this))
+    , m_palette(std::make_unique<finder::CommandPalette>(*m_shortcuts, desk.icons, desk.settings))
+    , m_goTo(new finder::GoToFinder(desk, *m_workArea, this))
+    , m_finder(new finder::FinderPopup(desk.themes, this))
     , m_writing(new goals::WritingSession(desk.session, &QDate::currentDate, this))
     , m_readAloud(new speech::ReadAloud(this))
     , m_status(new StatusStrip(desk, *m_writing, *statusBar()))
@@ -92,7 +100,6 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     m_center->addWidget(m_emptyHint);
     m_emptyHint->setAlignment(Qt::AlignCenter);
     m_emptyHint->setForegroundRole(QPalette::PlaceholderText);
-    m_docks = new DockLayout(*this, m_center, desk.themes, desk.icons);
     m_focusMode = new FocusMode(*this, *m_docks, *m_workArea);
     addPanels();
     buildMenus();
@@ -161,7 +168,7 @@ void MainWindow::restoreWindow()
     const QByteArray geometry = m_desk.settings.value("window/geometry").toByteArray();
     if (!geometry.isEmpty())
         restoreGeometry(geometry);
-    m_docks->restore(m_desk.settings);
+    m_layouts->restore();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -172,7 +179,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     }
     rememberPages();
     m_desk.settings.setValue("window/geometry", saveGeometry());
-    m_docks->save(m_desk.settings);
+    m_layouts->save();
     m_life->end();
     event->accept();
 }
@@ -202,6 +209,7 @@ void MainWindow::noteOpened()
             m_desk.settings.value(projectKey(u"closedDocuments")).toStringList());
         m_codex->tree().setCollapsedIds(m_desk.settings.value(projectKey(u"closedEntries")).toStringList());
         m_workArea->restoreAddresses(m_desk.settings.value(projectKey(u"pages")).toStringList());
+        m_goTo->setVisited(m_desk.settings.value(projectKey(u"visited")).toStringList());
     }
     if (!m_workArea->hasPages())
         openFirstDocument();
@@ -237,6 +245,7 @@ void MainWindow::rememberPages()
     if (!m_desk.session.workspace().hasPath())
         return;
     m_desk.settings.setValue(projectKey(u"pages"), m_workArea->openAddresses());
+    m_desk.settings.setValue(projectKey(u"visited"), m_goTo->visited());
     m_desk.settings.setValue(projectKey(u"closedDocuments"), m_manuscript->tree().collapsedIds());
     m_desk.settings.setValue(projectKey(u"closedEntries"), m_codex->tree().collapsedIds());
 }

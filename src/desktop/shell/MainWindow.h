@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 #include <functional>
+#include <memory>
 
 class QLabel;
 class QStackedWidget;
@@ -15,6 +16,11 @@ class QToolBar;
 namespace tw::desktop::codex {
 class CodexPanel;
 }
+namespace tw::desktop::finder {
+class CommandPalette;
+class FinderPopup;
+class GoToFinder;
+} // namespace tw::desktop::finder
 namespace tw::desktop::goals {
 class WritingSession;
 }
@@ -60,6 +66,7 @@ namespace tw::desktop::shell {
 class AudienceSelector;
 class DockLayout;
 class FocusMode;
+class NamedLayouts;
 class ProjectLife;
 class StatusStrip;
 class WelcomePage;
@@ -114,6 +121,7 @@ private:
     void buildFormatMenu();
     void buildViewMenu();
     void buildFormatBar();
+    void addFinders(QMenu& menu);
     void addWritingViews(QMenu& menu);
     void zoomPages(int steps);
     /** After a change of how texts are shown and counted. */
@@ -154,7 +162,12 @@ private:
     WelcomePage* m_welcome;
     QLabel* m_emptyHint;
     DockLayout* m_docks;
+    NamedLayouts* m_layouts;
     settings::Shortcuts* m_shortcuts;
+    std::unique_ptr<finder::CommandPalette> m_palette;
+    finder::GoToFinder* m_goTo;
+    /** Shows whichever of the two is open. */
+    finder::FinderPopup* m_finder;
     goals::WritingSession* m_writing;
     speech::ReadAloud* m_readAloud;
     StatusStrip* m_status;

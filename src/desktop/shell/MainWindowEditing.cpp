@@ -1,6 +1,9 @@
 #include "desktop/shell/MainWindow.h"
 
 #include "desktop/composition/CompositionPage.h"
+#include "desktop/finder/CommandPalette.h"
+#include "desktop/finder/FinderPopup.h"
+#include "desktop/finder/GoToFinder.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/DocumentActions.h"
 #include "desktop/manuscript/DocumentPage.h"
@@ -214,6 +217,8 @@ void MainWindow::followEditorSettings()
 void MainWindow::buildViewMenu()
 {
     QMenu& menu = *menuBar()->addMenu(tr("&View"));
+    addFinders(menu);
+    menu.addSeparator();
     QMenu* const themes = menu.addMenu(m_desk.icons.icon(Icon::Theme), tr("&Theme"));
     auto* const group = new QActionGroup(this);
     const auto addTheme = [&](const QString& choice, const QString& title) {
@@ -282,6 +287,16 @@ void MainWindow::buildViewMenu()
     });
 }
 
+void MainWindow::addFinders(QMenu& menu)
+{
+    m_projectActions.append(addAction(
+        menu, u"view.goTo"_s, Icon::Target, tr("&Go to…"), QKeySequence(Qt::CTRL | Qt::Key_P),
+        [this] { m_finder->open(*m_goTo); }));
+    addAction(
+        menu, u"view.commandPalette"_s, Icon::Palette, tr("Comman&d Palette…"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P), [this] { m_finder->open(*m_palette); });
+}
+
 void MainWindow::addWritingViews(QMenu& menu)
 {
     const auto currentDocument = [this] {
@@ -296,7 +311,7 @@ void MainWindow::addWritingViews(QMenu& menu)
     m_sourceAction->setCheckable(true);
     const auto isPageView = [this] { return manuscript::pageStyleFrom(m_desk.settings).isPageView; };
     QAction* const pageView =
-        addAction(menu, u"view.page"_s, Icon::Document, tr("Pa&ge View"), {}, [this, isPageView] {
+        addAction(menu, u"view.page"_s, Icon::Document, tr("Page &View"), {}, [this, isPageView] {
             manuscript::setPageView(m_desk.settings, !isPageView());
             zoomPages(0);
         });

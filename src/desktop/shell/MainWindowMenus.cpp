@@ -22,6 +22,7 @@
 #include "desktop/shell/AboutDialog.h"
 #include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/DockLayout.h"
+#include "desktop/shell/NamedLayouts.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
@@ -66,6 +67,7 @@ void MainWindow::buildMenus()
     QMenu* const windows = menuBar()->addMenu(tr("&Windows"));
     windows->setObjectName(u"windowsMenu"_s);
     m_docks->fillMenu(*windows);
+    m_layouts->fillMenu(*windows);
     buildHelpMenu();
     menuBar()->setCornerWidget(m_audience);
     m_shortcuts->collect(*menuBar());

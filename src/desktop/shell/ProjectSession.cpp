@@ -2,6 +2,8 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
+
 namespace tw::desktop::shell {
 
 using app::persistence::SaveExtent;
@@ -84,6 +86,7 @@ void ProjectSession::setTypingPending(const QObject& editor, bool pending)
     const auto letGo = [this](const QObject* gone) {
         m_typingEditors.remove(gone);
         updateSaveState();
+        emit typingEnded();
     };
     if (!pending) {
         disconnect(&editor, &QObject::destroyed, this, nullptr);
@@ -94,6 +97,15 @@ void ProjectSession::setTypingPending(const QObject& editor, bool pending)
     connect(&editor, &QObject::destroyed, this, letGo);
     updateSaveState();
     emit typingBegan();
+}
+
+bool ProjectSession::isTypingPendingIn(const QObject& owner) const
+{
+    return std::ranges::any_of(m_typingEditors, [&owner](const QObject* each) {
+        while (each && each != &owner)
+            each = each->parent();
+        return each != nullptr;
+    });
 }
 
 HeldBackTexts ProjectSession::heldBackTexts()

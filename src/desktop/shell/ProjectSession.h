@@ -128,6 +128,8 @@ public:
     {
         return m_typingEditors.contains(&editor);
     }
+    /** Whether an editor holds typing that is the object itself or belongs to it. */
+    [[nodiscard]] bool isTypingPendingIn(const QObject& owner) const;
     /** What editors of documents hold back, without making an edit of it. */
     [[nodiscard]] HeldBackTexts heldBackTexts();
 
@@ -177,6 +179,8 @@ signals:
     void commitRequested(tw::desktop::shell::CommitReason reason);
     /** An editor began to hold typing back. */
     void typingBegan();
+    /** An editor holds nothing any more; what it held is put into the project next, if it is not given up. */
+    void typingEnded();
     /** Whoever holds back the text of a document puts it in. */
     void heldBackTextsRequested(tw::desktop::shell::HeldBackTexts& texts);
     void aboutToSave();

@@ -2,11 +2,14 @@
 
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
+#include "desktop/shell/UnsavedObjects.h"
 
 #include <QApplication>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QTabWidget>
+
+#include <algorithm>
 
 namespace tw::desktop::shell {
 
@@ -18,6 +21,8 @@ constexpr int maximumPanes = 2;
 /** Separates the panes in the list of open pages; the page that a pane shows has the other mark before it. */
 constexpr QLatin1StringView paneMark{"|"};
 constexpr QChar shownMark = u'*';
+/** Before the title of a page with changes that are not on disk. */
+const QString unsavedMark = u"• "_s;
 /** Between object and view. */
 constexpr QChar viewMark = u'/';
 
@@ -45,11 +50,13 @@ PageAddress addressFrom(QStringView text)
 WorkArea::WorkArea(const DeskContext& desk, QWidget* parent)
     : QSplitter(Qt::Horizontal, parent)
     , m_desk(desk)
+    , m_unsaved(new UnsavedObjects(desk.session, this))
 {
     setObjectName(u"workArea"_s);
     setChildrenCollapsible(false);
     m_activePane = addPane();
     connect(&desk.session, &ProjectSession::changed, this, &WorkArea::followChanges);
+    connect(m_unsaved, &UnsavedObjects::changed, this, &WorkArea::refreshTabs);
     connect(&desk.navigator, &Navigator::openRequested, this, [this](const core::ContentId& id) {
         openPage({id, {}});
     });
@@ -81,6 +88,14 @@ void WorkArea::setFactory(core::content::ContentKind kind, PageFactory factory)
 void WorkArea::setViewFactory(const QString& view, PageFactory factory)
 {
     m_viewFactories.insert_or_assign(view, std::move(factory));
+}
+
+std::set<core::content::ContentKind> WorkArea::shownKinds() const
+{
+    std::set<core::content::ContentKind> kinds;
+    for (const auto& [kind, factory] : m_factories)
+        kinds.insert(kind);
+    return kinds;
 }
 
 bool WorkArea::canShow(const core::ContentId& id) const
@@ -170,18 +185,23 @@ void WorkArea::openPage(const PageAddress& address)
     announceCurrent();
 }
 
-void WorkArea::splitCurrent()
+void WorkArea::openBeside(const PageAddress& address)
 {
-    const WorkPage* const page = currentPage();
-    if (!page)
+    if (!factoryFor(address))
         return;
-    const PageAddress address = page->address();
-    if (count() < maximumPanes) {
+    if (count() < maximumPanes && currentPage()) {
         static_cast<void>(addPane());
         setSizes({width() / 2, width() / 2});
     }
-    m_activePane = static_cast<QTabWidget*>(widget(activePane() == widget(0) ? 1 : 0));
+    if (count() > 1)
+        m_activePane = static_cast<QTabWidget*>(widget(activePane() == widget(0) ? 1 : 0));
     openPage(address);
+}
+
+void WorkArea::splitCurrent()
+{
+    if (const WorkPage* const page = currentPage())
+        openBeside(PageAddress(page->address()));
 }
 
 void WorkArea::closeCurrent()
@@ -250,12 +270,35 @@ void WorkArea::refreshTab(WorkPage* page)
     for (int paneIndex = 0; paneIndex < count(); ++paneIndex) {
         auto* const pane = static_cast<QTabWidget*>(widget(paneIndex));
         if (const int index = pane->indexOf(page); index >= 0) {
+            const QString title = page->title();
+            const bool isMarked = isUnsaved(*page);
             // An ampersand in a title is no mnemonic.
-            pane->setTabText(index, QString(page->title()).replace(u'&', u"&&"_s));
-            pane->setTabToolTip(index, page->title());
+            const QString text = QString(title).replace(u'&', u"&&"_s);
+            pane->setTabText(index, isMarked ? unsavedMark + text : text);
+            const QString spoken = isMarked ? tr("%1 (unsaved)").arg(title) : title;
+            pane->setTabToolTip(index, spoken);
+            pane->tabBar()->setAccessibleTabName(index, spoken);
             pane->setTabIcon(index, page->icon());
         }
     }
+}
+
+void WorkArea::refreshTabs()
+{
+    for (int paneIndex = 0; paneIndex < count(); ++paneIndex) {
+        const auto* const pane = static_cast<QTabWidget*>(widget(paneIndex));
+        for (int index = 0; index < pane->count(); ++index) {
+            if (WorkPage* const page = pageAt(pane, index))
+                refreshTab(page);
+        }
+    }
+}
+
+bool WorkArea::isUnsaved(const WorkPage& page) const
+{
+    const std::vector<core::ContentId> shown = page.shownObjects();
+    return m_desk.session.isTypingPendingIn(page) ||
+           std::ranges::any_of(shown, [this](const core::ContentId& id) { return m_unsaved->isUnsaved(id); });
 }
 
 void WorkArea::followChanges(const core::project::ProjectChanges& changes)

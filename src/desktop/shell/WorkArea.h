@@ -9,10 +9,13 @@
 
 #include <functional>
 #include <map>
+#include <set>
 
 class QTabWidget;
 
 namespace tw::desktop::shell {
+
+class UnsavedObjects;
 
 /**
  * The centre of the window: pages in tabs, side by side in at most two panes. Owns the pages; a page closes
@@ -32,9 +35,14 @@ public:
     void setFactory(core::content::ContentKind kind, PageFactory factory);
     /** For pages that show an object, or all of a kind, in a way of their own. */
     void setViewFactory(const QString& view, PageFactory factory);
+    /** The kinds of objects that have a page of their own. */
+    [[nodiscard]] std::set<core::content::ContentKind> shownKinds() const;
 
     /** Shows a page in the active pane, making it when it is not there. */
     void openPage(const PageAddress& address);
+    /** The same in the other pane, which is made when there is only one; in the only one while that is empty.
+     */
+    void openBeside(const PageAddress& address);
     /** Shows the present page in the other pane as well. */
     void splitCurrent();
     void closeCurrent();
@@ -65,9 +73,12 @@ private:
     void showPane(QTabWidget* pane);
     void followChanges(const core::project::ProjectChanges& changes);
     void refreshTab(WorkPage* page);
+    void refreshTabs();
+    [[nodiscard]] bool isUnsaved(const WorkPage& page) const;
     void announceCurrent();
 
     DeskContext m_desk;
+    UnsavedObjects* m_unsaved;
     std::map<core::content::ContentKind, PageFactory> m_factories;
     std::map<QString, PageFactory> m_viewFactories;
     QTabWidget* m_activePane = nullptr;

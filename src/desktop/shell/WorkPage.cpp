@@ -7,6 +7,11 @@ WorkPage::WorkPage(PageAddress address, QWidget* parent)
     , m_address(std::move(address))
 {}
 
+std::vector<core::ContentId> WorkPage::shownObjects() const
+{
+    return {objectId()};
+}
+
 void WorkPage::showPassage(const TextPassage&) {}
 
 QString WorkPage::statusText() const

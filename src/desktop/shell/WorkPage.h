@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <vector>
+
 namespace tw::desktop::shell {
 
 struct TextPassage;
@@ -33,6 +35,8 @@ public:
     /** The object's name as the tab shows it. */
     [[nodiscard]] virtual QString title() const = 0;
     [[nodiscard]] virtual QIcon icon() const = 0;
+    /** The objects whose changes are changes of the page; the object itself unless a page shows more. */
+    [[nodiscard]] virtual std::vector<core::ContentId> shownObjects() const;
     /** Where the keyboard goes when the page is shown. */
     virtual void takeFocus() = 0;
     /** Goes to a place in the page's text; nothing where it is not found. */

@@ -91,17 +91,20 @@ TEST_F(AccessibilityTest, everyControlHasANameAndTheTabKeyFindsIt)
         {"continuous text", part, composition::compositionView},
     };
     QSet<QString> faults;
+    const auto noteNameless = [&](const QString& where) {
+        for (QWidget* const widget : focusable(Qt::ClickFocus)) {
+            QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(widget);
+            if (!accessible || accessible->text(QAccessible::Name).trimmed().isEmpty())
+                faults.insert(where + u" has no name: "_s + describe(*widget));
+        }
+    };
     for (const auto& page : pages) {
         if (page.view.isEmpty())
             desk.navigator.open(page.id);
         else
             desk.navigator.openView(page.id, page.view);
         QCoreApplication::processEvents();
-        for (QWidget* const widget : focusable(Qt::ClickFocus)) {
-            QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(widget);
-            if (!accessible || accessible->text(QAccessible::Name).trimmed().isEmpty())
-                faults.insert(QLatin1String(page.name) + u" has no name: "_s + describe(*widget));
-        }
+        noteNameless(QLatin1String(page.name));
         // Round once: what the Tab key does when nothing wants it for itself.
         QSet<const QWidget*> reached;
         for (QWidget* widget = window.nextInFocusChain(); widget != &window;
@@ -111,6 +114,10 @@ TEST_F(AccessibilityTest, everyControlHasANameAndTheTabKeyFindsIt)
             if (!reached.contains(widget))
                 faults.insert(QLatin1String(page.name) + u" is out of reach: "_s + describe(*widget));
         }
+    }
+    for (const QString& finder : {u"view.goTo"_s, u"view.commandPalette"_s}) {
+        window.findChild<QAction*>(finder)->trigger();
+        noteNameless(finder);
     }
     EXPECT_TRUE(faults.isEmpty()) << QStringList(faults.values()).join(u'\n').toStdString();
 }
