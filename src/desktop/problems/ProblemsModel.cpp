@@ -57,7 +57,8 @@ void ProblemsModel::rebuild()
     m_groups.clear();
     for (const core::ContentId& object : m_objects) {
         if (std::vector<Row> rows = rowsOf(object); !rows.empty())
-            m_groups.push_back(std::make_unique<Group>(Group{object, std::move(rows)}));
+            m_groups.push_back(
+                std::make_unique<Group>(Group{static_cast<int>(m_groups.size()), object, std::move(rows)}));
     }
     endResetModel();
     recount();
@@ -82,7 +83,7 @@ bool ProblemsModel::refreshRows(const core::ContentId& object)
     if (group == m_groups.end() || rows.empty())
         return group == m_groups.end() && rows.empty();
     // The rows above and below keep their place on the screen.
-    const QModelIndex parent = index(static_cast<int>(group - m_groups.begin()), 0);
+    const QModelIndex parent = index((*group)->row, 0);
     beginRemoveRows(parent, 0, static_cast<int>((*group)->rows.size()) - 1);
     (*group)->rows.clear();
     endRemoveRows();
@@ -154,10 +155,13 @@ QModelIndex ProblemsModel::index(int row, int column, const QModelIndex& parent)
 QModelIndex ProblemsModel::parent(const QModelIndex& child) const
 {
     const auto* const group = static_cast<const Group*>(child.internalPointer());
-    if (!group)
-        return {};
-    const auto place = std::ranges::find(m_groups, group, [](const auto& each) { return each.get(); });
-    return createIndex(static_cast<int>(place - m_groups.begin()), 0);
+    return group ? createIndex(group->row, 0) : QModelIndex();
+}
+
+Qt::ItemFlags ProblemsModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags flags = QAbstractItemModel::flags(index);
+    return index.internalPointer() ? flags | Qt::ItemNeverHasChildren : flags;
 }
 
 int ProblemsModel::rowCount(const QModelIndex& parent) const

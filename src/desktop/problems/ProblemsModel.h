@@ -49,6 +49,7 @@ public:
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& child) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -64,6 +65,7 @@ private:
     };
     struct Group
     {
+        int row;
         core::ContentId object;
         std::vector<Row> rows;
     };

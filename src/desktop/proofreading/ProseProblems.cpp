@@ -189,12 +189,12 @@ void ProseProblems::readNext()
     });
 }
 
-void ProseProblems::finish(const Reading& reading)
+void ProseProblems::finish(Reading& reading)
 {
     m_isReading = false;
     const bool isOutdated = std::exchange(m_isOutdated, false);
     std::vector<core::ContentId> changed;
-    for (const DocumentReading& document : reading.documents) {
+    for (DocumentReading& document : reading.documents) {
         // Another project may be open by now.
         if (!m_desk.session.project().contains(document.id))
             continue;
@@ -203,7 +203,7 @@ void ProseProblems::finish(const Reading& reading)
         auto& known = m_problems[document.id];
         if (known == document.problems)
             continue;
-        known = document.problems;
+        known = std::move(document.problems);
         changed.push_back(document.id);
     }
     if (!changed.empty())

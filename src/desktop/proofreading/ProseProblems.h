@@ -54,7 +54,7 @@ private:
     void followChanges(const core::project::ProjectChanges& changes);
     void forgetAll();
     void readNext();
-    void finish(const Reading& reading);
+    void finish(Reading& reading);
     /** Opens the document and calls with the problem's place in its editor, when the text still has it. */
     using PlaceUse = std::function<void(EditorProofreader&, const EditorProofreader::Place&)>;
     void withPlace(const core::ContentId& object, const problems::Problem& problem, const PlaceUse& use);

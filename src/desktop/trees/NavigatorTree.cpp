@@ -220,14 +220,32 @@ void NavigatorTree::restoreState()
 
 void NavigatorTree::restoreExpansion()
 {
+    // While a layout is due, a row that opens is merely noted; otherwise each would lay out the whole tree.
+    scheduleDelayedItemsLayout();
+    QModelIndex current;
+    QModelIndexList selected;
+    qsizetype sought = m_selectedIds.size() + (m_currentId.isEmpty() ? 0 : 1);
     for (const QModelIndex& index : rowsToOpen(m_filter)) {
+        // There may be very many of these, and nobody closed them.
+        if (sought == 0 && !m_filter.hasChildren(index)) {
+            expand(index);
+            continue;
+        }
         const QString id = index.data(IdRole).toString();
         setExpanded(index, !m_collapsed.contains(id));
-        if (id == m_currentId)
-            selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
-        if (m_selectedIds.contains(id))
-            selectionModel()->select(index, QItemSelectionModel::Select);
+        if (id == m_currentId) {
+            current = index;
+            --sought;
+        }
+        if (m_selectedIds.contains(id)) {
+            selected.append(index);
+            --sought;
+        }
     }
+    if (current.isValid())
+        selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    for (const QModelIndex& index : std::as_const(selected))
+        selectionModel()->select(index, QItemSelectionModel::Select);
 }
 
 } // namespace tw::desktop::trees

@@ -13,6 +13,9 @@ std::vector<QModelIndex> rowsToOpen(const QAbstractItemModel& model, const QMode
     std::vector<QModelIndex> rows;
     // Level by level: those below the rows of one level are added behind them.
     const auto addChildren = [&](const QModelIndex& parent) {
+        // Asked first, because a filter remembers every row whose children were counted.
+        if (!model.hasChildren(parent))
+            return;
         for (int row = 0; row < model.rowCount(parent); ++row)
             rows.push_back(model.index(row, 0, parent));
     };
