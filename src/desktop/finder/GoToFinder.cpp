@@ -136,7 +136,7 @@ std::vector<TitleHit> GoToFinder::visitedHits() const
         const auto id = ContentId::fromString(text);
         const ContentObject* const object = m_desk.session.project().find(id);
         if (object && id != here && isShown(*object))
-            hits.push_back({id});
+            hits.push_back({.id = id, .alias = {}});
     }
     return hits;
 }
