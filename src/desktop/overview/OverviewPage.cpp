@@ -222,6 +222,13 @@ void OverviewPage::takeFocus()
     m_list->setFocus(Qt::OtherFocusReason);
 }
 
+std::vector<ContentId> OverviewPage::shownObjects() const
+{
+    const auto& project = m_context.desk.session.project();
+    return objectId().isNull() ? core::document::documentsInReadingOrder(project)
+                               : core::document::documentSubtree(project, objectId());
+}
+
 QString OverviewPage::statusText() const
 {
     return tr("%n documents", nullptr, m_filter->rowCount(m_filter->rootIndex()));

@@ -57,6 +57,7 @@ public:
     [[nodiscard]] QString title() const override;
     void takeFocus() override;
     [[nodiscard]] QString statusText() const override;
+    [[nodiscard]] std::vector<core::ContentId> shownObjects() const override;
 
 protected:
     /** Takes the list in; called once, by the subclass. `rename` lets the user name a document in it. */
