@@ -3,7 +3,6 @@
 #include "app/workspace/Workspace.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace tw::app::persistence {
 
@@ -54,13 +53,13 @@ void AutosaveController::saveNow()
 std::chrono::seconds autosaveInterval(const QString& setting)
 {
     bool isNumber = false;
-    // As a floating-point number, so that one of any length is too long and not no number.
-    const double seconds = setting.toDouble(&isNumber);
-    if (!isNumber || std::isnan(seconds))
-        return shortestAutosave;
-    const auto within = [](std::chrono::seconds bound) { return static_cast<double>(bound.count()); };
-    return std::chrono::seconds(
-        static_cast<qint64>(std::clamp(seconds, within(shortestAutosave), within(longestAutosave))));
+    const qint64 seconds = setting.toLongLong(&isNumber);
+    if (isNumber)
+        return std::clamp(std::chrono::seconds(seconds), shortestAutosave, longestAutosave);
+    // A number without end is too long, and not no number.
+    const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
+    const bool isOverlong = !setting.isEmpty() && std::ranges::all_of(setting, isDigit);
+    return isOverlong ? longestAutosave : shortestAutosave;
 }
 
 } // namespace tw::app::persistence

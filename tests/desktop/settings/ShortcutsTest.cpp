@@ -168,6 +168,11 @@ TEST(AutosaveChoice, unreadableSettingsAreBroughtIntoRange)
     const QTemporaryDir folder;
     QSettings settings(folder.filePath(u"s.ini"_s), QSettings::IniFormat);
     EXPECT_TRUE(autosaveFrom(settings) == shell::AutosaveSettings());
+    for (const QString& tooShortOrNoNumber : {u"5"_s, u"-5"_s, u"30.7"_s, u"1e3"_s, u"inf"_s, u""_s}) {
+        settings.setValue("editor/autosaveIntervalSeconds", tooShortOrNoNumber);
+        EXPECT_EQ(autosaveFrom(settings).interval, std::chrono::seconds(15))
+            << tooShortOrNoNumber.toStdString();
+    }
     settings.setValue("editor/autosaveIntervalSeconds", u"soon"_s);
     settings.setValue("editor/autosave", u"perhaps"_s);
     EXPECT_EQ(autosaveFrom(settings).interval, std::chrono::seconds(15));
