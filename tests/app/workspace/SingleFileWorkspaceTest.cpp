@@ -261,11 +261,24 @@ TEST_F(SingleFileWorkspace, tellsWhichVersionWon)
 TEST_F(SingleFileWorkspace, reloadKeepsTheProjectWhenTheFileCannotBeRead)
 {
     auto workspace = makeSaved(bundle());
+    const QByteArray good = read(bundle());
     edit(*workspace, u"Unsaved."_s);
     write(bundle(), "half of an arch");
     EXPECT_EQ(workspace->reload().message(), u"The project file is not readable right now; try again."_s);
     EXPECT_EQ(document(*workspace).body().text, u"Unsaved."_s);
     EXPECT_TRUE(workspace->history().canUndo());
+
+    // A whole archive with an object that cannot be read: nothing of it gets into the working copy.
+    ASSERT_TRUE(QDir().mkpath(root.filePath(u"broken/objects"_s)));
+    write(root.filePath(u"broken/project.json"_s), "{}");
+    write(root.filePath(u"broken/objects/x.json"_s), "{}");
+    write(bundle(), persistence::buildBundle(files, root.filePath(u"broken"_s)).value());
+    EXPECT_TRUE(workspace->reload().message().startsWith(u"Malformed object file"_s));
+    EXPECT_EQ(document(*workspace).body().text, u"Unsaved."_s);
+    write(bundle(), good);
+    const auto saved = workspace->save();
+    EXPECT_TRUE(saved) << saved.message().toStdString();
+    EXPECT_EQ(document(*open(bundle())).body().text, u"Unsaved."_s);
 
     write(root.filePath(u"readme.txt"_s), "x");
     EXPECT_TRUE(

@@ -185,6 +185,14 @@ private:
     /** The present copy, if any, gives way only when all is unpacked. */
     Result<OpenedBundle> unpack(BundleOpening opening, const QString& backupPath)
     {
+        // What cannot be read must not take the place of a copy that somebody has open.
+        if (m_purpose == BundlePurpose::Reload) {
+            ProjectFileMap files;
+            for (const BundleFile& file : m_archived.files)
+                files.emplace(file.path, file.bytes);
+            if (const auto parsed = parseProject(files); !parsed)
+                return Failure{parsed.message()};
+        }
         if (auto unpacked = unpackFreshCopy(m_environment, m_copy, m_archived.files); !unpacked)
             return workingFolderFailure(unpacked.message());
         if (auto retired = retireCopy(m_environment, m_copy); !retired)
