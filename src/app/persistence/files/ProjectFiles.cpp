@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QStringBuilder>
 
+#include <algorithm>
 #include <iterator>
 
 using namespace Qt::Literals::StringLiterals;
@@ -30,13 +31,26 @@ bool isTaken(const QFileInfo& file)
     return file.exists() || file.isSymLink();
 }
 
-QString freeNameIn(const QDir& folder, const QFileInfo& source)
+/** A name that a project in one file can keep as well: not hidden, no path, nothing that cannot be seen. */
+QString keepableName(QString name)
 {
-    QString name = source.fileName();
+    const auto isUnsafe = [](QChar character) {
+        return character == u'\\' || character.category() == QChar::Other_Control;
+    };
+    std::ranges::replace_if(name, isUnsafe, u'-');
+    while (name.startsWith(u'.'))
+        name.remove(0, 1);
+    return name.isEmpty() ? u"asset"_s : name;
+}
+
+QString freeNameIn(const QDir& folder, const QString& wanted)
+{
+    const QFileInfo parts(wanted);
+    QString name = wanted;
     for (int counter = 1; isTaken(QFileInfo(folder, name)); ++counter) {
-        name = source.completeBaseName() + u'-' + QString::number(counter);
-        if (!source.suffix().isEmpty())
-            name += u'.' + source.suffix();
+        name = parts.completeBaseName() + u'-' + QString::number(counter);
+        if (!parts.suffix().isEmpty())
+            name += u'.' + parts.suffix();
     }
     return name;
 }
@@ -80,7 +94,7 @@ core::Result<QString> importAsset(const QString& projectFolder, const QString& s
     const QDir assets(QDir(projectFolder).filePath(assetsFolder.toString()));
     if (!assets.mkpath(u"."_s))
         return failure(QT_TRANSLATE_NOOP("Persistence", "Cannot create assets folder in: %1"), projectFolder);
-    const QString name = freeNameIn(assets, source);
+    const QString name = freeNameIn(assets, keepableName(source.fileName()));
     if (!QFile::copy(sourceFile, assets.filePath(name)))
         return failure(QT_TRANSLATE_NOOP("Persistence", "Cannot copy file into assets: %1"), sourceFile);
     return assetsFolder.toString() + u'/' + name;

@@ -228,6 +228,10 @@ TEST(ProjectFiles, importsAssetsUnderFreeNames)
         {u"map.png"_s, {u"assets/map.png"_s, u"assets/map-1.png"_s, u"assets/map-2.png"_s}},
         {u"a.b%1.tar.gz"_s, {u"assets/a.b%1.tar.gz"_s, u"assets/a.b%1.tar-1.gz"_s}},
         {u"plain"_s, {u"assets/plain"_s, u"assets/plain-1"_s}},
+        // What a project in one file could not keep.
+        {u"..cover.png"_s, {u"assets/cover.png"_s, u"assets/cover-1.png"_s}},
+        {u"shore\\a\tb\x9f.png"_s, {u"assets/shore-a-b-.png"_s}},
+        {u"...."_s, {u"assets/asset"_s, u"assets/asset-1"_s}},
     };
     for (const auto& expected : cases) {
         const QString source = folder.filePath(expected.source);
