@@ -4484,6 +4484,13 @@
         <source>Project</source>
         <translation>Projekt</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln more. Settle these first, or hide kinds.</source>
+        <translation>
+            <numerusform>%Ln weiteres. Erledigen Sie erst diese, oder blenden Sie Arten aus.</numerusform>
+            <numerusform>%Ln weitere. Erledigen Sie erst diese, oder blenden Sie Arten aus.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::problems::ProblemsPanel</name>

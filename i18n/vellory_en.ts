@@ -284,6 +284,16 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::problems::ProblemsModel</name>
+    <message numerus="yes">
+        <source>%Ln more. Settle these first, or hide kinds.</source>
+        <translation>
+            <numerusform>%Ln more. Settle these first, or hide kinds.</numerusform>
+            <numerusform>%Ln more. Settle these first, or hide kinds.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::problems::ProblemsPanel</name>
     <message numerus="yes">
         <source>%Ln problems</source>
