@@ -3625,6 +3625,14 @@
         <source>“%1” is locked. Unlock it in the inspector to move it.</source>
         <translation>„%1“ ist gesperrt. Zum Verschieben entsperren Sie es im Inspektor.</translation>
     </message>
+    <message>
+        <source>“%1” is locked. Unlock it in the inspector to rename it.</source>
+        <translation>„%1“ ist gesperrt. Zum Umbenennen entsperren Sie es im Inspektor.</translation>
+    </message>
+    <message>
+        <source>“%1” is locked. Unlock it in the inspector to set its status.</source>
+        <translation>„%1“ ist gesperrt. Um den Status zu setzen, entsperren Sie es im Inspektor.</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::manuscript::DocumentPage</name>
@@ -6046,6 +6054,22 @@
     <message>
         <source>Page &amp;View</source>
         <translation>S&amp;eitenansicht</translation>
+    </message>
+    <message>
+        <source>The system&apos;s speech broke off. Check its voices, then read aloud again.</source>
+        <translation>Die Sprachausgabe des Systems ist abgebrochen. Prüfen Sie deren Stimmen, und lassen Sie dann erneut vorlesen.</translation>
+    </message>
+    <message>
+        <source>%1 It says: %2</source>
+        <translation>%1 Sie meldet: %2</translation>
+    </message>
+    <message>
+        <source>There is nothing to read in what is selected.</source>
+        <translation>In der Auswahl gibt es nichts vorzulesen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to read behind the cursor.</source>
+        <translation>Hinter dem Cursor gibt es nichts vorzulesen.</translation>
     </message>
 </context>
 <context>
