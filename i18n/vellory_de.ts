@@ -2216,6 +2216,16 @@
     </message>
 </context>
 <context>
+    <name>WordsSuffix</name>
+    <message numerus="yes">
+        <source> words</source>
+        <translation>
+            <numerusform> Wort</numerusform>
+            <numerusform> Wörter</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Workspace</name>
     <message>
         <source>The project could not be found: %1</source>
@@ -3324,31 +3334,8 @@
         <translation>Keines</translation>
     </message>
     <message>
-        <source> words</source>
-        <translation> Wörter</translation>
-    </message>
-    <message>
-        <source>%1 words written, %2 of them today.</source>
-        <translation>%1 Wörter geschrieben, davon %2 heute.</translation>
-    </message>
-    <message>
         <source>The target is reached.</source>
         <translation>Das Ziel ist erreicht.</translation>
-    </message>
-    <message>
-        <source>The deadline has passed with %1 words to go.</source>
-        <translation>Die Frist ist verstrichen, es fehlen %1 Wörter.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 words to go: %2 a day for %Ln days.</source>
-        <translation>
-            <numerusform>Noch %1 Wörter: %2 am Tag, %Ln Tag lang.</numerusform>
-            <numerusform>Noch %1 Wörter: %2 am Tag, %Ln Tage lang.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>%1 words to go.</source>
-        <translation>Noch %1 Wörter.</translation>
     </message>
     <message numerus="yes">
         <source>Words on %Ln days in a row.</source>
@@ -3381,6 +3368,41 @@
         <source>Set Goals</source>
         <translation>Ziele setzen</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln words written, %1 of them today.</source>
+        <translation>
+            <numerusform>%Ln Wort geschrieben, davon %1 heute.</numerusform>
+            <numerusform>%Ln Wörter geschrieben, davon %1 heute.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The deadline has passed with %Ln words to go.</source>
+        <translation>
+            <numerusform>Die Frist ist verstrichen, es fehlt %Ln Wort.</numerusform>
+            <numerusform>Die Frist ist verstrichen, es fehlen %Ln Wörter.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 a day for %Ln days.</source>
+        <translation>
+            <numerusform>%1: %2 am Tag, %Ln Tag lang.</numerusform>
+            <numerusform>%1: %2 am Tag, %Ln Tage lang.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln words to go</source>
+        <translation>
+            <numerusform>Noch %Ln Wort</numerusform>
+            <numerusform>Noch %Ln Wörter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln words to go.</source>
+        <translation>
+            <numerusform>Noch %Ln Wort.</numerusform>
+            <numerusform>Noch %Ln Wörter.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::goals::ProgressChart</name>
@@ -3388,17 +3410,26 @@
         <source>Words of the last days</source>
         <translation>Wörter der letzten Tage</translation>
     </message>
-    <message>
-        <source>%1 words in %2 days</source>
-        <translation>%1 Wörter in %2 Tagen</translation>
+    <message numerus="yes">
+        <source>%Ln words</source>
+        <translation>
+            <numerusform>%Ln Wort</numerusform>
+            <numerusform>%Ln Wörter</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1 words</source>
-        <translation>%1 Wörter</translation>
+    <message numerus="yes">
+        <source>%1 in %Ln days</source>
+        <translation>
+            <numerusform>%1 in %Ln Tag</numerusform>
+            <numerusform>%1 in %Ln Tagen</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%1: %2 words</source>
-        <translation>%1: %2 Wörter</translation>
+    <message numerus="yes">
+        <source>%1: %Ln words</source>
+        <translation>
+            <numerusform>%1: %Ln Wort</numerusform>
+            <numerusform>%1: %Ln Wörter</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3438,10 +3469,6 @@
     <message>
         <source>None</source>
         <translation>Keines</translation>
-    </message>
-    <message>
-        <source> words</source>
-        <translation> Wörter</translation>
     </message>
     <message>
         <source>Sto&amp;ry date</source>
@@ -3597,6 +3624,14 @@
     <message>
         <source>“%1” is locked. Unlock it in the inspector to move it.</source>
         <translation>„%1“ ist gesperrt. Zum Verschieben entsperren Sie es im Inspektor.</translation>
+    </message>
+    <message>
+        <source>“%1” is locked. Unlock it in the inspector to rename it.</source>
+        <translation>„%1“ ist gesperrt. Zum Umbenennen entsperren Sie es im Inspektor.</translation>
+    </message>
+    <message>
+        <source>“%1” is locked. Unlock it in the inspector to set its status.</source>
+        <translation>„%1“ ist gesperrt. Um den Status zu setzen, entsperren Sie es im Inspektor.</translation>
     </message>
 </context>
 <context>
@@ -4381,12 +4416,15 @@
         <translation>Noch keine Synopse</translation>
     </message>
     <message>
-        <source>%1 words</source>
-        <translation>%1 Wörter</translation>
-    </message>
-    <message>
         <source>Edit card</source>
         <translation>Kärtchen bearbeiten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln words</source>
+        <translation>
+            <numerusform>%Ln Wort</numerusform>
+            <numerusform>%Ln Wörter</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4453,6 +4491,13 @@
     <message>
         <source>Project</source>
         <translation>Projekt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln more. Settle these first, or hide kinds.</source>
+        <translation>
+            <numerusform>%Ln weiteres. Erledigen Sie erst diese, oder blenden Sie Arten aus.</numerusform>
+            <numerusform>%Ln weitere. Erledigen Sie erst diese, oder blenden Sie Arten aus.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -6010,6 +6055,22 @@
         <source>Page &amp;View</source>
         <translation>S&amp;eitenansicht</translation>
     </message>
+    <message>
+        <source>The system&apos;s speech broke off. Check its voices, then read aloud again.</source>
+        <translation>Die Sprachausgabe des Systems ist abgebrochen. Prüfen Sie deren Stimmen, und lassen Sie dann erneut vorlesen.</translation>
+    </message>
+    <message>
+        <source>%1 It says: %2</source>
+        <translation>%1 Sie meldet: %2</translation>
+    </message>
+    <message>
+        <source>There is nothing to read in what is selected.</source>
+        <translation>In der Auswahl gibt es nichts vorzulesen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to read behind the cursor.</source>
+        <translation>Hinter dem Cursor gibt es nichts vorzulesen.</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::NamedLayouts</name>
@@ -6146,10 +6207,6 @@
         <translation>Wörter, seit das Projekt geöffnet wurde</translation>
     </message>
     <message>
-        <source>%1 of %2 words of the daily target</source>
-        <translation>%1 von %2 Wörtern des Tagesziels</translation>
-    </message>
-    <message>
         <source>Saved</source>
         <translation>Gespeichert</translation>
     </message>
@@ -6170,6 +6227,13 @@
         <translation>
             <numerusform>Manuskript: %Ln Wort</numerusform>
             <numerusform>Manuskript: %Ln Wörter</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %Ln words of the daily target</source>
+        <translation>
+            <numerusform>%1 von %Ln Wort des Tagesziels</numerusform>
+            <numerusform>%1 von %Ln Wörtern des Tagesziels</numerusform>
         </translation>
     </message>
 </context>

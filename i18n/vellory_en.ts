@@ -46,6 +46,16 @@
     </message>
 </context>
 <context>
+    <name>WordsSuffix</name>
+    <message numerus="yes">
+        <source> words</source>
+        <translation>
+            <numerusform> word</numerusform>
+            <numerusform> words</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::calendar::CalendarForm</name>
     <message numerus="yes">
         <source>%n days a year. Year 1 begins on %1, %2.</source>
@@ -112,17 +122,69 @@
 <context>
     <name>tw::desktop::goals::GoalsDialog</name>
     <message numerus="yes">
-        <source>%1 words to go: %2 a day for %Ln days.</source>
-        <translation>
-            <numerusform>%1 words to go: %2 a day for %Ln day.</numerusform>
-            <numerusform>%1 words to go: %2 a day for %Ln days.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>Words on %Ln days in a row.</source>
         <translation>
             <numerusform>Words on %Ln day in a row.</numerusform>
             <numerusform>Words on %Ln days in a row.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln words written, %1 of them today.</source>
+        <translation>
+            <numerusform>%Ln word written, %1 of them today.</numerusform>
+            <numerusform>%Ln words written, %1 of them today.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The deadline has passed with %Ln words to go.</source>
+        <translation>
+            <numerusform>The deadline has passed with %Ln word to go.</numerusform>
+            <numerusform>The deadline has passed with %Ln words to go.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %2 a day for %Ln days.</source>
+        <translation>
+            <numerusform>%1: %2 a day for %Ln day.</numerusform>
+            <numerusform>%1: %2 a day for %Ln days.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln words to go</source>
+        <translation>
+            <numerusform>%Ln word to go</numerusform>
+            <numerusform>%Ln words to go</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln words to go.</source>
+        <translation>
+            <numerusform>%Ln word to go.</numerusform>
+            <numerusform>%Ln words to go.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::goals::ProgressChart</name>
+    <message numerus="yes">
+        <source>%Ln words</source>
+        <translation>
+            <numerusform>%Ln word</numerusform>
+            <numerusform>%Ln words</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %Ln days</source>
+        <translation>
+            <numerusform>%1 in %Ln day</numerusform>
+            <numerusform>%1 in %Ln days</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %Ln words</source>
+        <translation>
+            <numerusform>%1: %Ln word</numerusform>
+            <numerusform>%1: %Ln words</numerusform>
         </translation>
     </message>
 </context>
@@ -202,12 +264,32 @@
     </message>
 </context>
 <context>
+    <name>tw::desktop::overview::CardDelegate</name>
+    <message numerus="yes">
+        <source>%Ln words</source>
+        <translation>
+            <numerusform>%Ln word</numerusform>
+            <numerusform>%Ln words</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::overview::OverviewPage</name>
     <message numerus="yes">
         <source>%n documents</source>
         <translation>
             <numerusform>%n document</numerusform>
             <numerusform>%n documents</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tw::desktop::problems::ProblemsModel</name>
+    <message numerus="yes">
+        <source>%Ln more. Settle these first, or hide kinds.</source>
+        <translation>
+            <numerusform>%Ln more. Settle these first, or hide kinds.</numerusform>
+            <numerusform>%Ln more. Settle these first, or hide kinds.</numerusform>
         </translation>
     </message>
 </context>
@@ -386,6 +468,13 @@
         <translation>
             <numerusform>Manuscript: %Ln word</numerusform>
             <numerusform>Manuscript: %Ln words</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %Ln words of the daily target</source>
+        <translation>
+            <numerusform>%1 of %Ln word of the daily target</numerusform>
+            <numerusform>%1 of %Ln words of the daily target</numerusform>
         </translation>
     </message>
 </context>

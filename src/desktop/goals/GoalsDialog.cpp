@@ -1,6 +1,7 @@
 #include "desktop/goals/GoalsDialog.h"
 
 #include "core/writing/WritingCommands.h"
+#include "desktop/fields/WordsSuffix.h"
 #include "desktop/goals/ProgressChart.h"
 #include "desktop/goals/WritingSession.h"
 #include "desktop/shell/ProjectSession.h"
@@ -37,8 +38,9 @@ QSpinBox* makeTarget(int step, qint64 words, QWidget* parent)
     box->setSingleStep(step);
     box->setGroupSeparatorShown(true);
     box->setSpecialValueText(GoalsDialog::tr("None"));
-    box->setSuffix(GoalsDialog::tr(" words"));
     box->setValue(static_cast<int>(std::clamp<qint64>(words, 0, largestTarget)));
+    fields::fitWordsSuffix(*box);
+    QObject::connect(box, &QSpinBox::valueChanged, box, [box] { fields::fitWordsSuffix(*box); });
     return box;
 }
 
@@ -49,21 +51,22 @@ QString paceText(const GoalsState& state)
     const auto number = [](qint64 value) { return QLocale().toString(value); };
     const app::planning::Pace pace =
         app::planning::paceTowards(state.goal, state.totalWords, state.wordsToday, state.today);
-    QStringList sentences{GoalsDialog::tr("%1 words written, %2 of them today.")
-                              .arg(number(state.totalWords), number(state.wordsToday))};
+    const auto wordsLeft = static_cast<int>(pace.wordsLeft);
+    QStringList sentences{
+        GoalsDialog::tr("%Ln words written, %1 of them today.", nullptr, static_cast<int>(state.totalWords))
+            .arg(number(state.wordsToday))};
     const bool hasTarget = state.goal.manuscriptWordTarget > 0;
     if (hasTarget && pace.wordsLeft == 0)
         sentences.append(GoalsDialog::tr("The target is reached."));
     else if (pace.isOverdue)
         sentences.append(
-            GoalsDialog::tr("The deadline has passed with %1 words to go.").arg(number(pace.wordsLeft)));
+            GoalsDialog::tr("The deadline has passed with %Ln words to go.", nullptr, wordsLeft));
     else if (pace.wordsPerDay)
         sentences.append(
-            GoalsDialog::tr(
-                "%1 words to go: %2 a day for %Ln days.", nullptr, static_cast<int>(*pace.daysLeft))
-                .arg(number(pace.wordsLeft), number(*pace.wordsPerDay)));
+            GoalsDialog::tr("%1: %2 a day for %Ln days.", nullptr, static_cast<int>(*pace.daysLeft))
+                .arg(GoalsDialog::tr("%Ln words to go", nullptr, wordsLeft), number(*pace.wordsPerDay)));
     else if (hasTarget)
-        sentences.append(GoalsDialog::tr("%1 words to go.").arg(number(pace.wordsLeft)));
+        sentences.append(GoalsDialog::tr("%Ln words to go.", nullptr, wordsLeft));
     const int days = app::planning::streak(
         app::planning::withWordsOn(state.log, state.today, state.wordsToday), state.today);
     if (days > 1)

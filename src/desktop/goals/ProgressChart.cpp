@@ -48,8 +48,8 @@ void ProgressChart::describe()
     for (const app::planning::DayWords& day : m_days)
         total += day.words;
     setAccessibleName(tr("Words of the last days"));
-    setAccessibleDescription(
-        tr("%1 words in %2 days").arg(QLocale().toString(total), QLocale().toString(qint64(m_days.size()))));
+    const QString words = tr("%Ln words", nullptr, static_cast<int>(total));
+    setAccessibleDescription(tr("%1 in %Ln days", nullptr, static_cast<int>(m_days.size())).arg(words));
 }
 
 QSize ProgressChart::sizeHint() const
@@ -108,7 +108,7 @@ void ProgressChart::paintEvent(QPaintEvent*)
     painter.drawText(foot, Qt::AlignLeading, locale.toString(m_days.front().day, QLocale::ShortFormat));
     painter.drawText(foot, Qt::AlignTrailing, locale.toString(m_days.back().day, QLocale::ShortFormat));
     painter.drawText(
-        QRect(0, 0, width(), line), Qt::AlignLeading, tr("%1 words").arg(locale.toString(highest())));
+        QRect(0, 0, width(), line), Qt::AlignLeading, tr("%Ln words", nullptr, static_cast<int>(highest())));
     if (m_dailyTarget > 0) {
         const qreal share = static_cast<qreal>(m_dailyTarget) / static_cast<qreal>(highest());
         const qreal top = place.bottom() + 1 - share * place.height();
@@ -128,7 +128,8 @@ bool ProgressChart::event(QEvent* event)
             continue;
         const QString day = QLocale().toString(m_days[index].day, QLocale::LongFormat);
         QToolTip::showText(
-            help->globalPos(), tr("%1: %2 words").arg(day, QLocale().toString(m_days[index].words)), this);
+            help->globalPos(), tr("%1: %Ln words", nullptr, static_cast<int>(m_days[index].words)).arg(day),
+            this);
         return true;
     }
     QToolTip::hideText();

@@ -4,6 +4,7 @@
 #include "desktop/fields/EditorKeys.h"
 #include "desktop/fields/GrowingTextEdit.h"
 #include "desktop/fields/StoryDateEdit.h"
+#include "desktop/fields/WordsSuffix.h"
 #include "desktop/manuscript/OutlineColumns.h"
 #include "desktop/manuscript/StatusColors.h"
 #include "desktop/shell/PendingEdit.h"
@@ -92,7 +93,6 @@ DocumentSection::DocumentSection(const shell::DeskContext& desk, QWidget* parent
     m_target->setSingleStep(targetStep);
     m_target->setGroupSeparatorShown(true);
     m_target->setSpecialValueText(tr("None"));
-    m_target->setSuffix(tr(" words"));
     m_target->setKeyboardTracking(false);
     connectFields();
 }
@@ -120,6 +120,7 @@ void DocumentSection::connectFields()
         apply<doc::SetDocumentTensionLevelCommand, &Document::tensionLevel>(value);
     });
     connect(m_target, &QSpinBox::valueChanged, this, [this](int value) {
+        fields::fitWordsSuffix(*m_target);
         apply<doc::SetDocumentTargetCommand, &Document::wordCountTarget>(value);
     });
     connect(
@@ -219,6 +220,7 @@ void DocumentSection::showDocument(const core::ContentId& id)
     m_target->setRange(
         std::min(0, shown->wordCountTarget()), std::max(largestTarget, shown->wordCountTarget()));
     m_target->setValue(shown->wordCountTarget());
+    fields::fitWordsSuffix(*m_target);
     m_sceneDate->setCalendar(m_desk.session.project().calendar());
     m_sceneDate->setInstant(shown->sceneInstant());
 }

@@ -95,18 +95,14 @@ void DocumentActions::makeEditActions()
     };
     const auto step = [this](MoveDirection direction) {
         return [this, direction] {
-            const auto* const object = m_desk.session.project().find(current());
-            if (object && object->isLocked()) {
-                m_desk.navigator.say(tr("“%1” is locked. Unlock it in the inspector to move it.")
-                                         .arg(shell::objectTitle(*object)));
-            } else {
+            if (!refuseLocked(current(), tr("“%1” is locked. Unlock it in the inspector to move it.")))
                 stepDocument(m_desk.session, current(), direction);
-            }
         };
     };
     add(u"manuscript.rename"_s, Icon::Rename, tr("Re&name Document"), QKeySequence(Qt::Key_F2), [this] {
-        if (const DocumentList* const list = activeList(); list && !current().isNull())
-            list->rename(current());
+        const ContentId id = current();
+        if (!id.isNull() && !refuseLocked(id, tr("“%1” is locked. Unlock it in the inspector to rename it.")))
+            activeList()->rename(id);
     });
     add(u"manuscript.moveUp"_s, Icon::MoveUp, tr("Move Document &Up"), QKeySequence(Qt::CTRL | Qt::Key_Up),
         step(MoveDirection::Up));
@@ -138,6 +134,15 @@ ContentId DocumentActions::current() const
     return list ? list->current() : ContentId();
 }
 
+bool DocumentActions::refuseLocked(const ContentId& id, const QString& refusal)
+{
+    const auto* const object = m_desk.session.project().find(id);
+    if (!object || !object->isLocked())
+        return false;
+    m_desk.navigator.say(refusal.arg(shell::objectTitle(*object)));
+    return true;
+}
+
 void DocumentActions::addNew(DocumentKind kind, Place place, const QString& title)
 {
     const DocumentList* const list = activeList();
@@ -162,15 +167,10 @@ void DocumentActions::removeSelected()
     const std::vector<ContentId> ids = list ? list->selected() : std::vector<ContentId>();
     if (ids.empty())
         return;
-    const auto titleOf = [this](const ContentId& id) {
-        return shell::objectTitle(*m_desk.session.project().find(id));
-    };
-    if (const ContentId locked = firstLocked(m_desk.session, ids); !locked.isNull()) {
-        m_desk.navigator.say(
-            tr("“%1” is locked. Unlock it in the inspector to remove it.").arg(titleOf(locked)));
+    if (refuseLocked(
+            firstLocked(m_desk.session, ids), tr("“%1” is locked. Unlock it in the inspector to remove it.")))
         return;
-    }
-    const QString first = titleOf(ids.front());
+    const QString first = shell::objectTitle(*m_desk.session.project().find(ids.front()));
     const auto removed = static_cast<int>(removeDocuments(m_desk.session, ids));
     if (removed == 1)
         m_desk.navigator.say(tr("Removed “%1”. Undo brings it back.").arg(first));
@@ -204,7 +204,9 @@ void DocumentActions::setStatus(const QString& status)
     auto& project = m_desk.session.projectForCommands();
     for (const ContentId& id : list->selected()) {
         auto* const document = project.findAsForEdit<Document>(id);
-        if (document && !document->isLocked() && document->status() != status)
+        if (!document || document->status() == status)
+            continue;
+        if (!refuseLocked(id, tr("“%1” is locked. Unlock it in the inspector to set its status.")))
             m_desk.session.apply(
                 std::make_unique<core::document::SetDocumentStatusCommand>(*document, status));
     }

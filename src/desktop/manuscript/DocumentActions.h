@@ -68,6 +68,8 @@ private:
     void makeEditActions();
     [[nodiscard]] const DocumentList* activeList() const;
     [[nodiscard]] core::ContentId current() const;
+    /** Says the refusal, with the title in its place, when the document is locked. */
+    bool refuseLocked(const core::ContentId& id, const QString& refusal);
     void addNew(core::document::DocumentKind kind, Place place, const QString& title);
     void removeSelected();
     void fillStatusMenu(QMenu& menu);

@@ -238,6 +238,8 @@ QVariant ManuscriptModel::data(const QModelIndex& index, int role) const
         return document->status();
     case SynopsisRole:
         return document->synopsis();
+    case WordCountRole:
+        return wordsBeneath(*node);
     default:
         return {};
     }

@@ -22,6 +22,8 @@ enum DocumentRole
 {
     StatusRole = trees::FirstOwnRole,
     SynopsisRole,
+    /** How many there are with all beneath, as a number. */
+    WordCountRole,
 };
 
 /**

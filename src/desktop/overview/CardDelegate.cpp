@@ -125,7 +125,7 @@ void CardDelegate::paintCard(
         titlePlace, Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
         QFontMetrics(titleFont).elidedText(index.data().toString(), Qt::ElideRight, inner.width()));
 
-    const QVariant wordCount = index.data(trees::CountRole);
+    const QVariant wordCount = index.data(manuscript::WordCountRole);
     // Of a card that is there for those below it alone.
     if (!wordCount.isValid())
         return;
@@ -139,7 +139,7 @@ void CardDelegate::paintCard(
 
     painter.setPen(colors.color(Role::QuietInk));
     const QRect footPlace(inner.left(), foot, inner.width(), metrics.lineSpacing());
-    const QString words = tr("%1 words").arg(wordCount.toString());
+    const QString words = tr("%Ln words", nullptr, wordCount.toInt());
     painter.drawText(footPlace, Qt::AlignTrailing | Qt::AlignVCenter, words);
     const int statusWidth = footPlace.width() - metrics.horizontalAdvance(words) - padding;
     painter.drawText(

@@ -56,9 +56,9 @@ void ProblemsModel::rebuild()
     beginResetModel();
     m_groups.clear();
     for (const core::ContentId& object : m_objects) {
-        if (std::vector<Row> rows = rowsOf(object); !rows.empty())
-            m_groups.push_back(
-                std::make_unique<Group>(Group{static_cast<int>(m_groups.size()), object, std::move(rows)}));
+        if (Listing listing = listingOf(object); !listing.rows.empty())
+            m_groups.push_back(std::make_unique<Group>(
+                Group{static_cast<int>(m_groups.size()), object, std::move(listing)}));
     }
     endResetModel();
     recount();
@@ -79,31 +79,35 @@ bool ProblemsModel::refreshRows(const core::ContentId& object)
     if (std::ranges::find(m_objects, object) == m_objects.end())
         return true;
     const auto group = std::ranges::find(m_groups, object, [](const auto& each) { return each->object; });
-    std::vector<Row> rows = rowsOf(object);
-    if (group == m_groups.end() || rows.empty())
-        return group == m_groups.end() && rows.empty();
+    Listing listing = listingOf(object);
+    if (group == m_groups.end() || listing.rows.empty())
+        return group == m_groups.end() && listing.rows.empty();
     // The rows above and below keep their place on the screen.
     const QModelIndex parent = index((*group)->row, 0);
-    beginRemoveRows(parent, 0, static_cast<int>((*group)->rows.size()) - 1);
-    (*group)->rows.clear();
+    beginRemoveRows(parent, 0, (*group)->listing.rowCount() - 1);
+    (*group)->listing = {};
     endRemoveRows();
-    beginInsertRows(parent, 0, static_cast<int>(rows.size()) - 1);
-    (*group)->rows = std::move(rows);
+    beginInsertRows(parent, 0, listing.rowCount() - 1);
+    (*group)->listing = std::move(listing);
     endInsertRows();
     emit dataChanged(parent, parent);
     return true;
 }
 
-std::vector<ProblemsModel::Row> ProblemsModel::rowsOf(const core::ContentId& object) const
+ProblemsModel::Listing ProblemsModel::listingOf(const core::ContentId& object) const
 {
-    std::vector<Row> rows;
+    Listing listing;
     for (ProblemSource* const source : m_sources) {
         for (const Problem& problem : source->problemsOf(object)) {
-            if (rows.size() < mostListed && !m_hidden.contains(problem.categoryId))
-                rows.push_back({source, problem});
+            if (m_hidden.contains(problem.categoryId))
+                continue;
+            if (listing.rows.size() < mostListed)
+                listing.rows.push_back({source, problem});
+            else
+                ++listing.unlisted;
         }
     }
-    return rows;
+    return listing;
 }
 
 void ProblemsModel::recount()
@@ -129,9 +133,10 @@ int ProblemsModel::shownCount() const
 ListedProblem ProblemsModel::problemAt(const QModelIndex& index) const
 {
     const auto* const group = static_cast<const Group*>(index.internalPointer());
-    if (!group)
+    const auto place = static_cast<std::size_t>(index.row());
+    if (!group || place >= group->listing.rows.size())
         return {};
-    const Row& row = group->rows[static_cast<std::size_t>(index.row())];
+    const Row& row = group->listing.rows[place];
     return {row.source, group->object, &row.problem};
 }
 
@@ -170,7 +175,7 @@ int ProblemsModel::rowCount(const QModelIndex& parent) const
         return static_cast<int>(m_groups.size());
     if (parent.internalPointer())
         return 0;
-    return static_cast<int>(m_groups[static_cast<std::size_t>(parent.row())]->rows.size());
+    return m_groups[static_cast<std::size_t>(parent.row())]->listing.rowCount();
 }
 
 int ProblemsModel::columnCount(const QModelIndex&) const
@@ -197,8 +202,12 @@ QVariant ProblemsModel::data(const QModelIndex& index, int role) const
     if (!index.isValid())
         return {};
     const auto* const parentGroup = static_cast<const Group*>(index.internalPointer());
-    if (parentGroup)
-        return problemData(*parentGroup, parentGroup->rows[static_cast<std::size_t>(index.row())], role);
+    if (parentGroup) {
+        const std::vector<Row>& rows = parentGroup->listing.rows;
+        const auto row = static_cast<std::size_t>(index.row());
+        return row < rows.size() ? problemData(*parentGroup, rows[row], role)
+                                 : unlistedData(*parentGroup, role);
+    }
     const Group& group = *m_groups[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
@@ -208,7 +217,7 @@ QVariant ProblemsModel::data(const QModelIndex& index, int role) const
     case TreeRole::IdRole:
         return group.object.toString();
     case TreeRole::CountRole:
-        return QLocale().toString(group.rows.size());
+        return QLocale().toString(group.listing.problemCount());
     default:
         return {};
     }
@@ -229,6 +238,19 @@ QVariant ProblemsModel::problemData(const Group& group, const Row& row, int role
             group.object.toString(), problem.categoryId, QString::number(problem.ordinal), problem.text);
     case TreeRole::DotRole:
         return row.source->colorOf(problem.categoryId);
+    default:
+        return {};
+    }
+}
+
+QVariant ProblemsModel::unlistedData(const Group& group, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+        return tr("%Ln more. Settle these first, or hide kinds.", nullptr, group.listing.unlisted);
+    case TreeRole::IdRole:
+        return u"%1 unlisted"_s.arg(group.object.toString());
     default:
         return {};
     }

@@ -21,8 +21,10 @@ struct ListedProblem
     const Problem* problem = nullptr;
 };
 
-/** Objects with problems, and under each its problems in their order. Those of hidden categories are left
- * out. */
+/**
+ * Objects with problems, and under each its problems in their order. Those of hidden categories are left
+ * out; of very many in one object the first are listed, and a last row says how many more there are.
+ */
 class ProblemsModel final : public QAbstractItemModel
 {
     Q_OBJECT
@@ -42,7 +44,7 @@ public:
     /** How many there are by category, hidden ones included. */
     [[nodiscard]] const QHash<QString, int>& counts() const { return m_counts; }
     [[nodiscard]] int shownCount() const;
-    /** None for the row of an object. */
+    /** None for the row of an object, or for the one that says how many more there are. */
     [[nodiscard]] ListedProblem problemAt(const QModelIndex& index) const;
     /** The object of the row, or that its problem is in. */
     [[nodiscard]] core::ContentId objectAt(const QModelIndex& index) const;
@@ -63,20 +65,29 @@ private:
         ProblemSource* source;
         Problem problem;
     };
+    struct Listing
+    {
+        std::vector<Row> rows;
+        int unlisted = 0;
+
+        [[nodiscard]] int problemCount() const { return static_cast<int>(rows.size()) + unlisted; }
+        [[nodiscard]] int rowCount() const { return static_cast<int>(rows.size()) + (unlisted > 0 ? 1 : 0); }
+    };
     struct Group
     {
         int row;
         core::ContentId object;
-        std::vector<Row> rows;
+        Listing listing;
     };
 
     void rebuild();
     void refresh(const std::vector<core::ContentId>& objects);
     /** Replaces the rows of an object's group; false when that is not enough. */
     [[nodiscard]] bool refreshRows(const core::ContentId& object);
-    [[nodiscard]] std::vector<Row> rowsOf(const core::ContentId& object) const;
+    [[nodiscard]] Listing listingOf(const core::ContentId& object) const;
     void recount();
     [[nodiscard]] QVariant problemData(const Group& group, const Row& row, int role) const;
+    [[nodiscard]] QVariant unlistedData(const Group& group, int role) const;
     [[nodiscard]] QString titleOf(const Group& group) const;
     [[nodiscard]] QIcon iconOf(const Group& group) const;
 

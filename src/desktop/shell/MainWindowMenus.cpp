@@ -160,6 +160,10 @@ void MainWindow::addReadAloud(QMenu& menu)
         action->setChecked(m_readAloud->isReading());
     });
     connect(m_readAloud, &speech::ReadAloud::readingChanged, action, &QAction::setChecked);
+    connect(m_readAloud, &speech::ReadAloud::failed, this, [this](const QString& reason) {
+        const QString advice = tr("The system's speech broke off. Check its voices, then read aloud again.");
+        say(reason.isEmpty() ? advice : tr("%1 It says: %2").arg(advice, reason));
+    });
     m_projectActions.append(action);
 }
 
@@ -179,8 +183,17 @@ void MainWindow::readAloud()
     if (!cursor.hasSelection())
         cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
     const QLocale language = m_proofreading->spokenLanguageOf(page->editedDocument());
-    if (!m_readAloud->read(cursor.selectedText(), language))
+    switch (m_readAloud->read(cursor.selectedText(), language)) {
+    case speech::ReadingStart::Reading:
+        break;
+    case speech::ReadingStart::NothingToRead:
+        say(editor->textCursor().hasSelection() ? tr("There is nothing to read in what is selected.")
+                                                : tr("There is nothing to read behind the cursor."));
+        break;
+    case speech::ReadingStart::NoVoice:
         say(tr("No voice is installed. Install a speech engine for your system to have texts read aloud."));
+        break;
+    }
 }
 
 void MainWindow::addProofreadingActions(QMenu& menu)

@@ -130,7 +130,7 @@ void StatusStrip::refreshWords()
         const qint64 today = m_writing.wordsToday();
         m_dailyTarget->setValue(static_cast<int>(std::clamp<qint64>(today, 0, target) * steps / target));
         m_dailyTarget->setToolTip(
-            tr("%1 of %2 words of the daily target").arg(grouped(today), grouped(target)));
+            tr("%1 of %Ln words of the daily target", nullptr, static_cast<int>(target)).arg(grouped(today)));
     }
 }
 

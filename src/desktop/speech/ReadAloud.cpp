@@ -72,23 +72,33 @@ ReadAloud::~ReadAloud()
     }
 }
 
+bool ReadAloud::findSpeech()
+{
+    // One that failed stays as it is, and another try may well succeed.
+    if (m_speech && m_speech->state() == QTextToSpeech::Error)
+        delete std::exchange(m_speech, nullptr);
+    if (m_speech)
+        return true;
+    QStringList engines = QTextToSpeech::availableEngines();
+    engines.removeAll(u"mock"_s);
+    if (engines.isEmpty())
+        return false;
+    m_speech = new QTextToSpeech(engines.constFirst(), this);
+    m_systemLocale = m_speech->locale();
+    connect(m_speech, &QTextToSpeech::stateChanged, this, [this](QTextToSpeech::State state) {
+        if (state == QTextToSpeech::Ready && m_isReading) {
+            sayNext();
+        } else if (state == QTextToSpeech::Error && m_isReading) {
+            stop();
+            emit failed(m_speech->errorString());
+        }
+    });
+    return m_speech->state() != QTextToSpeech::Error;
+}
+
 bool ReadAloud::findVoice(const QLocale& language)
 {
-    if (!m_speech) {
-        QStringList engines = QTextToSpeech::availableEngines();
-        engines.removeAll(u"mock"_s);
-        if (engines.isEmpty())
-            return false;
-        m_speech = new QTextToSpeech(engines.constFirst(), this);
-        m_systemLocale = m_speech->locale();
-        connect(m_speech, &QTextToSpeech::stateChanged, this, [this](QTextToSpeech::State state) {
-            if (state == QTextToSpeech::Ready && m_isReading)
-                sayNext();
-            else if (state == QTextToSpeech::Error)
-                stop();
-        });
-    }
-    if (m_speech->state() == QTextToSpeech::Error)
+    if (!findSpeech())
         return false;
     // The text before this one may have been in another language.
     const QLocale locale = nearestLocale(m_speech->availableLocales(), language).value_or(m_systemLocale);
@@ -97,17 +107,18 @@ bool ReadAloud::findVoice(const QLocale& language)
     return !m_speech->availableVoices().isEmpty();
 }
 
-bool ReadAloud::read(const QString& text, const QLocale& language)
+ReadingStart ReadAloud::read(const QString& text, const QLocale& language)
 {
     stop();
+    const QStringList pieces = speakablePieces(text);
+    if (pieces.isEmpty())
+        return ReadingStart::NothingToRead;
     if (!findVoice(language))
-        return false;
-    m_waiting = speakablePieces(text);
-    if (!m_waiting.isEmpty()) {
-        setReading(true);
-        sayNext();
-    }
-    return true;
+        return ReadingStart::NoVoice;
+    m_waiting = pieces;
+    setReading(true);
+    sayNext();
+    return ReadingStart::Reading;
 }
 
 void ReadAloud::sayNext()

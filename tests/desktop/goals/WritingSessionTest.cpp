@@ -3,9 +3,16 @@
 #include "app/planning/WritingProgress.h"
 #include "core/document/DocumentCommands.h"
 #include "desktop/goals/GoalsDialog.h"
+#include "desktop/goals/ProgressChart.h"
+#include "desktop/shell/Translations.h"
 #include "desktop/support/TestDesk.h"
 
+#include <QSpinBox>
+#include <QTest>
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace tw::desktop::goals {
 
@@ -83,6 +90,38 @@ TEST_F(WritingSessionTest, theGoalOfTheDialogIsWhatWasSet)
     EXPECT_EQ(
         text, u"400 words written, 20 of them today. 600 words to go: 62 a day for 10 days. "
               "Words on 2 days in a row."_s);
+}
+
+TEST_F(WritingSessionTest, oneWordIsNotSeveral)
+{
+    const shell::Translations english{QLocale(QLocale::English)};
+    const struct
+    {
+        core::writing::WritingGoal goal;
+        qint64 written;
+        const char16_t* text;
+    } cases[] = {
+        {{}, 1, u"1 word written, 0 of them today."},
+        {{0, 2, {}}, 1, u"1 word written, 0 of them today. 1 word to go."},
+        {{0, 900, {}}, 0, u"0 words written, 0 of them today. 900 words to go."},
+        {{0, 3, u"2026-03-09"_s},
+         2,
+         u"2 words written, 0 of them today. The deadline has passed with 1 word to go."},
+        {{0, 3, u"2026-03-10"_s}, 2, u"2 words written, 0 of them today. 1 word to go: 1 a day for 1 day."},
+    };
+    for (const auto& sample : cases)
+        EXPECT_EQ(paceText({sample.goal, {}, sample.written, 0, today}), QString::fromUtf16(sample.text));
+
+    const GoalsDialog dialog(desk.context, {{1, 0, {}}, {{u"2026-03-10"_s, 1}}, 1, 1, today}, nullptr);
+    EXPECT_EQ(dialog.findChild<ProgressChart*>()->accessibleDescription(), u"1 word in 30 days"_s);
+    const auto boxes = dialog.findChildren<QSpinBox*>();
+    const auto daily = std::ranges::find(boxes, 1, &QSpinBox::value);
+    ASSERT_NE(daily, boxes.end());
+    EXPECT_EQ((*daily)->text(), u"1 word"_s);
+    (*daily)->selectAll();
+    QTest::keyClicks(*daily, u"15"_s);
+    EXPECT_EQ((*daily)->text(), u"15 words"_s) << "typed through one";
+    EXPECT_EQ(dialog.goal().dailyWordTarget, 15);
 }
 
 } // namespace tw::desktop::goals

@@ -8,12 +8,16 @@
 #include "desktop/trees/TreeRoles.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QMimeData>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 
 namespace tw::desktop::manuscript {
@@ -286,6 +290,54 @@ TEST_F(ManuscriptTest, panelWorksByKeyboard)
     EXPECT_EQ(tree.model()->rowCount(), 2);
     removeDocuments(desk.session, {part, notes});
     EXPECT_TRUE(hint.text().contains(u"Press +"_s)) << hint.text().toStdString();
+}
+
+TEST_F(ManuscriptTest, whatIsLockedSaysSoWhateverIsAsked)
+{
+    desk.document(two).setStatus(u"Draft"_s);
+    desk.document(two).setLocked(true);
+    desk.announce();
+    ManuscriptPanel panel(desk.context, nullptr);
+    panel.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&panel));
+    trees::NavigatorTree& tree = panel.tree();
+    tree.setFocus();
+    desk.navigator.setCurrent(two);
+    QString said;
+    QObject::connect(
+        &desk.navigator, &shell::Navigator::said, &panel, [&said](const QString& text) { said = text; });
+    const auto press = [&tree](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        return [&tree, key, modifiers] { QTest::keyClick(&tree, key, modifiers); };
+    };
+    const auto chooseNoStatus = [&tree] {
+        QTimer::singleShot(0, &tree, [] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_TRUE(menu);
+            menu->actions().constLast()->menu()->actions().constLast()->trigger();
+            menu->close();
+        });
+        emit tree.customContextMenuRequested({});
+    };
+    const struct
+    {
+        std::function<void()> ask;
+        QString toDo;
+    } cases[] = {
+        {press(Qt::Key_F2), u"rename it"_s},
+        {press(Qt::Key_Up, Qt::ControlModifier), u"move it"_s},
+        {press(Qt::Key_Delete), u"remove it"_s},
+        {chooseNoStatus, u"set its status"_s},
+    };
+    for (const auto& sample : cases) {
+        said.clear();
+        sample.ask();
+        EXPECT_EQ(said, u"“Two” is locked. Unlock it in the inspector to %1."_s.arg(sample.toDo));
+    }
+    EXPECT_EQ(shape(), u"Part(One Two Three) Notes"_s);
+    EXPECT_EQ(desk.document(two).status(), u"Draft"_s);
+    desk.document(two).setLocked(false);
+    chooseNoStatus();
+    EXPECT_EQ(desk.document(two).status(), QString());
 }
 
 } // namespace tw::desktop::manuscript

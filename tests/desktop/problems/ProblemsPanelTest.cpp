@@ -3,6 +3,7 @@
 #include "desktop/problems/ProblemsModel.h"
 #include "desktop/problems/ProblemsPanel.h"
 #include "desktop/proofreading/ProseProblems.h"
+#include "desktop/trees/TreeRoles.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -91,6 +92,33 @@ TEST_F(ProblemsPanelTest, followsEditsIgnoringAndWords)
     QTest::keyClicks(&page->editor(), u" taaken"_s);
     desk.session.commitPendingEdits();
     EXPECT_EQ(listed(), (QStringList{u"Chapter"_s, u"- taaken"_s}));
+}
+
+TEST_F(ProblemsPanelTest, ofVeryManyTheLastRowSaysHowManyMoreThereAre)
+{
+    open(u"dawnn"_s + u"\n\nshipp"_s.repeated(599));
+    panel.show();
+    panel.setObject(id);
+    prose.finishNow();
+    const ProblemsModel& model = panel.model();
+    const auto group = [&model] { return model.index(0, 0); };
+    EXPECT_EQ(group().data(trees::CountRole).toString(), u"600"_s);
+    ASSERT_EQ(model.rowCount(group()), 501);
+    const auto last = [&] { return model.index(model.rowCount(group()) - 1, 0, group()); };
+    EXPECT_EQ(last().data().toString(), u"100 more. Settle these first, or hide kinds."_s);
+    EXPECT_TRUE(model.problemAt(model.index(499, 0, group())).problem);
+    EXPECT_FALSE(model.problemAt(last()).problem);
+    auto* const tree = panel.findChild<QTreeView*>();
+    const int before = page->editor().textCursor().position();
+    tree->setCurrentIndex(tree->model()->index(500, 0, tree->model()->index(0, 0)));
+    QTest::keyClick(tree, Qt::Key_Return);
+    emit tree->customContextMenuRequested({});
+    EXPECT_EQ(page->editor().textCursor().position(), before);
+
+    prose.ignore(id, *model.problemAt(model.index(0, 0, group())).problem);
+    prose.finishNow();
+    EXPECT_EQ(last().data().toString(), u"99 more. Settle these first, or hide kinds."_s);
+    EXPECT_EQ(model.shownCount(), 599);
 }
 
 TEST_F(ProblemsPanelTest, goesToTheRightOneOfEqualWordsAndReplacesIt)

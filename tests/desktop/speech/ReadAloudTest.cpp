@@ -30,4 +30,12 @@ TEST(ReadAloud, theVoiceSpeaksTheLanguageOfTheText)
     EXPECT_EQ(nearestLocale(voices, QLocale(u"fr_FR"_s)), std::nullopt);
 }
 
+TEST(ReadAloud, aTextWithoutWordsIsToldFromAMissingVoice)
+{
+    ReadAloud reader(nullptr);
+    for (const QString& text : {QString(), u" \u2029* * *\u2029\uFFFC"_s})
+        EXPECT_EQ(reader.read(text, QLocale(QLocale::English)), ReadingStart::NothingToRead);
+    EXPECT_FALSE(reader.isReading());
+}
+
 } // namespace tw::desktop::speech

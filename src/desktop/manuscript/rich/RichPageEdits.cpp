@@ -17,6 +17,7 @@ using markup::RunStyle;
 
 namespace {
 
+/** Of what is indented here; a file may have it deeper. */
 constexpr qint32 deepestIndent = 8;
 
 bool isOn(const RunStyle& style, TextToggle toggle)
@@ -233,7 +234,9 @@ void RichPage::indentBlocks(int step)
             shape.level = std::clamp(shape.level + step, 0, markup::deepestLevel);
             shape.indent = -1;
         } else if (shape.kind == BlockKind::Paragraph || shape.kind == BlockKind::Heading) {
-            shape.attributes.indent = std::clamp(shape.attributes.indent + step, 0, deepestIndent);
+            qint32& indent = shape.attributes.indent;
+            const qint32 room = std::max(deepestIndent, indent) - indent;
+            indent = std::max(0, indent + std::min(step, room));
         }
     });
 }

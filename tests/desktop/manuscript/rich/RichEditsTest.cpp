@@ -63,6 +63,8 @@ TEST_F(RichPageTest, everyCommandIsOneNamedStep)
         {u"- one\n- two", u"two", [](RichPage& written) { written.indentBlocks(1); }, u"- one\n    - two"},
         {u"one\n\ntwo", u"two", [](RichPage& written) { written.indentBlocks(1); },
          u"one\n\ntwo {.tw indent=1}"},
+        {u"one\n\ntwo {.tw indent=12}", u"two", [](RichPage& written) { written.indentBlocks(-1); },
+         u"one\n\ntwo {.tw indent=11}"},
     };
     for (const auto& sample : cases) {
         open(QString::fromUtf16(sample.before));
@@ -74,6 +76,17 @@ TEST_F(RichPageTest, everyCommandIsOneNamedStep)
         EXPECT_EQ(body(), QString::fromUtf16(sample.before));
         EXPECT_EQ(page->currentBody().text, QString::fromUtf16(sample.before));
         EXPECT_FALSE(desk.session.undoText() == u"Step"_s) << "one step";
+    }
+}
+
+TEST_F(RichPageTest, indentingTakesNothingFromWhatIsDeeperThanItGoes)
+{
+    for (const QString& text :
+         {u"two {.tw indent=8}"_s, u"two {.tw indent=12}"_s, u"two {.tw indent=2147483647}"_s}) {
+        open(text);
+        goTo(u"two"_s);
+        page->indentBlocks(1);
+        EXPECT_EQ(body(), text);
     }
 }
 
