@@ -2,7 +2,6 @@
 
 #include "core/document/Document.h"
 #include "desktop/manuscript/BodyEditor.h"
-#include "desktop/manuscript/TypingBursts.h"
 #include "desktop/manuscript/rich/RichPage.h"
 #include "desktop/screenplay/ScreenplayPage.h"
 #include "desktop/shell/Navigator.h"
@@ -50,44 +49,37 @@ SceneSlot::SceneSlot(const shell::DeskContext& desk, const core::ContentId& docu
 SceneSlot::~SceneSlot()
 {
     // The editor loses the focus while it dies; nobody is left to hear of it.
-    if (m_editor)
-        m_editor->blockSignals(true);
-}
-
-bool SceneSlot::isScreenplay() const
-{
-    const auto* const document = m_desk.session.project().findAs<Document>(m_documentId);
-    return document && document->documentKind() == core::document::DocumentKind::Screenplay;
+    if (m_editor.widget)
+        m_editor.widget->blockSignals(true);
 }
 
 PageStyle SceneSlot::style() const
 {
     const PageStyle style = manuscript::pageStyleFrom(m_desk.settings);
-    return isScreenplay() ? screenplay::screenplayStyle(style) : style;
+    const bool isScreenplay =
+        manuscript::styledViewOf(m_desk.session, m_documentId) == manuscript::TextView::Screenplay;
+    return isScreenplay ? screenplay::screenplayStyle(style) : style;
 }
 
 BodyEditor& SceneSlot::wake()
 {
-    if (m_editor)
-        return *m_editor;
+    if (m_editor.widget)
+        return *m_editor.widget;
     setMinimumHeight(0);
-    m_isEditorForScreenplay = isScreenplay();
-    if (m_isEditorForScreenplay) {
-        auto* const page = new screenplay::ScreenplayPage(m_desk.themes, this);
-        page->setPageStyle(style());
-        m_bursts = new manuscript::TypingBursts(m_desk.session, m_documentId, *page);
-        m_editor = page;
-    } else {
-        auto* const page = new manuscript::rich::RichPage(m_desk, m_documentId, this);
-        m_bursts = &page->bursts();
-        m_editor = page;
-    }
-    m_layout->insertWidget(1, m_editor);
-    m_editor->resize(width(), m_editor->height());
-    m_editor->setPartOfLongerText();
-    m_editor->show();
-    emit editorMade(m_editor);
-    return *m_editor;
+    m_editor = manuscript::makeDocumentEditor(
+        m_desk, m_documentId, manuscript::styledViewOf(m_desk.session, m_documentId), this);
+    if (m_editor.rich)
+        // Notes are written where the document is by itself.
+        connect(m_editor.rich, &manuscript::rich::RichPage::footnoteActivated, this, [this] {
+            m_desk.navigator.open(m_documentId);
+        });
+    BodyEditor& widget = *m_editor.widget;
+    m_layout->insertWidget(1, &widget);
+    widget.resize(width(), widget.height());
+    widget.setPartOfLongerText();
+    widget.show();
+    emit editorMade(&widget);
+    return widget;
 }
 
 void SceneSlot::refresh()
@@ -98,10 +90,11 @@ void SceneSlot::refresh()
     const QString ink = m_desk.themes.theme().color(theme::Role::QuietInk).name();
     m_title->setText(u"<a href=\"#\" style=\"color:%1; text-decoration:none\">%2</a>"_s.arg(
         ink, shell::objectTitle(*document).toHtmlEscaped()));
-    if (m_editor && m_isEditorForScreenplay != isScreenplay()) {
-        m_editor->blockSignals(true);
-        m_editor->deleteLater();
-        m_editor = nullptr;
+    const auto view = m_editor.screenplay ? manuscript::TextView::Screenplay : manuscript::TextView::Rich;
+    if (m_editor.widget && view != manuscript::styledViewOf(m_desk.session, m_documentId)) {
+        m_editor.widget->blockSignals(true);
+        m_editor.widget->deleteLater();
+        m_editor = {};
         wake();
     }
     layOutTitle();
@@ -110,8 +103,8 @@ void SceneSlot::refresh()
 
 void SceneSlot::applyStyle()
 {
-    if (m_editor)
-        m_editor->setPageStyle(style());
+    if (m_editor.widget)
+        manuscript::applyEditorSettings(m_editor, m_desk.settings);
     layOutTitle();
 }
 
@@ -130,7 +123,7 @@ void SceneSlot::layOutTitle()
     const int side = manuscript::sheetMargins(style(), width()).text;
     m_layout->setContentsMargins(0, spaceAbove, 0, spaceBelow);
     m_title->setContentsMargins(side, 0, side, 0);
-    if (!m_editor)
+    if (!m_editor.widget)
         setMinimumHeight(likelyHeight());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/manuscript/DocumentEditor.h"
 #include "desktop/manuscript/PageStyle.h"
 #include "desktop/shell/DeskContext.h"
 
@@ -9,11 +10,6 @@
 
 class QLabel;
 class QVBoxLayout;
-
-namespace tw::desktop::manuscript {
-class BodyEditor;
-class TypingBursts;
-} // namespace tw::desktop::manuscript
 
 namespace tw::desktop::composition {
 
@@ -31,11 +27,11 @@ public:
 
     [[nodiscard]] const core::ContentId& documentId() const { return m_documentId; }
     /** Null until it was needed. */
-    [[nodiscard]] manuscript::BodyEditor* editor() const { return m_editor; }
+    [[nodiscard]] manuscript::BodyEditor* editor() const { return m_editor.widget; }
     /** Makes the editor when it is not there. */
     manuscript::BodyEditor& wake();
     /** What carries typing from the editor to the document; null as the editor. */
-    [[nodiscard]] manuscript::TypingBursts* bursts() const { return m_bursts; }
+    [[nodiscard]] manuscript::TypingBursts* bursts() const { return m_editor.bursts; }
 
     /** Title and height follow the project. */
     void refresh();
@@ -50,7 +46,6 @@ protected:
 
 private:
     [[nodiscard]] manuscript::PageStyle style() const;
-    [[nodiscard]] bool isScreenplay() const;
     [[nodiscard]] int likelyHeight() const;
     void layOutTitle();
 
@@ -58,9 +53,7 @@ private:
     core::ContentId m_documentId;
     QVBoxLayout* m_layout;
     QLabel* m_title;
-    manuscript::BodyEditor* m_editor = nullptr;
-    manuscript::TypingBursts* m_bursts = nullptr;
-    bool m_isEditorForScreenplay = false;
+    manuscript::DocumentEditor m_editor;
 };
 
 } // namespace tw::desktop::composition

@@ -4,25 +4,19 @@
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/FindBar.h"
 #include "desktop/manuscript/ManuscriptModel.h"
-#include "desktop/manuscript/MarkdownPage.h"
 #include "desktop/manuscript/NotesPane.h"
 #include "desktop/manuscript/PassageFinder.h"
 #include "desktop/manuscript/TypingBursts.h"
-#include "desktop/manuscript/TypingSettings.h"
 #include "desktop/manuscript/rich/RichPage.h"
 #include "desktop/screenplay/ScreenplayPage.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 
-#include <QDesktopServices>
-#include <QImage>
 #include <QLabel>
 #include <QLocale>
 #include <QScrollBar>
 #include <QSettings>
-#include <QTemporaryDir>
-#include <QUrl>
 #include <QVBoxLayout>
 
 #include <chrono>
@@ -38,7 +32,6 @@ namespace {
 /** A selection that is being drawn is not counted at every step. */
 constexpr auto selectionRest = 150ms;
 constexpr QLatin1StringView sourceKey = "editor/sourceMode"_L1;
-constexpr QLatin1StringView typewriterKey = "editor/typewriterScrolling"_L1;
 
 } // namespace
 
@@ -59,13 +52,15 @@ DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId
     m_findBar = new FindBar(desk, this);
     m_layout->addWidget(m_findBar);
     connect(m_notes, &NotesPane::referenceRequested, this, [this](const QString& label) {
-        if (m_richPage && !m_richPage->showFootnoteReference(label))
+        if (m_editor.rich && !m_editor.rich->showFootnoteReference(label))
             m_desk.navigator.say(tr("Nothing in the text refers to note %1.").arg(label));
     });
     m_selectionRest.setSingleShot(true);
     m_selectionRest.setInterval(selectionRest);
     connect(&m_selectionRest, &QTimer::timeout, this, &DocumentPage::recountSelection);
-    makeEditor(desk.settings.value(sourceKey).toBool() ? TextView::MarkdownSource : styledView());
+    makeEditor(
+        desk.settings.value(sourceKey).toBool() ? TextView::MarkdownSource
+                                                : styledViewOf(m_desk.session, objectId()));
     connect(&desk.session, &shell::ProjectSession::changed, this, &DocumentPage::followChanges);
     connect(&desk.session, &shell::ProjectSession::aboutToSave, this, &DocumentPage::rememberPlace);
     showLock();
@@ -75,41 +70,24 @@ DocumentPage::DocumentPage(const shell::DeskContext& desk, const core::ContentId
 DocumentPage::~DocumentPage()
 {
     // The editor loses the focus while it dies; nobody is left to hear of it.
-    m_editor->blockSignals(true);
+    m_editor.widget->blockSignals(true);
 }
 
 void DocumentPage::makeEditor(TextView view)
 {
-    TypingBursts* bursts = nullptr;
-    if (view == TextView::Rich) {
-        m_richPage = new rich::RichPage(m_desk, objectId(), this);
-        m_editor = m_richPage;
-        bursts = &m_richPage->bursts();
-        connect(m_richPage, &rich::RichPage::footnoteActivated, this, &DocumentPage::showNote);
-        connect(m_richPage, &rich::RichPage::linkActivated, this, &DocumentPage::openLink);
-        connect(m_richPage, &rich::RichPage::entityActivated, &m_desk.navigator, &shell::Navigator::open);
-        connect(m_richPage, &rich::RichPage::imagePasted, this, &DocumentPage::keepImage);
-    } else if (view == TextView::Screenplay) {
-        m_screenplay = new screenplay::ScreenplayPage(m_desk.themes, this);
-        m_editor = m_screenplay;
-        m_screenplay->setPageStyle(screenplay::screenplayStyle(pageStyleFrom(m_desk.settings)));
-        bursts = new TypingBursts(m_desk.session, objectId(), *m_screenplay);
+    m_editor = makeDocumentEditor(m_desk, objectId(), view, this);
+    if (m_editor.rich)
+        connect(m_editor.rich, &rich::RichPage::footnoteActivated, this, &DocumentPage::showNote);
+    if (m_editor.screenplay)
         connect(
-            m_screenplay, &screenplay::ScreenplayPage::elementChanged, this,
+            m_editor.screenplay, &screenplay::ScreenplayPage::elementChanged, this,
             &DocumentPage::statusTextChanged);
-        showRevision();
-    } else {
-        auto* const page = new MarkdownPage(m_desk.themes, this);
-        page->setPageStyle(pageStyleFrom(m_desk.settings));
-        m_editor = page;
-        bursts = new TypingBursts(m_desk.session, objectId(), *page);
-    }
-    m_layout->insertWidget(1, m_editor, 1);
-    setFocusProxy(m_editor);
-    connect(m_editor, &BodyEditor::zoomStepRequested, this, &DocumentPage::stepZoom);
-    connect(bursts, &TypingBursts::settled, this, &DocumentPage::recount);
-    connect(m_editor, &QTextEdit::selectionChanged, &m_selectionRest, qOverload<>(&QTimer::start));
-    m_findBar->setEditor(m_editor, bursts);
+    m_layout->insertWidget(1, m_editor.widget, 1);
+    setFocusProxy(m_editor.widget);
+    connect(m_editor.widget, &BodyEditor::zoomStepRequested, this, &DocumentPage::stepZoom);
+    connect(m_editor.bursts, &TypingBursts::settled, this, &DocumentPage::recount);
+    connect(m_editor.widget, &QTextEdit::selectionChanged, &m_selectionRest, qOverload<>(&QTimer::start));
+    m_findBar->setEditor(m_editor.widget, m_editor.bursts);
     recount();
     setFocusMode(m_isFocusMode);
 }
@@ -131,25 +109,25 @@ void DocumentPage::hideEvent(QHideEvent* event)
 void DocumentPage::showPassage(const shell::TextPassage& passage)
 {
     // Both views hold what is shown, so the place is found by what stands there.
-    const auto place = findPassage(m_editor->document()->toPlainText(), passage);
+    const auto place = findPassage(m_editor.widget->document()->toPlainText(), passage);
     if (!place)
         return;
     m_isPlaceRestored = true;
-    QTextCursor cursor = m_editor->textCursor();
+    QTextCursor cursor = m_editor.widget->textCursor();
     cursor.setPosition(place->position);
     cursor.setPosition(place->position + place->length, QTextCursor::KeepAnchor);
-    m_editor->setTextCursor(cursor);
-    m_editor->ensureCursorVisible();
+    m_editor.widget->setTextCursor(cursor);
+    m_editor.widget->ensureCursorVisible();
 }
 
 void DocumentPage::rememberPlace()
 {
     if (!m_isPlaceRestored)
         return;
-    const QTextCursor cursor = m_editor->textCursor();
+    const QTextCursor cursor = m_editor.widget->textCursor();
     m_places.remember(
-        objectId(),
-        {cursor.position(), m_editor->document()->characterCount(), m_editor->cursorRect().top()});
+        objectId(), {cursor.position(), m_editor.widget->document()->characterCount(),
+                     m_editor.widget->cursorRect().top()});
 }
 
 void DocumentPage::restorePlace()
@@ -160,42 +138,27 @@ void DocumentPage::restorePlace()
     m_isPlaceRestored = true;
     const auto place = m_places.find(objectId());
     // Somebody was faster: what is typed or chosen already stays.
-    if (!place || m_editor->textCursor().position() != 0)
+    if (!place || m_editor.widget->textCursor().position() != 0)
         return;
-    QTextCursor cursor = m_editor->textCursor();
-    cursor.setPosition(place->positionIn(m_editor->document()->characterCount()));
-    m_editor->setTextCursor(cursor);
-    m_editor->ensureCursorVisible();
-    QScrollBar& bar = *m_editor->verticalScrollBar();
-    bar.setValue(bar.value() + m_editor->cursorRect().top() - place->top);
+    QTextCursor cursor = m_editor.widget->textCursor();
+    cursor.setPosition(place->positionIn(m_editor.widget->document()->characterCount()));
+    m_editor.widget->setTextCursor(cursor);
+    m_editor.widget->ensureCursorVisible();
+    QScrollBar& bar = *m_editor.widget->verticalScrollBar();
+    bar.setValue(bar.value() + m_editor.widget->cursorRect().top() - place->top);
 }
 
 TextView DocumentPage::textView() const
 {
-    if (m_screenplay)
+    if (m_editor.screenplay)
         return TextView::Screenplay;
-    return m_richPage ? TextView::Rich : TextView::MarkdownSource;
-}
-
-TextView DocumentPage::styledView() const
-{
-    const auto* const document = m_desk.session.project().findAs<Document>(objectId());
-    const bool isScreenplay =
-        document && document->documentKind() == core::document::DocumentKind::Screenplay;
-    return isScreenplay ? TextView::Screenplay : TextView::Rich;
+    return m_editor.rich ? TextView::Rich : TextView::MarkdownSource;
 }
 
 void DocumentPage::setSourceShown(bool isShown)
 {
     m_desk.settings.setValue(sourceKey, isShown);
-    replaceEditor(isShown ? TextView::MarkdownSource : styledView());
-}
-
-void DocumentPage::showRevision()
-{
-    const auto* const document = m_desk.session.project().findAs<Document>(objectId());
-    if (m_screenplay && document)
-        m_screenplay->setRevisionBaseline(document->revisionBaseline());
+    replaceEditor(isShown ? TextView::MarkdownSource : styledViewOf(m_desk.session, objectId()));
 }
 
 void DocumentPage::replaceEditor(TextView view)
@@ -203,20 +166,18 @@ void DocumentPage::replaceEditor(TextView view)
     if (view == textView())
         return;
     m_desk.session.commitPendingEdits();
-    const bool hadFocus = m_editor->hasFocus();
-    const double place = static_cast<double>(m_editor->textCursor().position()) /
-                         std::max(1, m_editor->document()->characterCount());
-    m_editor->blockSignals(true);
-    delete m_editor;
-    m_richPage = nullptr;
-    m_screenplay = nullptr;
+    const bool hadFocus = m_editor.widget->hasFocus();
+    const double place = static_cast<double>(m_editor.widget->textCursor().position()) /
+                         std::max(1, m_editor.widget->document()->characterCount());
+    m_editor.widget->blockSignals(true);
+    delete m_editor.widget;
     makeEditor(view);
-    QTextCursor cursor = m_editor->textCursor();
-    cursor.setPosition(static_cast<int>(place * (m_editor->document()->characterCount() - 1)));
+    QTextCursor cursor = m_editor.widget->textCursor();
+    cursor.setPosition(static_cast<int>(place * (m_editor.widget->document()->characterCount() - 1)));
     cursor.movePosition(QTextCursor::StartOfWord);
-    m_editor->setTextCursor(cursor);
-    m_editor->show();
-    m_editor->ensureCursorVisible();
+    m_editor.widget->setTextCursor(cursor);
+    m_editor.widget->show();
+    m_editor.widget->ensureCursorVisible();
     if (hadFocus)
         takeFocus();
     showLock();
@@ -225,20 +186,15 @@ void DocumentPage::replaceEditor(TextView view)
 
 void DocumentPage::applyStyle()
 {
-    const PageStyle style = pageStyleFrom(m_desk.settings);
-    m_editor->setPageStyle(m_screenplay ? screenplay::screenplayStyle(style) : style);
-    if (m_richPage) {
-        m_richPage->setTypingRules(typingRulesFrom(m_desk.settings));
-        m_richPage->setMentionsShown(m_desk.settings.value(typingkeys::mentions).toBool());
-    }
-    m_editor->setTypewriterScrolling(m_isFocusMode || m_desk.settings.value(typewriterKey).toBool());
+    applyEditorSettings(m_editor, m_desk.settings);
+    m_editor.widget->setTypewriterScrolling(m_isFocusMode || isTypewriterScrolling(m_desk.settings));
 }
 
 void DocumentPage::setFocusMode(bool isOn)
 {
     m_isFocusMode = isOn;
-    if (m_richPage)
-        m_richPage->setFocusedOnParagraph(isOn);
+    if (m_editor.rich)
+        m_editor.rich->setFocusedOnParagraph(isOn);
     applyStyle();
     showNotes();
 }
@@ -263,7 +219,7 @@ QIcon DocumentPage::icon() const
 
 void DocumentPage::takeFocus()
 {
-    m_editor->setFocus(Qt::OtherFocusReason);
+    m_editor.widget->setFocus(Qt::OtherFocusReason);
 }
 
 QString DocumentPage::statusText() const
@@ -276,12 +232,12 @@ QString DocumentPage::statusText() const
     if (document && document->wordCountTarget() > 0)
         return tr("%1 of %Ln words", nullptr, document->wordCountTarget()).arg(QLocale().toString(m_words));
     const QString words = tr("%Ln words", nullptr, static_cast<int>(m_words));
-    if (!m_screenplay)
+    if (!m_editor.screenplay)
         return words;
     return tr("%1 · %2 · %3")
         .arg(
-            screenplay::elementName(m_screenplay->elementAtCursor()), tr("%Ln pages", nullptr, m_pages),
-            words);
+            screenplay::elementName(m_editor.screenplay->elementAtCursor()),
+            tr("%Ln pages", nullptr, m_pages), words);
 }
 
 void DocumentPage::followChanges(const core::project::ProjectChanges& changes)
@@ -290,10 +246,9 @@ void DocumentPage::followChanges(const core::project::ProjectChanges& changes)
         return;
     // The document may have become a screenplay, or none any more.
     if (textView() != TextView::MarkdownSource)
-        replaceEditor(styledView());
+        replaceEditor(styledViewOf(m_desk.session, objectId()));
     showLock();
     showNotes();
-    showRevision();
     emit titleChanged();
 }
 
@@ -304,39 +259,15 @@ void DocumentPage::showNotes()
         return;
     const auto& notes = document->footnotes();
     m_notes->showNotes(
-        notes, m_richPage && !notes.empty() ? m_richPage->footnoteReferences() : QStringList());
+        notes, m_editor.rich && !notes.empty() ? m_editor.rich->footnoteReferences() : QStringList());
     m_notes->setVisible(!notes.empty() && !m_isFocusMode);
 }
 
 void DocumentPage::showNote(const QString& label)
 {
-    if (m_notes->focusNote(label) || (m_richPage && m_richPage->showFootnoteDefinition(label)))
+    if (m_notes->focusNote(label) || (m_editor.rich && m_editor.rich->showFootnoteDefinition(label)))
         return;
     m_desk.navigator.say(tr("Note %1 has no text anywhere in this document.").arg(label));
-}
-
-void DocumentPage::keepImage(const QImage& image)
-{
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(tr("pasted image") + u".png"_s);
-    if (!image.save(file)) {
-        m_desk.navigator.say(tr("The pasted image could not be written. Save it as a file and insert that."));
-        return;
-    }
-    const auto imported = m_desk.session.importAsset(file);
-    if (imported)
-        m_richPage->insertImage(imported.value(), QString());
-    else
-        m_desk.navigator.say(imported.message());
-}
-
-void DocumentPage::openLink(const QString& target)
-{
-    // A text may come from anybody: it leads to pages and mail, never to files or programs.
-    static const QStringList harmlessSchemes{u"http"_s, u"https"_s, u"mailto"_s};
-    const QUrl url(target);
-    if (!harmlessSchemes.contains(url.scheme()) || !QDesktopServices::openUrl(url))
-        m_desk.navigator.say(tr("The link “%1” cannot be opened from here.").arg(target));
 }
 
 void DocumentPage::showLock()
@@ -349,14 +280,14 @@ void DocumentPage::showLock()
 
 void DocumentPage::recount()
 {
-    m_words = m_editor->words();
-    m_pages = m_screenplay ? m_screenplay->pages() : 0;
+    m_words = m_editor.widget->words();
+    m_pages = m_editor.screenplay ? m_editor.screenplay->pages() : 0;
     emit statusTextChanged();
 }
 
 void DocumentPage::recountSelection()
 {
-    m_selectedWords = m_editor->selectedWords();
+    m_selectedWords = m_editor.widget->selectedWords();
     emit statusTextChanged();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/project/ProjectChanges.h"
+#include "desktop/manuscript/DocumentEditor.h"
 #include "desktop/manuscript/ReadingPlaces.h"
 #include "desktop/manuscript/TextPage.h"
 #include "desktop/shell/DeskContext.h"
@@ -14,24 +15,6 @@ namespace tw::desktop::manuscript {
 
 class FindBar;
 class NotesPane;
-class TypingBursts;
-
-} // namespace tw::desktop::manuscript
-
-namespace tw::desktop::screenplay {
-class ScreenplayPage;
-}
-
-namespace tw::desktop::manuscript {
-
-/** How the text of a document is shown. */
-enum class TextView
-{
-    Rich,
-    MarkdownSource,
-    /** Screenplays are shown so unless their source is. */
-    Screenplay,
-};
 
 /** The page of one document in the work area: its text, and what belongs around it. */
 class DocumentPage final : public TextPage
@@ -47,9 +30,9 @@ public:
     void takeFocus() override;
     [[nodiscard]] QString statusText() const override;
 
-    [[nodiscard]] BodyEditor& editor() { return *m_editor; }
-    [[nodiscard]] BodyEditor* currentEditor() const override { return m_editor; }
-    [[nodiscard]] rich::RichPage* richPage() const override { return m_richPage; }
+    [[nodiscard]] BodyEditor& editor() { return *m_editor.widget; }
+    [[nodiscard]] BodyEditor* currentEditor() const override { return m_editor.widget; }
+    [[nodiscard]] rich::RichPage* richPage() const override { return m_editor.rich; }
     [[nodiscard]] core::ContentId editedDocument() const override { return objectId(); }
 
     [[nodiscard]] TextView textView() const;
@@ -77,15 +60,10 @@ private:
     void restorePlace();
     void makeEditor(TextView view);
     void replaceEditor(TextView view);
-    /** How the document is shown unless its source is. */
-    [[nodiscard]] TextView styledView() const;
     void stepZoom(int step);
     void followChanges(const core::project::ProjectChanges& changes);
     void showLock();
     void showNotes();
-    void showRevision();
-    void keepImage(const QImage& image);
-    void openLink(const QString& target);
     void recount();
     void recountSelection();
 
@@ -93,9 +71,7 @@ private:
     ReadingPlaces m_places;
     QVBoxLayout* m_layout;
     QLabel* m_lockNotice;
-    BodyEditor* m_editor = nullptr;
-    rich::RichPage* m_richPage = nullptr;
-    screenplay::ScreenplayPage* m_screenplay = nullptr;
+    DocumentEditor m_editor;
     NotesPane* m_notes;
     FindBar* m_findBar;
     QTimer m_selectionRest;

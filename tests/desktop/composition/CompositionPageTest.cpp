@@ -5,6 +5,9 @@
 #include "desktop/composition/SceneSlot.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/ManuscriptEdits.h"
+#include "desktop/manuscript/TypingSettings.h"
+#include "desktop/manuscript/rich/RichPage.h"
+#include "desktop/screenplay/ScreenplayPage.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/support/TestDesk.h"
 
@@ -13,6 +16,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -213,6 +217,55 @@ TEST_F(CompositionPageTest, findsAndReplacesAcrossTheDocuments)
     desk.session.undo();
     EXPECT_EQ(desk.document(one).body().text, u"A *tide* and a tide."_s) << "one step for all";
     EXPECT_EQ(desk.document(two).body().text, u"No tide here."_s);
+}
+
+TEST_F(CompositionPageTest, aSceneIsWrittenAsIfItStoodAlone)
+{
+    const auto page = show();
+    auto* const first = qobject_cast<manuscript::rich::RichPage*>(&page->slotsInOrder()[1]->wake());
+    ASSERT_TRUE(first);
+    first->setFocus();
+    first->moveCursor(QTextCursor::End);
+    QTest::keyClicks(first, u" \"So"_s);
+    EXPECT_EQ(first->toPlainText(), u"First scene. “So"_s) << "quotation marks are the settings'";
+    desk.settings.setValue(manuscript::typingkeys::autoCorrect, false);
+    page->applyStyle();
+    QTest::keyClicks(first, u" \"no"_s);
+    EXPECT_EQ(first->toPlainText(), u"First scene. “So \"no"_s);
+
+    QSignalSpy said(&desk.navigator, &shell::Navigator::said);
+    QImage picture(4, 4, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    emit first->imagePasted(picture);
+    desk.session.commitPendingEdits();
+    EXPECT_TRUE(desk.document(one).body().text.contains(u"!["_s) || said.count() == 1)
+        << "kept, or the writer hears why not";
+
+    QSignalSpy opened(&desk.navigator, &shell::Navigator::openRequested);
+    emit first->entityActivated(two);
+    emit first->footnoteActivated(u"1"_s);
+    ASSERT_EQ(opened.count(), 2);
+    EXPECT_EQ(opened[0][0].value<ContentId>(), two);
+    EXPECT_EQ(opened[1][0].value<ContentId>(), one) << "notes are written where the document is by itself";
+    const auto saidBefore = said.count();
+    emit first->linkActivated(u"file:///tmp"_s);
+    EXPECT_EQ(said.count(), saidBefore + 1) << "a text never leads to files";
+}
+
+TEST_F(CompositionPageTest, screenplaysShowTheirRevisions)
+{
+    desk.document(one).setDocumentKind(DocumentKind::Screenplay);
+    desk.document(one).setBody({u"INT. A\n\nSun."_s, {}});
+    desk.document(one).setRevisionBaseline(u"INT. A\n\nRain."_s);
+    const auto page = show();
+    auto* const scene = qobject_cast<screenplay::ScreenplayPage*>(&page->slotsInOrder()[1]->wake());
+    ASSERT_TRUE(scene);
+    scene->markRevisedLines();
+    EXPECT_FALSE(scene->revisedLines().empty());
+    desk.session.apply(std::make_unique<core::document::SetDocumentRevisionBaselineCommand>(
+        desk.document(one), u"INT. A\n\nSun."_s));
+    scene->markRevisedLines();
+    EXPECT_TRUE(scene->revisedLines().empty());
 }
 
 } // namespace tw::desktop::composition
