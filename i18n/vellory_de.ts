@@ -258,6 +258,21 @@
     </message>
 </context>
 <context>
+    <name>DocumentEditor</name>
+    <message>
+        <source>pasted image</source>
+        <translation>eingefügtes Bild</translation>
+    </message>
+    <message>
+        <source>The pasted image could not be written. Save it as a file and insert that.</source>
+        <translation>Das eingefügte Bild ließ sich nicht schreiben. Speichern Sie es als Datei, und fügen Sie diese ein.</translation>
+    </message>
+    <message>
+        <source>The link “%1” cannot be opened from here.</source>
+        <translation>Der Link „%1“ lässt sich von hier nicht öffnen.</translation>
+    </message>
+</context>
+<context>
     <name>DocumentStatus</name>
     <message>
         <source>Idea</source>
@@ -3668,18 +3683,6 @@
     <message>
         <source>Note %1 has no text anywhere in this document.</source>
         <translation>Die Anmerkung %1 hat nirgends in diesem Dokument einen Text.</translation>
-    </message>
-    <message>
-        <source>pasted image</source>
-        <translation>eingefügtes Bild</translation>
-    </message>
-    <message>
-        <source>The pasted image could not be written. Save it as a file and insert that.</source>
-        <translation>Das eingefügte Bild ließ sich nicht schreiben. Speichern Sie es als Datei, und fügen Sie diese ein.</translation>
-    </message>
-    <message>
-        <source>The link “%1” cannot be opened from here.</source>
-        <translation>Der Link „%1“ lässt sich von hier nicht öffnen.</translation>
     </message>
     <message>
         <source>%1 · %2 · %3</source>
