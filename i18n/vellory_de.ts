@@ -258,6 +258,21 @@
     </message>
 </context>
 <context>
+    <name>DocumentEditor</name>
+    <message>
+        <source>pasted image</source>
+        <translation>eingefügtes Bild</translation>
+    </message>
+    <message>
+        <source>The pasted image could not be written. Save it as a file and insert that.</source>
+        <translation>Das eingefügte Bild ließ sich nicht schreiben. Speichern Sie es als Datei, und fügen Sie diese ein.</translation>
+    </message>
+    <message>
+        <source>The link “%1” cannot be opened from here.</source>
+        <translation>Der Link „%1“ lässt sich von hier nicht öffnen.</translation>
+    </message>
+</context>
+<context>
     <name>DocumentStatus</name>
     <message>
         <source>Idea</source>
@@ -3635,18 +3650,6 @@
         <translation>Die Anmerkung %1 hat nirgends in diesem Dokument einen Text.</translation>
     </message>
     <message>
-        <source>pasted image</source>
-        <translation>eingefügtes Bild</translation>
-    </message>
-    <message>
-        <source>The pasted image could not be written. Save it as a file and insert that.</source>
-        <translation>Das eingefügte Bild ließ sich nicht schreiben. Speichern Sie es als Datei, und fügen Sie diese ein.</translation>
-    </message>
-    <message>
-        <source>The link “%1” cannot be opened from here.</source>
-        <translation>Der Link „%1“ lässt sich von hier nicht öffnen.</translation>
-    </message>
-    <message>
         <source>%1 · %2 · %3</source>
         <translation>%1 · %2 · %3</translation>
     </message>
@@ -6009,6 +6012,10 @@
     <message>
         <source>Page &amp;View</source>
         <translation>S&amp;eitenansicht</translation>
+    </message>
+    <message>
+        <source>There is no name from the codex at the cursor.</source>
+        <translation>An der Schreibmarke steht kein Name aus dem Kodex.</translation>
     </message>
 </context>
 <context>
