@@ -6074,6 +6074,10 @@
         <source>There is nothing to read behind the cursor.</source>
         <translation>Hinter dem Cursor gibt es nichts vorzulesen.</translation>
     </message>
+    <message>
+        <source>There is no name from the codex at the cursor.</source>
+        <translation>An der Schreibmarke steht kein Name aus dem Kodex.</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::NamedLayouts</name>

@@ -37,4 +37,14 @@ signals:
     void editorChanged();
 };
 
+/** The object that is worked on: the document that is written in, or what the page shows; null without a
+ * page. */
+[[nodiscard]] inline core::ContentId objectWorkedOn(const shell::WorkPage* page)
+{
+    const auto* const text = qobject_cast<const TextPage*>(page);
+    if (const core::ContentId edited = text ? text->editedDocument() : core::ContentId(); !edited.isNull())
+        return edited;
+    return page ? page->objectId() : core::ContentId();
+}
+
 } // namespace tw::desktop::manuscript

@@ -5,6 +5,7 @@
 #include "desktop/finder/FinderPopup.h"
 #include "desktop/finder/GoToFinder.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/DocumentActions.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/FindBar.h"
@@ -155,9 +156,9 @@ void MainWindow::addFindActions(QMenu& menu)
     addAction(
         menu, u"edit.openEntity"_s, Icon::Entity, tr("Open What the Word Name&s"), QKeySequence(Qt::Key_F12),
         [this] {
-            auto* const page = qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage());
-            if (page && page->richPage())
-                page->richPage()->openEntityAtCursor();
+            const auto* const page = qobject_cast<manuscript::TextPage*>(m_workArea->currentPage());
+            if (!page || !page->richPage() || !page->richPage()->openEntityAtCursor())
+                say(tr("There is no name from the codex at the cursor."));
         });
     addAction(
         menu, u"edit.replace"_s, Icon::Refresh, tr("R&eplace…"), QKeySequence(Qt::CTRL | Qt::Key_H),
@@ -169,8 +170,9 @@ void MainWindow::addFindActions(QMenu& menu)
 
 void MainWindow::findInProject()
 {
-    auto* const page = qobject_cast<manuscript::DocumentPage*>(m_workArea->currentPage());
-    QString selected = page ? page->editor().textCursor().selectedText() : QString();
+    const auto* const page = qobject_cast<manuscript::TextPage*>(m_workArea->currentPage());
+    const manuscript::BodyEditor* const editor = page ? page->currentEditor() : nullptr;
+    QString selected = editor ? editor->textCursor().selectedText() : QString();
     // Nobody looks for paragraphs.
     if (selected.contains(QChar::ParagraphSeparator))
         selected.clear();

@@ -219,9 +219,8 @@ void MainWindow::addProofreadingActions(QMenu& menu)
         &ProofreadingSettings::marksStyle);
     QMenu* const languages = menu.addMenu(m_desk.icons.icon(Icon::Language), tr("&Language of the Document"));
     connect(languages, &QMenu::aboutToShow, this, [this, languages] {
-        const WorkPage* const page = m_workArea->currentPage();
         proofreading::fillLanguageMenu(
-            *languages, *m_proofreading, page ? page->objectId() : core::ContentId());
+            *languages, *m_proofreading, manuscript::objectWorkedOn(m_workArea->currentPage()));
     });
     addAction(
         menu, u"tools.suggestions"_s, Icon::ChevronDown, tr("Su&ggestions at the Cursor"),

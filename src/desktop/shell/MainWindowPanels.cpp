@@ -61,6 +61,9 @@ void MainWindow::addPanels()
                 [this](manuscript::BodyEditor* editor, const core::ContentId& documentId) {
                     m_proofreading->attach(*editor, documentId);
                 });
+            connect(page, &manuscript::TextPage::editorChanged, m_problems, [this] {
+                m_problems->setObject(manuscript::objectWorkedOn(m_workArea->currentPage()));
+            });
             return page;
         });
     m_workArea->setFactory(ContentKind::Entity, [this](const core::ContentId& id, QWidget* parent) {
@@ -76,7 +79,7 @@ void MainWindow::addProblemsPanel()
     m_problems = new problems::ProblemsPanel(m_desk, {prose, m_continuity}, this);
     m_docks->addPanel({u"problems"_s, tr("Problems"), Icon::Warning, DockPlace::Bottom, false}, m_problems);
     connect(m_workArea, &WorkArea::currentPageChanged, m_problems, [this](const WorkPage* page) {
-        m_problems->setObject(page ? page->objectId() : core::ContentId());
+        m_problems->setObject(manuscript::objectWorkedOn(page));
     });
 }
 

@@ -4,7 +4,7 @@
 #include "core/document/Document.h"
 #include "desktop/goals/WritingSession.h"
 #include "desktop/icons/IconSet.h"
-#include "desktop/shell/WorkPage.h"
+#include "desktop/manuscript/TextPage.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QLabel>
@@ -96,8 +96,7 @@ void StatusStrip::refreshPage()
     m_pageText->setText(m_page ? m_page->statusText() : QString());
     m_pageText->setVisible(!m_pageText->text().isEmpty() && showsWordCount(m_desk.settings));
     const auto& project = m_desk.session.project();
-    const auto* const document =
-        m_page ? project.findAs<core::document::Document>(m_page->objectId()) : nullptr;
+    const auto* const document = project.findAs<core::document::Document>(manuscript::objectWorkedOn(m_page));
     const bool hasDate = document && document->sceneInstant();
     m_storyDate->setText(hasDate ? project.calendar().formatInstant(*document->sceneInstant()) : QString());
     QString explained = tr("When the scene happens in the story");

@@ -107,8 +107,8 @@ public:
 
     /** Names of the codex get a quiet line below them. */
     void setMentionsShown(bool areShown);
-    /** Opens what the cursor's word names. */
-    void openEntityAtCursor();
+    /** Opens what the cursor's word names; false when it names nothing. */
+    bool openEntityAtCursor();
 
     void setTypingRules(const app::typing::TypingRules& rules) { m_typingRules = rules; }
 

@@ -46,10 +46,13 @@ core::ContentId RichPage::entityAt(const QTextCursor& cursor, QTextCursor* name)
     return {};
 }
 
-void RichPage::openEntityAtCursor()
+bool RichPage::openEntityAtCursor()
 {
-    if (const core::ContentId id = entityAt(textCursor(), nullptr); !id.isNull())
-        emit entityActivated(id);
+    const core::ContentId id = entityAt(textCursor(), nullptr);
+    if (id.isNull())
+        return false;
+    emit entityActivated(id);
+    return true;
 }
 
 bool RichPage::viewportEvent(QEvent* event)
