@@ -6076,7 +6076,7 @@
     </message>
     <message>
         <source>There is no name from the codex at the cursor.</source>
-        <translation>An der Schreibmarke steht kein Name aus dem Kodex.</translation>
+        <translation>Am Cursor steht kein Name aus dem Kodex.</translation>
     </message>
 </context>
 <context>

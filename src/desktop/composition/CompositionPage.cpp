@@ -135,6 +135,12 @@ void CompositionPage::showCursor(const BodyEditor& editor)
 {
     const QRect cursor = editor.cursorRect();
     const QPoint place = editor.viewport()->mapTo(m_scenes, cursor.center());
+    // A selection that is drawn with the mouse must not move under the pointer.
+    if (manuscript::isTypewriterScrolling(m_desk.settings) && !editor.textCursor().hasSelection()) {
+        const int target = static_cast<int>(m_area->viewport()->height() * manuscript::heldLine);
+        m_area->verticalScrollBar()->setValue(place.y() - target);
+        return;
+    }
     m_area->ensureVisible(m_scenes->width() / 2, place.y(), 0, cursorMargin);
 }
 

@@ -25,8 +25,6 @@ namespace {
 constexpr int sideMargin = 56;
 constexpr int narrowMargin = 16;
 constexpr int topMargin = 40;
-/** Where the cursor's line stays in the window while it is held, from the top. */
-constexpr qreal heldLine = 0.45;
 
 /** Of running text: an average over letters alone takes the rare wide ones for common. */
 qreal characterWidth(const QFont& font)

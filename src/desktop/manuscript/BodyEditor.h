@@ -12,6 +12,9 @@ class ThemeManager;
 
 namespace tw::desktop::manuscript {
 
+/** Where typewriter scrolling keeps the cursor's line, from the top; of the window's height. */
+inline constexpr qreal heldLine = 0.45;
+
 /** To the left and to the right alike, in pixels. */
 struct SheetMargins
 {
