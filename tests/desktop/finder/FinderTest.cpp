@@ -6,12 +6,9 @@
 #include "desktop/finder/FinderPopup.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/DocumentPage.h"
-#include "desktop/shell/MainWindow.h"
 #include "desktop/shell/ObjectTitles.h"
-#include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/WorkArea.h"
-#include "desktop/support/TestDesk.h"
-#include "support/TestFiles.h"
+#include "desktop/support/SampleWindow.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -28,18 +25,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class FinderTest : public testing::Test
+class FinderTest : public testing::Test, protected test::SampleWindow
 {
 protected:
     FinderTest()
     {
-        const QString project = folder.filePath(u"low-water"_s);
-        auto sample =
-            app::workspace::Workspace::open(desk.environment, test::repositoryPath(u"examples/low-water"));
-        EXPECT_TRUE(sample && sample.value()->saveAs(project));
-        window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        EXPECT_TRUE(window.life().open(project));
         // The sample may open on any page.
         work.closeAll();
         EXPECT_TRUE(window.select(u"The Spike"_s));
@@ -72,9 +62,6 @@ protected:
     QStringList texts() const { return column(Qt::DisplayRole); }
     QString current() const { return list.currentIndex().data().toString(); }
 
-    QTemporaryDir folder;
-    test::TestDesk desk{folder.path()};
-    shell::MainWindow window{desk.context, QString()};
     FinderPopup& popup = *window.findChild<FinderPopup*>();
     QLineEdit& line = *popup.findChild<QLineEdit*>();
     QListView& list = *popup.findChild<QListView*>();

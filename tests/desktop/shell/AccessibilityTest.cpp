@@ -2,12 +2,9 @@
 #include "core/document/Document.h"
 #include "desktop/composition/CompositionPage.h"
 #include "desktop/overview/OverviewPage.h"
-#include "desktop/shell/MainWindow.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
-#include "desktop/shell/ProjectLife.h"
-#include "desktop/support/TestDesk.h"
-#include "support/TestFiles.h"
+#include "desktop/support/SampleWindow.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -41,20 +38,9 @@ bool isInnerPart(const QWidget& widget)
     return name.startsWith(u"qt_"_s) || (widget.focusProxy() != nullptr);
 }
 
-class AccessibilityTest : public testing::Test
+class AccessibilityTest : public testing::Test, protected test::SampleWindow
 {
 protected:
-    AccessibilityTest()
-    {
-        const QString project = folder.filePath(u"low-water"_s);
-        auto sample =
-            app::workspace::Workspace::open(desk.environment, test::repositoryPath(u"examples/low-water"));
-        EXPECT_TRUE(sample && sample.value()->saveAs(project));
-        window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
-        EXPECT_TRUE(window.life().open(project));
-    }
-
     QList<QWidget*> focusable(Qt::FocusPolicy policy) const
     {
         QList<QWidget*> found;
@@ -65,10 +51,6 @@ protected:
         }
         return found;
     }
-
-    QTemporaryDir folder;
-    test::TestDesk desk{folder.path()};
-    MainWindow window{desk.context, QString()};
 };
 
 } // namespace
