@@ -14,32 +14,6 @@ using core::foundation::IndexRange;
 
 namespace {
 
-bool isWordCharacter(char32_t character)
-{
-    return QChar::isLetterOrNumber(character) || QChar::isMark(character);
-}
-
-/** Of a surrogate pair the whole character; 0 outside the text. */
-char32_t characterBefore(QStringView text, qsizetype index)
-{
-    if (index <= 0)
-        return 0;
-    const QChar last = text[index - 1];
-    if (last.isLowSurrogate() && index >= 2 && text[index - 2].isHighSurrogate())
-        return QChar::surrogateToUcs4(text[index - 2], last);
-    return last.unicode();
-}
-
-char32_t characterAt(QStringView text, qsizetype index)
-{
-    if (index >= text.size())
-        return 0;
-    const QChar first = text[index];
-    if (first.isHighSurrogate() && index + 1 < text.size() && text[index + 1].isLowSurrogate())
-        return QChar::surrogateToUcs4(first, text[index + 1]);
-    return first.unicode();
-}
-
 QString withRangesReplaced(
     const QString& text, const std::vector<IndexRange>& ranges, const QString& replacement)
 {
@@ -82,6 +56,31 @@ std::vector<IndexRange> rangesOf(
 }
 
 } // namespace
+
+bool isWordCharacter(char32_t character)
+{
+    return QChar::isLetterOrNumber(character) || QChar::isMark(character);
+}
+
+char32_t characterBefore(QStringView text, qsizetype index)
+{
+    if (index <= 0)
+        return 0;
+    const QChar last = text[index - 1];
+    if (last.isLowSurrogate() && index >= 2 && text[index - 2].isHighSurrogate())
+        return QChar::surrogateToUcs4(text[index - 2], last);
+    return last.unicode();
+}
+
+char32_t characterAt(QStringView text, qsizetype index)
+{
+    if (index >= text.size())
+        return 0;
+    const QChar first = text[index];
+    if (first.isHighSurrogate() && index + 1 < text.size() && text[index + 1].isLowSurrogate())
+        return QChar::surrogateToUcs4(first, text[index + 1]);
+    return first.unicode();
+}
 
 std::vector<IndexRange> findName(QStringView text, QStringView name)
 {

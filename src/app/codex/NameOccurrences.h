@@ -17,6 +17,12 @@ namespace tw::app::codex {
  */
 [[nodiscard]] std::vector<core::foundation::IndexRange> findName(QStringView text, QStringView name);
 
+/** Letters, digits and the marks upon them make words. */
+[[nodiscard]] bool isWordCharacter(char32_t character);
+/** Of a surrogate pair the whole character; 0 outside the text. */
+[[nodiscard]] char32_t characterBefore(QStringView text, qsizetype index);
+[[nodiscard]] char32_t characterAt(QStringView text, qsizetype index);
+
 struct NameChange
 {
     QString oldName;

@@ -16,7 +16,15 @@
 #include "core/ttrpg/RandomTable.h"
 #include "core/ttrpg/StatBlock.h"
 
+#include <atomic>
+
 namespace tw::core::content {
+
+quint64 ChangeNotes::drawStamp()
+{
+    static std::atomic<quint64> stamps = 0;
+    return ++stamps;
+}
 
 ContentObject::~ContentObject() = default;
 
@@ -31,7 +39,7 @@ void ContentObject::touch()
     if (!m_notes)
         return;
     m_notes->unannounced.insert(m_id);
-    m_notes->noteForIndex(m_id);
+    m_notes->noteMove(m_id);
 }
 
 void ContentObject::enterProject(quint64 firstRevision, ChangeNotes* notes)

@@ -20,9 +20,16 @@ struct ChangeNotes
     /** For the index of names; nothing is noted while there is none. */
     std::set<ContentId> unindexed;
     bool hasIndex = false;
+    /** For Project::changeStamp(). */
+    quint64 stamp = drawStamp();
 
-    void noteForIndex(const ContentId& id)
+    /** Another number at every call, on whichever thread. */
+    [[nodiscard]] static quint64 drawStamp();
+
+    /** An object came, went or changed. */
+    void noteMove(const ContentId& id)
     {
+        stamp = drawStamp();
         if (hasIndex)
             unindexed.insert(id);
     }

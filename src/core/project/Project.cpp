@@ -57,7 +57,8 @@ void Project::insert(std::unique_ptr<ContentObject> object)
 {
     Q_ASSERT(object && !contains(object->id()));
     ContentObject* const inserted = object.get();
-    inserted->enterProject(++m_insertions << revisionRangeBits, &m_notes);
+    // Revisions tell states of an object apart in all projects of the process, not in this one alone.
+    inserted->enterProject(content::ChangeNotes::drawStamp() << revisionRangeBits, &m_notes);
     m_objects.emplace_hint(m_objects.end(), inserted->id(), std::move(object));
 
     auto& sameKind = kindList(inserted->kind());
@@ -68,7 +69,7 @@ void Project::insert(std::unique_ptr<ContentObject> object)
 
     m_changes.removed.erase(inserted->id());
     m_changes.added.insert(m_changes.added.end(), inserted->id());
-    m_notes.noteForIndex(inserted->id());
+    m_notes.noteMove(inserted->id());
 }
 
 const NameIndex& Project::names() const
@@ -97,7 +98,7 @@ std::unique_ptr<ContentObject> Project::take(ContentId id)
     object->leaveProject();
     m_changes.added.erase(id);
     m_notes.unannounced.erase(id);
-    m_notes.noteForIndex(id);
+    m_notes.noteMove(id);
     m_changes.removed.insert(id);
     return object;
 }

@@ -185,6 +185,11 @@ public:
     // Changes
 
     void touchSettings() { m_changes.areSettingsChanged = true; }
+    /**
+     * Another number after every object that came, went or changed, and never the same in two projects:
+     * while it stays, whatever was read of the objects holds.
+     */
+    [[nodiscard]] quint64 changeStamp() const { return m_notes.stamp; }
     /** What moved since the last call. Changes of fields are found by their objects' touch(). */
     [[nodiscard]] ProjectChanges takeChanges();
 
@@ -201,7 +206,6 @@ private:
     ProjectChanges m_changes;
     mutable content::ChangeNotes m_notes;
     mutable NameIndex m_names;
-    quint64 m_insertions = 0;
 
     QString m_name;
     std::set<ContentId> m_pinned;

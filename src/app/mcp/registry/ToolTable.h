@@ -6,6 +6,9 @@
 
 #include <vector>
 
+namespace tw::app::codex {
+class MentionIndex;
+}
 namespace tw::app::workspace {
 class Workspace;
 }
@@ -30,11 +33,12 @@ struct ToolHints
     bool isOpenWorld = false;
 };
 
-/** What every handler works on. Both outlive all calls. */
+/** What every handler works on. All outlive all calls. */
 struct ToolContext
 {
     workspace::Workspace& workspace;
     McpChangeLog& changeLog;
+    codex::MentionIndex& mentions;
 };
 
 /** Never throws. The arguments were checked against the schema, see ArgumentCheck.h. */

@@ -1,13 +1,10 @@
-#include "app/codex/BodyFilter.h"
-#include "app/codex/NameOccurrences.h"
+#include "app/codex/MentionIndex.h"
 #include "app/mcp/registry/Display.h"
 #include "app/mcp/registry/Refusals.h"
 #include "app/mcp/registry/Schema.h"
 #include "app/mcp/world/WorldLookup.h"
 #include "app/mcp/world/WorldTools.h"
-#include "core/document/ActiveText.h"
 #include "core/document/Document.h"
-#include "core/document/markup/PlainText.h"
 #include "core/entity/Schema.h"
 #include "core/timeline/TimelineEvent.h"
 
@@ -48,18 +45,16 @@ QString lifespanText(const Project& project, const Entity& entity)
 class EntityReport
 {
 public:
-    EntityReport(const Workspace& workspace, const Found<Entity>& found, Shortening shortening)
+    EntityReport(
+        const Workspace& workspace, codex::MentionIndex& index, const Found<Entity>& found,
+        Shortening shortening)
         : m_workspace(workspace)
+        , m_index(index)
         , m_entity(*found)
         , m_library(found.library)
         , m_home(found.library ? *found.library->project : workspace.project())
         , m_display(shortening)
-    {
-        for (const QString& name : QStringList{m_entity.name()} + m_entity.aliases()) {
-            if (const QString text = name.trimmed(); !text.isEmpty())
-                m_names.push_back({text, codex::BodyFilter(text, Qt::CaseSensitive)});
-        }
-    }
+    {}
 
     [[nodiscard]] QString text()
     {
@@ -79,12 +74,6 @@ public:
     }
 
 private:
-    struct SoughtName
-    {
-        QString text;
-        codex::BodyFilter bodies;
-    };
-
     [[nodiscard]] QString fields()
     {
         const Schema schema = core::entity::schemaOfEntity(m_home, m_entity);
@@ -126,50 +115,25 @@ private:
         return u"\nGallery: %1 image(s)\n"_s.arg(QString::number(m_entity.gallery().size()));
     }
 
-    /** How often one of its names stands there; "Captain Marda" is one mention although both are names. */
-    [[nodiscard]] qsizetype countIn(const Document& document) const
-    {
-        const core::document::DocumentBody body = core::document::activeText(document);
-        if (std::ranges::none_of(
-                m_names, [&body](const SoughtName& name) { return name.bodies.mayHoldText(body); }))
-            return 0;
-        const QString text = core::document::markup::plainText(body);
-        std::vector<core::foundation::IndexRange> places;
-        for (const SoughtName& name : m_names)
-            std::ranges::move(codex::findName(text, name.text), std::back_inserter(places));
-        std::ranges::sort(places, {}, [](const auto& place) { return std::pair(place.first, -place.count); });
-        qsizetype count = 0;
-        qsizetype end = 0;
-        for (const core::foundation::IndexRange& place : places) {
-            if (place.first < end)
-                continue;
-            ++count;
-            end = place.end();
-        }
-        return count;
-    }
-
     /** In the open project, wherever the entity itself comes from. */
-    [[nodiscard]] QString mentions() const
+    [[nodiscard]] QString mentions()
     {
+        const Project& project = m_workspace.project();
         QStringList lines;
-        for (const Document* const document : core::project::objectsOf<Document>(m_workspace.project())) {
-            if (document->isAiExcluded())
-                continue;
-            if (const qsizetype count = countIn(*document); count > 0)
-                lines.append(u"- document '%1' (%2)"_s.arg(document->title(), QString::number(count)));
+        for (const auto& [documentId, count] : m_index.inDocuments(project, m_entity)) {
+            const Document& document = *project.findAs<Document>(documentId);
+            if (!document.isAiExcluded())
+                lines.append(u"- document '%1' (%2)"_s.arg(document.title(), QString::number(count)));
         }
-        for (const TimelineEvent* const event :
-             core::project::objectsOf<TimelineEvent>(m_workspace.project())) {
-            if (event->isAiExcluded())
+        for (const core::ContentId& eventId : m_index.inEvents(project, m_entity.id())) {
+            const TimelineEvent& event = *project.findAs<TimelineEvent>(eventId);
+            if (event.isAiExcluded())
                 continue;
-            const core::timeline::EventDetails& details = event->details();
+            const core::timeline::EventDetails& details = event.details();
             const bool takesPart =
                 std::ranges::find(details.participants, m_entity.id()) != details.participants.end();
-            if (takesPart || details.locationId == m_entity.id()) {
-                lines.append(u"- timeline event '%1' (%2)"_s.arg(
-                    details.title, takesPart ? u"participant"_s : u"location"_s));
-            }
+            lines.append(u"- timeline event '%1' (%2)"_s.arg(
+                details.title, takesPart ? u"participant"_s : u"location"_s));
         }
         if (lines.isEmpty())
             return u"\nMentioned in: nothing yet\n"_s;
@@ -182,11 +146,11 @@ private:
     }
 
     const Workspace& m_workspace;
+    codex::MentionIndex& m_index;
     const Entity& m_entity;
     const workspace::MountedLibrary* m_library;
     const Project& m_home;
     ValueDisplay m_display;
-    std::vector<SoughtName> m_names;
 };
 
 McpToolResult getEntity(ToolContext& context, const ToolArguments& arguments)
@@ -195,7 +159,8 @@ McpToolResult getEntity(ToolContext& context, const ToolArguments& arguments)
     if (!entity)
         return McpToolResult::failure(entity.message());
     const Shortening shortening = arguments.boolean(u"full") ? Shortening::None : Shortening::Long;
-    return McpToolResult::success(EntityReport(context.workspace, entity.value(), shortening).text());
+    return McpToolResult::success(
+        EntityReport(context.workspace, context.mentions, entity.value(), shortening).text());
 }
 
 } // namespace
