@@ -225,8 +225,10 @@ void MentionIndex::updateEvents(const Project& project)
     m_events.clear();
     for (const TimelineEvent* const event : events) {
         const auto file = [this, event](const ContentId& entityId) {
+            if (entityId.isNull())
+                return;
             std::vector<ContentId>& filed = m_events[entityId];
-            if (!entityId.isNull() && (filed.empty() || filed.back() != event->id()))
+            if (filed.empty() || filed.back() != event->id())
                 filed.push_back(event->id());
         };
         std::ranges::for_each(event->details().participants, file);
