@@ -5,6 +5,7 @@
 #include "bench/mcp-benchmark/LineProcess.h"
 #include "bench/mcp-benchmark/OneProcessor.h"
 #include "core/document/DocumentCommands.h"
+#include "core/entity/Entity.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -12,6 +13,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdlib>
 #include <thread>
 
@@ -19,6 +21,7 @@ using namespace Qt::Literals::StringLiterals;
 using namespace tw;
 using namespace std::chrono_literals;
 using core::document::Document;
+using core::entity::Entity;
 
 namespace {
 
@@ -27,6 +30,9 @@ constexpr double readAim = 2.0;
 /** What a changing call may take beyond the save that it ends with. */
 constexpr double changeAllowance = 0.002;
 constexpr int callsOfARun = 10'000;
+/** Of a call that gathers what the project knows of an entity, its mentions in 1.2 million words included. */
+constexpr double gatheringAllowance = 0.001;
+constexpr int gatheredEntities = 300;
 /** The program's share of what a search through the files takes. */
 constexpr double searchAim = 0.6;
 /** Stands once in the project, so that both look through all of it. */
@@ -75,6 +81,31 @@ bench::Comparison compareReading(const QString& served, const QByteArray& title,
     };
     return bench::compare(
         {repetitions, bench::Counted::Best}, {[&] { ask(echo, call); }}, {[&] { ask(companion, call); }});
+}
+
+/** Names from all over the codex. */
+QByteArrayList entityNamesIn(const core::project::Project& project)
+{
+    const auto entities = core::project::objectsOf<Entity>(project);
+    QByteArrayList names;
+    for (std::size_t index = 0; index < gatheredEntities; ++index)
+        names.append(entities[index * entities.size() / gatheredEntities]->name().toUtf8());
+    return names;
+}
+
+bench::Comparison compareGathering(
+    bench::LineProcess& companion, const QByteArrayList& names, int repetitions)
+{
+    const auto ask = [&](const QByteArray& name) {
+        const QByteArray answer = companion.roundTrip(toolCall("get_entity", "{\"name\":\"" + name + "\"}"));
+        if (!answer.contains("Mentioned in"))
+            qFatal("%s", answer.constData());
+    };
+    ask(names.front());
+    bench::Comparison times = bench::compare(
+        {repetitions, bench::Counted::Best}, {[] {}}, {[&] { std::ranges::for_each(names, ask); }});
+    times.reference = gatheringAllowance * static_cast<double>(names.size());
+    return times;
 }
 
 bench::Comparison compareSearching(
@@ -159,6 +190,9 @@ int main(int argc, char** argv)
         u"call a tool that reads, %1 times"_s.arg(callsOfARun), u"a server that echoes the line"_s,
         compareReading(served, title, runs), readAim);
     bench::LineProcess companion(QStringLiteral(TW_COMPANION), {served});
+    table.addTimes(
+        u"describe %1 entities"_s.arg(gatheredEntities), u"a millisecond each"_s,
+        compareGathering(companion, entityNamesIn(plain.value()->project()), runs), 1.0);
     if (const QString program = QStandardPaths::findExecutable(u"rg"_s); !program.isEmpty()) {
         table.addTimes(
             u"search for a word"_s, u"rg -ic"_s, compareSearching(companion, program, served, runs),
