@@ -20,6 +20,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QProcess>
+#include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -142,6 +143,9 @@ int main(int argc, char* argv[])
     if (server)
         QObject::connect(
             server.get(), &SingleInstanceServer::requested, &openRequests, &OpenRequests::receive);
+    // A picture has the size that was asked for, whatever the screen.
+    if (!commandLine.isCapture())
+        window.resize(window.size().boundedTo(window.screen()->availableSize()));
     window.show();
 
     if (commandLine.isSelfTest)
