@@ -5,6 +5,7 @@
 #include "app/persistence/codec/ProjectLoader.h"
 #include "app/persistence/files/ProjectFiles.h"
 #include "app/workspace/ProjectPlace.h"
+#include "app/workspace/StructureNotice.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -152,6 +153,7 @@ void Workspace::adopt(persistence::LoadedProject project, const QString& folder)
     // The old project goes in one piece, with the history that refers to it.
     m_undoStack.clear();
     m_project = std::move(project.project);
+    m_structureNotice = workspace::structureNotice(*m_project);
     m_folderPath = folder;
     m_openedFolderFingerprint.clear();
     m_saved = savedStateOf(project.files);
@@ -197,6 +199,7 @@ Result<void> Workspace::restoreUnsaved(const std::map<QString, persistence::File
     m_undoStack.clear();
     m_project = std::move(project.project);
     m_saved = std::move(saved);
+    m_structureNotice = workspace::structureNotice(*m_project);
     static_cast<void>(m_project->takeChanges());
     m_undoStack.markModified();
     reloadLibraries();

@@ -74,6 +74,8 @@ public:
 
     /** What to tell the user about how the project was opened or reloaded. */
     [[nodiscard]] const OpeningNotice& openingNotice() const { return m_openingNotice; }
+    /** What was mended in memory when the project was last read; empty when all was well. */
+    [[nodiscard]] const QString& structureNotice() const { return m_structureNotice; }
 
     /**
      * Writes what moved since the last save, of a single file also the archive if its content is another.
@@ -170,3 +172,4 @@ private:
 };
 
 } // namespace tw::app::workspace
+    QString m_structureNotice;

@@ -41,8 +41,7 @@ ProjectLife::ProjectLife(const DeskContext& desk, QString samplePath, QWidget* w
     connect(m_crashKeeper, &CrashKeeper::failed, this, &ProjectLife::said);
     // Queued: what asked for the reload says its own first.
     connect(
-        &m_desk.session, &ProjectSession::reloaded, this, &ProjectLife::tellOpeningNotice,
-        Qt::QueuedConnection);
+        &m_desk.session, &ProjectSession::reloaded, this, [this] { tellNotices(); }, Qt::QueuedConnection);
     m_backups->setSave([this] { return saveForBackup(); });
     connect(m_backups, &project::ProjectBackups::said, this, &ProjectLife::said);
     connect(m_backups, &project::ProjectBackups::restored, this, &ProjectLife::open);
@@ -63,9 +62,7 @@ bool ProjectLife::open(const QString& path)
     }
     const bool isRestored = recoverAfterCrash(m_desk.session, *m_crashKeeper, m_window);
     emit opened();
-    tellOpeningNotice();
-    if (isRestored)
-        emit said(tr("Your unsaved changes are back. Save to keep them."));
+    tellNotices(isRestored ? tr("Your unsaved changes are back. Save to keep them.") : QString());
     return true;
 }
 
@@ -74,15 +71,20 @@ void ProjectLife::end()
     m_crashKeeper->discard();
 }
 
-void ProjectLife::tellOpeningNotice()
+void ProjectLife::tellNotices(const QString& more)
 {
-    const app::workspace::OpeningNotice& notice = m_desk.session.workspace().openingNotice();
-    if (notice.isEmpty())
-        return;
-    if (notice.title.isEmpty())
-        emit said(notice.text);
+    const app::workspace::Workspace& workspace = m_desk.session.workspace();
+    const app::workspace::OpeningNotice& opening = workspace.openingNotice();
+    QStringList inPassing{more, workspace.structureNotice()};
+    inPassing += workspace.libraryNotices();
+    if (opening.title.isEmpty())
+        inPassing.prepend(opening.text);
     else
-        inform(m_window, notice.title, notice.text);
+        inform(m_window, opening.title, opening.text);
+    // Said together: said one after the other, only the last would be seen.
+    inPassing.removeAll(QString());
+    if (!inPassing.isEmpty())
+        emit said(inPassing.join(u' '));
 }
 
 bool ProjectLife::reopenLast()

@@ -79,7 +79,8 @@ private:
     [[nodiscard]] bool create(const project::NewProject& wanted);
     [[nodiscard]] bool saveOrTell(app::persistence::SaveExtent extent);
     [[nodiscard]] bool saveForBackup();
-    void tellOpeningNotice();
+    /** What there is to know about the project as it was read, and then `more`. */
+    void tellNotices(const QString& more = {});
 
     DeskContext m_desk;
     QString m_samplePath;

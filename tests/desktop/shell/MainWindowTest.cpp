@@ -18,7 +18,12 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QListWidget>
 #include <gtest/gtest.h>
+#include <QStatusBar>
 
 #include <map>
 
@@ -187,6 +192,29 @@ TEST_F(MainWindowTest, refusedSaveSaysWhyAndKeepsTheChanges)
 {
     manuscript::BodyEditor& text = openText(u"The Spike"_s);
     QTest::keyClicks(&text, u"x"_s);
+TEST_F(MainWindowTest, damagedLinksAreToldWhenTheProjectIsRead)
+{
+    const auto hangUnder = [this](const QString& title, const core::ContentId& parent) {
+        QFile file(project + u"/objects/%1.json"_s.arg(idOf(title).toString()));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
+        object.insert(u"parentId"_s, parent.toString());
+        ASSERT_TRUE(file.resize(0) && file.seek(0));
+        file.write(QJsonDocument(object).toJson());
+    };
+    hangUnder(u"The Spike"_s, idOf(u"The Spike"_s));
+    const QString notice = u"%1 item(s) stand under themselves or under something that is missing; they are "
+                           u"shown at the top level."_s;
+    ASSERT_TRUE(window->life().open(project));
+    EXPECT_EQ(window->statusBar()->currentMessage(), notice.arg(1));
+    EXPECT_TRUE(window->select(u"The Spike"_s));
+
+    hangUnder(u"Stillday"_s, core::ContentId::create());
+    window->life().reload();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->statusBar()->currentMessage(), notice.arg(2));
+}
+
     // As a sync client leaves a file half-way through.
     QFile other(project + u"/objects/%1.json"_s.arg(idOf(u"Ibbet Lusk"_s).toString()));
     ASSERT_TRUE(other.open(QIODevice::ReadWrite));
