@@ -1,6 +1,7 @@
 #include "desktop/shell/ProjectLife.h"
 
 #include "app/persistence/bundle/BackupList.h"
+#include "app/workspace/WriteAdvice.h"
 #include "desktop/project/NewProjectDialog.h"
 #include "desktop/project/ProjectBackups.h"
 #include "desktop/project/ProjectFileDialogs.h"
@@ -104,7 +105,9 @@ void ProjectLife::openSample()
             app::workspace::Workspace::open(m_desk.session.workspace().environment(), m_samplePath);
         const auto copied = sample ? sample.value()->saveAs(copy) : core::Failure{sample.message()};
         if (!copied) {
-            tell(m_window, tr("Open the Sample"), copied.message());
+            const auto& environment = m_desk.session.workspace().environment();
+            const QString message = app::workspace::withWriteAdvice(environment, copied.message(), copy);
+            tell(m_window, tr("Open the Sample"), message);
             return;
         }
     }
@@ -211,8 +214,20 @@ void ProjectLife::reload()
         if (!ask(m_window, question))
             return;
     }
+    discardUnsaved();
     if (const auto reloaded = m_desk.session.reload(); !reloaded)
         tell(m_window, tr("Reload Project"), reloaded.message());
+}
+
+void ProjectLife::discardUnsaved()
+{
+    if (const auto discarded = m_desk.session.discardUnsaved(); !discarded) {
+        tell(
+            m_window, tr("Discard Changes"),
+            tr("A save that failed left changes behind, and they could not be set aside: when the project is "
+               "read again, they are back. Undo them then. %1")
+                .arg(discarded.message()));
+    }
 }
 
 bool ProjectLife::settleUnsavedChanges()
@@ -220,8 +235,9 @@ bool ProjectLife::settleUnsavedChanges()
     m_desk.session.commitPendingEdits();
     if (!m_desk.session.isModified()) {
         // Nothing is unsaved, so a refusal because of others' changes loses nothing.
-        if (m_desk.session.workspace().isFullSaveDue())
-            static_cast<void>(m_desk.session.save(SaveExtent::Everything));
+        const bool isDue = m_desk.session.workspace().isFullSaveDue();
+        if (isDue && !m_desk.session.save(SaveExtent::Everything))
+            discardUnsaved();
         return true;
     }
     enum Choice : qsizetype
@@ -236,8 +252,10 @@ bool ProjectLife::settleUnsavedChanges()
              {{tr("Save"), QMessageBox::AcceptRole}, {tr("Discard Changes"), QMessageBox::DestructiveRole}}});
     if (!choice)
         return false;
-    if (*choice == Discard)
+    if (*choice == Discard) {
+        discardUnsaved();
         return true;
+    }
     return m_desk.session.workspace().hasPath() ? saveOrTell(SaveExtent::Everything) : saveAs();
 }
 

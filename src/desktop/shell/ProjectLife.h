@@ -79,6 +79,8 @@ private:
     [[nodiscard]] bool create(const project::NewProject& wanted);
     [[nodiscard]] bool saveOrTell(app::persistence::SaveExtent extent);
     [[nodiscard]] bool saveForBackup();
+    /** A failure is told; it keeps nobody from going on. */
+    void discardUnsaved();
     /** What there is to know about the project as it was read, and then `more`. */
     void tellNotices(const QString& more = {});
 
