@@ -1,12 +1,16 @@
 #include "desktop/shell/MainWindow.h"
 
+#include "core/calendar/CalendarCommands.h"
+#include "core/document/DocumentCommands.h"
 #include "core/entity/EntityCommands.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/DocumentPage.h"
+#include "desktop/project/ProjectSettingsDialog.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
+#include "desktop/support/NextDialog.h"
 #include "desktop/support/NextMessage.h"
 #include "desktop/support/TestDesk.h"
 #include "desktop/trees/NavigatorTree.h"
@@ -14,16 +18,16 @@
 
 #include <QAction>
 #include <QDockWidget>
-#include <QMenuBar>
-#include <QTabWidget>
-#include <QTest>
-
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
 #include <QListWidget>
-#include <gtest/gtest.h>
+#include <QMenuBar>
 #include <QStatusBar>
+#include <QTabWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
 
 #include <map>
 
@@ -188,10 +192,6 @@ TEST_F(MainWindowTest, badFoldersAreToldAndTheProjectStays)
     EXPECT_FALSE(window->select(u"No such thing"_s));
 }
 
-TEST_F(MainWindowTest, refusedSaveSaysWhyAndKeepsTheChanges)
-{
-    manuscript::BodyEditor& text = openText(u"The Spike"_s);
-    QTest::keyClicks(&text, u"x"_s);
 TEST_F(MainWindowTest, damagedLinksAreToldWhenTheProjectIsRead)
 {
     const auto hangUnder = [this](const QString& title, const core::ContentId& parent) {
@@ -215,6 +215,10 @@ TEST_F(MainWindowTest, damagedLinksAreToldWhenTheProjectIsRead)
     EXPECT_EQ(window->statusBar()->currentMessage(), notice.arg(2));
 }
 
+TEST_F(MainWindowTest, refusedSaveSaysWhyAndKeepsTheChanges)
+{
+    manuscript::BodyEditor& text = openText(u"The Spike"_s);
+    QTest::keyClicks(&text, u"x"_s);
     // As a sync client leaves a file half-way through.
     QFile other(project + u"/objects/%1.json"_s.arg(idOf(u"Ibbet Lusk"_s).toString()));
     ASSERT_TRUE(other.open(QIODevice::ReadWrite));
@@ -225,6 +229,30 @@ TEST_F(MainWindowTest, damagedLinksAreToldWhenTheProjectIsRead)
     EXPECT_TRUE(close.text.startsWith(u"The files on disk cannot be read as a project right now"_s));
     EXPECT_EQ(desk->session.saveState(), SaveState::Failed);
     EXPECT_TRUE(window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, audiencesAreManagedFromTheProjectMenu)
+{
+    const test::NextDialog<project::ProjectSettingsDialog> dialog([](project::ProjectSettingsDialog& shown) {
+        const auto* const list = qobject_cast<QListWidget*>(shown.focusWidget());
+        EXPECT_TRUE(list && list->objectName() == u"audiences"_s && list->currentRow() == 0);
+        shown.reject();
+    });
+    action(u"Manage Audiences…"_s)->trigger();
+    EXPECT_TRUE(dialog.wasSeen());
+}
+
+TEST_F(MainWindowTest, theStoryDateIsToldInEveryReckoningAlsoInOneWithoutAName)
+{
+    openText(u"The Spike"_s);
+    auto& edited = desk->session.projectForCommands();
+    desk->session.apply(std::make_unique<core::document::SetDocumentSceneInstantCommand>(
+        *edited.findAsForEdit<core::document::Document>(idOf(u"The Spike"_s)), 0));
+    desk->session.apply(std::make_unique<core::calendar::SetReckoningsCommand>(
+        edited, std::vector<core::calendar::Reckoning>(1)));
+    const auto labels = window->statusBar()->findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(
+        labels, [](const QLabel* label) { return label->toolTip().contains(u"\n(unnamed reckoning): "_s); }));
 }
 
 TEST_F(MainWindowTest, everyPanelStandsInTheWindowsMenuOnce)
