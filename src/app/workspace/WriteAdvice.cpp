@@ -1,10 +1,12 @@
 #include "app/workspace/WriteAdvice.h"
 
+#include "app/persistence/files/ProjectFiles.h"
 #include "app/workspace/ProjectPlace.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QStringBuilder>
 
 namespace tw::app::workspace {
 
@@ -33,14 +35,21 @@ QString withWriteAdvice(
     const persistence::StorageEnvironment& environment, const QString& message, const QString& path)
 {
     persistence::FileSystem& fileSystem = environment.fileSystem;
-    // A single file is written anew as a whole before the old one goes.
-    const bool isFile = isSingleFile(path);
-    const auto present = isFile ? fileSystem.stamp(path) : std::nullopt;
-    QString advice =
-        writeAdvice(fileSystem, isFile ? QFileInfo(path).path() : path, present ? present->size : 0);
-    if (advice.isEmpty())
-        advice = writeAdvice(fileSystem, environment.dataFolder);
-    return advice.isEmpty() ? message : advice + u' ' + message;
+    QStringList places{
+        path, path % u'/' % persistence::objectsFolder, path % u'/' % persistence::taxonomyFolder};
+    qint64 bytes = 0;
+    if (isSingleFile(path)) {
+        places = {QFileInfo(path).path()};
+        // Written anew as a whole before the old one goes.
+        bytes = fileSystem.stamp(path).value_or(persistence::FileStamp()).size;
+    }
+    places.append(environment.dataFolder);
+    for (const QString& place : std::as_const(places)) {
+        const QString advice = writeAdvice(fileSystem, place, bytes);
+        if (!advice.isEmpty())
+            return advice + u' ' + message;
+    }
+    return message;
 }
 
 } // namespace tw::app::workspace
