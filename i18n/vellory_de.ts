@@ -99,6 +99,45 @@
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>A workspace for writing and worldbuilding.</source>
+        <translation>Ein Arbeitsplatz zum Schreiben und Weltenbauen.</translation>
+    </message>
+    <message>
+        <source>The project to open: its file or its folder.</source>
+        <translation>Das Projekt, das geöffnet wird: seine Datei oder sein Ordner.</translation>
+    </message>
+    <message>
+        <source>Print this, and leave.</source>
+        <translation>Diese Übersicht ausgeben und beenden.</translation>
+    </message>
+    <message>
+        <source>Print the version, and leave.</source>
+        <translation>Die Version ausgeben und beenden.</translation>
+    </message>
+    <message>
+        <source>The language of this run, such as “de”.</source>
+        <translation>Die Sprache für diesen Lauf, etwa „de“.</translation>
+    </message>
+    <message>
+        <source>Open a window of its own, also when the program is running already.</source>
+        <translation>Ein eigenes Fenster öffnen, auch wenn das Programm schon läuft.</translation>
+    </message>
+    <message>
+        <source>Save a picture of the window to the file, and leave.</source>
+        <translation>Ein Bild des Fensters in die Datei speichern und beenden.</translation>
+    </message>
+    <message>
+        <source>Show a panel, or the object of this title or id, before the picture is taken.</source>
+        <translation>Vor der Aufnahme einen Bereich oder das Objekt mit diesem Titel oder dieser Kennung zeigen.</translation>
+    </message>
+    <message>
+        <source>Build every dialog, report on them, and leave.</source>
+        <translation>Jeden Dialog aufbauen, darüber berichten und beenden.</translation>
+    </message>
+</context>
+<context>
     <name>CommandPalette</name>
     <message>
         <source>Commands</source>
@@ -567,6 +606,10 @@
         <source>Untitled</source>
         <translation>Ohne Titel</translation>
     </message>
+    <message>
+        <source>(unnamed reckoning)</source>
+        <translation>(unbenannte Zeitrechnung)</translation>
+    </message>
 </context>
 <context>
     <name>OutlineColumns</name>
@@ -874,10 +917,6 @@
         <translation>Die veraltete Arbeitskopie ließ sich nicht beseitigen: %1</translation>
     </message>
     <message>
-        <source>Unsaved changes could not be noted for recovery in %1. Save your work, and free some space.</source>
-        <translation>Ungespeicherte Änderungen ließen sich nicht für die Wiederherstellung in %1 festhalten. Speichern Sie Ihre Arbeit, und schaffen Sie Platz.</translation>
-    </message>
-    <message>
         <source>The journal of unsaved changes cannot be read. It may be of another version of the program.</source>
         <translation>Das Journal der ungespeicherten Änderungen ist nicht lesbar. Vielleicht stammt es von einer anderen Version des Programms.</translation>
     </message>
@@ -912,6 +951,10 @@
     <message>
         <source>There is already something at %1, and it is not replaced. Choose another name or folder.</source>
         <translation>Unter %1 gibt es schon etwas, und es wird nicht ersetzt. Wählen Sie einen anderen Namen oder Ordner.</translation>
+    </message>
+    <message>
+        <source>Save your work, and free some space: unsaved changes could not be noted for recovery in %1.</source>
+        <translation>Speichern Sie Ihre Arbeit, und schaffen Sie Platz: Ungespeicherte Änderungen ließen sich nicht für eine Wiederherstellung festhalten, in %1.</translation>
     </message>
 </context>
 <context>
@@ -2310,6 +2353,25 @@
         <source>This is no project: %1. Choose a .vellory file, or the folder that holds project.json.</source>
         <translation>Das ist kein Projekt: %1. Wählen Sie eine .vellory-Datei oder den Ordner, in dem project.json liegt.</translation>
     </message>
+    <message>
+        <source>What %1 holds was loaded. Other changes that were kept for it were backed up to %2.</source>
+        <translation>Geladen wurde, was in %1 steht. Andere Änderungen, die dafür aufbewahrt waren, wurden gesichert als %2.</translation>
+    </message>
+    <message>
+        <source>The disk of %1 is full. Free some space there, then try again.</source>
+        <translation>Der Datenträger von %1 ist voll. Schaffen Sie dort Platz, und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>Nothing may be written in %1. Allow it there, or choose another place, then try again.</source>
+        <translation>In %1 darf nicht geschrieben werden. Erlauben Sie es dort, oder wählen Sie einen anderen Ort, und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n item(s) stand under themselves or under something that is missing; they are shown at the top level.</source>
+        <translation>
+            <numerusform>%n Element steht unter sich selbst oder unter etwas, das fehlt; es wird auf der obersten Ebene gezeigt.</numerusform>
+            <numerusform>%n Elemente stehen unter sich selbst oder unter etwas, das fehlt; sie werden auf der obersten Ebene gezeigt.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::calendar::CalendarDialog</name>
@@ -2418,10 +2480,6 @@
 </context>
 <context>
     <name>tw::desktop::calendar::ReckoningsForm</name>
-    <message>
-        <source>(unnamed reckoning)</source>
-        <translation>(unbenannte Zeitrechnung)</translation>
-    </message>
     <message>
         <source>Reckonings</source>
         <translation>Zeitrechnungen</translation>
@@ -2578,10 +2636,6 @@
 </context>
 <context>
     <name>tw::desktop::codex::CodexModel</name>
-    <message>
-        <source>Untitled</source>
-        <translation>Ohne Titel</translation>
-    </message>
     <message>
         <source>Uncategorised</source>
         <translation>Ohne Kategorie</translation>
@@ -5137,10 +5191,6 @@
         <source>Synopsis</source>
         <translation>Synopse</translation>
     </message>
-    <message>
-        <source>Untitled</source>
-        <translation>Ohne Titel</translation>
-    </message>
     <message numerus="yes">
         <source>%1, %n matches</source>
         <translation>
@@ -6078,6 +6128,14 @@
         <source>There is no name from the codex at the cursor.</source>
         <translation>Am Cursor steht kein Name aus dem Kodex.</translation>
     </message>
+    <message>
+        <source>Manage &amp;Audiences…</source>
+        <translation>Ziel&amp;gruppen verwalten…</translation>
+    </message>
+    <message>
+        <source>The settings hold only until Vellory is closed. %1</source>
+        <translation>Die Einstellungen gelten nur, bis Vellory geschlossen wird. %1</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::NamedLayouts</name>
@@ -6189,6 +6247,10 @@
     <message>
         <source>“%1” has changes that are not saved. Reloading it from disk discards them.</source>
         <translation>„%1“ hat Änderungen, die nicht gespeichert sind. Wenn es neu von der Festplatte geladen wird, gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>A save that failed left changes behind, and they could not be set aside: when the project is read again, they are back. Undo them then. %1</source>
+        <translation>Ein gescheitertes Speichern hat Änderungen hinterlassen, die sich nicht beiseitelegen ließen: Wenn das Projekt wieder gelesen wird, sind sie noch da. Machen Sie sie dann rückgängig. %1</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,16 @@
     </message>
 </context>
 <context>
+    <name>Workspace</name>
+    <message numerus="yes">
+        <source>%n item(s) stand under themselves or under something that is missing; they are shown at the top level.</source>
+        <translation>
+            <numerusform>%n item stands under itself or under something that is missing; it is shown at the top level.</numerusform>
+            <numerusform>%n items stand under themselves or under something that is missing; they are shown at the top level.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tw::desktop::calendar::CalendarForm</name>
     <message numerus="yes">
         <source>%n days a year. Year 1 begins on %1, %2.</source>

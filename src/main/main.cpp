@@ -26,6 +26,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace tw;
@@ -103,10 +104,32 @@ void begin(MainWindow& window, const QString& projectPath, QSettings& settings)
     }
 }
 
+/** Answers what needs no window, and so no display; gives the exit code when that is all there is to do. */
+std::optional<int> printAndLeave(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments.append(QString::fromLocal8Bit(argv[index]));
+    const CommandLine commandLine = parseArguments(arguments);
+    if (!commandLine.isHelp && !commandLine.isVersion)
+        return std::nullopt;
+    const QCoreApplication application(argc, argv);
+    nameApplication();
+    QSettings settings;
+    const Translations translations(chooseLocale(commandLine.language, settings));
+    const QString answer = commandLine.isHelp ? usage()
+                                              : QCoreApplication::applicationName() + u' ' +
+                                                    QCoreApplication::applicationVersion() + u'\n';
+    std::fputs(qPrintable(answer), stdout);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
+    if (const auto exitCode = printAndLeave(argc, argv))
+        return *exitCode;
     QApplication application(argc, argv);
     nameApplication();
     QSettings settings;

@@ -48,6 +48,10 @@ public:
     bool replace(const QString& temporary, const QString& target) override;
     bool remove(const QString& path) override;
     bool makeFolders(const QString& path) override;
+    app::persistence::WriteObstacle obstacleAt(const QString& folder, qint64 bytes) override
+    {
+        return m_disk.obstacleAt(folder, bytes);
+    }
     app::persistence::FileHold hold(const QString& path) override { return m_disk.hold(path); }
     bool syncFolder(const QString& path) override;
 

@@ -68,6 +68,24 @@ protected:
 
 } // namespace
 
+TEST_F(StartTest, helpAndVersionNeedNoDisplayAndNoOtherInstance)
+{
+    QProcessEnvironment environment = program.processEnvironment();
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"no such system"_s);
+    program.setProcessEnvironment(environment);
+    const SingleInstanceServer first(programsServer());
+    QSignalSpy requests(&first, &SingleInstanceServer::requested);
+    EXPECT_EQ(run({u"--help"_s, u"my novel"_s}), 0);
+    const QByteArray help = program.readAllStandardOutput();
+    for (const char* const option :
+         {"[project]", "--help", "--version", "--lang <", "--new-instance", "--capture <",
+          "--capture-select <", "--selftest-dialogs"})
+        EXPECT_TRUE(help.contains(option)) << option;
+    EXPECT_EQ(run({u"--version"_s}), 0);
+    EXPECT_TRUE(program.readAllStandardOutput().startsWith("Vellory "));
+    EXPECT_TRUE(requests.isEmpty());
+}
+
 TEST_F(StartTest, theSecondStartHandsItsProjectOverAndEnds)
 {
     const SingleInstanceServer first(programsServer());

@@ -1,5 +1,7 @@
 #include "app/persistence/ProjectLock.h"
 
+#include "app/persistence/files/SafeWriter.h"
+
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
@@ -50,7 +52,11 @@ core::Result<ProjectLock> ProjectLock::acquire(const QString& projectPath, const
     auto file = std::make_unique<QLockFile>(path);
     // A crashed holder is known by its process id; age alone says nothing about a slow disk.
     file->setStaleLockTime(0);
-    if (!file->tryLock(static_cast<int>(longestWait.count())) && !takeOverUnnamed(*file)) {
+    const bool isLocked = file->tryLock(static_cast<int>(longestWait.count()));
+    // A full or read-only disk, and nobody else's doing.
+    if (!isLocked && file->error() != QLockFile::LockFailedError)
+        return writeFailure(path);
+    if (!isLocked && !takeOverUnnamed(*file)) {
         return core::Failure{
             QCoreApplication::translate(
                 "Persistence", "Another program is saving this project right now: %1. Try again in a moment.")

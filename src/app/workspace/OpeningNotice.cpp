@@ -31,6 +31,14 @@ OpeningNotice openingNotice(BundleOpening opening, const QString& bundlePath, co
                     "%1 was changed outside Vellory, so the file's version was loaded. Your previous local "
                     "working state was backed up to:\n%2"))
                 .arg(path, backup)};
+    case BundleOpening::Disowned:
+        return {
+            {},
+            translated(
+                QT_TRANSLATE_NOOP(
+                    "Workspace",
+                    "What %1 holds was loaded. Other changes that were kept for it were backed up to %2."))
+                .arg(path, backup)};
     case BundleOpening::SetAside:
         return {
             translated(QT_TRANSLATE_NOOP("Workspace", "Unsaved Changes Kept Aside")),

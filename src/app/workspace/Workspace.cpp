@@ -5,6 +5,7 @@
 #include "app/persistence/codec/ProjectLoader.h"
 #include "app/persistence/files/ProjectFiles.h"
 #include "app/workspace/ProjectPlace.h"
+#include "app/workspace/StructureNotice.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -152,10 +153,12 @@ void Workspace::adopt(persistence::LoadedProject project, const QString& folder)
     // The old project goes in one piece, with the history that refers to it.
     m_undoStack.clear();
     m_project = std::move(project.project);
+    m_structureNotice = workspace::structureNotice(*m_project);
     m_folderPath = folder;
     m_openedFolderFingerprint.clear();
     m_saved = savedStateOf(project.files);
     m_fullSaveDue = false;
+    m_isCopyAhead = false;
     m_openedFolderFingerprint.reserve(std::ssize(project.files));
     for (persistence::LoadedFile& file : project.files)
         m_openedFolderFingerprint.record(file.relativePath, std::move(file.bytes), file.stamp);
@@ -196,6 +199,7 @@ Result<void> Workspace::restoreUnsaved(const std::map<QString, persistence::File
 
     m_undoStack.clear();
     m_project = std::move(project.project);
+    m_structureNotice = workspace::structureNotice(*m_project);
     m_saved = std::move(saved);
     static_cast<void>(m_project->takeChanges());
     m_undoStack.markModified();
@@ -214,21 +218,28 @@ Result<void> Workspace::save(SaveExtent extent)
     const persistence::DiskChanges changes = externalChanges();
     if (isBundleChangedOnDisk() || !changes.isEmpty())
         return persistence::changedOnDiskFailure();
-    persistence::FolderSaver saver(m_environment, m_folderPath, m_openedFolderFingerprint, m_saved);
-    saver.removeLeftovers(changes.leftovers);
-    if (auto saved = saver.saveProject(*m_project, extent); !saved)
-        return saved;
-    // Also when nothing was written just now: an earlier save may have ended before the archive.
-    if (m_singleFile) {
-        if (auto written = m_singleFile->writeArchiveOf(m_folderPath); !written)
-            return written;
-        if (auto recorded = m_singleFile->updateRecord(); !recorded)
-            return recorded;
-    }
+    // Until it is done, some of it may be on disk and some not, whatever is undone meanwhile.
+    m_fullSaveDue = true;
+    if (auto written = write(extent, changes.leftovers); !written)
+        return written;
     m_fullSaveDue = extent == SaveExtent::Changed;
     m_assets.record(m_folderPath);
     m_undoStack.setClean();
     return {};
+}
+
+Result<void> Workspace::write(SaveExtent extent, const QStringList& leftovers)
+{
+    persistence::FolderSaver saver(m_environment, m_folderPath, m_openedFolderFingerprint, m_saved);
+    saver.removeLeftovers(leftovers);
+    m_isCopyAhead = hasSingleFile();
+    if (auto saved = saver.saveProject(*m_project, extent); !saved || !m_singleFile)
+        return saved;
+    // Also when nothing was written just now: an earlier save may have ended before the archive.
+    if (auto written = m_singleFile->writeArchiveOf(m_folderPath); !written)
+        return written;
+    m_isCopyAhead = false;
+    return m_singleFile->updateRecord();
 }
 
 Result<void> Workspace::saveAs(const QString& path)
@@ -330,6 +341,7 @@ void Workspace::moveTo(const QString& folder, SavedCopy copy)
     m_openedFolderFingerprint = std::move(copy.disk);
     m_saved = std::move(copy.saved);
     m_fullSaveDue = false;
+    m_isCopyAhead = false;
     m_assets.record(folder);
     m_openingNotice = {};
     m_undoStack.setClean();
@@ -354,6 +366,12 @@ Result<void> Workspace::reload()
         return possible;
     const QString path = displayPath();
     return load(path, BundlePurpose::Reload);
+}
+
+Result<void> Workspace::discardUnsaved()
+{
+    return m_isCopyAhead ? persistence::forgetRecord(m_environment.fileSystem, m_singleFile->workingCopy())
+                         : Result<void>();
 }
 
 void Workspace::acceptDisk(persistence::DiskState seen)

@@ -74,6 +74,8 @@ public:
 
     /** What to tell the user about how the project was opened or reloaded. */
     [[nodiscard]] const OpeningNotice& openingNotice() const { return m_openingNotice; }
+    /** What was mended in memory when the project was last read; empty when all was well. */
+    [[nodiscard]] const QString& structureNotice() const { return m_structureNotice; }
 
     /**
      * Writes what moved since the last save, of a single file also the archive if its content is another.
@@ -82,8 +84,10 @@ public:
      */
     [[nodiscard]] core::Result<void> save(persistence::SaveExtent extent = persistence::SaveExtent::Changed);
 
-    /** True after saves that looked only at what moved: whoever closes the project saves everything once
-     * more. */
+    /**
+     * True after saves that looked only at what moved, or that failed half-way: whoever closes the project
+     * saves everything once more.
+     */
     [[nodiscard]] bool isFullSaveDue() const { return m_fullSaveDue; }
 
     /**
@@ -92,6 +96,13 @@ public:
      * the path is replaced, a folder that holds another project is refused.
      */
     [[nodiscard]] core::Result<void> saveAs(const QString& path);
+
+    /**
+     * The user gives up what is not saved: what a save that failed left in the working copy of a single file
+     * no longer wins over the archive when that is read next. Memory stays as it is, and a later save takes
+     * this back.
+     */
+    [[nodiscard]] core::Result<void> discardUnsaved();
 
     /** Reads the project anew; the history is lost. Refused while a macro is open. */
     [[nodiscard]] core::Result<void> reload();
@@ -148,6 +159,8 @@ private:
     [[nodiscard]] core::Result<void> load(const QString& path, persistence::BundlePurpose purpose);
     [[nodiscard]] core::Result<void> loadSingleFile(const QString& path, persistence::BundlePurpose purpose);
     void adopt(persistence::LoadedProject project, const QString& folder);
+    /** The writing half of save(); what is on disk is nobody else's. */
+    [[nodiscard]] core::Result<void> write(persistence::SaveExtent extent, const QStringList& leftovers);
     [[nodiscard]] core::Result<void> saveAsFolder(const QString& folder);
     [[nodiscard]] core::Result<void> saveAsSingleFile(const QString& bundlePath);
     [[nodiscard]] core::Result<SavedCopy> writeCopy(const QString& folder);
@@ -159,10 +172,13 @@ private:
     QString m_folderPath;
     std::optional<persistence::SingleFile> m_singleFile;
     OpeningNotice m_openingNotice;
+    QString m_structureNotice;
     persistence::DiskState m_openedFolderFingerprint;
     persistence::SavedState m_saved;
     persistence::AssetStamps m_assets;
     bool m_fullSaveDue = false;
+    /** A save ended between the working copy and the archive. */
+    bool m_isCopyAhead = false;
     std::vector<MountedLibrary> m_libraries;
     /** What `m_libraries` was read from. */
     std::vector<core::project::LibraryMount> m_readMounts;

@@ -81,6 +81,15 @@ DocumentTree documentTree(const Project& project)
     return tree;
 }
 
+std::vector<ContentId> strayDocuments(const Project& project)
+{
+    std::vector<ContentId> strays = documentTree(project)[ContentId()];
+    std::erase_if(strays, [&project](const ContentId& id) {
+        return project.findAs<Document>(id)->parentId().isNull();
+    });
+    return strays;
+}
+
 std::vector<ContentId> documentsInReadingOrder(const Project& project)
 {
     std::vector<ContentId> ids = documentSubtree(documentTree(project), {});

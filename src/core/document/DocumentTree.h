@@ -17,6 +17,9 @@ using DocumentTree = std::map<ContentId, std::vector<ContentId>>;
 /** Documents whose parent is not a document, or that hang in a loop, stand at the top level. */
 [[nodiscard]] DocumentTree documentTree(const project::Project& project);
 
+/** The documents at the top level that say they stand elsewhere. */
+[[nodiscard]] std::vector<ContentId> strayDocuments(const project::Project& project);
+
 /** All documents, each before what is beneath it. */
 [[nodiscard]] std::vector<ContentId> documentsInReadingOrder(const project::Project& project);
 

@@ -2,6 +2,7 @@
 
 #include "desktop/fields/ListEditor.h"
 #include "desktop/fields/NoteLabel.h"
+#include "desktop/shell/ObjectTitles.h"
 
 #include <QFormLayout>
 #include <QLineEdit>
@@ -23,11 +24,6 @@ namespace {
 
 constexpr int furthestYear = 1'000'000'000;
 constexpr int numberRole = Qt::UserRole;
-
-QString titleOf(const Reckoning& reckoning)
-{
-    return reckoning.name.isEmpty() ? ReckoningsForm::tr("(unnamed reckoning)") : reckoning.name;
-}
 
 } // namespace
 
@@ -92,7 +88,7 @@ void ReckoningsForm::setCalendar(const Calendar& calendar)
 
 void ReckoningsForm::addItem(std::size_t reckoning)
 {
-    auto* const item = new QListWidgetItem(titleOf(m_reckonings[reckoning]), &m_list->list());
+    auto* const item = new QListWidgetItem(shell::reckoningTitle(m_reckonings[reckoning]), &m_list->list());
     item->setData(numberRole, static_cast<qulonglong>(reckoning));
 }
 
@@ -128,7 +124,7 @@ void ReckoningsForm::takeNames()
     Reckoning& reckoning = *current();
     reckoning.name = m_name->text().trimmed();
     reckoning.calendar.setEraName(m_eraName->text().trimmed());
-    m_list->list().currentItem()->setText(titleOf(reckoning));
+    m_list->list().currentItem()->setText(shell::reckoningTitle(reckoning));
     explain();
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/codex/CategoryPaths.h"
 
 #include "core/entity/Entity.h"
+#include "desktop/shell/ObjectTitles.h"
 
 #include <QCollator>
 
@@ -19,11 +20,11 @@ QString categoryPath(const Project& project, const CategoryId& id, const QString
     std::set<CategoryId> visited;
     const auto* category = project.taxonomy().category(id);
     while (category && visited.insert(category->id).second) {
-        names.prepend(category->name);
+        names.prepend(shell::shownName(category->name));
         CategoryId above = category->parentId;
         if (const auto* const entity = project.findAs<core::entity::Entity>(category->parentEntityId)) {
             const bool isShown = audience.isEmpty() || entity->isVisibleTo(audience);
-            names.prepend(isShown ? entity->name() : u"…"_s);
+            names.prepend(isShown ? shell::objectTitle(*entity) : u"…"_s);
             above = entity->categoryId();
         }
         category = project.taxonomy().category(above);

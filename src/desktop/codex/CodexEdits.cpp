@@ -5,6 +5,7 @@
 #include "core/entity/EntityCommands.h"
 #include "core/entity/Schema.h"
 #include "core/taxonomy/TaxonomyCommands.h"
+#include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QCoreApplication>
@@ -211,7 +212,7 @@ Result<void> moveInCodex(ProjectSession& session, const CodexSelection& moved, c
             return core::Failure{
                 label(
                     QT_TRANSLATE_NOOP("CodexEdits", "“%1” is locked. Unlock it in the inspector to move it."))
-                    .arg(entity->name())};
+                    .arg(shell::objectTitle(*entity))};
         }
         if (auto checked = core::entity::checkMoveOfEntity(project, *entity, place.parent.categoryId);
             !checked)

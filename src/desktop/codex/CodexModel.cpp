@@ -152,7 +152,7 @@ QString CodexModel::name(const CodexItem& item) const
     if (const auto* const entity = project.findAs<Entity>(item.entityId))
         return shell::objectTitle(*entity);
     if (const auto* const category = project.taxonomy().category(item.categoryId))
-        return category->name.isEmpty() ? tr("Untitled") : category->name;
+        return shell::shownName(category->name);
     return item.kind == Kind::Uncategorised ? tr("Uncategorised") : QString();
 }
 

@@ -1,8 +1,7 @@
 #include "desktop/codex/CodexTree.h"
 
+#include "core/entity/CategoryLinks.h"
 #include "core/entity/Entity.h"
-
-#include <QSet>
 
 #include <algorithm>
 #include <tuple>
@@ -29,71 +28,19 @@ struct EntityRow
     ContentId id;
 };
 
-/** Finds the parent of every category, with loops of damaged links cut at one place each. */
-class CategoryLinks
+CodexItem itemOf(const core::entity::CategoryParent& parent)
 {
-public:
-    explicit CategoryLinks(const Project& project)
-        : m_project(project)
-    {
-        for (const auto& [id, category] : project.taxonomy().categories())
-            findLoop(category);
-    }
-
-    /** The item it stands under; none for the top level. */
-    [[nodiscard]] CodexItem parentOf(const Category& category) const
-    {
-        if (m_loopHeads.contains(category.id))
-            return {};
-        if (m_project.findAs<Entity>(category.parentEntityId))
-            return CodexItem::entity(category.parentEntityId);
-        if (m_project.taxonomy().category(category.parentId))
-            return CodexItem::category(category.parentId);
-        return {};
-    }
-
-private:
-    enum class Walk
-    {
-        OnTheWay,
-        Done,
-    };
-
-    /** Walks up to where the way is known; a category met twice on one walk heads its loop. */
-    void findLoop(const Category& start)
-    {
-        std::vector<CategoryId> way;
-        const Category* current = &start;
-        while (current && !m_walked.contains(current->id)) {
-            m_walked.insert(current->id, Walk::OnTheWay);
-            way.push_back(current->id);
-            current = categoryAbove(*current);
-        }
-        if (current && m_walked.value(current->id) == Walk::OnTheWay)
-            m_loopHeads.insert(current->id);
-        for (const CategoryId& id : way)
-            m_walked.insert(id, Walk::Done);
-    }
-
-    [[nodiscard]] const Category* categoryAbove(const Category& category) const
-    {
-        const CodexItem parent = parentOf(category);
-        if (!parent.isEntity())
-            return m_project.taxonomy().category(parent.categoryId);
-        return m_project.taxonomy().category(m_project.findAs<Entity>(parent.entityId)->categoryId());
-    }
-
-    const Project& m_project;
-    QHash<CategoryId, Walk> m_walked;
-    QSet<CategoryId> m_loopHeads;
-};
+    if (!parent.entityId.isNull())
+        return CodexItem::entity(parent.entityId);
+    return parent.categoryId.isNull() ? CodexItem() : CodexItem::category(parent.categoryId);
+}
 
 QHash<CodexItem, std::vector<const Category*>> categoriesByParent(const Project& project)
 {
-    const CategoryLinks links(project);
+    const core::entity::CategoryLinks links(project);
     QHash<CodexItem, std::vector<const Category*>> result;
     for (const auto& [id, category] : project.taxonomy().categories())
-        result[links.parentOf(category)].push_back(&category);
+        result[itemOf(links.parentOf(category))].push_back(&category);
     for (auto& siblings : result) {
         std::ranges::sort(siblings, [](const Category* left, const Category* right) {
             return std::tie(left->sortIndex, left->name, left->id) <

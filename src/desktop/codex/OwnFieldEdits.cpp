@@ -5,6 +5,7 @@
 #include "desktop/codex/CategoryProperties.h"
 #include "desktop/codex/FieldDialog.h"
 #include "desktop/shell/Navigator.h"
+#include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QCoreApplication>
@@ -75,7 +76,8 @@ void addOwnField(shell::DeskContext desk, core::ContentId entityId, QWidget* par
     if (!entity)
         return;
     FieldDialogSetup setup;
-    setup.title = translated(QT_TRANSLATE_NOOP("OwnFieldEdits", "New Property of “%1”")).arg(entity->name());
+    setup.title = translated(QT_TRANSLATE_NOOP("OwnFieldEdits", "New Property of “%1”"))
+                      .arg(shell::objectTitle(*entity));
     setup.verb = translated(QT_TRANSLATE_NOOP("OwnFieldEdits", "Add Property"));
     setup.owner = FieldDialogSetup::Owner::Entity;
     setup.keyForLabel =

@@ -4,6 +4,7 @@
 #include "desktop/continuity/RuleForm.h"
 #include "desktop/fields/ListEditor.h"
 #include "desktop/fields/NoteLabel.h"
+#include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QDialogButtonBox>
@@ -90,7 +91,7 @@ RuleList RulesDialog::rules() const
 
 void RulesDialog::addRow(std::size_t rule)
 {
-    auto* const item = new QListWidgetItem(m_rules[rule].name, &m_list->list());
+    auto* const item = new QListWidgetItem(shell::shownName(m_rules[rule].name), &m_list->list());
     item->setData(ruleRole, static_cast<qulonglong>(rule));
 }
 
@@ -123,7 +124,7 @@ void RulesDialog::takeForm()
         return;
     ContinuityRule& rule = m_rules[item->data(ruleRole).toULongLong()];
     rule = m_form->rule();
-    item->setText(rule.name);
+    item->setText(shell::shownName(rule.name));
     m_note->setNote({});
 }
 

@@ -3,6 +3,7 @@
 #include "core/content/ContentCommands.h"
 #include "core/plot/PlotCommands.h"
 #include "desktop/icons/IconSet.h"
+#include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/PendingEdit.h"
 #include "desktop/theme/ThemeManager.h"
 
@@ -146,7 +147,8 @@ void ObjectSection::fillThreads()
         const QColor color = QColor::isValidColor(thread.color)
                                  ? QColor(thread.color)
                                  : m_desk.themes.theme().threadColor(static_cast<int>(choices.size()));
-        choices.push_back({thread.id, thread.name, m_desk.icons.icon(icons::Icon::PlotThread, color)});
+        choices.push_back(
+            {thread.id, shell::shownName(thread.name), m_desk.icons.icon(icons::Icon::PlotThread, color)});
     }
     fillChoices(*m_threads, choices, object()->plotThreadIds(), &ObjectSection::toggleThread);
     m_threadGroup->setVisible(!choices.empty());

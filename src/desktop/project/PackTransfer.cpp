@@ -4,6 +4,7 @@
 #include "desktop/project/ExportPackDialog.h"
 #include "desktop/project/NewPlace.h"
 #include "desktop/shell/Navigator.h"
+#include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/Questions.h"
 
@@ -29,7 +30,7 @@ QString listed(const std::vector<Category>& categories)
 {
     QStringList names;
     for (const Category& category : categories)
-        names.append(category.name);
+        names.append(shell::shownName(category.name));
     names.sort(Qt::CaseInsensitive);
     return names.join(PackTransfer::tr(", "));
 }

@@ -1,6 +1,7 @@
 #include "desktop/project/ProjectBackups.h"
 
 #include "app/persistence/bundle/BackupList.h"
+#include "app/workspace/WriteAdvice.h"
 #include "desktop/project/RestoreDialog.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/Questions.h"
@@ -37,7 +38,11 @@ void ProjectBackups::backUp()
         return;
     const auto backup = m_desk.session.workspace().backup(QDateTime::currentDateTime());
     if (!backup) {
-        shell::tell(m_window, tr("Back Up Project"), backup.message());
+        const app::workspace::Workspace& workspace = m_desk.session.workspace();
+        const QString folder = app::persistence::backupsFolder(workspace.environment());
+        shell::tell(
+            m_window, tr("Back Up Project"),
+            app::workspace::withWriteAdvice(workspace.environment(), backup.message(), folder));
         return;
     }
     emit said(tr("Backed up project to %1").arg(QDir::toNativeSeparators(backup.value().path)));
@@ -61,7 +66,9 @@ bool ProjectBackups::restore(const QString& backupPath)
     const Restoration chosen = dialog.restoration();
     const QString path = pathOf(chosen.place);
     if (const auto made = app::persistence::restoreBackup(environment, chosen.backupPath, path); !made) {
-        shell::tell(m_window, tr("Restore from a Backup"), made.message());
+        shell::tell(
+            m_window, tr("Restore from a Backup"),
+            app::workspace::withWriteAdvice(environment, made.message(), path));
         return false;
     }
     setUsualFolder(m_desk.settings, chosen.place.folder);

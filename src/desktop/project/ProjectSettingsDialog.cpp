@@ -179,6 +179,14 @@ ProjectSettings ProjectSettingsDialog::settings() const
     return settings;
 }
 
+void ProjectSettingsDialog::focusAudiences()
+{
+    QListWidget& list = m_audiences->list();
+    if (list.count() > 0)
+        list.setCurrentRow(0);
+    list.setFocus();
+}
+
 void ProjectSettingsDialog::accept()
 {
     // A name that is still being edited counts.
@@ -188,9 +196,11 @@ void ProjectSettingsDialog::accept()
     QDialog::accept();
 }
 
-void editProjectSettings(const shell::DeskContext& desk, QWidget* parent)
+void editProjectSettings(const shell::DeskContext& desk, QWidget* parent, ProjectSettingsPart part)
 {
     ProjectSettingsDialog dialog(desk, settingsOf(desk.session.project()), parent);
+    if (part == ProjectSettingsPart::Audiences)
+        dialog.focusAudiences();
     if (dialog.exec() == QDialog::Accepted)
         applySettings(desk.session, dialog.settings());
 }

@@ -23,6 +23,8 @@ public:
     ProjectSettingsDialog(const shell::DeskContext& desk, const ProjectSettings& settings, QWidget* parent);
 
     [[nodiscard]] ProjectSettings settings() const;
+    /** Has the keyboard begin in the list of audiences instead of at the top. */
+    void focusAudiences();
 
     /** Stays open while something cannot be so, and says what. */
     void accept() override;
@@ -42,7 +44,15 @@ private:
     fields::NoteLabel* m_note;
 };
 
+/** What the dialog opens at. */
+enum class ProjectSettingsPart
+{
+    Name,
+    Audiences,
+};
+
 /** Has the user change the open project's settings, as one step. */
-void editProjectSettings(const shell::DeskContext& desk, QWidget* parent);
+void editProjectSettings(
+    const shell::DeskContext& desk, QWidget* parent, ProjectSettingsPart part = ProjectSettingsPart::Name);
 
 } // namespace tw::desktop::project

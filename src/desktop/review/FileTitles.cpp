@@ -75,7 +75,8 @@ FileTitle fileTitle(const FileMerge& file)
     } else if (version) {
         if (const auto category = app::persistence::parseCategory(*version, file.path, scratch)) {
             return {
-                translated(QT_TRANSLATE_NOOP("FileTitles", "%1 (category)")).arg(category.value().name),
+                translated(QT_TRANSLATE_NOOP("FileTitles", "%1 (category)"))
+                    .arg(shell::shownName(category.value().name)),
                 Icon::Category};
         }
     }

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class QLabel;
+class QToolButton;
 
 namespace tw::desktop::icons {
 class IconSet;
@@ -28,6 +29,7 @@ signals:
 
 private:
     QLabel* m_text;
+    QToolButton* m_button;
 };
 
 } // namespace tw::desktop::review

@@ -1,5 +1,7 @@
 #include "desktop/search/SearchModel.h"
 
+#include "desktop/shell/ObjectTitles.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -154,7 +156,7 @@ QVariant SearchModel::groupData(const Group& group, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
-        return group.matches.title.isEmpty() ? tr("Untitled") : group.matches.title;
+        return shell::shownName(group.matches.title);
     case Qt::AccessibleTextRole:
         return tr("%1, %n matches", nullptr, static_cast<int>(group.matches.matches.size()))
             .arg(group.matches.title);

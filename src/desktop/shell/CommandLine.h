@@ -19,6 +19,9 @@ struct CommandLine
     bool isSelfTest = false;
     /** The project is to get a window of its own, whatever runs already. */
     bool isNewInstance = false;
+    /** The answer is printed, and nothing else happens. */
+    bool isHelp = false;
+    bool isVersion = false;
 
     [[nodiscard]] bool isCapture() const { return !capturePath.isEmpty(); }
     /** The modes that need no user take no part in the talk between instances. */
@@ -31,5 +34,8 @@ struct CommandLine
  * has no value, which is as if it were not there. Unknown options and further paths are ignored.
  */
 [[nodiscard]] CommandLine parseArguments(const QStringList& arguments);
+
+/** What can be written behind the program's name. Needs an application object, but no window system. */
+[[nodiscard]] QString usage();
 
 } // namespace tw::desktop::shell

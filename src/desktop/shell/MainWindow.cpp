@@ -43,6 +43,8 @@
 #include <QTimer>
 #include <QToolBar>
 
+#include <algorithm>
+
 namespace tw::desktop::shell {
 
 using namespace Qt::Literals::StringLiterals;
@@ -50,7 +52,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QSize firstSize{1440, 900};
+/** Milliseconds that a message stays at least, and that a letter of a long one takes to be read. */
 constexpr int messageTime = 6000;
+constexpr int letterTime = 80;
 
 /** The first document with text; in a new project, the first that holds no others. Null for none. */
 core::ContentId firstDocumentToWriteIn(const core::project::Project& project)
@@ -215,7 +219,6 @@ void MainWindow::noteOpened()
         openFirstDocument();
     showCenter();
     refreshTitle();
-    sayLibraryNotices();
 }
 
 void MainWindow::sayLibraryNotices()
@@ -287,7 +290,7 @@ void MainWindow::showCenter()
 
 void MainWindow::say(const QString& text)
 {
-    statusBar()->showMessage(text, messageTime);
+    statusBar()->showMessage(text, std::max(messageTime, static_cast<int>(text.size()) * letterTime));
 }
 
 void MainWindow::refreshTitle()

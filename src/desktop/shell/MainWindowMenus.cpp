@@ -1,5 +1,6 @@
 #include "desktop/shell/MainWindow.h"
 
+#include "app/workspace/WriteAdvice.h"
 #include "desktop/calendar/CalendarDialog.h"
 #include "desktop/codex/CodexPanel.h"
 #include "desktop/codex/PropertyCleanUpDialog.h"
@@ -24,13 +25,16 @@
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/NamedLayouts.h"
 #include "desktop/shell/ProjectLife.h"
+#include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
 #include "desktop/speech/ReadAloud.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSettings>
 
 namespace tw::desktop::shell {
 
@@ -120,6 +124,9 @@ void MainWindow::buildProjectMenu()
     m_projectActions.append(addAction(
         menu, u"project.settings"_s, Icon::Settings, tr("Project &Settings…"), {},
         [this] { project::editProjectSettings(m_desk, this); }));
+    m_projectActions.append(addAction(
+        menu, u"project.audiences"_s, Icon::Eye, tr("Manage &Audiences…"), {},
+        [this] { project::editProjectSettings(m_desk, this, project::ProjectSettingsPart::Audiences); }));
     m_projectActions.append(addAction(
         menu, u"project.calendar"_s, Icon::Date, tr("Edit &Calendar…"), {},
         [this] { calendar::editCalendar(m_desk, this); }));
@@ -259,6 +266,11 @@ void MainWindow::showSettings(settings::SettingsPage page)
         &dialog, &settings::SettingsDialog::editorSettingsChanged, this, &MainWindow::followEditorSettings);
     dialog.showPage(page);
     dialog.exec();
+    m_desk.settings.sync();
+    const QString folder = QFileInfo(m_desk.settings.fileName()).path();
+    auto& files = m_desk.session.workspace().environment().fileSystem;
+    if (const QString advice = app::workspace::writeAdvice(files, folder); !advice.isEmpty())
+        say(tr("The settings hold only until Vellory is closed. %1").arg(advice));
 }
 
 void MainWindow::buildCodexMenu()

@@ -69,10 +69,20 @@ QString ownTitle(const ContentObject& object)
 
 } // namespace
 
+QString shownName(const QString& name)
+{
+    return name.isEmpty() ? QCoreApplication::translate("ObjectTitles", "Untitled") : name;
+}
+
 QString objectTitle(const ContentObject& object)
 {
-    const QString title = ownTitle(object);
-    return title.isEmpty() ? QCoreApplication::translate("ObjectTitles", "Untitled") : title;
+    return shownName(ownTitle(object));
+}
+
+QString reckoningTitle(const core::calendar::Reckoning& reckoning)
+{
+    return reckoning.name.isEmpty() ? QCoreApplication::translate("ObjectTitles", "(unnamed reckoning)")
+                                    : reckoning.name;
 }
 
 core::ContentId findObject(const core::project::Project& project, const QString& idOrTitle)

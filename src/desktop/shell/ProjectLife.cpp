@@ -1,6 +1,7 @@
 #include "desktop/shell/ProjectLife.h"
 
 #include "app/persistence/bundle/BackupList.h"
+#include "app/workspace/WriteAdvice.h"
 #include "desktop/project/NewProjectDialog.h"
 #include "desktop/project/ProjectBackups.h"
 #include "desktop/project/ProjectFileDialogs.h"
@@ -41,8 +42,7 @@ ProjectLife::ProjectLife(const DeskContext& desk, QString samplePath, QWidget* w
     connect(m_crashKeeper, &CrashKeeper::failed, this, &ProjectLife::said);
     // Queued: what asked for the reload says its own first.
     connect(
-        &m_desk.session, &ProjectSession::reloaded, this, &ProjectLife::tellOpeningNotice,
-        Qt::QueuedConnection);
+        &m_desk.session, &ProjectSession::reloaded, this, [this] { tellNotices(); }, Qt::QueuedConnection);
     m_backups->setSave([this] { return saveForBackup(); });
     connect(m_backups, &project::ProjectBackups::said, this, &ProjectLife::said);
     connect(m_backups, &project::ProjectBackups::restored, this, &ProjectLife::open);
@@ -63,9 +63,7 @@ bool ProjectLife::open(const QString& path)
     }
     const bool isRestored = recoverAfterCrash(m_desk.session, *m_crashKeeper, m_window);
     emit opened();
-    tellOpeningNotice();
-    if (isRestored)
-        emit said(tr("Your unsaved changes are back. Save to keep them."));
+    tellNotices(isRestored ? tr("Your unsaved changes are back. Save to keep them.") : QString());
     return true;
 }
 
@@ -74,15 +72,20 @@ void ProjectLife::end()
     m_crashKeeper->discard();
 }
 
-void ProjectLife::tellOpeningNotice()
+void ProjectLife::tellNotices(const QString& more)
 {
-    const app::workspace::OpeningNotice& notice = m_desk.session.workspace().openingNotice();
-    if (notice.isEmpty())
-        return;
-    if (notice.title.isEmpty())
-        emit said(notice.text);
+    const app::workspace::Workspace& workspace = m_desk.session.workspace();
+    const app::workspace::OpeningNotice& opening = workspace.openingNotice();
+    QStringList inPassing{more, workspace.structureNotice()};
+    inPassing += workspace.libraryNotices();
+    if (opening.title.isEmpty())
+        inPassing.prepend(opening.text);
     else
-        inform(m_window, notice.title, notice.text);
+        inform(m_window, opening.title, opening.text);
+    // Said together: said one after the other, only the last would be seen.
+    inPassing.removeAll(QString());
+    if (!inPassing.isEmpty())
+        emit said(inPassing.join(u' '));
 }
 
 bool ProjectLife::reopenLast()
@@ -102,7 +105,9 @@ void ProjectLife::openSample()
             app::workspace::Workspace::open(m_desk.session.workspace().environment(), m_samplePath);
         const auto copied = sample ? sample.value()->saveAs(copy) : core::Failure{sample.message()};
         if (!copied) {
-            tell(m_window, tr("Open the Sample"), copied.message());
+            const auto& environment = m_desk.session.workspace().environment();
+            const QString message = app::workspace::withWriteAdvice(environment, copied.message(), copy);
+            tell(m_window, tr("Open the Sample"), message);
             return;
         }
     }
@@ -209,8 +214,20 @@ void ProjectLife::reload()
         if (!ask(m_window, question))
             return;
     }
+    discardUnsaved();
     if (const auto reloaded = m_desk.session.reload(); !reloaded)
         tell(m_window, tr("Reload Project"), reloaded.message());
+}
+
+void ProjectLife::discardUnsaved()
+{
+    if (const auto discarded = m_desk.session.discardUnsaved(); !discarded) {
+        tell(
+            m_window, tr("Discard Changes"),
+            tr("A save that failed left changes behind, and they could not be set aside: when the project is "
+               "read again, they are back. Undo them then. %1")
+                .arg(discarded.message()));
+    }
 }
 
 bool ProjectLife::settleUnsavedChanges()
@@ -218,8 +235,9 @@ bool ProjectLife::settleUnsavedChanges()
     m_desk.session.commitPendingEdits();
     if (!m_desk.session.isModified()) {
         // Nothing is unsaved, so a refusal because of others' changes loses nothing.
-        if (m_desk.session.workspace().isFullSaveDue())
-            static_cast<void>(m_desk.session.save(SaveExtent::Everything));
+        const bool isDue = m_desk.session.workspace().isFullSaveDue();
+        if (isDue && !m_desk.session.save(SaveExtent::Everything))
+            discardUnsaved();
         return true;
     }
     enum Choice : qsizetype
@@ -234,8 +252,10 @@ bool ProjectLife::settleUnsavedChanges()
              {{tr("Save"), QMessageBox::AcceptRole}, {tr("Discard Changes"), QMessageBox::DestructiveRole}}});
     if (!choice)
         return false;
-    if (*choice == Discard)
+    if (*choice == Discard) {
+        discardUnsaved();
         return true;
+    }
     return m_desk.session.workspace().hasPath() ? saveOrTell(SaveExtent::Everything) : saveAs();
 }
 

@@ -79,7 +79,10 @@ private:
     [[nodiscard]] bool create(const project::NewProject& wanted);
     [[nodiscard]] bool saveOrTell(app::persistence::SaveExtent extent);
     [[nodiscard]] bool saveForBackup();
-    void tellOpeningNotice();
+    /** A failure is told; it keeps nobody from going on. */
+    void discardUnsaved();
+    /** What there is to know about the project as it was read, and then `more`. */
+    void tellNotices(const QString& more = {});
 
     DeskContext m_desk;
     QString m_samplePath;

@@ -1,5 +1,7 @@
 #include "desktop/shell/ProjectSession.h"
 
+#include "app/workspace/WriteAdvice.h"
+
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -163,8 +165,8 @@ void ProjectSession::startAutosave()
     });
     connect(m_autosave.get(), &AutosaveController::saved, this, [this] { static_cast<void>(noteSave({})); });
     connect(m_autosave.get(), &AutosaveController::saveFailed, this, [this](const QString& message) {
-        static_cast<void>(noteSave(core::Failure{message}));
-        emit autosaveFailed(message);
+        const auto noted = noteSave(advised(core::Failure{message}, m_workspace->displayPath()));
+        emit autosaveFailed(noted.message());
     });
     applyAutosaveSettings();
 }
@@ -198,7 +200,7 @@ Result<void> ProjectSession::create(
     auto workspace = std::make_unique<Workspace>(m_environment);
     fill(workspace->projectForEdit());
     if (auto saved = workspace->saveAs(path); !saved)
-        return saved;
+        return advised(std::move(saved), path);
     replaceWorkspace(std::move(workspace));
     return {};
 }
@@ -215,13 +217,13 @@ Result<void> ProjectSession::open(const QString& folder)
 Result<void> ProjectSession::save(SaveExtent extent)
 {
     prepareSave();
-    return noteSave(m_workspace->save(extent));
+    return noteSave(advised(m_workspace->save(extent), m_workspace->displayPath()));
 }
 
 Result<void> ProjectSession::saveAs(const QString& folder)
 {
     prepareSave();
-    return noteSave(m_workspace->saveAs(folder));
+    return noteSave(advised(m_workspace->saveAs(folder), folder));
 }
 
 void ProjectSession::prepareSave(CommitReason reason)
@@ -229,6 +231,13 @@ void ProjectSession::prepareSave(CommitReason reason)
     commitPendingEdits(reason);
     if (m_workspace->isModified())
         emit aboutToSave();
+}
+
+Result<void> ProjectSession::advised(Result<void> result, const QString& path) const
+{
+    if (result)
+        return result;
+    return core::Failure{app::workspace::withWriteAdvice(m_environment, result.message(), path)};
 }
 
 Result<void> ProjectSession::noteSave(Result<void> result)
@@ -299,7 +308,11 @@ Result<void> ProjectSession::settle(app::workspace::ExternalReview& review, Sett
 
 Result<QString> ProjectSession::importAsset(const QString& sourceFile)
 {
-    return m_workspace->importAsset(sourceFile);
+    auto imported = m_workspace->importAsset(sourceFile);
+    if (imported)
+        return imported;
+    return core::Failure{
+        app::workspace::withWriteAdvice(m_environment, imported.message(), m_workspace->folderPath())};
 }
 
 SaveState ProjectSession::saveState() const

@@ -148,6 +148,8 @@ public:
     [[nodiscard]] core::Result<void> save(
         app::persistence::SaveExtent extent = app::persistence::SaveExtent::Changed);
     [[nodiscard]] core::Result<void> saveAs(const QString& folder);
+    /** What failed saves left on disk is given up with what is in memory alone, which stays. */
+    [[nodiscard]] core::Result<void> discardUnsaved() { return m_workspace->discardUnsaved(); }
     [[nodiscard]] core::Result<void> reload();
     /** One look at what others changed on disk. Nothing may be applied while the review is open. */
     [[nodiscard]] core::Result<app::workspace::ExternalReview> beginReview();
@@ -203,6 +205,8 @@ private:
     void applyAutosaveSettings();
     void prepareSave(CommitReason reason = CommitReason::Asked);
     [[nodiscard]] core::Result<void> noteSave(core::Result<void> result);
+    /** A failure to write at the path says as well what can be done about it. */
+    [[nodiscard]] core::Result<void> advised(core::Result<void> result, const QString& path) const;
 
     const app::persistence::StorageEnvironment& m_environment;
     std::unique_ptr<app::workspace::Workspace> m_workspace;

@@ -5,6 +5,7 @@
 #include "desktop/goals/WritingSession.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/TextPage.h"
+#include "desktop/shell/ObjectTitles.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QLabel>
@@ -103,7 +104,8 @@ void StatusStrip::refreshPage()
     for (const core::calendar::Reckoning& reckoning : project.reckonings()) {
         if (hasDate)
             explained += u"\n%1: %2"_s.arg(
-                reckoning.name, core::calendar::formatInstantIn(reckoning, *document->sceneInstant()));
+                reckoningTitle(reckoning),
+                core::calendar::formatInstantIn(reckoning, *document->sceneInstant()));
     }
     m_storyDate->setToolTip(explained);
     m_storyDate->setVisible(hasDate);

@@ -4,6 +4,7 @@
 #include "core/document/markup/LegacyHtml.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/Navigator.h"
+#include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/shell/Questions.h"
 #include "desktop/snapshots/DifferenceView.h"
@@ -326,7 +327,7 @@ void SnapshotsPanel::showVariants()
     m_variant->clear();
     m_variant->addItem(tr("Main text"), QString());
     for (const core::document::DocumentVariant& variant : document()->variants().list)
-        m_variant->addItem(tr("Variant: %1").arg(variant.name), variant.name);
+        m_variant->addItem(tr("Variant: %1").arg(shell::shownName(variant.name)), variant.name);
     const auto* const active = core::document::activeVariant(*document());
     m_variant->setCurrentIndex(active ? m_variant->findData(active->name) : 0);
     m_variant->setEnabled(canEdit());

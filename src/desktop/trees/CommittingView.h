@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QScopedValueRollback>
 
 namespace tw::desktop::trees {
 
@@ -42,8 +43,10 @@ protected:
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override
     {
         m_typing->end();
-        if (isOpen(editor))
-            View::closeEditor(editor, hint);
+        if (!isOpen(editor))
+            return;
+        const QScopedValueRollback<const QWidget*> closing(m_closing, editor);
+        View::closeEditor(editor, hint);
     }
 
 private:
@@ -72,11 +75,15 @@ private:
             closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
 
-    /** The view hides an editor that it lets go, and deletes it later; losing the focus it asks once more. */
-    static bool isOpen(const QWidget* editor) { return editor && !editor->isHidden(); }
+    /**
+     * The view lets go of an editor that it closes, takes the focus from it and hides it, and deletes it
+     * later; losing the focus, the editor asks once more.
+     */
+    bool isOpen(const QWidget* editor) const { return editor && editor != m_closing && !editor->isHidden(); }
 
     shell::PendingEdit* m_typing;
     QPointer<QWidget> m_editor;
+    const QWidget* m_closing = nullptr;
 };
 
 } // namespace tw::desktop::trees

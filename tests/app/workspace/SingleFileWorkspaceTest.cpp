@@ -241,6 +241,51 @@ TEST_F(SingleFileWorkspace, saveThatFailsAtAnyWriteCanBeRepeatedOrRecovered)
     expectArchiveHolds(*workspace);
 }
 
+TEST_F(SingleFileWorkspace, whatWasDiscardedAfterAFailedSaveComesBackOnlyAsABackup)
+{
+    const QDir backups(environment.dataFolder + u"/backups/tide"_s);
+    auto workspace = makeSaved(bundle());
+    edit(*workspace, u"Kept."_s);
+    ASSERT_TRUE(workspace->save());
+    const auto failToSave = [&](const QString& body) {
+        edit(*workspace, body);
+        files.failingReplacements[bundle()] = FaultyFileSystem::always;
+        EXPECT_FALSE(workspace->save());
+        EXPECT_TRUE(workspace->isFullSaveDue());
+        files.failingReplacements.clear();
+    };
+    const auto backedUpBody = [&] {
+        const auto names = backups.entryList(QDir::Files, QDir::Time);
+        const auto copy = root.filePath(u"backup %1.vellory"_s.arg(names.size()));
+        EXPECT_TRUE(!names.isEmpty() && QFile::copy(backups.filePath(names.first()), copy));
+        return document(*open(copy)).body().text;
+    };
+
+    failToSave(u"Given up by a reload."_s);
+    files.bytesLeft = 0;
+    ASSERT_TRUE(workspace->discardUnsaved()) << "possible on a full disk";
+    files.bytesLeft = std::numeric_limits<qint64>::max();
+    ASSERT_TRUE(workspace->reload());
+    EXPECT_EQ(document(*workspace).body().text, u"Kept."_s);
+    EXPECT_TRUE(workspace->openingNotice().text.contains(backups.path()));
+    EXPECT_EQ(backedUpBody(), u"Given up by a reload."_s);
+    EXPECT_TRUE(workspace->save());
+
+    failToSave(u"Given up at the end."_s);
+    ASSERT_TRUE(workspace->discardUnsaved());
+    workspace = open(bundle());
+    EXPECT_EQ(document(*workspace).body().text, u"Kept."_s);
+    EXPECT_EQ(backups.entryList(QDir::Files).size(), 2);
+    expectArchiveHolds(*workspace);
+
+    failToSave(u"Kept after all."_s);
+    ASSERT_TRUE(workspace->discardUnsaved());
+    ASSERT_TRUE(workspace->save()) << "a later save takes it back";
+    workspace = open(bundle());
+    EXPECT_EQ(document(*workspace).body().text, u"Kept after all."_s);
+    EXPECT_TRUE(workspace->openingNotice().isEmpty());
+}
+
 TEST_F(SingleFileWorkspace, tellsWhichVersionWon)
 {
     auto workspace = makeSaved(bundle());

@@ -282,6 +282,9 @@ TEST_F(ExternalChangesTest, statusBarTellsUntilItIsSettled)
     while (notice->isHidden() && looked.wait())
         ;
     EXPECT_TRUE(notice->isVisible());
+    const auto* const review = button<QToolButton>(*notice, u"Review…"_s);
+    EXPECT_TRUE(review->toolTip().startsWith(u"Reopen the project to load the on-disk version"_s));
+    EXPECT_EQ(review->accessibleDescription(), review->toolTip());
     NextMessage message(u"Load On-Disk Version"_s);
     button<QToolButton>(*notice, u"Review…"_s)->click();
     EXPECT_EQ(desk.document(first).title(), u"Neap"_s);

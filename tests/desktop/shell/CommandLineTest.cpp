@@ -27,6 +27,10 @@ TEST(CommandLineTest, readsPathAndOptions)
         {{u"a"_s, u"--lang"_s}, {.projectPath = u"a"_s}},
         {{u"--selftest-dialogs"_s, u"a"_s}, {.projectPath = u"a"_s, .isSelfTest = true}},
         {{u"--new-instance"_s, u"a b"_s}, {.projectPath = u"a b"_s, .isNewInstance = true}},
+        {{u"--help"_s}, {.isHelp = true}},
+        {{u"a"_s, u"-h"_s, u"--version"_s, u"-v"_s},
+         {.projectPath = u"a"_s, .isHelp = true, .isVersion = true}},
+        {{u"--capture"_s, u"--help"_s}, {.capturePath = u"--help"_s}},
         {{u"--unknown"_s, u"-x"_s, u"a"_s}, {.projectPath = u"a"_s}},
     };
     for (const auto& sample : cases) {
@@ -38,6 +42,8 @@ TEST(CommandLineTest, readsPathAndOptions)
         EXPECT_EQ(line.language, sample.expected.language) << shown;
         EXPECT_EQ(line.isSelfTest, sample.expected.isSelfTest) << shown;
         EXPECT_EQ(line.isNewInstance, sample.expected.isNewInstance) << shown;
+        EXPECT_EQ(line.isHelp, sample.expected.isHelp) << shown;
+        EXPECT_EQ(line.isVersion, sample.expected.isVersion) << shown;
         EXPECT_EQ(line.isInteractive(), sample.expected.capturePath.isEmpty() && !sample.expected.isSelfTest)
             << shown;
     }

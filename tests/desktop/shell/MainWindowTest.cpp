@@ -1,12 +1,16 @@
 #include "desktop/shell/MainWindow.h"
 
+#include "core/calendar/CalendarCommands.h"
+#include "core/document/DocumentCommands.h"
 #include "core/entity/EntityCommands.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/DocumentPage.h"
+#include "desktop/project/ProjectSettingsDialog.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/RecentProjects.h"
 #include "desktop/shell/WorkArea.h"
+#include "desktop/support/NextDialog.h"
 #include "desktop/support/NextMessage.h"
 #include "desktop/support/TestDesk.h"
 #include "desktop/trees/NavigatorTree.h"
@@ -14,7 +18,12 @@
 
 #include <QAction>
 #include <QDockWidget>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -183,6 +192,29 @@ TEST_F(MainWindowTest, badFoldersAreToldAndTheProjectStays)
     EXPECT_FALSE(window->select(u"No such thing"_s));
 }
 
+TEST_F(MainWindowTest, damagedLinksAreToldWhenTheProjectIsRead)
+{
+    const auto hangUnder = [this](const QString& title, const core::ContentId& parent) {
+        QFile file(project + u"/objects/%1.json"_s.arg(idOf(title).toString()));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
+        object.insert(u"parentId"_s, parent.toString());
+        ASSERT_TRUE(file.resize(0) && file.seek(0));
+        file.write(QJsonDocument(object).toJson());
+    };
+    hangUnder(u"The Spike"_s, idOf(u"The Spike"_s));
+    const QString notice = u"%1 item(s) stand under themselves or under something that is missing; they are "
+                           u"shown at the top level."_s;
+    ASSERT_TRUE(window->life().open(project));
+    EXPECT_EQ(window->statusBar()->currentMessage(), notice.arg(1));
+    EXPECT_TRUE(window->select(u"The Spike"_s));
+
+    hangUnder(u"Stillday"_s, core::ContentId::create());
+    window->life().reload();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->statusBar()->currentMessage(), notice.arg(2));
+}
+
 TEST_F(MainWindowTest, refusedSaveSaysWhyAndKeepsTheChanges)
 {
     manuscript::BodyEditor& text = openText(u"The Spike"_s);
@@ -197,6 +229,30 @@ TEST_F(MainWindowTest, refusedSaveSaysWhyAndKeepsTheChanges)
     EXPECT_TRUE(close.text.startsWith(u"The files on disk cannot be read as a project right now"_s));
     EXPECT_EQ(desk->session.saveState(), SaveState::Failed);
     EXPECT_TRUE(window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, audiencesAreManagedFromTheProjectMenu)
+{
+    const test::NextDialog<project::ProjectSettingsDialog> dialog([](project::ProjectSettingsDialog& shown) {
+        const auto* const list = qobject_cast<QListWidget*>(shown.focusWidget());
+        EXPECT_TRUE(list && list->objectName() == u"audiences"_s && list->currentRow() == 0);
+        shown.reject();
+    });
+    action(u"Manage Audiences…"_s)->trigger();
+    EXPECT_TRUE(dialog.wasSeen());
+}
+
+TEST_F(MainWindowTest, theStoryDateIsToldInEveryReckoningAlsoInOneWithoutAName)
+{
+    openText(u"The Spike"_s);
+    auto& edited = desk->session.projectForCommands();
+    desk->session.apply(std::make_unique<core::document::SetDocumentSceneInstantCommand>(
+        *edited.findAsForEdit<core::document::Document>(idOf(u"The Spike"_s)), 0));
+    desk->session.apply(std::make_unique<core::calendar::SetReckoningsCommand>(
+        edited, std::vector<core::calendar::Reckoning>(1)));
+    const auto labels = window->statusBar()->findChildren<QLabel*>();
+    EXPECT_TRUE(std::ranges::any_of(
+        labels, [](const QLabel* label) { return label->toolTip().contains(u"\n(unnamed reckoning): "_s); }));
 }
 
 TEST_F(MainWindowTest, everyPanelStandsInTheWindowsMenuOnce)

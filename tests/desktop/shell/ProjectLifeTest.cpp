@@ -60,6 +60,16 @@ protected:
         EXPECT_TRUE(dialog.wasSeen());
     }
 
+    /** At the beginning of the first text of a new project. */
+    void type(const QString& text)
+    {
+        ASSERT_TRUE(window.select(u"Premise"_s));
+        auto* const page = qobject_cast<manuscript::DocumentPage*>(
+            window.findChild<WorkArea*>(u"workArea"_s)->currentPage());
+        ASSERT_TRUE(page);
+        QTest::keyClicks(&page->editor(), text);
+    }
+
     QString textOf(const QString& title) const
     {
         const auto* const document =
@@ -81,11 +91,7 @@ TEST_F(ProjectLifeTest, fromNewToRestored)
     EXPECT_EQ(desk.session.project().name(), u"Low: Water"_s);
     EXPECT_FALSE(desk.session.isModified()) << "on disk at once";
 
-    ASSERT_TRUE(window.select(u"Premise"_s));
-    auto* const page =
-        qobject_cast<manuscript::DocumentPage*>(window.findChild<WorkArea*>(u"workArea"_s)->currentPage());
-    ASSERT_TRUE(page);
-    QTest::keyClicks(&page->editor(), u"A clerk in a tidal town."_s);
+    type(u"A clerk in a tidal town."_s);
     window.life().save();
     EXPECT_FALSE(desk.session.isModified());
 
@@ -119,6 +125,71 @@ TEST_F(ProjectLifeTest, fromNewToRestored)
     EXPECT_EQ(
         RecentProjects(desk.settings).paths().first(2),
         (QStringList{path(u"Restored.vellory"_s), path(u"as file.vellory"_s)}));
+}
+
+TEST_F(ProjectLifeTest, whatIsDiscardedAfterAFailedSaveIsNotThereAgain)
+{
+    makeProject(u"Tide"_s);
+    const QString file = path(u"Tide.vellory"_s);
+    const auto failToSave = [&](const QString& text) {
+        type(text);
+        desk.files.failingReplacements[file] = app::persistence::FaultyFileSystem::always;
+        const NextMessage close(u"Close"_s);
+        window.life().save();
+        EXPECT_TRUE(close.text.contains(QDir::toNativeSeparators(file)));
+        desk.files.failingReplacements.clear();
+    };
+    type(u"Kept."_s);
+    window.life().save();
+
+    failToSave(u"Reloaded."_s);
+    {
+        const NextMessage discard(u"Discard Changes"_s);
+        window.life().reload();
+    }
+    EXPECT_EQ(textOf(u"Premise"_s), u"Kept."_s);
+    EXPECT_EQ(app::persistence::listBackups(desk.environment).size(), 1U);
+
+    failToSave(u"Closed."_s);
+    {
+        const NextMessage discard(u"Discard Changes"_s);
+        EXPECT_TRUE(window.close());
+    }
+    ASSERT_TRUE(desk.session.open(file));
+    EXPECT_EQ(textOf(u"Premise"_s), u"Kept."_s);
+    EXPECT_EQ(app::persistence::listBackups(desk.environment).size(), 2U);
+}
+
+TEST_F(ProjectLifeTest, whatHindersASaveIsToldUntilItWorks)
+{
+    using app::persistence::FaultyFileSystem;
+    makeProject(u"Tide"_s);
+    const struct
+    {
+        int& left;
+        QString advice;
+    } cases[] = {
+        {desk.files.writesLeft, u"The disk of %1 is full. Free some space there, then try again."_s},
+        {desk.files.changesLeft,
+         u"Nothing may be written in %1. Allow it there, or choose another place, then try again."_s},
+    };
+    for (const auto& sample : cases) {
+        type(u"More. "_s);
+        sample.left = 0;
+        const QString advice = sample.advice.arg(QDir::toNativeSeparators(folder.path()));
+        {
+            const NextMessage close(u"Close"_s);
+            window.life().save();
+            EXPECT_TRUE(close.text.startsWith(advice)) << close.text.toStdString();
+        }
+        EXPECT_TRUE(desk.session.saveFailure().startsWith(advice));
+        EXPECT_EQ(desk.session.saveState(), SaveState::Failed);
+        sample.left = FaultyFileSystem::always;
+        window.life().save();
+        EXPECT_EQ(desk.session.saveState(), SaveState::Saved);
+    }
+    ASSERT_TRUE(window.life().open(path(u"Tide.vellory"_s)));
+    EXPECT_EQ(textOf(u"Premise"_s), u"More. More. "_s);
 }
 
 TEST_F(ProjectLifeTest, aPlaceThatFailsIsAskedForAgain)

@@ -10,6 +10,8 @@
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
 
+#include "app/persistence/files/FaultyFileSystem.h"
+
 #include <QDir>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -64,7 +66,7 @@ public:
     QSettings settings{folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
     desktop::theme::ThemeManager themes{settings};
     desktop::icons::IconSet icons{themes};
-    app::persistence::DiskFileSystem files;
+    app::persistence::FaultyFileSystem files;
     app::persistence::StorageEnvironment environment{files, folder.filePath(QStringLiteral("data"))};
     desktop::shell::ProjectSession session{environment};
     desktop::shell::Navigator navigator;

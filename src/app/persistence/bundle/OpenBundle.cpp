@@ -52,13 +52,16 @@ public:
             return unpack(BundleOpening::Unpacked, {});
 
         Result<LoadedProject> loaded = loadProject(m_environment.fileSystem, m_copy.folder);
-        const bool isRecorded = recordedHash(m_environment.fileSystem, m_copy) == m_known.hash;
+        const QByteArray recorded = recordedHash(m_environment.fileSystem, m_copy);
+        const bool isRecorded = recorded == m_known.hash;
         if (isSameAsArchive(listed.value(), loaded))
             return loaded ? finish(std::move(loaded).value(), BundleOpening::Intact, {})
                           : Failure{loaded.message()};
         if (isRecorded && loaded)
             return restore(std::move(loaded).value());
-        return replaceCopy(isRecorded ? BundleOpening::SetAside : BundleOpening::Replaced);
+        if (isRecorded)
+            return replaceCopy(BundleOpening::SetAside);
+        return replaceCopy(recorded.isEmpty() ? BundleOpening::Disowned : BundleOpening::Replaced);
     }
 
 private:

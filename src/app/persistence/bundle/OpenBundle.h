@@ -16,6 +16,7 @@ enum class BundleOpening
     Intact,   ///< It held what the archive holds.
     Restored, ///< It held work that the archive lacked; both hold it now. The former archive is backed up.
     Replaced, ///< The archive had changed, and its version won. The copy is backed up.
+    Disowned, ///< It held other files, but no record vouched for it. The copy is backed up.
     SetAside, ///< It held work that the archive lacked, but could not be loaded. The copy is backed up.
 };
 

@@ -94,6 +94,13 @@ Result<void> recordHash(
     return writer.syncFolders();
 }
 
+Result<void> forgetRecord(FileSystem& fileSystem, const WorkingCopy& copy)
+{
+    if (fileSystem.remove(copy.recordPath) && fileSystem.syncFolder(QFileInfo(copy.recordPath).path()))
+        return {};
+    return writeFailure(copy.recordPath);
+}
+
 Result<void> unpackFreshCopy(
     const StorageEnvironment& environment, const WorkingCopy& copy, const QList<BundleFile>& files)
 {

@@ -37,6 +37,8 @@ struct WorkingCopy
 /** An empty hash says that the copy is not to be trusted over any archive. */
 [[nodiscard]] core::Result<void> recordHash(
     const StorageEnvironment& environment, const WorkingCopy& copy, const QByteArray& hash);
+/** The same as an empty hash, but possible on a full disk. */
+[[nodiscard]] core::Result<void> forgetRecord(FileSystem& fileSystem, const WorkingCopy& copy);
 
 /**
  * Unpacks the files into the place for a new copy, where remains of an interrupted attempt are removed first.

@@ -5,10 +5,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 namespace tw::app::persistence {
 
 namespace {
+
+/** Bytes. With less, names and records of files do not fit for certain. */
+constexpr qint64 leastRoom = 64 * 1024;
 
 /** A link is written through, so that it stays a link. */
 QString writtenThrough(const QString& target)
@@ -68,6 +72,20 @@ bool DiskFileSystem::makeFolders(const QString& path)
 bool DiskFileSystem::syncFolder(const QString& path)
 {
     return platform::syncFolder(path);
+}
+
+WriteObstacle DiskFileSystem::obstacleAt(const QString& folder, qint64 bytes)
+{
+    QFileInfo place(folder);
+    while (!place.isDir() && !place.isRoot())
+        place.setFile(place.path());
+    const QStorageInfo medium(place.filePath());
+    if (medium.isReadOnly())
+        return WriteObstacle::NotWritable;
+    // First: a full disk often says no to more than room.
+    if (medium.isValid() && medium.bytesAvailable() < bytes + leastRoom)
+        return WriteObstacle::DiskFull;
+    return place.isWritable() ? WriteObstacle::None : WriteObstacle::NotWritable;
 }
 
 } // namespace tw::app::persistence

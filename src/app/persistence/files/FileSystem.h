@@ -35,6 +35,14 @@ enum class Durability
     Cached,
 };
 
+/** What keeps files from being written at a place. */
+enum class WriteObstacle
+{
+    None, ///< None that is known of.
+    DiskFull,
+    NotWritable, ///< The folder is not ours to write in, or the whole medium is read-only.
+};
+
 /** See FileSystem::hold(). */
 using FileHold = std::shared_ptr<const void>;
 
@@ -89,6 +97,9 @@ public:
 
     /** Has the names in a folder reach the medium, as far as the system can do that. */
     [[nodiscard]] virtual bool syncFolder(const QString& path) = 0;
+
+    /** Looks why so many bytes might not get into the folder, or into one yet to be made at the path. */
+    [[nodiscard]] virtual WriteObstacle obstacleAt(const QString& folder, qint64 bytes) = 0;
 };
 
 /** The computer's own file system. */
@@ -106,6 +117,7 @@ public:
     bool remove(const QString& path) override;
     bool makeFolders(const QString& path) override;
     bool syncFolder(const QString& path) override;
+    WriteObstacle obstacleAt(const QString& folder, qint64 bytes) override;
 };
 
 } // namespace tw::app::persistence

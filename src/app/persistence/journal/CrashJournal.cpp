@@ -53,8 +53,8 @@ Failure journalFailure(const QString& path)
 {
     return {QCoreApplication::translate(
                 "Persistence",
-                "Unsaved changes could not be noted for recovery in %1. Save your work, and free some "
-                "space.")
+                "Save your work, and free some space: unsaved changes could not be noted for recovery in "
+                "%1.")
                 .arg(QDir::toNativeSeparators(path))};
 }
 

@@ -115,8 +115,16 @@ public:
     FileHold hold(const QString& path) override { return m_disk.hold(path); }
     bool syncFolder(const QString& path) override
     {
+        const QMutexLocker lock(&m_mutex);
         m_synced.append(path);
         return !fails(failingSyncs, path) && m_disk.syncFolder(path);
+    }
+    WriteObstacle obstacleAt(const QString&, qint64 bytes) override
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (changesLeft < 0)
+            return WriteObstacle::NotWritable;
+        return bytesLeft < bytes || writesLeft == 0 ? WriteObstacle::DiskFull : WriteObstacle::None;
     }
 
 private:

@@ -211,7 +211,7 @@ TEST_F(CrashJournalTest, saysWhenItCannotBeWrittenAndCatchesUpAfterwards)
     const auto failing = [&] {
         const QString message = journal->flush().message();
         EXPECT_TRUE(message.contains(journals())) << message.toStdString();
-        EXPECT_TRUE(message.endsWith(u"Save your work, and free some space."));
+        EXPECT_TRUE(message.startsWith(u"Save your work, and free some space: "));
         return !message.isEmpty();
     };
     // The folder cannot be made.
