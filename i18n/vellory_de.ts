@@ -2261,6 +2261,26 @@
         <source>Replace in the project</source>
         <translation>Im Projekt ersetzen</translation>
     </message>
+    <message>
+        <source>Set proofreading</source>
+        <translation>Korrektur einstellen</translation>
+    </message>
+    <message>
+        <source>Set language of document</source>
+        <translation>Sprache des Dokuments festlegen</translation>
+    </message>
+    <message>
+        <source>Ignore finding</source>
+        <translation>Hinweis ignorieren</translation>
+    </message>
+    <message>
+        <source>Report ignored findings</source>
+        <translation>Ignorierte Hinweise wieder melden</translation>
+    </message>
+    <message>
+        <source>Take proofreading choices into the project</source>
+        <translation>Korrektureinstellungen in das Projekt übernehmen</translation>
+    </message>
 </context>
 <context>
     <name>ValueText</name>
@@ -3833,6 +3853,10 @@
             <numerusform>%Ln Stellen ersetzt.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Nothing was replaced.</source>
+        <translation>Nichts wurde ersetzt.</translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::manuscript::ManuscriptPanel</name>
@@ -5305,6 +5329,17 @@
         <source>&amp;Replace %1</source>
         <translation>%1 &amp;ersetzen</translation>
     </message>
+    <message>
+        <source>Nothing was replaced.</source>
+        <translation>Nichts wurde ersetzt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n matches stand across marks and were left alone; change them in the text.</source>
+        <translation>
+            <numerusform>%n Fundstelle liegt quer zu Auszeichnungen und blieb, wie sie war; ändern Sie sie im Text.</numerusform>
+            <numerusform>%n Fundstellen liegen quer zu Auszeichnungen und blieben, wie sie waren; ändern Sie sie im Text.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::settings::AppearancePage</name>
@@ -6034,10 +6069,6 @@
         <translation>&amp;Weitersuchen</translation>
     </message>
     <message>
-        <source>Open What the Word Name&amp;s</source>
-        <translation>&amp;Öffnen, was das Wort nennt</translation>
-    </message>
-    <message>
         <source>R&amp;eplace…</source>
         <translation>Erset&amp;zen…</translation>
     </message>
@@ -6135,6 +6166,26 @@
     <message>
         <source>The settings hold only until Vellory is closed. %1</source>
         <translation>Die Einstellungen gelten nur, bis Vellory geschlossen wird. %1</translation>
+    </message>
+    <message>
+        <source>Follow Link, Note or Na&amp;me</source>
+        <translation>&amp;Link, Anmerkung oder Namen folgen</translation>
+    </message>
+    <message>
+        <source>There is no link, note or name from the codex at the cursor.</source>
+        <translation>Am Cursor steht kein Link, keine Anmerkung und kein Name aus dem Kodex.</translation>
+    </message>
+    <message>
+        <source>S&amp;how Card of the Name</source>
+        <translation>Ka&amp;rte des Namens zeigen</translation>
+    </message>
+    <message>
+        <source>Go to Ne&amp;xt Part</source>
+        <translation>Zum näc&amp;hsten Bereich</translation>
+    </message>
+    <message>
+        <source>Go to Pre&amp;vious Part</source>
+        <translation>Zum &amp;vorigen Bereich</translation>
     </message>
 </context>
 <context>

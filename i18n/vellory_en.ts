@@ -460,6 +460,13 @@
             <numerusform>in %n documents</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n matches stand across marks and were left alone; change them in the text.</source>
+        <translation>
+            <numerusform>%n match stands across marks and was left alone; change it in the text.</numerusform>
+            <numerusform>%n matches stand across marks and were left alone; change them in the text.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tw::desktop::shell::MainWindow</name>

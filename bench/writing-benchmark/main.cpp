@@ -5,6 +5,8 @@
 #include "bench/writing-benchmark/KeyTimes.h"
 #include "bench/writing-benchmark/WritingDesk.h"
 #include "bench/writing-benchmark/WrittenTexts.h"
+#include "desktop/composition/CompositionPage.h"
+#include "desktop/composition/SceneSlot.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/DocumentPage.h"
 #include "desktop/manuscript/PageStyle.h"
@@ -17,6 +19,7 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace tw;
+using desktop::composition::CompositionPage;
 using desktop::manuscript::DocumentPage;
 using desktop::manuscript::rich::RichPage;
 
@@ -27,6 +30,9 @@ constexpr double openingAim = 2.0;
 constexpr double keyAim = 1.5;
 constexpr double frameMilliseconds = 16;
 constexpr qsizetype largestInAFrame = 240'000;
+constexpr qsizetype sceneCharacters = 6'000;
+constexpr int scenes = 300;
+constexpr double continuousAim = 1.5;
 constexpr int longestRest = 40;
 constexpr quint64 restSeed = 3;
 
@@ -113,6 +119,52 @@ bool compareProofreadKeys(bench::WritingDesk& desk, qsizetype characters, bench:
     return tellKeys(bench::timeKeys(page.editor(), *bare, {.beforeWord = checkAnew}), characters, results);
 }
 
+/** In a whole manuscript as one text, every document of it open, against the same document alone. */
+bool compareContinuousKeys(bench::ResultTable& results)
+{
+    const QString text = bench::writtenText(sceneCharacters);
+    bench::WritingDesk desk;
+    bench::WritingDesk alone;
+    alone.setText(text);
+    desk.setText(text);
+    for (int index = 1; index < scenes; ++index) {
+        // Half of them before it.
+        const core::ContentId id = desk.addDocument(u"Scene"_s, {}, index % 2 == 0 ? -index : index);
+        desk.document(id).setBody({text, {}});
+    }
+    desk.announce();
+    const auto service = desk.makeProofreadingService();
+    const auto serviceAlone = alone.makeProofreadingService();
+    RichPage single(alone.context, alone.id, nullptr);
+    serviceAlone->attach(single, alone.id);
+    show(single);
+    CompositionPage page(desk.context, {}, nullptr);
+    QObject::connect(
+        &page, &CompositionPage::editorMade, service.get(),
+        [&service](desktop::manuscript::BodyEditor* editor, const core::ContentId& id) {
+            service->attach(*editor, id);
+        });
+    show(page);
+    desktop::manuscript::BodyEditor* written = nullptr;
+    for (auto* const slot : page.slotsInOrder()) {
+        auto& editor = slot->wake();
+        if (slot->documentId() == desk.id)
+            written = &editor;
+    }
+    QCoreApplication::processEvents();
+    page.activateWindow();
+    written->setFocus();
+    results.addTitle(u"Key to glyph in continuous text, %1 documents of %2 kB open"_s.arg(scenes).arg(
+        sceneCharacters / 1000));
+    const auto times = bench::timeKeys(*written, single, {});
+    results.addTimes(
+        u"median"_s, u"the document alone"_s,
+        {times.first.quantile(0.5) / 1000, times.second.quantile(0.5) / 1000}, continuousAim);
+    QTextStream(stdout) << "  99th percentile " << QString::number(times.first.quantile(0.99), 'f', 2)
+                        << " ms, alone " << QString::number(times.second.quantile(0.99), 'f', 2) << " ms\n";
+    return times.first.quantile(0.99) < frameMilliseconds;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -127,5 +179,6 @@ int main(int argc, char* argv[])
     isWithinFrames = compareKeys(desk, chapterCharacters, bench::Place::End, results) && isWithinFrames;
     for (const qsizetype characters : {24'000, 240'000})
         isWithinFrames = compareProofreadKeys(desk, characters, results) && isWithinFrames;
+    isWithinFrames = compareContinuousKeys(results) && isWithinFrames;
     return results.areAimsReached() && isWithinFrames ? 0 : 1;
 }

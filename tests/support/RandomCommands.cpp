@@ -417,6 +417,7 @@ void RandomCommands::addProjectCommands()
     addField<plot::SetPlotThreadsCommand>();
     addField<plot::SetBeatSheetCommand>();
     addField<writing::SetWritingGoalCommand>();
+    addField<writing::SetProofreadingCommand>();
 }
 
 } // namespace tw::test

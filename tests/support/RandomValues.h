@@ -267,6 +267,10 @@ struct RandomValues
     {
         return {text(), text(), text(), {{text(), text()}}, {{text(), text()}}};
     }
+    writing::DocumentProofreading make(writing::DocumentProofreading*) const
+    {
+        return {anyId(), {text()}, {text(), text()}};
+    }
     writing::WritingGoal make(writing::WritingGoal*) const
     {
         return {random.number(0, 5000), random.number(0, 90000), text()};

@@ -130,7 +130,8 @@ Renamed<DocumentBody> renamedBody(const DocumentBody& body, DocumentKind kind, c
     if (PlainText(spliced).text() == expected)
         return {{spliced, BodyFormat::Markdown}, count};
     const auto matcher = search::TextMatcher::create({change.oldName, true});
-    return {search::buildReplacement({source}, matcher.value(), matches, change.newName), count};
+    auto replaced = search::buildReplacement({source}, matcher.value(), matches, change.newName);
+    return {std::move(replaced.text), replaced.made};
 }
 
 } // namespace tw::app::codex

@@ -8,6 +8,7 @@
 #include "core/document/markup/PlainText.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tw::app::search {
 
@@ -88,42 +89,41 @@ std::vector<Run> editedRuns(std::vector<Run> runs, const GroupMask& mask, const 
     return result;
 }
 
-/** `prose` is what was searched. Where groups tear marks apart, so that it is not what is edited here,
- * nothing is. */
-QString editedInline(const QString& text, const QString& prose, const Edits& edits)
+/** `prose` is what was searched. None where groups tear marks apart, so that it is not what is edited here.
+ */
+std::optional<QString> editedInline(const QString& text, const QString& prose, const Edits& edits)
 {
     const std::vector<markup::SourceRange> groups = markup::findLooseGroups(text, markup::takeApart(text));
     const GroupMask mask(text, groups);
     const std::vector<Run> runs = mask.parted(markup::parseInline(mask.text()));
     if (!groups.empty() && proseOf(runs, mask) != prose)
-        return text;
-    return mask.restored(markup::writeInline(editedRuns(runs, mask, edits))).value_or(text);
+        return {};
+    return mask.restored(markup::writeInline(editedRuns(runs, mask, edits)));
 }
 
-QString editedCode(const QString& text, const Edits& edits)
+std::optional<QString> editedCode(const QString& text, const Edits& edits)
 {
     const GroupMask mask(text, markup::findGroups(text));
     QString edited;
     for (const Run& run : editedRuns(mask.parted({Run{RunKind::Text, mask.text(), {}, {}}}), mask, edits))
         edited += run.text;
-    return mask.restored(edited).value_or(text);
+    return mask.restored(edited);
 }
 
-void apply(Block& block, const markup::PlainPart& part, const QString& prose, const Edits& edits)
+/** False when the part cannot be edited. */
+bool apply(Block& block, const markup::PlainPart& part, const QString& prose, const Edits& edits)
 {
-    if (block.kind == BlockKind::Table) {
-        QString& cell = block.table.rows.at(part.row).at(part.column);
-        cell = editedInline(cell, prose, edits);
-    } else if (block.kind == BlockKind::Code) {
-        block.text = editedCode(block.text, edits);
-    } else {
-        block.text = editedInline(block.text, prose, edits);
-    }
+    QString& text =
+        block.kind == BlockKind::Table ? block.table.rows.at(part.row).at(part.column) : block.text;
+    auto edited = block.kind == BlockKind::Code ? editedCode(text, edits) : editedInline(text, prose, edits);
+    if (edited)
+        text = std::move(*edited);
+    return edited.has_value();
 }
 
 } // namespace
 
-DocumentBody buildReplacement(
+Replaced<DocumentBody> buildReplacement(
     const DocumentBody& body, const TextMatcher& matcher, const std::vector<TextMatch>& matches,
     const QString& replacement)
 {
@@ -131,38 +131,52 @@ DocumentBody buildReplacement(
     markup::Blocks blocks = markup::parseBlocks(source);
     const markup::PlainText plain(source);
     std::vector<bool> isEdited(blocks.list.size(), false);
+    qsizetype made = 0;
+    qsizetype refused = 0;
     auto match = matches.begin();
     for (const markup::PlainPart& part : plain.parts()) {
+        const QString prose = plain.text().sliced(part.start, part.length);
         Edits edits;
         for (; match != matches.end() && match->range.end() <= part.start + part.length; ++match) {
             const IndexRange range{match->range.first - part.start, match->range.count};
             if (match->field != MatchField::Body || range.first < 0)
                 continue;
-            edits.push_back({range, matcher.replacementFor(match->groups, replacement)});
+            QString text = matcher.replacementFor(match->groups, replacement);
+            if (QStringView(prose).sliced(range.first, range.count) != text)
+                edits.push_back({range, std::move(text)});
         }
         if (edits.empty())
             continue;
-        apply(blocks.list[part.block], part, plain.text().sliced(part.start, part.length), edits);
+        if (!apply(blocks.list[part.block], part, prose, edits)) {
+            refused += std::ssize(edits);
+            continue;
+        }
+        made += std::ssize(edits);
         isEdited[part.block] = true;
     }
+    if (made == 0)
+        return {body, 0, refused};
     QString text = source.first(blocks.leadLength);
     for (std::size_t index = 0; index < blocks.list.size(); ++index) {
         const Block& block = blocks.list[index];
         text += isEdited[index] ? markup::writeBlock(block) : source.sliced(block.start, block.length);
         text += source.sliced(block.start + block.length, block.gapLength);
     }
-    return {text, BodyFormat::Markdown};
+    return {{text, BodyFormat::Markdown}, made, refused};
 }
 
-QString replaceInText(
+Replaced<QString> replaceInText(
     const QString& text, const TextMatcher& matcher, const std::vector<TextMatch>& matches,
     const QString& replacement)
 {
-    QString result = text;
+    Replaced<QString> result{text};
     for (auto match = matches.rbegin(); match != matches.rend(); ++match) {
-        if (match->range.end() <= text.size())
-            result.replace(
-                match->range.first, match->range.count, matcher.replacementFor(match->groups, replacement));
+        const QString wanted = matcher.replacementFor(match->groups, replacement);
+        if (match->range.end() > text.size() ||
+            QStringView(text).sliced(match->range.first, match->range.count) == wanted)
+            continue;
+        result.text.replace(match->range.first, match->range.count, wanted);
+        ++result.made;
     }
     return result;
 }

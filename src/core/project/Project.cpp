@@ -139,8 +139,8 @@ bool operator==(const Project& left, const Project& right)
            left.m_timelineView == right.m_timelineView &&
            left.m_timelineViewPresets == right.m_timelineViewPresets &&
            left.m_libraryMounts == right.m_libraryMounts && left.m_writingLog == right.m_writingLog &&
-           left.m_writingGoal == right.m_writingGoal && left.m_calendar == right.m_calendar &&
-           left.m_reckonings == right.m_reckonings;
+           left.m_writingGoal == right.m_writingGoal && left.m_proofreading == right.m_proofreading &&
+           left.m_calendar == right.m_calendar && left.m_reckonings == right.m_reckonings;
 }
 
 } // namespace tw::core::project

@@ -176,6 +176,16 @@ public:
     [[nodiscard]] const writing::WritingGoal& writingGoal() const { return m_writingGoal; }
     void setWritingGoal(writing::WritingGoal goal) { m_writingGoal = std::move(goal); }
 
+    /** Of the documents that have something of their own, none of them empty. */
+    [[nodiscard]] const std::vector<writing::DocumentProofreading>& proofreading() const
+    {
+        return m_proofreading;
+    }
+    void setProofreading(std::vector<writing::DocumentProofreading> list)
+    {
+        m_proofreading = std::move(list);
+    }
+
     [[nodiscard]] const calendar::Calendar& calendar() const { return m_calendar; }
     void setCalendar(calendar::Calendar calendar) { m_calendar = std::move(calendar); }
 
@@ -225,6 +235,7 @@ private:
     std::vector<LibraryMount> m_libraryMounts;
     std::vector<writing::WritingLogEntry> m_writingLog;
     writing::WritingGoal m_writingGoal;
+    std::vector<writing::DocumentProofreading> m_proofreading;
     calendar::Calendar m_calendar;
     std::vector<calendar::Reckoning> m_reckonings;
 };

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "core/foundation/Id.h"
+
+#include <QStringList>
 
 namespace tw::core::writing {
 
@@ -23,6 +25,20 @@ struct WritingGoal
     QString deadline;
 
     friend bool operator==(const WritingGoal&, const WritingGoal&) = default;
+};
+
+/** How one document is proofread; a document without a record is proofread as the user likes it. */
+struct DocumentProofreading
+{
+    ContentId documentId;
+    /** Of dictionaries, as "en_US"; empty for the user's. */
+    QStringList languages;
+    /** Findings that nobody wants to hear of again, each a kind and the text it stands on; the latest last.
+     */
+    QStringList ignored;
+
+    [[nodiscard]] bool isEmpty() const { return languages.isEmpty() && ignored.isEmpty(); }
+    friend bool operator==(const DocumentProofreading&, const DocumentProofreading&) = default;
 };
 
 } // namespace tw::core::writing

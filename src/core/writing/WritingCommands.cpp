@@ -9,4 +9,9 @@ QString SetWritingGoalCommand::text() const
     return QCoreApplication::translate("UndoCommand", "Set writing goal");
 }
 
+QString SetProofreadingCommand::text() const
+{
+    return QCoreApplication::translate("UndoCommand", "Set proofreading");
+}
+
 } // namespace tw::core::writing

@@ -13,4 +13,12 @@ public:
     [[nodiscard]] QString text() const override;
 };
 
+class SetProofreadingCommand final
+    : public undo::SetFieldCommand<&project::Project::proofreading, &project::Project::setProofreading>
+{
+public:
+    using SetFieldCommand::SetFieldCommand;
+    [[nodiscard]] QString text() const override;
+};
+
 } // namespace tw::core::writing

@@ -232,6 +232,11 @@ void CompositionPage::takeFocus()
         enter(0, false);
 }
 
+QList<QWidget*> CompositionPage::parts()
+{
+    return {m_area, m_findBar};
+}
+
 void CompositionPage::rememberPlace()
 {
     const BodyEditor* const editor = currentEditor();

@@ -36,6 +36,7 @@ public:
     [[nodiscard]] QIcon icon() const override;
     [[nodiscard]] std::vector<core::ContentId> shownObjects() const override;
     void takeFocus() override;
+    [[nodiscard]] QList<QWidget*> parts() override;
     [[nodiscard]] QString statusText() const override;
 
     [[nodiscard]] manuscript::BodyEditor* currentEditor() const override;

@@ -51,7 +51,7 @@ public:
     [[nodiscard]] virtual core::document::DocumentBody currentBody() = 0;
     /** Words of the body as it is shown. Counts what changed since the last call alone. */
     [[nodiscard]] virtual qint64 words() = 0;
-    [[nodiscard]] qint64 selectedWords() const;
+    [[nodiscard]] virtual qint64 selectedWords() const;
 
     /** The cursor's line keeps its place in the window, and the text moves. */
     void setTypewriterScrolling(bool isOn);

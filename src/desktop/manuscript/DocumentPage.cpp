@@ -222,6 +222,11 @@ void DocumentPage::takeFocus()
     m_editor.widget->setFocus(Qt::OtherFocusReason);
 }
 
+QList<QWidget*> DocumentPage::parts()
+{
+    return {m_editor.widget, m_notes, m_findBar};
+}
+
 QString DocumentPage::statusText() const
 {
     if (m_selectedWords > 0) {

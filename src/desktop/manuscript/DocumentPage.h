@@ -28,6 +28,7 @@ public:
     [[nodiscard]] QString title() const override;
     [[nodiscard]] QIcon icon() const override;
     void takeFocus() override;
+    [[nodiscard]] QList<QWidget*> parts() override;
     [[nodiscard]] QString statusText() const override;
 
     [[nodiscard]] BodyEditor& editor() { return *m_editor.widget; }

@@ -72,13 +72,15 @@ FindBar::FindBar(const shell::DeskContext& desk, QWidget* parent)
     auto* const replace = new QPushButton(tr("&Replace"), m_replaceRow);
     auto* const all = new QPushButton(tr("Replace &All"), m_replaceRow);
     m_found->setForegroundRole(QPalette::PlaceholderText);
-    m_found->setMinimumWidth(m_found->fontMetrics().averageCharWidth() * 14);
+    m_found->setMinimumWidth(m_found->fontMetrics().averageCharWidth() * 9);
     m_found->setWordWrap(true);
 
     auto* const findRow = new QHBoxLayout;
     for (QWidget* const widget :
          std::initializer_list<QWidget*>{m_text, previous, next, m_case, m_word, m_expression})
         findRow->addWidget(widget);
+    // Beside another text there is little room; what is looked for gets most of it.
+    findRow->setStretchFactor(m_text, 3);
     findRow->addWidget(m_found, 1);
     findRow->addWidget(closeButton);
     auto* const replaceRow = new QHBoxLayout(m_replaceRow);
@@ -288,7 +290,9 @@ void FindBar::replaceAll()
     } else {
         replaced = replaceAllHere();
     }
-    m_desk.navigator.say(tr("Replaced %Ln places.", nullptr, static_cast<int>(replaced)));
+    m_desk.navigator.say(
+        replaced > 0 ? tr("Replaced %Ln places.", nullptr, static_cast<int>(replaced))
+                     : tr("Nothing was replaced."));
     countPlaces();
 }
 
@@ -296,23 +300,31 @@ qsizetype FindBar::replaceAllHere()
 {
     if (m_editor->isReadOnly())
         return 0;
-    const std::vector<FoundPlace> places =
-        m_finder.findAll(*m_editor->document(), std::numeric_limits<std::size_t>::max());
-    if (places.empty())
+    QTextDocument& document = *m_editor->document();
+    QTextCursor cursor(&document);
+    const auto select = [&cursor](const FoundPlace& place) {
+        cursor.setPosition(place.position);
+        cursor.setPosition(place.position + place.length, QTextCursor::KeepAnchor);
+    };
+    std::vector<std::pair<FoundPlace, QString>> edits;
+    for (const FoundPlace& place : m_finder.findAll(document, std::numeric_limits<std::size_t>::max())) {
+        select(place);
+        QString text = m_finder.replacementFor(document, place, m_replacement->text());
+        if (cursor.selectedText() != text)
+            edits.emplace_back(place, std::move(text));
+    }
+    if (edits.empty())
         return 0;
     m_bursts->applyAsStep(tr("Replace all"), [&] {
-        QTextCursor edit(m_editor->document());
-        edit.beginEditBlock();
+        cursor.beginEditBlock();
         // From the end, so that the places before stay where they are.
-        for (auto place = places.rbegin(); place != places.rend(); ++place) {
-            edit.setPosition(place->position);
-            edit.setPosition(place->position + place->length, QTextCursor::KeepAnchor);
-            m_editor->replaceText(
-                edit, m_finder.replacementFor(*m_editor->document(), *place, m_replacement->text()));
+        for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit) {
+            select(edit->first);
+            m_editor->replaceText(cursor, edit->second);
         }
-        edit.endEditBlock();
+        cursor.endEditBlock();
     });
-    return std::ssize(places);
+    return std::ssize(edits);
 }
 
 } // namespace tw::desktop::manuscript

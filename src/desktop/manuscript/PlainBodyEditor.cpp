@@ -1,6 +1,6 @@
 #include "desktop/manuscript/PlainBodyEditor.h"
 
-#include "core/document/WordCount.h"
+#include "core/document/markup/BodyWords.h"
 
 #include <QMimeData>
 #include <QTextBlock>
@@ -87,7 +87,14 @@ QString PlainBodyEditor::plainText() const
 
 qint64 PlainBodyEditor::words()
 {
-    return core::document::countWords(plainText());
+    return core::document::markup::countBodyWords(plainText());
+}
+
+qint64 PlainBodyEditor::selectedWords() const
+{
+    QString text = textCursor().selectedText();
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    return core::document::markup::countBodyWords(text);
 }
 
 void PlainBodyEditor::applyText(const QString& text)

@@ -15,6 +15,7 @@ public:
     void applyBody(const core::document::DocumentBody& body) override;
     [[nodiscard]] core::document::DocumentBody currentBody() override;
     [[nodiscard]] qint64 words() override;
+    [[nodiscard]] qint64 selectedWords() const override;
 
 protected:
     bool canInsertFromMimeData(const QMimeData* source) const override;

@@ -31,21 +31,19 @@ void fillLanguageMenu(QMenu& menu, ProofreadingService& service, const core::Con
         menu.addAction(QCoreApplication::translate("LanguageMenu", "No document is open"))->setEnabled(false);
         return;
     }
-    const bool hasOwn = service.hasLanguagesOfItsOwn(document);
+    const QStringList own = service.ownLanguagesOf(document);
     QAction* const usual = menu.addAction(QCoreApplication::translate("LanguageMenu", "As in the &Settings"));
     usual->setCheckable(true);
-    usual->setChecked(!hasOwn);
+    usual->setChecked(own.isEmpty());
     QObject::connect(
         usual, &QAction::triggered, &service, [&service, document] { service.setLanguagesOf(document, {}); });
     menu.addSeparator();
-    const QStringList chosen = service.languagesOf(document);
     for (const QString& code : service.languages()) {
         QAction* const action = menu.addAction(languageTitle(code));
         action->setCheckable(true);
-        action->setChecked(hasOwn && chosen.contains(code));
+        action->setChecked(own.contains(code));
         QObject::connect(action, &QAction::triggered, &service, [&service, document, code](bool isOn) {
-            QStringList languages =
-                service.hasLanguagesOfItsOwn(document) ? service.languagesOf(document) : QStringList();
+            QStringList languages = service.ownLanguagesOf(document);
             languages.removeAll(code);
             if (isOn)
                 languages.append(code);

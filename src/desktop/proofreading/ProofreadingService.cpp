@@ -14,6 +14,7 @@
 #include <QTextEdit>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 
 namespace tw::desktop::proofreading {
@@ -62,8 +63,13 @@ ProofreadingService::ProofreadingService(
     m_namesRest.setInterval(namesRest);
     connect(&m_namesRest, &QTimer::timeout, this, &ProofreadingService::refreshNames);
     connect(&desk.session, &shell::ProjectSession::changed, this, &ProofreadingService::followChanges);
+    connect(&desk.session, &shell::ProjectSession::saved, this, [this] {
+        forgetProofreadingInSettings(m_desk.settings, std::exchange(m_adopted, {}));
+    });
     say(m_userDictionary.load());
     refreshNames();
+    m_known = desk.session.project().proofreading();
+    adoptFromSettings();
 }
 
 ProofreadingService::~ProofreadingService()
@@ -120,22 +126,21 @@ QStringList ProofreadingService::languages() const
 
 QStringList ProofreadingService::languagesOf(const core::ContentId& document) const
 {
-    const QStringList own = documentLanguages(m_desk.settings, document);
-    if (!own.isEmpty())
+    if (const QStringList own = ownLanguagesOf(document); !own.isEmpty())
         return own;
     if (!m_settings.languages.isEmpty())
         return m_settings.languages;
     return m_systemLanguage.isEmpty() ? QStringList() : QStringList{m_systemLanguage};
 }
 
-bool ProofreadingService::hasLanguagesOfItsOwn(const core::ContentId& document) const
+QStringList ProofreadingService::ownLanguagesOf(const core::ContentId& document) const
 {
-    return !documentLanguages(m_desk.settings, document).isEmpty();
+    return documentProofreading(m_desk.session.project(), document).languages;
 }
 
 QLocale ProofreadingService::spokenLanguageOf(const core::ContentId& document) const
 {
-    const QStringList own = documentLanguages(m_desk.settings, document);
+    const QStringList own = ownLanguagesOf(document);
     const QLocale language = own.isEmpty() ? QLocale() : QLocale(own.constFirst());
     // A word list may have a name that is no language.
     return language.language() == QLocale::C ? QLocale() : language;
@@ -143,8 +148,7 @@ QLocale ProofreadingService::spokenLanguageOf(const core::ContentId& document) c
 
 void ProofreadingService::setLanguagesOf(const core::ContentId& document, const QStringList& languages)
 {
-    storeDocumentLanguages(m_desk.settings, document, languages);
-    dropChecks();
+    setDocumentLanguages(m_desk.session, document, languages);
 }
 
 QString ProofreadingService::dictionaryFailure() const
@@ -231,22 +235,19 @@ const IgnoredFindings& ProofreadingService::ignored(const core::ContentId& docum
 {
     auto known = m_ignored.find(document);
     if (known == m_ignored.end())
-        known = m_ignored.insert(document, IgnoredFindings::of(m_desk.settings, document));
+        known = m_ignored.insert(
+            document, IgnoredFindings(documentProofreading(m_desk.session.project(), document).ignored));
     return known.value();
 }
 
 void ProofreadingService::ignore(const core::ContentId& document, ProblemKind kind, const QString& text)
 {
-    IgnoredFindings::add(m_desk.settings, document, kind, text);
-    m_ignored.remove(document);
-    emit ignoredChanged(document);
+    ignoreFinding(m_desk.session, document, kind, text);
 }
 
 void ProofreadingService::restoreIgnored(const core::ContentId& document)
 {
-    IgnoredFindings::clear(m_desk.settings, document);
-    m_ignored.remove(document);
-    emit ignoredChanged(document);
+    reportIgnoredFindings(m_desk.session, document);
 }
 
 void ProofreadingService::disableRule(ProblemKind kind)
@@ -286,15 +287,49 @@ void ProofreadingService::followChanges(const core::project::ProjectChanges& cha
 {
     if (changes.isEverything) {
         m_ignored.clear();
+        m_adopted.clear();
+        m_known = m_desk.session.project().proofreading();
         refreshNames();
+        // Not while the project is still being announced.
+        QMetaObject::invokeMethod(this, &ProofreadingService::adoptFromSettings, Qt::QueuedConnection);
         return;
     }
+    if (changes.areSettingsChanged)
+        followChoices();
     const auto isEntity = [this](const core::ContentId& id) {
         return m_desk.session.project().findAs<core::entity::Entity>(id) != nullptr;
     };
     if (!changes.removed.empty() || std::ranges::any_of(changes.added, isEntity) ||
         std::ranges::any_of(changes.changed, isEntity))
         m_namesRest.start();
+}
+
+void ProofreadingService::adoptFromSettings()
+{
+    if (m_desk.session.isProjectOpen())
+        m_adopted = adoptProofreadingFromSettings(m_desk.session, m_desk.settings);
+}
+
+void ProofreadingService::followChoices()
+{
+    const auto before = std::exchange(m_known, m_desk.session.project().proofreading());
+    if (before == m_known)
+        return;
+    std::map<core::ContentId, std::array<core::writing::DocumentProofreading, 2>> records;
+    for (const auto& record : before)
+        records[record.documentId][0] = record;
+    for (const auto& record : m_known)
+        records[record.documentId][1] = record;
+    bool areLanguagesChanged = false;
+    for (const auto& [document, versions] : records) {
+        areLanguagesChanged = areLanguagesChanged || versions[0].languages != versions[1].languages;
+        if (versions[0].ignored == versions[1].ignored)
+            continue;
+        m_ignored.remove(document);
+        emit ignoredChanged(document);
+    }
+    if (areLanguagesChanged)
+        dropChecks();
 }
 
 void ProofreadingService::refreshNames()

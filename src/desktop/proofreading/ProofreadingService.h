@@ -3,6 +3,7 @@
 #include "app/style/spelling/Dictionaries.h"
 #include "app/style/spelling/UserDictionary.h"
 #include "core/project/ProjectChanges.h"
+#include "desktop/proofreading/DocumentProofreading.h"
 #include "desktop/proofreading/ProofreadingSettings.h"
 #include "desktop/shell/DeskContext.h"
 
@@ -68,17 +69,19 @@ public:
     [[nodiscard]] QStringList languages() const;
     /** What a document is checked in: its own languages, the user's, or that of the system. */
     [[nodiscard]] QStringList languagesOf(const core::ContentId& document) const;
-    [[nodiscard]] bool hasLanguagesOfItsOwn(const core::ContentId& document) const;
+    /** Empty when it follows the settings. */
+    [[nodiscard]] QStringList ownLanguagesOf(const core::ContentId& document) const;
     /** What a document is read aloud in: the first of its own languages, or that of the interface. */
     [[nodiscard]] QLocale spokenLanguageOf(const core::ContentId& document) const;
-    /** None has it follow the settings again. */
+    /** As one step, kept in the project; none has it follow the settings again. */
     void setLanguagesOf(const core::ContentId& document, const QStringList& languages);
     /** Why a chosen dictionary could not be read; empty when all could. */
     [[nodiscard]] QString dictionaryFailure() const;
 
     [[nodiscard]] std::shared_ptr<const ProseCheck> check(const core::ContentId& document, CheckScope scope);
     [[nodiscard]] const IgnoredFindings& ignored(const core::ContentId& document);
-    /** Findings of the kind with this text are no longer reported for the document. */
+    /** Findings of the kind with this text are no longer reported for the document; one step, kept in the
+     * project. */
     void ignore(const core::ContentId& document, ProblemKind kind, const QString& text);
     /** Forgets what is ignored in the document. */
     void restoreIgnored(const core::ContentId& document);
@@ -110,6 +113,8 @@ private:
     };
 
     void followChanges(const core::project::ProjectChanges& changes);
+    void adoptFromSettings();
+    void followChoices();
     void refreshNames();
     void dropChecks();
     void read(const QString& language);
@@ -129,6 +134,10 @@ private:
     /** By languages, joined, and what they are for. */
     std::map<std::pair<QString, CheckScope>, std::shared_ptr<const ProseCheck>> m_checks;
     QHash<core::ContentId, IgnoredFindings> m_ignored;
+    /** The project's choices as they were when the rest was told of them. */
+    std::vector<core::writing::DocumentProofreading> m_known;
+    /** Documents whose choices still stand in the settings, where they were before the project had them. */
+    std::vector<core::ContentId> m_adopted;
     std::vector<EditorProofreader*> m_editors;
     /** Last, so that its thread ends before anything else goes. */
     QThreadPool m_pool;

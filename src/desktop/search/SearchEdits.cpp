@@ -38,23 +38,35 @@ bool isAsSearched(
     return now && now.value().matches == found.matches;
 }
 
+/** Replaces in one of the document's texts; nothing is done where nothing would change. */
+template <class Command>
+qsizetype replaceInLine(
+    shell::ProjectSession& session, Document& document, const QString& text, const TextMatcher& matcher,
+    const std::vector<TextMatch>& matches, const QString& replacement)
+{
+    auto replaced = app::search::replaceInText(text, matcher, matches, replacement);
+    if (replaced.made > 0)
+        session.apply(std::make_unique<Command>(document, std::move(replaced.text)));
+    return replaced.made;
+}
+
 void replaceIn(
     shell::ProjectSession& session, Document& document, const TextMatcher& matcher,
-    const std::vector<TextMatch>& chosen, const QString& replacement)
+    const std::vector<TextMatch>& chosen, const QString& replacement, ReplacementOutcome& outcome)
 {
     using namespace core::document;
-    if (const auto matches = inField(chosen, MatchField::Title); !matches.empty()) {
-        session.apply(std::make_unique<SetDocumentTitleCommand>(
-            document, app::search::replaceInText(document.title(), matcher, matches, replacement)));
-    }
-    if (const auto matches = inField(chosen, MatchField::Synopsis); !matches.empty()) {
-        session.apply(std::make_unique<SetDocumentSynopsisCommand>(
-            document, app::search::replaceInText(document.synopsis(), matcher, matches, replacement)));
-    }
-    if (const auto matches = inField(chosen, MatchField::Body); !matches.empty()) {
-        session.apply(makeSetActiveTextCommand(
-            document, app::search::buildReplacement(activeText(document), matcher, matches, replacement)));
-    }
+    qsizetype made = replaceInLine<SetDocumentTitleCommand>(
+        session, document, document.title(), matcher, inField(chosen, MatchField::Title), replacement);
+    made += replaceInLine<SetDocumentSynopsisCommand>(
+        session, document, document.synopsis(), matcher, inField(chosen, MatchField::Synopsis), replacement);
+    auto body = app::search::buildReplacement(
+        activeText(document), matcher, inField(chosen, MatchField::Body), replacement);
+    if (body.made > 0)
+        session.apply(makeSetActiveTextCommand(document, std::move(body.text)));
+    made += body.made;
+    outcome.matches += made;
+    outcome.refused += body.refused;
+    outcome.documents += made > 0 ? 1 : 0;
 }
 
 } // namespace
@@ -73,9 +85,7 @@ ReplacementOutcome replaceMatches(
         } else if (document->isLocked()) {
             ++outcome.locked;
         } else {
-            replaceIn(session, *document, matcher, each.chosen, replacement);
-            outcome.matches += std::ssize(each.chosen);
-            ++outcome.documents;
+            replaceIn(session, *document, matcher, each.chosen, replacement, outcome);
         }
     }
     return outcome;

@@ -8,8 +8,11 @@ namespace tw::desktop::search {
 /** What came of a replacement. */
 struct ReplacementOutcome
 {
+    /** Those that read differently now. */
     qsizetype matches = 0;
     qsizetype documents = 0;
+    /** Matches left alone because their marks cannot be taken apart. */
+    qsizetype refused = 0;
     /** Documents left alone because they are locked. */
     qsizetype locked = 0;
     /** Documents left alone because they are not what was searched any more. */

@@ -251,7 +251,13 @@ void SearchPanel::replaceChecked()
         return;
     const ReplacementOutcome outcome =
         replaceMatches(m_desk.session, *m_matcher, m_model->checked(), m_replacement->text());
-    QString text = tr("%n matches replaced.", nullptr, static_cast<int>(outcome.matches));
+    QString text = outcome.matches > 0
+                       ? tr("%n matches replaced.", nullptr, static_cast<int>(outcome.matches))
+                       : tr("Nothing was replaced.");
+    if (outcome.refused > 0) {
+        text += u' ' + tr("%n matches stand across marks and were left alone; change them in the text.",
+                          nullptr, static_cast<int>(outcome.refused));
+    }
     if (outcome.locked > 0)
         text += u' ' + tr("%n locked documents were left alone.", nullptr, static_cast<int>(outcome.locked));
     if (outcome.changed > 0) {

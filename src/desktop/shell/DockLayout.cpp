@@ -16,6 +16,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -77,13 +78,13 @@ DockLayout::DockLayout(
     configureDocking();
     icons::registerDockingIcons(icons);
     m_manager = new ads::CDockManager(&window);
-    auto* const central = new ads::CDockWidget(u"center"_s);
-    central->setObjectName(u"center"_s);
+    m_central = new ads::CDockWidget(u"center"_s);
+    m_central->setObjectName(u"center"_s);
     // It is its content that is used; nobody stops at the frame.
-    central->setFocusPolicy(Qt::NoFocus);
-    central->setWidget(center, ads::CDockWidget::ForceNoScrollArea);
-    central->setFeature(ads::CDockWidget::NoTab, true);
-    m_manager->setCentralWidget(central);
+    m_central->setFocusPolicy(Qt::NoFocus);
+    m_central->setWidget(center, ads::CDockWidget::ForceNoScrollArea);
+    m_central->setFeature(ads::CDockWidget::NoTab, true);
+    m_manager->setCentralWidget(m_central);
     applyTheme();
     connect(&themes, &theme::ThemeManager::themeChanged, this, &DockLayout::applyTheme);
 }
@@ -140,6 +141,25 @@ QStringList DockLayout::panelNames() const
     for (const Panel& panel : m_panels)
         names.append(panel.spec.objectName);
     return names;
+}
+
+std::vector<QWidget*> DockLayout::shownAreas() const
+{
+    std::vector<const ads::CDockWidget*> docks{m_central};
+    for (const Panel& panel : m_panels) {
+        if (panel.dock->widget()->isVisible())
+            docks.push_back(panel.dock);
+    }
+    const bool isMirrored = m_window.layoutDirection() == Qt::RightToLeft;
+    const auto place = [isMirrored](const ads::CDockWidget* dock) {
+        const QPoint corner = dock->dockAreaWidget()->mapToGlobal(QPoint());
+        return std::pair(corner.y(), isMirrored ? -corner.x() : corner.x());
+    };
+    std::ranges::sort(docks, {}, place);
+    std::vector<QWidget*> areas;
+    for (const ads::CDockWidget* const dock : docks)
+        areas.push_back(dock->widget());
+    return areas;
 }
 
 DockArrangement DockLayout::usualArrangement() const

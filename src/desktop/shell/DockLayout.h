@@ -10,6 +10,7 @@
 
 class QMainWindow;
 class QMenu;
+class QWidget;
 
 namespace ads {
 class CDockManager;
@@ -75,6 +76,8 @@ public:
     /** Shows a panel and brings it to the front; false when there is none of that name. */
     bool showPanel(const QString& objectName);
     [[nodiscard]] QStringList panelNames() const;
+    /** The panels that can be seen and the centre, from the top down and along the lines of reading. */
+    [[nodiscard]] std::vector<QWidget*> shownAreas() const;
 
     /** Puts all panels away, and brings them back as they were. */
     void setHidden(bool isHidden);
@@ -109,6 +112,7 @@ private:
     theme::ThemeManager& m_themes;
     const icons::IconSet& m_icons;
     QMainWindow& m_window;
+    ads::CDockWidget* m_central = nullptr;
     ads::CDockManager* m_manager;
     std::vector<Panel> m_panels;
     /** The layout to come back to while panels are put away. */

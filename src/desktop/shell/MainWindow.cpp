@@ -19,6 +19,7 @@
 #include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/DockLayout.h"
 #include "desktop/shell/FocusMode.h"
+#include "desktop/shell/FocusRound.h"
 #include "desktop/shell/NamedLayouts.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
@@ -83,6 +84,7 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     , m_emptyHint(new QLabel(tr("Choose a document in the manuscript or an entity in the codex."), m_center))
     , m_docks(new DockLayout(*this, m_center, desk.themes, desk.icons))
     , m_layouts(new NamedLayouts(*m_docks, desk.settings, desk.icons, this))
+    , m_focusRound(std::make_unique<FocusRound>(*this, *m_docks, *m_center, *m_workArea))
     , m_shortcuts(new settings::Shortcuts(desk.settings, this))
     , m_palette(std::make_unique<finder::CommandPalette>(*m_shortcuts, desk.icons, desk.settings))
     , m_goTo(new finder::GoToFinder(desk, *m_workArea, this))

@@ -66,6 +66,7 @@ namespace tw::desktop::shell {
 class AudienceSelector;
 class DockLayout;
 class FocusMode;
+class FocusRound;
 class NamedLayouts;
 class ProjectLife;
 class StatusStrip;
@@ -116,6 +117,8 @@ private:
     void buildFileMenu();
     void buildEditMenu();
     void addFindActions(QMenu& menu);
+    /** What can be done with what the cursor stands on. */
+    void addCursorActions(QMenu& menu);
     void findInProject();
     void buildInsertMenu();
     void buildFormatMenu();
@@ -133,6 +136,7 @@ private:
     void addReadAloud(QMenu& menu);
     void readAloud();
     void addProofreadingActions(QMenu& menu);
+    void buildWindowsMenu();
     void buildHelpMenu();
     void showProblems();
     void showSettings(settings::SettingsPage page);
@@ -163,6 +167,7 @@ private:
     QLabel* m_emptyHint;
     DockLayout* m_docks;
     NamedLayouts* m_layouts;
+    std::unique_ptr<FocusRound> m_focusRound;
     settings::Shortcuts* m_shortcuts;
     std::unique_ptr<finder::CommandPalette> m_palette;
     finder::GoToFinder* m_goTo;

@@ -128,6 +128,8 @@ void MainWindow::buildEditMenu()
     menu.addSeparator();
     addFindActions(menu);
     menu.addSeparator();
+    addCursorActions(menu);
+    menu.addSeparator();
     menu.addAction(m_snapshots->takeAction());
     menu.addSeparator();
     for (QAction* const action : m_manuscript->actions().editActions())
@@ -154,18 +156,32 @@ void MainWindow::addFindActions(QMenu& menu)
         menu, u"edit.findPrevious"_s, Icon::ChevronUp, tr("Find Pre&vious"),
         QKeySequence(Qt::SHIFT | Qt::Key_F3), inText([](FindBar& bar) { bar.step(false); }));
     addAction(
-        menu, u"edit.openEntity"_s, Icon::Entity, tr("Open What the Word Name&s"), QKeySequence(Qt::Key_F12),
-        [this] {
-            const auto* const page = qobject_cast<manuscript::TextPage*>(m_workArea->currentPage());
-            if (!page || !page->richPage() || !page->richPage()->openEntityAtCursor())
-                say(tr("There is no name from the codex at the cursor."));
-        });
-    addAction(
         menu, u"edit.replace"_s, Icon::Refresh, tr("R&eplace…"), QKeySequence(Qt::CTRL | Qt::Key_H),
         inText([](FindBar& bar) { bar.open(FindBar::Row::FindAndReplace); }));
     m_projectActions.append(addAction(
         menu, u"edit.findInProject"_s, Icon::Search, tr("Find in the Pro&ject…"),
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F), [this] { findInProject(); }));
+}
+
+void MainWindow::addCursorActions(QMenu& menu)
+{
+    const auto atCursor = [this](bool (manuscript::rich::RichPage::*act)(), const QString& otherwise) {
+        return [this, act, otherwise] {
+            const auto* const page = qobject_cast<manuscript::TextPage*>(m_workArea->currentPage());
+            manuscript::rich::RichPage* const text = page ? page->richPage() : nullptr;
+            if (!text || !(text->*act)())
+                say(otherwise);
+        };
+    };
+    using manuscript::rich::RichPage;
+    addAction(
+        menu, u"edit.openEntity"_s, Icon::Link, tr("Follow Link, Note or Na&me"), QKeySequence(Qt::Key_F12),
+        atCursor(
+            &RichPage::followAtCursor, tr("There is no link, note or name from the codex at the cursor.")));
+    addAction(
+        menu, u"edit.showCard"_s, Icon::Entity, tr("S&how Card of the Name"),
+        QKeySequence(Qt::SHIFT | Qt::Key_F12),
+        atCursor(&RichPage::showCardAtCursor, tr("There is no name from the codex at the cursor.")));
 }
 
 void MainWindow::findInProject()

@@ -23,6 +23,7 @@
 #include "desktop/shell/AboutDialog.h"
 #include "desktop/shell/AudienceSelector.h"
 #include "desktop/shell/DockLayout.h"
+#include "desktop/shell/FocusRound.h"
 #include "desktop/shell/NamedLayouts.h"
 #include "desktop/shell/ProjectLife.h"
 #include "desktop/shell/ProjectSession.h"
@@ -68,10 +69,7 @@ void MainWindow::buildMenus()
     buildProjectMenu();
     buildCodexMenu();
     buildToolsMenu();
-    QMenu* const windows = menuBar()->addMenu(tr("&Windows"));
-    windows->setObjectName(u"windowsMenu"_s);
-    m_docks->fillMenu(*windows);
-    m_layouts->fillMenu(*windows);
+    buildWindowsMenu();
     buildHelpMenu();
     menuBar()->setCornerWidget(m_audience);
     m_shortcuts->collect(*menuBar());
@@ -288,6 +286,21 @@ void MainWindow::buildCodexMenu()
     m_projectActions.append(addAction(
         menu, u"codex.exportPack"_s, Icon::Export, tr("E&xport Content Pack…"), {},
         [this] { project::exportContentPack(m_desk, this); }));
+}
+
+void MainWindow::buildWindowsMenu()
+{
+    QMenu& menu = *menuBar()->addMenu(tr("&Windows"));
+    menu.setObjectName(u"windowsMenu"_s);
+    m_docks->fillMenu(menu);
+    addAction(
+        menu, u"windows.nextPart"_s, Icon::ChevronRight, tr("Go to Ne&xt Part"), QKeySequence(Qt::Key_F6),
+        [this] { m_focusRound->step(FocusStep::Next); });
+    addAction(
+        menu, u"windows.previousPart"_s, Icon::ChevronLeft, tr("Go to Pre&vious Part"),
+        QKeySequence(Qt::SHIFT | Qt::Key_F6), [this] { m_focusRound->step(FocusStep::Previous); });
+    menu.addSeparator();
+    m_layouts->fillMenu(menu);
 }
 
 void MainWindow::buildHelpMenu()

@@ -1,7 +1,7 @@
 #include "desktop/shell/ProjectWords.h"
 
 #include "core/document/ActiveText.h"
-#include "core/document/markup/PlainText.h"
+#include "core/document/markup/BodyWords.h"
 
 namespace tw::desktop::shell {
 

@@ -157,6 +157,17 @@ bool WorkArea::hasPages() const
     return false;
 }
 
+std::vector<WorkPage*> WorkArea::shownPages() const
+{
+    std::vector<WorkPage*> pages;
+    for (int index = 0; index < count(); ++index) {
+        const auto* const pane = static_cast<const QTabWidget*>(widget(index));
+        if (auto* const page = qobject_cast<WorkPage*>(pane->currentWidget()))
+            pages.push_back(page);
+    }
+    return pages;
+}
+
 WorkPage* WorkArea::makePage(const PageAddress& address, QTabWidget* pane)
 {
     const PageFactory* const factory = factoryFor(address);

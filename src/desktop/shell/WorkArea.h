@@ -10,6 +10,7 @@
 #include <functional>
 #include <map>
 #include <set>
+#include <vector>
 
 class QTabWidget;
 
@@ -54,6 +55,8 @@ public:
 
     [[nodiscard]] WorkPage* currentPage() const;
     [[nodiscard]] bool hasPages() const;
+    /** The page in front of each pane that has one. */
+    [[nodiscard]] std::vector<WorkPage*> shownPages() const;
 
     /** The open pages, for the next start: addresses by pane, and which is shown. */
     [[nodiscard]] QStringList openAddresses() const;

@@ -14,6 +14,11 @@ std::vector<core::ContentId> WorkPage::shownObjects() const
 
 void WorkPage::showPassage(const TextPassage&) {}
 
+QList<QWidget*> WorkPage::parts()
+{
+    return {this};
+}
+
 QString WorkPage::statusText() const
 {
     return {};

@@ -2,6 +2,7 @@
 
 #include "core/foundation/Id.h"
 
+#include <QList>
 #include <QWidget>
 
 #include <vector>
@@ -41,6 +42,9 @@ public:
     virtual void takeFocus() = 0;
     /** Goes to a place in the page's text; nothing where it is not found. */
     virtual void showPassage(const TextPassage& passage);
+    /** What the keyboard goes round through, in order: first the page's own content, then what may stand
+     * beside it. */
+    [[nodiscard]] virtual QList<QWidget*> parts();
     /** Text for the status bar ("1,204 words"); empty for none. */
     [[nodiscard]] virtual QString statusText() const;
 

@@ -37,7 +37,8 @@ QString found(const TextQuery& query, const QString& body)
 QString replaced(const TextQuery& query, const QString& body, const QString& replacement)
 {
     const TextMatcher matcher = matcherOf(query);
-    return buildReplacement({body}, matcher, findMatches(matcher, {body}, all).value(), replacement).text;
+    return buildReplacement({body}, matcher, findMatches(matcher, {body}, all).value(), replacement)
+        .text.text;
 }
 
 } // namespace
@@ -141,8 +142,35 @@ TEST(SearchTest, replacementsLeaveTheMarkupWhole)
     const TextMatcher matcher = matcherOf({u"b"_s});
     const DocumentBody legacy{u"<p>a <b>b</b></p>"_s, BodyFormat::Html};
     EXPECT_EQ(
-        buildReplacement(legacy, matcher, findMatches(matcher, legacy, all).value(), u"c"_s),
+        buildReplacement(legacy, matcher, findMatches(matcher, legacy, all).value(), u"c"_s).text,
         (DocumentBody{u"a **c**"_s, BodyFormat::Markdown}));
+}
+
+TEST(SearchTest, tellsHowManyMatchesWereReplaced)
+{
+    const struct
+    {
+        const char16_t* body;
+        const char16_t* replacement;
+        qsizetype made;
+        qsizetype refused;
+    } cases[] = {
+        {u"tide, Tide\n\nti**de**", u"sea", 3, 0},
+        {u"tide, Tide\n\nTIDE", u"Tide", 2, 0},
+        {u"tide **tide**", u"tide", 0, 0},
+        {u"tide {.tw *x} tide*\n\ntide", u"sea", 1, 2},
+        {u"| tide |\n|---|\n| {.tw *x} tide* |", u"sea", 1, 1},
+        {u"no water", u"sea", 0, 0},
+    };
+    const TextMatcher matcher = matcherOf({u"tide"_s});
+    for (const auto& sample : cases) {
+        const DocumentBody body{QString(sample.body)};
+        const auto result = buildReplacement(
+            body, matcher, findMatches(matcher, body, all).value(), QString(sample.replacement));
+        EXPECT_EQ(result.made, sample.made) << body.text.toStdString();
+        EXPECT_EQ(result.refused, sample.refused) << body.text.toStdString();
+        EXPECT_EQ(result.text == body, sample.made == 0) << body.text.toStdString();
+    }
 }
 
 TEST(SearchTest, replacingInTheBodyIsReplacingInTheProse)
@@ -152,7 +180,7 @@ TEST(SearchTest, replacingInTheBodyIsReplacingInTheProse)
     for (int round = 0; round < 300; ++round) {
         const QString body = random.body();
         const std::vector<TextMatch> matches = findMatches(matcher, {body}, all).value();
-        const QString result = buildReplacement({body}, matcher, matches, u"*[sea"_s).text;
+        const QString result = buildReplacement({body}, matcher, matches, u"*[sea"_s).text.text;
         QString prose = core::document::markup::PlainText(body).text();
         if (matches.empty()) {
             EXPECT_EQ(result, body);

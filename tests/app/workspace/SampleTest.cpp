@@ -1,7 +1,7 @@
 #include "app/persistence/codec/ProjectLoader.h"
 #include "app/persistence/codec/ProjectWriter.h"
 #include "core/document/DocumentTree.h"
-#include "core/document/WordCount.h"
+#include "core/document/markup/BodyWords.h"
 #include "core/entity/Schema.h"
 #include "support/TestFiles.h"
 
@@ -30,7 +30,7 @@ TEST(SampleTest, loadsCanonicalAndHoldsEverything)
     qint64 words = 0;
     for (const auto* document : core::project::objectsOf<core::document::Document>(project)) {
         if (document->documentKind() == core::document::DocumentKind::Prose)
-            words += core::document::countWords(document->body().text);
+            words += core::document::markup::countBodyWords(document->body());
     }
     EXPECT_GE(words, 12000);
     const auto reread = persistence::parseProject(persistence::serializeProject(project));

@@ -2,6 +2,7 @@
 
 #include "core/document/DocumentCommands.h"
 #include "core/entity/Entity.h"
+#include "core/writing/WritingCommands.h"
 #include "desktop/proofreading/ProseText.h"
 
 #include <QAction>
@@ -67,7 +68,65 @@ TEST_F(EditorProofreaderTest, ignoresARemarkInThisDocumentAlone)
     service->ignore(id, ProblemKind::Spelling, u"shipp"_s);
     EXPECT_EQ(marked(), QStringList());
     EXPECT_FALSE(service->ignored(core::ContentId::create()).contains(ProblemKind::Spelling, u"shipp"));
-    EXPECT_TRUE(IgnoredFindings::of(desk.settings, id).contains(ProblemKind::Spelling, u"shipp"));
+    EXPECT_EQ(desk.session.undoText(), u"Ignore finding"_s);
+    desk.session.undo();
+    EXPECT_EQ(marked(), (QStringList{u"spelling: shipp"_s, u"spelling: shipp"_s}));
+    desk.session.redo();
+    service->restoreIgnored(id);
+    EXPECT_EQ(marked(), (QStringList{u"spelling: shipp"_s, u"spelling: shipp"_s}));
+    EXPECT_TRUE(desk.session.project().proofreading().empty()) << "nothing is kept of what is nothing";
+}
+
+TEST_F(EditorProofreaderTest, manyIgnoredFindingsCostATypistNothing)
+{
+    open(u"the ship"_s);
+    QStringList keys;
+    for (int number = 0; number < 10'000; ++number)
+        keys.append(u"spelling word%1"_s.arg(number));
+    desk.session.apply(std::make_unique<core::writing::SetProofreadingCommand>(
+        desk.session.projectForCommands(), std::vector<core::writing::DocumentProofreading>{{id, {}, keys}}));
+    EXPECT_EQ(marked(), QStringList());
+    const IgnoredFindings* const read = &service->ignored(id);
+    int told = 0;
+    QObject::connect(service.get(), &ProofreadingService::ignoredChanged, service.get(), [&] { ++told; });
+    QTest::keyClicks(&page->editor(), u"word7 word9999 shipp "_s);
+    desk.session.commitPendingEdits();
+    EXPECT_EQ(marked(), QStringList{u"spelling: shipp"_s});
+    EXPECT_EQ(&service->ignored(id), read) << "nobody reads the list again";
+    EXPECT_EQ(told, 0);
+    service->ignore(id, ProblemKind::Spelling, u"shipp"_s);
+    EXPECT_EQ(marked(), QStringList());
+    EXPECT_EQ(desk.session.project().proofreading().front().ignored.size(), 10'000) << "the oldest went";
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(EditorProofreaderTest, whatTheSettingsKeptMovesIntoTheProjectOnce)
+{
+    open(u"the shipp"_s);
+    const QString project = desk.folder.filePath(u"project"_s);
+    ASSERT_TRUE(desk.session.saveAs(project));
+    const QString languages = u"proofreading/languages/"_s + id.toString();
+    const QString ignored = u"proofreading/ignored/"_s + id.toString();
+    const QString elsewhere = u"proofreading/ignored/"_s + core::ContentId::create().toString();
+    desk.settings.setValue(languages, QStringList{u"en_US"_s});
+    desk.settings.setValue(ignored, QStringList{u"spelling shipp"_s});
+    desk.settings.setValue(elsewhere, QStringList{u"spelling other"_s});
+    const auto reopen = [&] {
+        ASSERT_TRUE(desk.session.open(project));
+        QCoreApplication::processEvents();
+        readDictionaries();
+    };
+    reopen();
+    EXPECT_EQ(marked(), QStringList());
+    EXPECT_EQ(service->ownLanguagesOf(id), QStringList{u"en_US"_s});
+    EXPECT_TRUE(desk.settings.contains(ignored)) << "until the project is on disk";
+    service->restoreIgnored(id);
+    ASSERT_TRUE(desk.session.save());
+    EXPECT_FALSE(desk.settings.contains(languages) || desk.settings.contains(ignored));
+    EXPECT_TRUE(desk.settings.contains(elsewhere)) << "of another project";
+    reopen();
+    EXPECT_EQ(marked(), QStringList{u"spelling: shipp"_s}) << "what was decided later stays";
+    EXPECT_EQ(service->ownLanguagesOf(id), QStringList{u"en_US"_s});
 }
 
 TEST_F(EditorProofreaderTest, learnsWordsAndForgetsThem)

@@ -121,6 +121,31 @@ TEST_F(SearchPanelTest, leavesAloneWhatIsLockedOrHasChanged)
     EXPECT_EQ(outcome.changed, 1);
     EXPECT_EQ(outcome.matches, 0);
     EXPECT_EQ(body(second), u"A tide more. One tide."_s);
+    EXPECT_FALSE(desk.session.canUndo());
+}
+
+TEST_F(SearchPanelTest, tellsOfNoReplacementThatWasNotMade)
+{
+    look(u"tide"_s);
+    const TextMatcher matcher = TextMatcher::create({u"tide"_s}).value();
+    panel.model().setReplacement(matcher, u"tide"_s);
+    const ReplacementOutcome outcome =
+        replaceMatches(desk.session, matcher, panel.model().checked(), u"tide"_s);
+    EXPECT_EQ(outcome.matches, 0);
+    EXPECT_EQ(outcome.documents, 0);
+    EXPECT_FALSE(desk.session.canUndo());
+    QString said;
+    QObject::connect(&desk.navigator, &shell::Navigator::said, [&said](const QString& text) { said = text; });
+    for (QToolButton* const button : panel.findChildren<QToolButton*>()) {
+        if (button->accessibleName() == "Replace"_L1)
+            button->setChecked(true);
+    }
+    panel.findChildren<QLineEdit*>().at(1)->setText(u"tide"_s);
+    for (QPushButton* const button : panel.findChildren<QPushButton*>()) {
+        if (button->text().contains("Replace"_L1))
+            button->click();
+    }
+    EXPECT_EQ(said, u"Nothing was replaced."_s);
 }
 
 TEST(PassageFinderTest, surroundingsTellWhichOneIsMeant)

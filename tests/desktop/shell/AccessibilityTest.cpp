@@ -2,17 +2,34 @@
 #include "core/document/Document.h"
 #include "desktop/composition/CompositionPage.h"
 #include "desktop/overview/OverviewPage.h"
+#include "desktop/shell/DialogSelfTest.h"
+#include "desktop/shell/DockLayout.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
+#include "desktop/shell/WorkArea.h"
 #include "desktop/support/SampleWindow.h"
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QScrollArea>
 #include <QSet>
+#include <QStackedWidget>
+#include <QTabBar>
 #include <QTest>
+#include <QTextEdit>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace tw::desktop::shell {
 
@@ -38,70 +55,215 @@ bool isInnerPart(const QWidget& widget)
     return name.startsWith(u"qt_"_s) || (widget.focusProxy() != nullptr);
 }
 
+/** Whether a screen reader can tell from the role what to do with the control. */
+bool hasFittingRole(const QWidget& widget, QAccessible::Role role)
+{
+    const auto isOneOf = [role](std::initializer_list<QAccessible::Role> roles) {
+        return std::ranges::find(roles, role) != roles.end();
+    };
+    if (qobject_cast<const QAbstractButton*>(&widget))
+        return isOneOf(
+            {QAccessible::PushButton, QAccessible::CheckBox, QAccessible::RadioButton,
+             QAccessible::ButtonMenu, QAccessible::ButtonDropDown, QAccessible::Link});
+    if (qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QTextEdit*>(&widget) ||
+        qobject_cast<const QPlainTextEdit*>(&widget))
+        return isOneOf({QAccessible::EditableText, QAccessible::Document, QAccessible::StaticText});
+    if (qobject_cast<const QComboBox*>(&widget))
+        return role == QAccessible::ComboBox;
+    if (qobject_cast<const QAbstractSpinBox*>(&widget))
+        return role == QAccessible::SpinBox;
+    if (qobject_cast<const QAbstractItemView*>(&widget))
+        return isOneOf({QAccessible::Tree, QAccessible::List, QAccessible::Table});
+    if (qobject_cast<const QTabBar*>(&widget))
+        return role == QAccessible::PageTabList;
+    // What scrolls a form is a pane; anything else has to say what it is.
+    if (qobject_cast<const QScrollArea*>(&widget))
+        return isOneOf({QAccessible::Client, QAccessible::Pane});
+    return !isOneOf(
+        {QAccessible::NoRole, QAccessible::Client, QAccessible::Window, QAccessible::Border,
+         QAccessible::Pane});
+}
+
+QList<QWidget*> controlsOf(const QWidget& area, Qt::FocusPolicy policy)
+{
+    QList<QWidget*> found;
+    for (QWidget* const widget : area.findChildren<QWidget*>()) {
+        if (widget->isVisible() && widget->isEnabled() && widget->width() > 0 &&
+            (widget->focusPolicy() & policy) == policy && !isInnerPart(*widget))
+            found.append(widget);
+    }
+    return found;
+}
+
+QStringList namelessControls(const QWidget& area)
+{
+    QStringList faults;
+    for (const QWidget* const widget : controlsOf(area, Qt::ClickFocus)) {
+        auto* const accessible = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+        if (!accessible || accessible->text(QAccessible::Name).trimmed().isEmpty())
+            faults.append(u"has no name: "_s + describe(*widget));
+        else if (!hasFittingRole(*widget, accessible->role()))
+            faults.append(u"has role %1: "_s.arg(accessible->role()) + describe(*widget));
+    }
+    return faults;
+}
+
+/** The control that has the keyboard: not a part of it. */
+QWidget* focusedControl()
+{
+    QWidget* widget = QApplication::focusWidget();
+    while (widget && isInnerPart(*widget) && widget->parentWidget())
+        widget = widget->parentWidget();
+    return widget;
+}
+
+/** Presses Tab, or Shift+Tab, from where the keyboard is, until it leaves the area or goes in circles. */
+QList<QWidget*> walk(const QWidget& area, Qt::Key key)
+{
+    QList<QWidget*> reached;
+    for (QWidget* at = focusedControl();
+         at && (at == &area || area.isAncestorOf(at)) && !reached.contains(at); at = focusedControl()) {
+        reached.append(at);
+        QTest::keyClick(QApplication::focusWidget(), key);
+    }
+    return reached;
+}
+
+/** What the Tab key misses in the area on its way there, and Shift+Tab on its way back. */
+QStringList controlsOutOfReach(QWidget& area)
+{
+    const QList<QWidget*> controls = controlsOf(area, Qt::TabFocus);
+    QWidget* first = area.nextInFocusChain();
+    while (first != &area && !controls.contains(first))
+        first = first->nextInFocusChain();
+    if (controls.isEmpty())
+        return {};
+    QStringList faults;
+    const auto note = [&](const QList<QWidget*>& reached, const QString& key) {
+        for (const QWidget* const widget : controls) {
+            if (!reached.contains(widget))
+                faults.append(key + u" does not reach: "_s + describe(*widget));
+        }
+    };
+    first->setFocus(Qt::TabFocusReason);
+    const QList<QWidget*> there = walk(area, Qt::Key_Tab);
+    note(there, u"Tab"_s);
+    there.constLast()->setFocus(Qt::BacktabFocusReason);
+    note(walk(area, Qt::Key_Backtab), u"Shift+Tab"_s);
+    return faults;
+}
+
 class AccessibilityTest : public testing::Test, protected test::SampleWindow
 {
 protected:
-    QList<QWidget*> focusable(Qt::FocusPolicy policy) const
+    core::ContentId idOf(const QString& title) const { return findObject(desk.session.project(), title); }
+
+    void show(const QString& title, const QString& view)
     {
-        QList<QWidget*> found;
-        for (QWidget* const widget : window.findChildren<QWidget*>()) {
-            if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & policy) == policy &&
-                !isInnerPart(*widget))
-                found.append(widget);
-        }
-        return found;
+        if (view.isEmpty())
+            desk.navigator.open(idOf(title));
+        else
+            desk.navigator.openView(idOf(title), view);
+        QCoreApplication::processEvents();
     }
 };
 
 } // namespace
 
-TEST_F(AccessibilityTest, everyControlHasANameAndTheTabKeyFindsIt)
+TEST_F(AccessibilityTest, everyControlHasANameAndAFittingRole)
 {
-    const core::ContentId scene = findObject(desk.session.project(), u"The Spike"_s);
-    const core::ContentId part = findObject(desk.session.project(), u"Part One: The Day Book"_s);
-    const core::ContentId clerk = findObject(desk.session.project(), u"Ibbet Lusk"_s);
     const struct
     {
-        const char* name;
-        core::ContentId id;
+        QString title;
         QString view;
     } pages[] = {
-        {"text", scene, {}},
-        {"entity", clerk, {}},
-        {"corkboard", part, overview::corkboardView},
-        {"outline", part, overview::outlineView},
-        {"continuous text", part, composition::compositionView},
+        {u"The Spike"_s, {}},
+        {u"Itemised"_s, {}},
+        {u"The Gun"_s, {}},
+        {u"Ibbet Lusk"_s, {}},
+        {u"Part One: The Day Book"_s, overview::corkboardView},
+        {u"Part One: The Day Book"_s, overview::outlineView},
+        {u"Part One: The Day Book"_s, composition::compositionView},
     };
     QSet<QString> faults;
-    const auto noteNameless = [&](const QString& where) {
-        for (QWidget* const widget : focusable(Qt::ClickFocus)) {
-            QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(widget);
-            if (!accessible || accessible->text(QAccessible::Name).trimmed().isEmpty())
-                faults.insert(where + u" has no name: "_s + describe(*widget));
-        }
+    const auto look = [&](const QString& where) {
+        for (const QString& fault : namelessControls(window))
+            faults.insert(where + u' ' + fault);
     };
     for (const auto& page : pages) {
-        if (page.view.isEmpty())
-            desk.navigator.open(page.id);
-        else
-            desk.navigator.openView(page.id, page.view);
-        QCoreApplication::processEvents();
-        noteNameless(QLatin1String(page.name));
-        // Round once: what the Tab key does when nothing wants it for itself.
-        QSet<const QWidget*> reached;
-        for (QWidget* widget = window.nextInFocusChain(); widget != &window;
-             widget = widget->nextInFocusChain())
-            reached.insert(widget);
-        for (QWidget* const widget : focusable(Qt::TabFocus)) {
-            if (!reached.contains(widget))
-                faults.insert(QLatin1String(page.name) + u" is out of reach: "_s + describe(*widget));
-        }
+        show(page.title, page.view);
+        look(page.title + u' ' + page.view);
     }
-    for (const QString& finder : {u"view.goTo"_s, u"view.commandPalette"_s}) {
-        window.findChild<QAction*>(finder)->trigger();
-        noteNameless(finder);
+    for (const QString& panel : window.findChild<DockLayout*>()->panelNames()) {
+        window.findChild<DockLayout*>()->showPanel(panel);
+        QCoreApplication::processEvents();
+        look(panel);
+    }
+    for (const QString& action : {u"view.goTo"_s, u"view.commandPalette"_s, u"edit.replace"_s}) {
+        window.findChild<QAction*>(action)->trigger();
+        look(action);
     }
     EXPECT_TRUE(faults.isEmpty()) << QStringList(faults.values()).join(u'\n').toStdString();
+}
+
+TEST_F(AccessibilityTest, theTabKeyGoesThroughEveryPanelAndBack)
+{
+    QStringList faults;
+    const auto look = [&](const QString& where, QWidget& area) {
+        for (const QString& fault : controlsOutOfReach(area))
+            faults.append(where + u": "_s + fault);
+    };
+    show(u"Ibbet Lusk"_s, {});
+    auto* const work = window.findChild<WorkArea*>(u"workArea"_s);
+    look(u"entity"_s, *work->currentPage());
+    show(u"Part One: The Day Book"_s, overview::corkboardView);
+    look(u"corkboard"_s, *work->currentPage());
+    // The outline keeps the Tab key for its cells, and texts keep it for themselves: F6 leads on from there.
+    show(u"Itemised"_s, {});
+    for (QWidget* const part : work->currentPage()->parts().sliced(1)) {
+        part->show();
+        look(u"beside the text"_s, *part);
+    }
+    auto* const docks = window.findChild<DockLayout*>();
+    for (const core::ContentId& id : {idOf(u"The Spike"_s), idOf(u"Ibbet Lusk"_s)}) {
+        desk.navigator.setCurrent(id);
+        for (const QString& panel : docks->panelNames()) {
+            docks->showPanel(panel);
+            QCoreApplication::processEvents();
+            for (QWidget* const area : docks->shownAreas()) {
+                if (!area->isAncestorOf(work) && area->isAncestorOf(QApplication::focusWidget()))
+                    look(panel, *area);
+            }
+        }
+    }
+    EXPECT_TRUE(faults.isEmpty()) << faults.join(u'\n').toStdString();
+}
+
+TEST_F(AccessibilityTest, theTabKeyGoesRoundEveryDialog)
+{
+    QStringList faults;
+    for (const SelfTestDialog& entry : selfTestDialogs()) {
+        const std::unique_ptr<QWidget> dialog = entry.make(desk.context);
+        dialog->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get())) << entry.name.toStdString();
+        const auto look = [&](const QString& where) {
+            QCoreApplication::processEvents();
+            for (const QString& fault : namelessControls(*dialog) + controlsOutOfReach(*dialog))
+                faults.append(where + u": "_s + fault);
+        };
+        auto* const pages = dialog->findChild<QStackedWidget*>();
+        for (int page = 0; page < (pages ? pages->count() : 1); ++page) {
+            if (pages)
+                pages->setCurrentIndex(page);
+            look(u"%1 %2"_s.arg(entry.name).arg(page));
+        }
+        // Once round: behind the last control comes the first.
+        QWidget* const begin = focusedControl();
+        const QList<QWidget*> reached = walk(*dialog, Qt::Key_Tab);
+        if (!reached.isEmpty() && focusedControl() != begin)
+            faults.append(entry.name + u": the way ends before it is back at "_s + describe(*begin));
+    }
+    EXPECT_TRUE(faults.isEmpty()) << faults.join(u'\n').toStdString();
 }
 
 TEST_F(AccessibilityTest, everyActionOfTheMenusHasATextAndNoKeyStandsForTwo)

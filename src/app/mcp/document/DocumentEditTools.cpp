@@ -7,7 +7,7 @@
 #include "core/document/ActiveText.h"
 #include "core/document/AppendText.h"
 #include "core/document/DocumentCommands.h"
-#include "core/document/WordCount.h"
+#include "core/document/markup/BodyWords.h"
 #include "core/document/markup/LegacyHtml.h"
 
 #include <limits>
@@ -184,7 +184,7 @@ McpToolResult appendToDocument(ToolContext& context, const ToolArguments& argume
         context.workspace.undoStack().push(core::document::makeSetActiveTextCommand(
             document, core::document::withAppended(core::document::activeText(document), text)));
         return McpToolResult::success(u"Appended %1 word(s) to '%2'."_s.arg(
-            QString::number(core::document::countWords(text)), document.title()));
+            QString::number(core::document::markup::countBodyWords(text)), document.title()));
     });
 }
 

@@ -5,8 +5,8 @@
 #include "core/document/ActiveText.h"
 #include "core/document/Document.h"
 #include "core/document/DocumentTree.h"
+#include "core/document/markup/BodyWords.h"
 #include "core/document/markup/LegacyHtml.h"
-#include "core/document/markup/PlainText.h"
 
 #include <QHash>
 

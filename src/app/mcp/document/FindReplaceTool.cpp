@@ -130,6 +130,7 @@ McpToolResult replaceAll(
     Project& project = context.workspace.projectForEdit();
     qsizetype count = 0;
     qsizetype documents = 0;
+    qsizetype refused = 0;
     QStringList lockedTitles;
     for (const DocumentMatches& found : findings.documents) {
         Document& document = *project.findAsForEdit<Document>(found.id);
@@ -139,11 +140,12 @@ McpToolResult replaceAll(
         }
         const auto present = core::document::activeText(document);
         auto replaced = search::buildReplacement(present, matcher, found.matches, replacement);
-        if (replaced == present)
+        refused += replaced.refused;
+        if (replaced.made == 0)
             continue;
         context.workspace.undoStack().push(
-            core::document::makeSetActiveTextCommand(document, std::move(replaced)));
-        count += std::ssize(found.matches);
+            core::document::makeSetActiveTextCommand(document, std::move(replaced.text)));
+        count += replaced.made;
         ++documents;
     }
     if (lockedTitles.size() == std::ssize(findings.documents))
@@ -151,7 +153,12 @@ McpToolResult replaceAll(
     QString text =
         u"Replaced %1 match(es) in %2 document(s)."_s.arg(QString::number(count), QString::number(documents));
     if (documents == 0)
-        text = u"Every match already reads that way; nothing changed."_s;
+        text = refused > 0 ? u"Nothing was replaced."_s
+                           : u"Every match already reads that way; nothing changed."_s;
+    if (refused > 0) {
+        text += u"\n\n%1 match(es) stand across marks and were left as they are; change them with "
+                u"update_document."_s.arg(refused);
+    }
     if (!lockedTitles.isEmpty())
         text += u"\n\nLeft as they are because they are locked: '%1'."_s.arg(lockedTitles.join(u"'; '"_s));
     return McpToolResult::success(text + omittedText(findings));

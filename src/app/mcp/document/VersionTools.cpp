@@ -5,7 +5,7 @@
 #include "app/mcp/registry/UndoStep.h"
 #include "core/document/ActiveText.h"
 #include "core/document/DocumentCommands.h"
-#include "core/document/markup/PlainText.h"
+#include "core/document/markup/BodyWords.h"
 
 #include <QDateTime>
 

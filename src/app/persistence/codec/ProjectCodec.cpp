@@ -28,6 +28,7 @@ using core::timeline::TimelineEra;
 using core::timeline::TimelineMarker;
 using core::timeline::TimelineViewPreset;
 using core::timeline::TimelineViewSettings;
+using core::writing::DocumentProofreading;
 using core::writing::WritingGoal;
 using core::writing::WritingLogEntry;
 
@@ -137,6 +138,15 @@ struct RecordOf<WritingGoal>
         always<Data<&WritingGoal::dailyWordTarget>>("dailyWordTarget"_L1),
         always<Data<&WritingGoal::manuscriptWordTarget>>("manuscriptWordTarget"_L1),
         always<Data<&WritingGoal::deadline>>("deadline"_L1));
+};
+
+template <>
+struct RecordOf<DocumentProofreading>
+{
+    static constexpr auto entries = std::tuple(
+        always<Data<&DocumentProofreading::documentId>>("documentId"_L1),
+        ifSet<Data<&DocumentProofreading::languages>>("languages"_L1),
+        ifSet<Data<&DocumentProofreading::ignored>>("ignored"_L1));
 };
 
 template <>
@@ -259,7 +269,8 @@ struct RecordOf<Project>
         always<Property<&Project::timelineView, &Project::setTimelineView>>("timelineView"_L1),
         always<Property<&Project::timelineViewPresets, &Project::setTimelineViewPresets>>(
             "timelineViewPresets"_L1),
-        always<Property<&Project::name, &Project::setName>>("name"_L1));
+        always<Property<&Project::name, &Project::setName>>("name"_L1),
+        ifSet<Property<&Project::proofreading, &Project::setProofreading>>("proofreading"_L1));
 };
 
 void appendProjectDocument(QByteArray& output, const Project& project)

@@ -1,6 +1,5 @@
 #include "core/document/markup/PlainText.h"
 
-#include "core/document/WordCount.h"
 #include "core/document/markup/Blocks.h"
 #include "core/document/markup/Characters.h"
 #include "core/document/markup/InlinePieces.h"
@@ -195,11 +194,6 @@ qsizetype PlainText::endInBody(qsizetype offset) const
 QString plainText(const DocumentBody& body)
 {
     return PlainText(markdownOf(body)).text();
-}
-
-qint64 countBodyWords(const DocumentBody& body)
-{
-    return body.format == BodyFormat::Html ? countWords(htmlToMarkdown(body.text)) : countWords(body.text);
 }
 
 } // namespace tw::core::document::markup

@@ -69,7 +69,4 @@ private:
 /** The prose of a body in either format. */
 [[nodiscard]] QString plainText(const DocumentBody& body);
 
-/** The words of a body in either format, as countWords() counts them. */
-[[nodiscard]] qint64 countBodyWords(const DocumentBody& body);
-
 } // namespace tw::core::document::markup

@@ -1,6 +1,6 @@
 #include "desktop/manuscript/rich/BlockOrigin.h"
 
-#include "core/document/WordCount.h"
+#include "core/document/markup/BodyWords.h"
 
 namespace tw::desktop::manuscript::rich {
 
@@ -26,7 +26,7 @@ void BlockOrigin::touch()
 qint64 BlockOrigin::words()
 {
     if (m_words < 0)
-        m_words = core::document::countWords(content.view());
+        m_words = core::document::markup::countBodyWords(content.view());
     return m_words;
 }
 

@@ -8,8 +8,10 @@
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
 
@@ -59,6 +61,8 @@ EntityCard::EntityCard(const shell::DeskContext& desk, QWidget* parent)
     QFont font = m_name->font();
     font.setBold(true);
     m_name->setFont(font);
+    // Says the whole card to a screen reader.
+    m_name->setTextInteractionFlags(Qt::TextSelectableByKeyboard);
     m_place->setForegroundRole(QPalette::PlaceholderText);
     m_facts->setWordWrap(true);
     for (QLabel* const label : {m_name, m_place, m_facts})
@@ -105,18 +109,22 @@ QPixmap EntityCard::picture(const core::ContentId& id) const
     return {};
 }
 
-void EntityCard::showEntity(const core::ContentId& id, const QRect& globalPlace)
+void EntityCard::showEntity(const core::ContentId& id, const QRect& globalPlace, CardUse use)
 {
     const auto& project = m_desk.session.project();
     const auto* const entity = project.findAs<Entity>(id);
-    if (!entity || (isVisible() && id == m_shown))
+    const bool isForKeyboard = use == CardUse::Keyboard;
+    if (!entity || (isVisible() && id == m_shown && !isForKeyboard))
         return;
     m_shown = id;
+    setWindowFlags(isForKeyboard ? Qt::Popup : Qt::ToolTip);
     m_name->setText(shell::objectTitle(*entity));
     m_place->setText(codex::categoryPath(project, entity->categoryId()));
     m_place->setVisible(!m_place->text().isEmpty());
     m_facts->setText(facts(id));
     m_facts->setVisible(!m_facts->text().isEmpty());
+    m_name->setAccessibleName(
+        QStringList{m_name->text(), m_place->text(), m_facts->text()}.join(u'\n').trimmed());
     const QPixmap shown = picture(id);
     m_picture->setPixmap(shown);
     m_picture->setVisible(!shown.isNull());
@@ -128,11 +136,30 @@ void EntityCard::showEntity(const core::ContentId& id, const QRect& globalPlace)
     place.setX(std::clamp(place.x(), area.left(), std::max(area.left(), area.right() - width())));
     move(place);
     show();
+    if (isForKeyboard)
+        m_name->setFocus(Qt::PopupFocusReason);
+}
+
+bool EntityCard::hasKeyboard() const
+{
+    return isVisible() && windowType() == Qt::Popup;
+}
+
+void EntityCard::keyPressEvent(QKeyEvent* event)
+{
+    const QString text = event->text();
+    if (text.isEmpty() || !text.front().isPrint()) {
+        QFrame::keyPressEvent(event);
+        return;
+    }
+    close();
+    QCoreApplication::sendEvent(parentWidget(), event);
 }
 
 void EntityCard::leaveEvent(QEvent*)
 {
-    hide();
+    if (!hasKeyboard())
+        hide();
 }
 
 } // namespace tw::desktop::manuscript::rich

@@ -9,6 +9,15 @@ class QLabel;
 
 namespace tw::desktop::manuscript::rich {
 
+enum class CardUse
+{
+    /** Below the pointer, gone when it leaves. */
+    Glance,
+    /** With the keyboard on it, so that it can be read aloud; Escape closes it, and whoever types on writes
+     * on. */
+    Keyboard,
+};
+
 /** What one wants to know of an entity at a glance: name, place in the codex, picture, a few facts. */
 class EntityCard final : public QFrame
 {
@@ -18,9 +27,12 @@ public:
     EntityCard(const shell::DeskContext& desk, QWidget* parent);
 
     /** Shows the entity beside a place on the screen; nothing happens for an unknown one. */
-    void showEntity(const core::ContentId& id, const QRect& globalPlace);
+    void showEntity(const core::ContentId& id, const QRect& globalPlace, CardUse use);
+    /** Whether it is shown and has taken the keyboard. */
+    [[nodiscard]] bool hasKeyboard() const;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:

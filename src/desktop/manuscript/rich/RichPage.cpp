@@ -2,6 +2,7 @@
 
 #include "core/document/markup/LegacyHtml.h"
 #include "desktop/manuscript/TypingBursts.h"
+#include "desktop/manuscript/rich/EntityCard.h"
 #include "desktop/manuscript/rich/EntityNames.h"
 #include "desktop/manuscript/rich/PageObjects.h"
 #include "desktop/manuscript/rich/ParagraphChange.h"
@@ -118,7 +119,9 @@ void RichPage::showEvent(QShowEvent* event)
 
 void RichPage::focusOutEvent(QFocusEvent* event)
 {
-    closePopups();
+    // A card that is read with the keyboard has it from here.
+    if (event->reason() != Qt::PopupFocusReason || !m_card || !m_card->hasKeyboard())
+        closePopups();
     BodyEditor::focusOutEvent(event);
 }
 
@@ -165,13 +168,40 @@ void RichPage::mouseReleaseEvent(QMouseEvent* event)
     QTextCursor at(document());
     at.setPosition(std::min(position + 1, document()->characterCount() - 1));
     const QTextCharFormat format = at.charFormat();
-    if (runKindOf(format) == RunKind::FootnoteReference)
-        emit footnoteActivated(objectText(format));
-    else if (const QString link = styleOf(format).link;
-             !link.isEmpty() && event->modifiers().testFlag(Qt::ControlModifier))
-        emit linkActivated(link);
-    else if (event->modifiers().testFlag(Qt::ControlModifier))
+    if (followNote(format) || !event->modifiers().testFlag(Qt::ControlModifier))
+        return;
+    if (!followLink(format))
         openEntityAtCursor();
+}
+
+bool RichPage::followNote(const QTextCharFormat& format)
+{
+    if (runKindOf(format) != RunKind::FootnoteReference)
+        return false;
+    emit footnoteActivated(objectText(format));
+    return true;
+}
+
+bool RichPage::followLink(const QTextCharFormat& format)
+{
+    const QString link = styleOf(format).link;
+    if (link.isEmpty())
+        return false;
+    emit linkActivated(link);
+    return true;
+}
+
+bool RichPage::followAtCursor()
+{
+    // The cursor stands between two characters and may mean either.
+    QTextCursor behind(textCursor());
+    behind.setPosition(behind.position());
+    const QTextCharFormat before = behind.charFormat();
+    if (!behind.atBlockEnd())
+        behind.movePosition(QTextCursor::NextCharacter);
+    const QTextCharFormat after = behind.charFormat();
+    return followNote(after) || followNote(before) || followLink(after) || followLink(before) ||
+           openEntityAtCursor();
 }
 
 QStringList RichPage::footnoteReferences() const

@@ -20,6 +20,7 @@ class TypingBursts;
 namespace tw::desktop::manuscript::rich {
 
 class EntityCard;
+enum class CardUse;
 class EntityNames;
 class FootnoteMarks;
 class PageImages;
@@ -107,8 +108,11 @@ public:
 
     /** Names of the codex get a quiet line below them. */
     void setMentionsShown(bool areShown);
-    /** Opens what the cursor's word names; false when it names nothing. */
-    bool openEntityAtCursor();
+    /** Follows the link, note or name at the cursor; false when there is none. */
+    bool followAtCursor();
+    /** Shows the card of the entity that is named at the cursor, with the keyboard on it; false when none is.
+     */
+    bool showCardAtCursor();
 
     void setTypingRules(const app::typing::TypingRules& rules) { m_typingRules = rules; }
 
@@ -119,9 +123,9 @@ public:
     [[nodiscard]] QString selectedMarkdown() const;
 
 signals:
-    /** A name of the codex was followed. */
+    /** A name of the codex was followed by a click or a key. */
     void entityActivated(const tw::core::ContentId& id);
-    /** The reference was clicked or chosen by the keyboard. */
+    /** A reference was. */
     void footnoteActivated(const QString& label);
     void linkActivated(const QString& target);
     /** A picture without a file was pasted; whoever keeps the project's assets inserts it. */
@@ -168,6 +172,10 @@ private:
 
     // Names of the codex
     [[nodiscard]] core::ContentId entityAt(const QTextCursor& cursor, QTextCursor* name) const;
+    bool openEntityAtCursor();
+    bool followNote(const QTextCharFormat& format);
+    bool followLink(const QTextCharFormat& format);
+    void showCard(const core::ContentId& id, QTextCursor name, CardUse use);
     void hideCard();
     void paintMentions(QPainter& painter, const QTextBlock& block, const QRectF& rect) const;
     void offerNames();

@@ -73,12 +73,27 @@ bool RichPage::viewportEvent(QEvent* event)
         hideCard();
         return true;
     }
+    showCard(id, name, CardUse::Glance);
+    return true;
+}
+
+bool RichPage::showCardAtCursor()
+{
+    QTextCursor name(document());
+    const core::ContentId id = entityAt(textCursor(), &name);
+    if (id.isNull())
+        return false;
+    showCard(id, name, CardUse::Keyboard);
+    return true;
+}
+
+void RichPage::showCard(const core::ContentId& id, QTextCursor name, CardUse use)
+{
     name.setPosition(name.selectionStart());
     const QRect line = cursorRect(name);
     if (!m_card)
         m_card = new EntityCard(m_desk, this);
-    m_card->showEntity(id, QRect(viewport()->mapToGlobal(line.topLeft()), line.size()));
-    return true;
+    m_card->showEntity(id, QRect(viewport()->mapToGlobal(line.topLeft()), line.size()), use);
 }
 
 void RichPage::hideCard()

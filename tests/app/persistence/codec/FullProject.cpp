@@ -232,6 +232,9 @@ void fillSettings(project::Project& project)
     project.setLibraryMounts({{u"../library"_s, true}});
     project.setWritingLog({{u"2026-05-06"_s, large}});
     project.setWritingGoal({500, large, u"2027-01-01"_s});
+    project.setProofreading(
+        {{objectId(1), {u"en_GB"_s, u"fr_FR"_s}, {u"spelling Orm"_s, u"adverb quickly"_s}},
+         {objectId(2), {}, {u"cliche the end of the day"_s}}});
     calendar::Calendar calendar;
     calendar.setMonths({{u"Thaw"_s, 40}, {u"Dark"_s, -3}});
     calendar.setWeekdays({u"First"_s});

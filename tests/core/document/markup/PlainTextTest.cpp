@@ -1,8 +1,5 @@
 #include "core/document/markup/PlainText.h"
-#include "core/document/WordCount.h"
 #include "support/MarkdownBodies.h"
-
-#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -49,32 +46,6 @@ TEST(PlainTextTest, everyLetterIsFoundInItsPlaceInTheBody)
             }
         }
     }
-}
-
-TEST(WordCountTest, countsWhatThePatternsLeave)
-{
-    static const QRegularExpression groups(u"\\{\\.tw[^}]*\\}"_s);
-    static const QRegularExpression references(u"\\[\\^[^\\]]+\\]"_s);
-    test::MarkdownBodies random(13);
-    QStringList bodies = test::oddMarkdownBodies();
-    for (int count = 0; count < 300; ++count)
-        bodies.append(random.body());
-    for (const QString& body : bodies) {
-        QString prose = body;
-        prose.remove(groups);
-        if (prose.contains(u'^') && body.contains("{.tw"_L1) &&
-            body.contains(QRegularExpression(u"\\[\\^[^\\]]*\\{\\.tw"_s)))
-            continue; // A group within a label: the order of the patterns would count.
-        prose.remove(references);
-        EXPECT_EQ(countWords(body), countWords(prose)) << body.left(200).toStdString();
-    }
-    EXPECT_EQ(countWords(u"[red]{.tw color=red}"), 1);
-    EXPECT_EQ(countWords(u"[the sea](https://a.example/b-c \"title\") rose"), 3);
-    EXPECT_EQ(countWords(u"![a map](assets/a map.png) here (and) there"), 3);
-    EXPECT_EQ(countWords(u"not [a link]( over\nlines)"), 5);
-    EXPECT_EQ(countWords(QString(u"a]( "_s.repeated(100'000))), 100'000);
-    EXPECT_EQ(countWords(u"sea[^1]-side don't 5-6 a--b"), 5);
-    EXPECT_EQ(countWords(QString(u"{.tw [^ "_s.repeated(100'000))), 100'000);
 }
 
 } // namespace tw::core::document::markup

@@ -1,7 +1,11 @@
 // Bodies of every construct through the real text document.
+#include "core/document/WordCount.h"
+#include "core/document/markup/BodyWords.h"
 #include "desktop/manuscript/rich/RichBody.h"
 #include "desktop/manuscript/rich/RichFormats.h"
+#include "desktop/manuscript/rich/RichPageFixture.h"
 #include "support/MarkdownBodies.h"
+#include "support/TestFiles.h"
 
 #include <QTextCursor>
 
@@ -48,16 +52,34 @@ struct Shown
     bool isApplying = false;
 };
 
-QStringList corpus()
+constexpr qsizetype megabyte = 1'000'000;
+
+/** 200 odd bodies, 500 generated ones, and those of the sample; without the lines of a megabyte. */
+const QStringList& corpus()
 {
-    QStringList bodies = test::oddMarkdownBodies();
-    for (quint32 seed = 0; seed < 150; ++seed) {
-        test::MarkdownBodies made(seed);
-        bodies.append(made.body());
-        bodies.append(made.noise());
-    }
-    bodies.removeIf([](const QString& body) { return body.size() > 200'000; });
+    static const QStringList bodies = [] {
+        QStringList list = test::oddMarkdownBodies();
+        for (quint32 seed = 0; seed < 500; ++seed)
+            list.append(test::MarkdownBodies(seed).body());
+        test::TestDesk desk;
+        const auto sample = app::workspace::Workspace::open(
+            desk.environment, test::repositoryPath(QStringLiteral("examples/low-water")));
+        EXPECT_TRUE(sample);
+        for (const auto* document :
+             core::project::objectsOf<core::document::Document>(sample.value()->project()))
+            list.append(document->body().text);
+        list.removeIf([](const QString& body) { return body.size() >= megabyte; });
+        return list;
+    }();
     return bodies;
+}
+
+QStringList longLines()
+{
+    QStringList lines;
+    for (const QStringView piece : {u"x", u"word ", u"שלום ", u"**a ", u"The *tide* went out before four. "})
+        lines.append(piece.toString().repeated(megabyte / piece.size()));
+    return lines;
 }
 
 /** How many blocks of the text reach into what is not the same in both. */
@@ -75,7 +97,56 @@ int blocksTouched(const QString& text, const QString& changed)
     return touched;
 }
 
+/** A body in the page of its document: shown, typed into, undone. */
+class RichCorpusPageTest : public RichPageTest
+{
+protected:
+    void typeAndUndo(const QString& text, double place)
+    {
+        const std::string name = text.left(400).toUtf8().toPercentEncoding(" ").toStdString();
+        open(text);
+        ASSERT_EQ(body(), text) << name;
+        ASSERT_FALSE(desk.session.canUndo()) << "nothing was touched in " << name;
+        QTextCursor cursor(page->document());
+        cursor.setPosition(static_cast<int>(place * (page->document()->characterCount() - 1)));
+        page->setTextCursor(cursor);
+        type(u"q"_s);
+        const QString changed = body();
+        ASSERT_NE(changed, text) << name;
+        EXPECT_LE(blocksTouched(text, changed), 1) << name;
+        desk.session.undo();
+        ASSERT_EQ(body(), text) << name;
+        ASSERT_EQ(page->currentBody().text, text) << name;
+    }
+};
+
 } // namespace
+
+TEST_F(RichCorpusPageTest, typingAndUndoBringBackTheBytes)
+{
+    int index = 0;
+    for (const QString& text : corpus())
+        typeAndUndo(text, (index++ % 7) / 6.0);
+}
+
+TEST_F(RichCorpusPageTest, linesOfAMegabyteAreNoDifferent)
+{
+    for (const QString& text : longLines())
+        typeAndUndo(text, 0.5);
+}
+
+TEST(RichCorpusTest, allIsCountedAsTheDocumentIs)
+{
+    Shown shown;
+    for (const QString& text : corpus()) {
+        shown.apply(text);
+        QTextCursor all(&shown.document);
+        all.select(QTextCursor::Document);
+        EXPECT_EQ(
+            core::document::countWords(all.selectedText()), core::document::markup::countBodyWords(text))
+            << text.left(400).toUtf8().toPercentEncoding(" ").toStdString();
+    }
+}
 
 TEST(RichCorpusTest, whatIsTouchedAndSaysTheSameKeepsItsBytes)
 {

@@ -32,11 +32,11 @@ TEST_F(RichPageTest, namesOfTheCodexOpenTheirEntity)
     QCoreApplication::processEvents();
     QSignalSpy opened(page.get(), &RichPage::entityActivated);
     goTo(u"the cl"_s);
-    page->openEntityAtCursor();
+    EXPECT_EQ(page->followAtCursor(), true);
     ASSERT_EQ(opened.count(), 1);
     EXPECT_EQ(opened.front().front().value<core::ContentId>(), ibbet);
     goTo(u"not"_s);
-    page->openEntityAtCursor();
+    EXPECT_EQ(page->followAtCursor(), false);
     EXPECT_EQ(opened.count(), 1);
 
     goTo(u"the cle"_s);
@@ -48,6 +48,45 @@ TEST_F(RichPageTest, namesOfTheCodexOpenTheirEntity)
     EXPECT_TRUE(card->isVisible());
     type(u"x"_s);
     EXPECT_FALSE(card->isVisible()) << "typing sends it away";
+}
+
+TEST_F(RichPageTest, theCursorFollowsWhateverItStandsOn)
+{
+    addEntity(desk, u"Mara"_s, {});
+    open(u"To [the sea](https://a.example) with Mara.[^n]\n\n[Next](https://b.example)"_s);
+    QCoreApplication::processEvents();
+    QStringList followed;
+    QObject::connect(page.get(), &RichPage::linkActivated, page.get(), [&](const QString& target) {
+        followed.append(target);
+    });
+    QObject::connect(page.get(), &RichPage::footnoteActivated, page.get(), [&](const QString& label) {
+        followed.append(label);
+    });
+    QObject::connect(page.get(), &RichPage::entityActivated, page.get(), [&] { followed.append(u"Mara"_s); });
+    const QString text = page->document()->toRawText();
+    const struct
+    {
+        qsizetype place;
+        QString expected;
+    } cases[] = {
+        {0, QString()},
+        {text.indexOf(u"the sea"_s), u"https://a.example"_s},
+        {text.indexOf(u"sea"_s), u"https://a.example"_s},
+        {text.indexOf(u" with"_s), u"https://a.example"_s},
+        {text.indexOf(u"ith"_s), QString()},
+        {text.indexOf(u"ara"_s), u"Mara"_s},
+        {text.indexOf(u'.') + 1, u"n"_s},
+        {text.indexOf(QChar::ParagraphSeparator), u"n"_s},
+        {text.indexOf(u"Next"_s), u"https://b.example"_s},
+    };
+    for (const auto& sample : cases) {
+        followed.clear();
+        QTextCursor cursor(page->document());
+        cursor.setPosition(static_cast<int>(sample.place));
+        page->setTextCursor(cursor);
+        EXPECT_EQ(page->followAtCursor(), !sample.expected.isEmpty()) << sample.place;
+        EXPECT_EQ(followed.join(u' '), sample.expected) << sample.place;
+    }
 }
 
 TEST_F(RichPageTest, namesAreCompletedAfterTwoBrackets)
