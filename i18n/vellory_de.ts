@@ -524,6 +524,13 @@
     </message>
 </context>
 <context>
+    <name>LibraryObjects</name>
+    <message>
+        <source>“%1” stands in the library “%2”. Open that project to read or change it.</source>
+        <translation>„%1“ steht in der Bibliothek „%2“. Öffnen Sie jenes Projekt, um es zu lesen oder zu ändern.</translation>
+    </message>
+</context>
+<context>
     <name>ManuscriptEdits</name>
     <message>
         <source>Add document</source>
@@ -1075,6 +1082,29 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>RuleValue</name>
+    <message>
+        <source>“%1” is not a number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>“%1” is neither yes nor no.</source>
+        <translation>„%1“ ist weder ja noch nein.</translation>
+    </message>
+    <message>
+        <source>“%1” is not a date this calendar can read. Write it like “%2” or just a year.</source>
+        <translation>„%1“ ist kein Datum, das dieser Kalender lesen kann. Schreiben Sie es wie „%2“ oder nur ein Jahr.</translation>
+    </message>
+    <message>
+        <source>“%1” is none of the choices: %2.</source>
+        <translation>„%1“ ist keine der Möglichkeiten: %2.</translation>
+    </message>
+    <message>
+        <source>There is no entity, or more than one, called “%1” here.</source>
+        <translation>Hier gibt es keinen Eintrag namens „%1“, oder mehr als einen.</translation>
     </message>
 </context>
 <context>
@@ -3410,10 +3440,6 @@
     <message>
         <source>library %1</source>
         <translation>Bibliothek %1</translation>
-    </message>
-    <message>
-        <source>“%1” stands in the library “%2”. Open that project to read or change it.</source>
-        <translation>„%1“ steht in der Bibliothek „%2“. Öffnen Sie jenes Projekt, um es zu lesen oder zu ändern.</translation>
     </message>
 </context>
 <context>

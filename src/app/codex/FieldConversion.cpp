@@ -1,9 +1,9 @@
 #include "app/codex/FieldConversion.h"
 
 #include "app/codex/CategoryEdits.h"
-#include "app/codex/ValueConversion.h"
+#include "app/timeline/RuleOperand.h"
 #include "core/entity/EntityCommands.h"
-#include "core/entity/Schema.h"
+#include "core/timeline/TimelineCommands.h"
 
 namespace tw::app::codex {
 
@@ -14,18 +14,22 @@ using core::project::Project;
 using core::taxonomy::Category;
 using core::taxonomy::Field;
 using core::taxonomy::FieldType;
+using core::timeline::ContinuityRule;
 
 namespace {
 
 class Converter
 {
 public:
-    Converter(const Project& project, const Category& category, const Field& before, Field after)
+    Converter(
+        const Project& project, const ObjectScope& scope, const Category& category, const Field& before,
+        Field after)
         : m_project(project)
+        , m_lookup(project, scope)
         , m_category(category)
         , m_before(before)
         , m_after(std::move(after))
-        , m_values(project)
+        , m_values(project, scope)
     {}
 
     [[nodiscard]] ConversionPlan run()
@@ -37,6 +41,7 @@ public:
                 convert(*entity);
         }
         convertTemplates();
+        convertRules();
         return std::move(m_plan);
     }
 
@@ -61,6 +66,11 @@ private:
         return field && field->definedBy == m_category.id;
     }
 
+    [[nodiscard]] bool isLeftAlone(const Entity& entity) const
+    {
+        return entity.isLocked() || m_lookup.isHidden(entity);
+    }
+
     /** The value in its new form, counted; as it is when it does not suit. */
     [[nodiscard]] QString converted(const QString& value)
     {
@@ -83,7 +93,7 @@ private:
         const bool hasStates = timed != entity.timedValues().end();
         if (!value && !hasStates)
             return;
-        if (entity.isLocked() || entity.isAiExcluded()) {
+        if (isLeftAlone(entity)) {
             m_plan.untouchedCount += (value ? 1 : 0) + (hasStates ? std::ssize(timed->second) : 0);
             return;
         }
@@ -117,7 +127,39 @@ private:
             m_plan.edits.setInProject<core::entity::SetEntityTemplatesCommand>(std::move(templates));
     }
 
+    /** Rules go on comparing with what the values become. */
+    void convertRules()
+    {
+        std::vector<ContinuityRule> rules = m_project.continuityRules();
+        for (ContinuityRule& rule : rules) {
+            const auto* const entity = m_project.findAs<Entity>(rule.entityId);
+            if (rule.fieldKey != m_after.key || !entity || !reaches(*entity))
+                continue;
+            const auto comparison = timeline::ruleComparisonFromKey(rule.comparison);
+            if (!comparison || !takesOperand(*comparison) || rule.value.trimmed().isEmpty())
+                continue;
+            if (isLeftAlone(*entity))
+                ++m_plan.untouchedCount;
+            else
+                convert(rule, *comparison);
+        }
+        if (rules != m_project.continuityRules())
+            m_plan.edits.setInProject<core::timeline::SetContinuityRulesCommand>(std::move(rules));
+    }
+
+    void convert(ContinuityRule& rule, timeline::RuleComparison comparison)
+    {
+        const QStringList words = operandInWords(m_values, m_before, comparison, rule.value);
+        const timeline::StoredOperand stored = storedOperand(m_values, m_after, comparison, words);
+        rule.value = stored.operand;
+        if (stored.unsuited.isEmpty())
+            ++m_plan.ruleCount;
+        for (const QString& value : stored.unsuited)
+            m_plan.keptOperands.push_back({rule.name, value});
+    }
+
     const Project& m_project;
+    const ScopedLookup m_lookup;
     const Category& m_category;
     const Field& m_before;
     Field m_after;
@@ -127,7 +169,8 @@ private:
 
 } // namespace
 
-ConversionPlan planConversion(const Project& project, const ConversionRequest& request)
+ConversionPlan planConversion(
+    const Project& project, const ConversionRequest& request, const ObjectScope& scope)
 {
     const Category* const category = project.taxonomy().category(request.categoryId);
     if (!category)
@@ -139,7 +182,7 @@ ConversionPlan planConversion(const Project& project, const ConversionRequest& r
     after.type = request.type;
     after.options = request.type == FieldType::Choice ? request.options : QStringList();
     after.referenceCategory = request.type == FieldType::Reference ? request.referenceCategory : CategoryId();
-    return Converter(project, *category, *before, std::move(after)).run();
+    return Converter(project, scope, *category, *before, std::move(after)).run();
 }
 
 } // namespace tw::app::codex

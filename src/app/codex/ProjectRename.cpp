@@ -129,21 +129,39 @@ void renameIn(HolderRename& holder, const document::Document& owner)
     });
 }
 
-void renameIn(HolderRename& holder, const Entity& owner, const Project& project)
+/** Renames in values by the types of their fields. */
+template <class MakeSchema>
+class ValueRename
 {
-    std::optional<entity::Schema> schema;
-    const auto renameValue = [&](const QString& key, QString& value) {
-        if (findName(value, holder.change().oldName).empty())
+public:
+    ValueRename(HolderRename& holder, MakeSchema makeSchema)
+        : m_holder(holder)
+        , m_makeSchema(std::move(makeSchema))
+    {}
+
+    void rename(const QString& key, QString& value)
+    {
+        if (findName(value, m_holder.change().oldName).empty())
             return;
-        // Made only for the few entities that hold the name.
-        if (!schema)
-            schema = entity::schemaOfEntity(project, owner);
+        // Made only for the few values that hold the name.
+        if (!m_schema)
+            m_schema = m_makeSchema();
         // A value whose field no longer reaches the entity reads as text, unless it is an id.
-        const auto* const field = entity::findField(*schema, key);
+        const auto* const field = entity::findField(*m_schema, key);
         const bool isId = !ContentId::fromString(value.section(u'\n', 0, 0).trimmed()).isNull();
         if (field ? holdsProse(field->field.type) : !isId)
-            holder.rename(value);
-    };
+            m_holder.rename(value);
+    }
+
+private:
+    HolderRename& m_holder;
+    MakeSchema m_makeSchema;
+    std::optional<entity::Schema> m_schema;
+};
+
+void renameIn(HolderRename& holder, const Entity& owner, const Project& project)
+{
+    ValueRename values(holder, [&] { return entity::schemaOfEntity(project, owner); });
     holder.editText<entity::SetEntityNameCommand>(owner, owner.name());
     holder.edit<entity::SetEntityAliasesCommand>(owner, owner.aliases(), [&](QStringList& aliases) {
         for (QString& alias : aliases)
@@ -152,7 +170,7 @@ void renameIn(HolderRename& holder, const Entity& owner, const Project& project)
     for (const auto& [key, stored] : owner.values()) {
         const qsizetype before = holder.count();
         QString value = stored;
-        renameValue(key, value);
+        values.rename(key, value);
         if (holder.count() == before)
             continue;
         holder.edits().add([id = owner.id(), key = key, value](Project& edited) {
@@ -163,13 +181,30 @@ void renameIn(HolderRename& holder, const Entity& owner, const Project& project)
     holder.edit<entity::SetEntityTimedValuesCommand>(owner, owner.timedValues(), [&](auto& timedValues) {
         for (auto& [key, states] : timedValues) {
             for (entity::TimedValue& state : states)
-                renameValue(key, state.value);
+                values.rename(key, state.value);
         }
     });
     holder.edit<entity::SetEntityOwnFieldsCommand>(owner, owner.ownFields(), [&](auto& fields) {
         for (Field& field : fields)
             holder.rename(field);
     });
+}
+
+bool isLeftAlone(const ContentObject& object)
+{
+    return object.isLocked() || object.isAiExcluded();
+}
+
+void renameIn(HolderRename& holder, const research::Comment& owner, const Project& project)
+{
+    holder.edit<research::SetCommentCommand>(
+        owner, owner.details(), [&](auto& details) { holder.rename(details.body); });
+    // The anchor is found in the text it was taken from, so it stays as that text does.
+    const auto* const target = project.find(owner.target().targetId);
+    if (target && !isLeftAlone(*target)) {
+        holder.edit<research::SetCommentTargetCommand>(
+            owner, owner.target(), [&](auto& place) { holder.rename(place.anchor); });
+    }
 }
 
 void renameIn(HolderRename& holder, const ContentObject& object, const Project& project)
@@ -220,11 +255,8 @@ void renameIn(HolderRename& holder, const ContentObject& object, const Project& 
         const auto& canvas = as<canvas::Canvas>(object);
         return holder.editText<canvas::SetCanvasTitleCommand>(canvas, canvas.title());
     }
-    case ContentKind::Comment: {
-        const auto& comment = as<research::Comment>(object);
-        return holder.edit<research::SetCommentCommand>(
-            comment, comment.details(), [&](auto& details) { holder.rename(details.body); });
-    }
+    case ContentKind::Comment:
+        return renameIn(holder, as<research::Comment>(object), project);
     case ContentKind::Language: {
         const auto& language = as<conlang::Language>(object);
         return holder.edit<conlang::SetLanguageCommand>(
@@ -292,6 +324,53 @@ void planCategories(RenamePlan& plan, const Project& project, const NameChange& 
     }
 }
 
+void planRules(RenamePlan& plan, const Project& project, const NameChange& change)
+{
+    std::vector<timeline::ContinuityRule> rules = project.continuityRules();
+    for (timeline::ContinuityRule& rule : rules) {
+        timeline::ContinuityRule renamed = rule;
+        HolderRename rename(change);
+        rename.rename(renamed.name);
+        const auto* const entity = project.findAs<Entity>(rule.entityId);
+        if (entity) {
+            ValueRename values(rename, [&] { return entity::schemaOfEntity(project, *entity); });
+            values.rename(rule.fieldKey, renamed.value);
+        }
+        if (rename.count() == 0)
+            continue;
+        const NameHolder holder{NameHolder::Kind::ContinuityRule, {}, rule.name, rename.count()};
+        // What a rule compares with follows the values it is compared with, which stay in such an entity.
+        if (entity && entity->isAiExcluded()) {
+            ++plan.excludedCount;
+        } else if (entity && entity->isLocked()) {
+            plan.locked.push_back(holder);
+        } else {
+            plan.renamed.push_back(holder);
+            rule = std::move(renamed);
+        }
+    }
+    if (rules != project.continuityRules())
+        plan.edits.setInProject<timeline::SetContinuityRulesCommand>(std::move(rules));
+}
+
+void planTemplates(RenamePlan& plan, const Project& project, const NameChange& change)
+{
+    std::vector<entity::EntityTemplate> templates = project.entityTemplates();
+    for (entity::EntityTemplate& entityTemplate : templates) {
+        const QString name = entityTemplate.name;
+        HolderRename rename(change);
+        rename.rename(entityTemplate.name);
+        ValueRename values(
+            rename, [&] { return entity::schemaOfCategory(project, entityTemplate.categoryId); });
+        for (auto& [key, value] : entityTemplate.fieldValues)
+            values.rename(key, value);
+        if (rename.count() > 0)
+            plan.renamed.push_back({NameHolder::Kind::EntityTemplate, {}, name, rename.count()});
+    }
+    if (templates != project.entityTemplates())
+        plan.edits.setInProject<entity::SetEntityTemplatesCommand>(std::move(templates));
+}
+
 } // namespace
 
 qsizetype RenamePlan::occurrenceCount() const
@@ -307,6 +386,8 @@ RenamePlan planRename(const Project& project, const NameChange& change)
     planObjects(plan, project, change);
     planThreads(plan, project, change);
     planCategories(plan, project, change);
+    planRules(plan, project, change);
+    planTemplates(plan, project, change);
     return plan;
 }
 

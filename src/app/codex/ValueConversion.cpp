@@ -8,7 +8,7 @@
 #include <QStringList>
 
 #include <cmath>
-#include <set>
+#include <utility>
 
 namespace tw::app::codex {
 
@@ -54,8 +54,9 @@ std::optional<QString> storedChoice(const Field& field, const QString& text)
 
 } // namespace
 
-ValueConversion::ValueConversion(const core::project::Project& project)
+ValueConversion::ValueConversion(const core::project::Project& project, ObjectScope scope)
     : m_project(project)
+    , m_scope(std::move(scope))
 {}
 
 std::optional<QString> ValueConversion::stored(const Field& field, const QString& text) const
@@ -84,23 +85,34 @@ std::optional<QString> ValueConversion::storedDate(const QString& text) const
     return instant ? std::optional(QString::number(*instant)) : std::nullopt;
 }
 
-ContentId ValueConversion::entityNamed(const QString& name, const CategoryId& beneath) const
+std::set<ContentId> ValueConversion::entitiesNamed(
+    const core::project::Project& project, const QString& name, const CategoryId& beneath) const
 {
-    const auto only = [&](const std::vector<ContentId>& candidates) {
+    const ScopedLookup lookup(m_project, m_scope);
+    const auto allowed = [&](const std::vector<ContentId>& candidates) {
         std::set<ContentId> found;
         for (const ContentId& id : candidates) {
-            const auto* const entity = m_project.findAs<Entity>(id);
-            const bool isAllowed =
-                entity && !entity->isAiExcluded() &&
-                (!m_project.taxonomy().category(beneath) ||
-                 core::entity::isCategoryBeneath(m_project, entity->categoryId(), beneath));
+            const auto* const entity = project.findAs<Entity>(id);
+            const bool isAllowed = entity && !lookup.isHidden(*entity) &&
+                                   (!project.taxonomy().category(beneath) ||
+                                    core::entity::isCategoryBeneath(project, entity->categoryId(), beneath));
             if (isAllowed)
                 found.insert(id);
         }
-        return found.size() == 1 ? *found.begin() : ContentId();
+        return found;
     };
-    const ContentId named = only(m_project.names().named(name));
-    return named.isNull() ? only(m_project.names().aliased(name)) : named;
+    const std::set<ContentId> named = allowed(project.names().named(name));
+    return named.empty() ? allowed(project.names().aliased(name)) : named;
+}
+
+ContentId ValueConversion::entityNamed(const QString& name, const CategoryId& beneath) const
+{
+    std::set<ContentId> found = entitiesNamed(m_project, name, beneath);
+    for (const core::project::Project* library : m_scope.libraries) {
+        if (found.empty())
+            found = entitiesNamed(*library, name, beneath);
+    }
+    return found.size() == 1 ? *found.begin() : ContentId();
 }
 
 std::optional<QString> ValueConversion::storedReference(const Field& field, const QString& text) const
@@ -133,10 +145,11 @@ QString ValueConversion::inWords(const Field& field, const QString& value) const
     }
     if (field.type != FieldType::Reference)
         return value;
+    const ScopedLookup lookup(m_project, m_scope);
     QStringList lines = value.split(u'\n');
     for (QString& line : lines) {
-        const auto* const entity = m_project.findAs<Entity>(ContentId::fromString(line.trimmed()));
-        if (entity && !entity->isAiExcluded())
+        const auto* const entity = lookup.findAs<Entity>(ContentId::fromString(line.trimmed()));
+        if (entity && !lookup.isHidden(*entity))
             line = entity->name();
     }
     return lines.join(u'\n');

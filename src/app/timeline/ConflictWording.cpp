@@ -125,7 +125,7 @@ std::vector<ContinuityConflict> wordConflicts(
     return worded;
 }
 
-std::vector<ContinuityConflict> validateTimeline(const Project& project, const ContinuityScope& scope)
+std::vector<ContinuityConflict> validateTimeline(const Project& project, const codex::ObjectScope& scope)
 {
     const TimelineFacts facts = gatherFacts(project, scope);
     return wordConflicts(project, facts, findConflicts(facts));

@@ -1,6 +1,6 @@
 #include "app/timeline/TimelineFacts.h"
 
-#include "app/timeline/ScopedLookup.h"
+#include "app/timeline/EntityName.h"
 #include "core/map/Map.h"
 
 #include <algorithm>
@@ -43,7 +43,7 @@ void fetchAhead([[maybe_unused]] const void* begin, [[maybe_unused]] std::size_t
 class FactsGatherer
 {
 public:
-    FactsGatherer(const Project& project, const ContinuityScope& scope)
+    FactsGatherer(const Project& project, const codex::ObjectScope& scope)
         : m_project(project)
         , m_lookup(project, scope)
     {}
@@ -185,7 +185,7 @@ private:
     static constexpr quint32 notSeen = 0xffff'ffff;
 
     const Project& m_project;
-    ScopedLookup m_lookup;
+    codex::ScopedLookup m_lookup;
     TimelineFacts m_facts;
     /** With the numbers of their events. */
     std::vector<std::pair<quint32, core::timeline::RelativeConstraint>> m_constraints;
@@ -232,7 +232,7 @@ std::optional<double> RouteTable::minutesBetween(quint32 from, quint32 to) const
     return route == m_minutes.cend() ? std::nullopt : std::optional(*route);
 }
 
-TimelineFacts gatherFacts(const Project& project, const ContinuityScope& scope)
+TimelineFacts gatherFacts(const Project& project, const codex::ObjectScope& scope)
 {
     return FactsGatherer(project, scope).gather();
 }

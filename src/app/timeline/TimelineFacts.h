@@ -110,6 +110,7 @@ struct TimelineFacts
     RouteTable routes;
 };
 
-[[nodiscard]] TimelineFacts gatherFacts(const core::project::Project& project, const ContinuityScope& scope);
+[[nodiscard]] TimelineFacts gatherFacts(
+    const core::project::Project& project, const codex::ObjectScope& scope);
 
 } // namespace tw::app::timeline

@@ -3,6 +3,7 @@
 #include "app/timeline/ConflictFinder.h"
 #include "core/entity/Entity.h"
 #include "core/timeline/TimelineEvent.h"
+#include "desktop/shell/LibraryObjects.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
@@ -19,21 +20,12 @@ namespace tw::desktop::continuity {
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 using app::timeline::ContinuityConflict;
-using app::timeline::ContinuityScope;
 using core::content::ContentKind;
 using problems::Problem;
 
 namespace {
 
 constexpr auto checkRest = 900ms;
-
-ContinuityScope scopeOf(const shell::ProjectSession& session)
-{
-    ContinuityScope scope;
-    for (const app::workspace::MountedLibrary& library : session.workspace().libraries())
-        scope.libraries.push_back(library.project.get());
-    return scope;
-}
 
 /** An event has no page of its own: it stands on those of who takes part, and of its place. */
 core::ContentId pageOf(const core::project::Project& project, const core::ContentId& object)
@@ -124,9 +116,10 @@ void ContinuityProblems::checkNow()
     emit busyChanged(true);
     // The rules are few and read the schema, which is no copy; the events may be many, and are one.
     const core::project::Project& project = m_desk.session.project();
-    const ContinuityScope scope = scopeOf(m_desk.session);
-    ConflictList broken = validateRules(project, project.continuityRules(), scope);
-    const auto facts = std::make_shared<const app::timeline::TimelineFacts>(gatherFacts(project, scope));
+    const app::codex::ObjectScope scope = shell::libraryScope(m_desk.session);
+    ConflictList broken = app::timeline::validateRules(project, project.continuityRules(), scope);
+    const auto facts =
+        std::make_shared<const app::timeline::TimelineFacts>(app::timeline::gatherFacts(project, scope));
     m_pool.start([this, facts, broken = std::move(broken)] {
         auto found = findConflicts(*facts);
         const auto end = [this, facts, found = std::move(found), broken] {
@@ -189,6 +182,10 @@ void ContinuityProblems::show(const core::ContentId& object, const Problem& prob
 {
     if (object.isNull()) {
         m_desk.navigator.say(problem.message);
+        return;
+    }
+    if (!m_desk.session.project().contains(object)) {
+        m_desk.navigator.say(shell::libraryNote(m_desk.session, object));
         return;
     }
     m_desk.navigator.open(pageOf(m_desk.session.project(), object));

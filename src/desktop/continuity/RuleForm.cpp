@@ -2,9 +2,11 @@
 
 #include "app/timeline/RuleComparison.h"
 #include "core/entity/Schema.h"
+#include "desktop/continuity/RuleValue.h"
 #include "desktop/fields/EntityChoices.h"
 #include "desktop/fields/NoteLabel.h"
 #include "desktop/fields/StoryDateEdit.h"
+#include "desktop/shell/LibraryObjects.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QComboBox>
@@ -12,6 +14,9 @@
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStringListModel>
+
+#include <algorithm>
 
 namespace tw::desktop::continuity {
 
@@ -21,23 +26,35 @@ using core::entity::Entity;
 using core::timeline::ContinuityRule;
 using fields::NoteLabel;
 
+namespace {
+
+QCompleter* completerOf(QAbstractItemModel* model, QObject* parent)
+{
+    auto* const completer = new QCompleter(model, parent);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    completer->setFilterMode(Qt::MatchContains);
+    return completer;
+}
+
+} // namespace
+
 RuleForm::RuleForm(const shell::DeskContext& desk, QWidget* parent)
     : QWidget(parent)
     , m_desk(desk)
     , m_choices(new fields::EntityChoiceModel(this))
+    , m_valueChoices(new QStringListModel(this))
     , m_name(new QLineEdit(this))
     , m_entity(new QLineEdit(this))
     , m_entityNote(new NoteLabel(desk.themes, this))
     , m_field(new QComboBox(this))
     , m_comparison(new QComboBox(this))
     , m_value(new QLineEdit(this))
+    , m_valueNote(new NoteLabel(desk.themes, this))
     , m_date(new fields::StoryDateEdit(desk.themes, this))
 {
-    m_choices->setChoices(fields::entityChoices(desk.session.project(), {}));
-    auto* const completer = new QCompleter(m_choices, this);
-    completer->setCaseSensitivity(Qt::CaseInsensitive);
-    completer->setFilterMode(Qt::MatchContains);
-    m_entity->setCompleter(completer);
+    fillChoices();
+    m_entity->setCompleter(completerOf(m_choices, this));
+    m_value->setCompleter(completerOf(m_valueChoices, this));
     m_field->setEditable(true);
     m_date->setCalendar(desk.session.project().calendar());
     m_date->focusProxy()->setAccessibleName(tr("On"));
@@ -53,6 +70,7 @@ RuleForm::RuleForm(const shell::DeskContext& desk, QWidget* parent)
     form->addRow(tr("&Property"), m_field);
     form->addRow(tr("&Comparison"), m_comparison);
     form->addRow(tr("&Value"), m_value);
+    form->addRow(QString(), m_valueNote);
     form->addRow(tr("On"), m_date);
     auto* const dateNote = new NoteLabel(desk.themes, this);
     dateNote->setNote(tr("Without a date, what the property says at present counts."));
@@ -60,43 +78,69 @@ RuleForm::RuleForm(const shell::DeskContext& desk, QWidget* parent)
     connectFields();
 }
 
+RuleForm::~RuleForm() = default;
+
 void RuleForm::connectFields()
 {
     connect(m_name, &QLineEdit::textEdited, this, [this](const QString& name) {
-        m_rule.name = name;
+        m_draft.rule.name = name;
         emit edited();
     });
     connect(m_entity, &QLineEdit::editingFinished, this, &RuleForm::takeEntity);
     connect(m_field, &QComboBox::currentTextChanged, this, &RuleForm::takeField);
-    connect(m_comparison, &QComboBox::currentIndexChanged, this, [this] {
-        m_rule.comparison = m_comparison->currentData().toString();
-        showValueState();
-        emit edited();
-    });
-    connect(m_value, &QLineEdit::textEdited, this, [this](const QString& value) {
-        m_rule.value = value;
-        emit edited();
-    });
+    connect(m_comparison, &QComboBox::currentIndexChanged, this, &RuleForm::takeComparison);
+    connect(m_value, &QLineEdit::textEdited, this, &RuleForm::takeValue);
+    connect(
+        m_value->completer(), qOverload<const QString&>(&QCompleter::activated), this, &RuleForm::takeValue);
+    connect(m_value, &QLineEdit::editingFinished, this, &RuleForm::showValueFault);
     connect(
         m_date, &fields::StoryDateEdit::instantEdited, this,
         [this](const std::optional<core::calendar::StoryInstant>& instant) {
-            m_rule.instant = instant;
+            m_draft.rule.instant = instant;
             emit edited();
         });
 }
 
-void RuleForm::setRule(const ContinuityRule& rule)
+void RuleForm::fillChoices()
+{
+    m_ownChoices = fields::entityChoices(m_desk.session.project(), {});
+    std::vector<fields::EntityChoice> choices = m_ownChoices;
+    for (const app::workspace::MountedLibrary& library : m_desk.session.workspace().libraries()) {
+        for (fields::EntityChoice& choice : fields::entityChoices(*library.project, {})) {
+            if (m_desk.session.project().contains(choice.id))
+                continue;
+            choice.text += u" — "_s + library.name;
+            choices.push_back(std::move(choice));
+        }
+    }
+    m_choices->setChoices(std::move(choices));
+}
+
+QString RuleForm::entityText(const core::ContentId& id) const
+{
+    if (const auto* const entity = m_desk.session.project().findAs<Entity>(id))
+        return entity->name().trimmed();
+    // An entity of a library is told apart from namesakes by where it stands.
+    const auto& choices = m_choices->choices();
+    const auto listed = std::ranges::find(choices, id, &fields::EntityChoice::id);
+    return listed == choices.end() ? QString() : listed->text;
+}
+
+void RuleForm::setDraft(const RuleDraft& draft)
 {
     const QSignalBlocker fieldBlocker(m_field);
     const QSignalBlocker comparisonBlocker(m_comparison);
-    m_rule = rule;
+    m_draft = draft;
+    const ContinuityRule& rule = draft.rule;
     m_name->setText(rule.name);
-    const auto* const entity = m_desk.session.project().findAs<Entity>(rule.entityId);
-    m_shownEntity = entity ? entity->name().trimmed() : QString();
+    m_shownEntity = entityText(rule.entityId);
     m_entity->setText(m_shownEntity);
+    const app::codex::ObjectScope scope = shell::libraryScope(m_desk.session);
+    const bool isLost =
+        !rule.entityId.isNull() &&
+        !app::codex::ScopedLookup(m_desk.session.project(), scope).findAs<Entity>(rule.entityId);
     m_entityNote->setNote(
-        entity || rule.entityId.isNull() ? QString() : tr("The entity of this rule is no longer there."),
-        NoteLabel::Tone::Error);
+        isLost ? tr("The entity of this rule is no longer there.") : QString(), NoteLabel::Tone::Error);
     fillFields();
     // A comparison that this program does not know stays as it is until another one is chosen.
     int comparison = m_comparison->findData(rule.comparison);
@@ -105,24 +149,29 @@ void RuleForm::setRule(const ContinuityRule& rule)
         m_comparison->addItem(rule.comparison, rule.comparison);
     }
     m_comparison->setCurrentIndex(comparison);
-    m_value->setText(rule.value);
+    const RuleValue value(m_desk.session);
+    m_value->setText(draft.typedValue ? *draft.typedValue : value.inWords(rule));
+    m_shownField = value.fieldOf(rule);
     m_date->setInstant(rule.instant);
     showValueState();
+    showValueFault();
 }
 
 void RuleForm::fillFields()
 {
     const QSignalBlocker blocker(m_field);
     m_field->clear();
-    const core::project::Project& project = m_desk.session.project();
-    if (const auto* const entity = project.findAs<Entity>(m_rule.entityId)) {
-        for (const core::entity::ResolvedField& field : schemaOfEntity(project, *entity))
+    const app::codex::ObjectScope scope = shell::libraryScope(m_desk.session);
+    const app::codex::ScopedLookup lookup(m_desk.session.project(), scope);
+    const core::ContentId& id = m_draft.rule.entityId;
+    if (const auto* const entity = lookup.findAs<Entity>(id)) {
+        for (const core::entity::ResolvedField& field : schemaOfEntity(lookup.ownerOf(id), *entity))
             m_field->addItem(field.field.displayName(), field.field.key);
     }
-    const int known = m_field->findData(m_rule.fieldKey);
+    const int known = m_field->findData(m_draft.rule.fieldKey);
     m_field->setCurrentIndex(known);
     if (known < 0)
-        m_field->setEditText(m_rule.fieldKey);
+        m_field->setEditText(m_draft.rule.fieldKey);
 }
 
 void RuleForm::takeEntity()
@@ -131,8 +180,10 @@ void RuleForm::takeEntity()
     if (name == m_shownEntity)
         return;
     m_shownEntity = name;
-    m_rule.entityId = fields::findEntityNamed(m_choices->choices(), name);
-    const bool isLost = m_rule.entityId.isNull() && !name.isEmpty();
+    m_draft.rule.entityId = fields::findEntityNamed(m_ownChoices, name);
+    if (m_draft.rule.entityId.isNull())
+        m_draft.rule.entityId = fields::findEntityNamed(m_choices->choices(), name);
+    const bool isLost = m_draft.rule.entityId.isNull() && !name.isEmpty();
     m_entityNote->setNote(
         isLost ? tr("There is no entity, or more than one, called “%1”.").arg(name) : QString(),
         NoteLabel::Tone::Error);
@@ -148,16 +199,63 @@ void RuleForm::takeField()
     int known = m_field->currentIndex();
     if (known < 0 || m_field->itemText(known) != text)
         known = m_field->findText(text, Qt::MatchFixedString);
-    m_rule.fieldKey = known < 0 ? text : m_field->itemData(known).toString();
+    m_draft.rule.fieldKey = known < 0 ? text : m_field->itemData(known).toString();
+    if (RuleValue(m_desk.session).fieldOf(m_draft.rule) != m_shownField)
+        rereadValue();
     emit edited();
+}
+
+void RuleForm::takeComparison()
+{
+    m_draft.rule.comparison = m_comparison->currentData().toString();
+    // A bar parts values for one comparison and is a character for the others.
+    if (m_value->text().contains(u'|'))
+        rereadValue();
+    showValueState();
+    showValueFault();
+    emit edited();
+}
+
+void RuleForm::takeValue(const QString& words)
+{
+    m_draft.typedValue = words;
+    m_valueNote->setNote({});
+    emit edited();
+}
+
+void RuleForm::rereadValue()
+{
+    m_shownField = RuleValue(m_desk.session).fieldOf(m_draft.rule);
+    m_draft.typedValue = m_value->text();
+    showValueState();
+    showValueFault();
 }
 
 void RuleForm::showValueState()
 {
-    const auto comparison = app::timeline::ruleComparisonFromKey(m_rule.comparison);
+    const auto comparison = app::timeline::ruleComparisonFromKey(m_draft.rule.comparison);
     m_value->setEnabled(!comparison || takesOperand(*comparison));
     m_value->setPlaceholderText(
         comparison == RuleComparison::OneOf ? tr("One value, or another: red|green") : QString());
+    // A list of values is typed; what is proposed would take the place of all of them.
+    const bool isOneValue = comparison && *comparison != RuleComparison::OneOf;
+    m_valueChoices->setStringList(
+        isOneValue ? RuleValue(m_desk.session).choices(m_shownField) : QStringList());
+}
+
+void RuleForm::showValueFault()
+{
+    // What the rule already holds is not called in question.
+    m_valueNote->setNote(
+        m_draft.typedValue ? RuleValue(m_desk.session).read(m_draft.rule, *m_draft.typedValue).fault
+                           : QString(),
+        NoteLabel::Tone::Error);
+}
+
+void RuleForm::focusValue()
+{
+    m_value->setFocus();
+    m_value->selectAll();
 }
 
 void RuleForm::focusName()
@@ -170,6 +268,7 @@ bool RuleForm::commit()
 {
     m_date->commit();
     takeEntity();
+    showValueFault();
     return m_date->isReadable();
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/timeline/TimelineCommands.h"
 #include "desktop/continuity/RuleForm.h"
+#include "desktop/continuity/RuleValue.h"
 #include "desktop/fields/ListEditor.h"
 #include "desktop/fields/NoteLabel.h"
 #include "desktop/shell/ObjectTitles.h"
@@ -45,9 +46,9 @@ QString faultIn(const RuleList& rules)
     return {};
 }
 
-RulesDialog::RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget* parent)
+RulesDialog::RulesDialog(const shell::DeskContext& desk, const RuleList& rules, QWidget* parent)
     : QDialog(parent)
-    , m_rules(std::move(rules))
+    , m_desk(desk)
     , m_list(new fields::ListEditor(
           desk, tr("Continuity rules"),
           tr("No rules: add one to hear when an entity is not what the story needs."), this))
@@ -62,8 +63,10 @@ RulesDialog::RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget
     connect(m_list, &fields::ListEditor::removeRequested, this, &RulesDialog::removeRow);
     connect(&m_list->list(), &QListWidget::currentRowChanged, this, &RulesDialog::showCurrent);
     connect(m_form, &RuleForm::edited, this, &RulesDialog::takeForm);
-    for (std::size_t rule = 0; rule < m_rules.size(); ++rule)
-        addRow(rule);
+    for (const ContinuityRule& rule : rules) {
+        m_rules.push_back({rule});
+        addRow(m_rules.size() - 1);
+    }
 
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     buttons->addButton(tr("Apply Rules"), QDialogButtonBox::AcceptRole)->setDefault(true);
@@ -81,17 +84,24 @@ RulesDialog::RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget
     showCurrent();
 }
 
+RulesDialog::~RulesDialog() = default;
+
 RuleList RulesDialog::rules() const
 {
     RuleList rules;
     for (int row = 0; row < m_list->list().count(); ++row)
-        rules.push_back(m_rules[m_list->list().item(row)->data(ruleRole).toULongLong()]);
+        rules.push_back(m_rules[ruleOfRow(row)].rule);
     return rules;
+}
+
+std::size_t RulesDialog::ruleOfRow(int row) const
+{
+    return m_list->list().item(row)->data(ruleRole).toULongLong();
 }
 
 void RulesDialog::addRow(std::size_t rule)
 {
-    auto* const item = new QListWidgetItem(shell::shownName(m_rules[rule].name), &m_list->list());
+    auto* const item = new QListWidgetItem(shell::shownName(m_rules[rule].rule.name), &m_list->list());
     item->setData(ruleRole, static_cast<qulonglong>(rule));
 }
 
@@ -99,7 +109,7 @@ void RulesDialog::addRule()
 {
     ContinuityRule rule;
     rule.name = tr("New rule");
-    m_rules.push_back(std::move(rule));
+    m_rules.push_back({std::move(rule)});
     addRow(m_rules.size() - 1);
     m_list->list().setCurrentRow(m_list->list().count() - 1);
     m_form->focusName();
@@ -112,9 +122,9 @@ void RulesDialog::removeRow(int row)
 
 void RulesDialog::showCurrent()
 {
-    const QListWidgetItem* const item = m_list->list().currentItem();
-    m_form->setEnabled(item);
-    m_form->setRule(item ? m_rules[item->data(ruleRole).toULongLong()] : ContinuityRule());
+    const int row = m_list->list().currentRow();
+    m_form->setEnabled(row >= 0);
+    m_form->setDraft(row >= 0 ? m_rules[ruleOfRow(row)] : RuleDraft());
 }
 
 void RulesDialog::takeForm()
@@ -122,10 +132,29 @@ void RulesDialog::takeForm()
     QListWidgetItem* const item = m_list->list().currentItem();
     if (!item)
         return;
-    ContinuityRule& rule = m_rules[item->data(ruleRole).toULongLong()];
-    rule = m_form->rule();
-    item->setText(shell::shownName(rule.name));
+    RuleDraft& draft = m_rules[ruleOfRow(m_list->list().currentRow())];
+    draft = m_form->draft();
+    item->setText(shell::shownName(draft.rule.name));
     m_note->setNote({});
+}
+
+bool RulesDialog::storeValues()
+{
+    const RuleValue value(m_desk.session);
+    for (int row = 0; row < m_list->list().count(); ++row) {
+        RuleDraft& draft = m_rules[ruleOfRow(row)];
+        if (!draft.typedValue)
+            continue;
+        const RuleValue::Reading reading = value.read(draft.rule, *draft.typedValue);
+        if (!reading.fault.isEmpty()) {
+            m_list->list().setCurrentRow(row);
+            m_form->focusValue();
+            return false;
+        }
+        draft.rule.value = reading.stored;
+        draft.typedValue.reset();
+    }
+    return true;
 }
 
 void RulesDialog::accept()
@@ -134,7 +163,7 @@ void RulesDialog::accept()
         return;
     const QString fault = faultIn(rules());
     m_note->setNote(fault, fields::NoteLabel::Tone::Error);
-    if (fault.isEmpty())
+    if (fault.isEmpty() && storeValues())
         QDialog::accept();
 }
 

@@ -15,6 +15,7 @@ class NoteLabel;
 namespace tw::desktop::continuity {
 
 class RuleForm;
+struct RuleDraft;
 
 using RuleList = std::vector<core::timeline::ContinuityRule>;
 
@@ -27,10 +28,12 @@ class RulesDialog final : public QDialog
     Q_OBJECT
 
 public:
-    RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget* parent);
+    RulesDialog(const shell::DeskContext& desk, const RuleList& rules, QWidget* parent);
+    ~RulesDialog() override;
 
+    /** What was typed for a rule to compare with is in it once it was accepted. */
     [[nodiscard]] RuleList rules() const;
-    /** Refused, with a note, while a rule is not complete. */
+    /** Refused, with a note, while a rule is not complete or compares with what its property cannot hold. */
     void accept() override;
 
 private:
@@ -39,9 +42,13 @@ private:
     void removeRow(int row);
     void showCurrent();
     void takeForm();
+    [[nodiscard]] std::size_t ruleOfRow(int row) const;
+    /** Stores what was typed as the values of the rules; false, with the form at the first that cannot be. */
+    [[nodiscard]] bool storeValues();
 
+    shell::DeskContext m_desk;
     /** The rows of the list know their numbers here; removed ones stay. */
-    RuleList m_rules;
+    std::vector<RuleDraft> m_rules;
     fields::ListEditor* m_list;
     RuleForm* m_form;
     fields::NoteLabel* m_note;

@@ -5,6 +5,7 @@
 #include "desktop/codex/CategoryPaths.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/manuscript/ManuscriptModel.h"
+#include "desktop/shell/LibraryObjects.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
@@ -199,9 +200,7 @@ void GoToFinder::choose(std::size_t row, FinderTarget target)
         return;
     const TitleHit hit = m_hits[row];
     if (hit.library >= 0) {
-        const auto& library = m_desk.session.workspace().libraries()[static_cast<std::size_t>(hit.library)];
-        m_desk.navigator.say(tr("“%1” stands in the library “%2”. Open that project to read or change it.")
-                                 .arg(shell::objectTitle(*library.project->find(hit.id)), library.name));
+        m_desk.navigator.say(shell::libraryNote(m_desk.session, hit.id));
     } else if (target == FinderTarget::OtherPane) {
         m_work.openBeside({hit.id, {}});
     } else {

@@ -1,6 +1,7 @@
 #include "desktop/problems/ProblemsModel.h"
 
 #include "desktop/icons/IconSet.h"
+#include "desktop/shell/LibraryObjects.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/trees/TreeRoles.h"
@@ -183,17 +184,23 @@ int ProblemsModel::columnCount(const QModelIndex&) const
     return 1;
 }
 
+const core::content::ContentObject* ProblemsModel::objectOf(const Group& group) const
+{
+    const app::codex::ObjectScope scope = shell::libraryScope(m_desk.session);
+    return app::codex::ScopedLookup(m_desk.session.project(), scope).find(group.object);
+}
+
 QString ProblemsModel::titleOf(const Group& group) const
 {
     if (group.object.isNull())
         return tr("Project");
-    const auto* const object = m_desk.session.project().find(group.object);
+    const auto* const object = objectOf(group);
     return object ? shell::objectTitle(*object) : QString();
 }
 
 QIcon ProblemsModel::iconOf(const Group& group) const
 {
-    const auto* const object = m_desk.session.project().find(group.object);
+    const auto* const object = objectOf(group);
     return m_desk.icons.icon(object ? icons::iconForKind(object->kind()) : icons::Icon::Manuscript);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/content/ContentObject.h"
 #include "desktop/problems/ProblemSource.h"
 #include "desktop/shell/DeskContext.h"
 
@@ -88,6 +89,8 @@ private:
     void recount();
     [[nodiscard]] QVariant problemData(const Group& group, const Row& row, int role) const;
     [[nodiscard]] QVariant unlistedData(const Group& group, int role) const;
+    /** Of the project or of a library; none for the project itself and for what is gone. */
+    [[nodiscard]] const core::content::ContentObject* objectOf(const Group& group) const;
     [[nodiscard]] QString titleOf(const Group& group) const;
     [[nodiscard]] QIcon iconOf(const Group& group) const;
 

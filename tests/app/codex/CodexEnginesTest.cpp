@@ -6,6 +6,7 @@
 #include "core/content/ObjectName.h"
 #include "core/document/Document.h"
 #include "core/map/Map.h"
+#include "core/research/Comment.h"
 #include "core/timeline/TimelineEvent.h"
 #include "support/SampleWorld.h"
 
@@ -97,6 +98,66 @@ TEST_F(CodexEnginesTest, aRenameLeavesAloneWhatMustNotBeChanged)
     ASSERT_EQ(plan.locked.size(), 1U);
     EXPECT_EQ(plan.locked[0].id, ids.chapter);
     EXPECT_EQ(plan.excludedCount, 1);
+}
+
+TEST_F(CodexEnginesTest, aRenameKeepsCommentsAndRulesWithTheTextsTheyAreAbout)
+{
+    const auto anchored = [&](const ContentId& target, const QString& body) {
+        auto comment = std::make_unique<core::research::Comment>(
+            ContentId::create(), core::research::CommentTarget{target, u"met Marda and"_s},
+            core::research::CommentDetails{u"Ada"_s, body, {}, {}, false});
+        const ContentId id = comment->id();
+        project.insert(std::move(comment));
+        return id;
+    };
+    const auto anchorOf = [&](const ContentId& id) {
+        return project.findAs<core::research::Comment>(id)->target().anchor;
+    };
+    const ContentId onChapter = anchored(ids.chapter, u"Why?"_s);
+    const ContentId onLocked = anchored(ids.scene, u"Marda?"_s);
+    project.findForEdit(ids.scene)->setLocked(true);
+    const auto rule = [](const QString& name, const ContentId& entity, const char* field,
+                         const QString& value) {
+        return core::timeline::ContinuityRule{name,       entity, QString::fromLatin1(field),
+                                              u"oneOf"_s, value,  {}};
+    };
+    project.setContinuityRules(
+        {rule(u"Marda's rank"_s, ids.mardana, "rank", u"Captain|Marda's guard"_s),
+         rule(u"Text"_s, ids.mardana, "summary", u"MARDA|Marda"_s),
+         rule(u"Age"_s, ids.mardana, "age", u"Marda"_s),
+         rule(u"Gone"_s, ContentId::create(), "summary", u"Marda"_s),
+         rule(u"Locked"_s, ids.vaertis, "ruler", u"Marda"_s),
+         rule(u"Out"_s, ids.tom, "summary", u"Marda"_s)});
+    project.findForEdit(ids.vaertis)->setLocked(true);
+    project.findForEdit(ids.tom)->setAiExcluded(true);
+    project.setEntityTemplates(
+        {{u"Marda's crew"_s, ids.characters, {{u"summary"_s, u"Serves Marda."_s}, {u"age"_s, u"Marda"_s}}}});
+    const auto rulesBefore = project.continuityRules();
+    const auto templatesBefore = project.entityTemplates();
+
+    const RenamePlan plan = planRename(project, {u"Marda"_s, u"Ysolde"_s});
+    run(plan.edits);
+    EXPECT_EQ(anchorOf(onChapter), u"met Ysolde and"_s);
+    EXPECT_EQ(anchorOf(onLocked), u"met Marda and"_s);
+    EXPECT_EQ(project.findAs<core::research::Comment>(onLocked)->details().body, u"Ysolde?"_s);
+    QStringList rules;
+    for (const auto& each : project.continuityRules())
+        rules += each.name + u": "_s + each.value;
+    EXPECT_EQ(
+        rules, (QStringList{
+                   u"Ysolde's rank: Captain|Ysolde's guard"_s, u"Text: MARDA|Ysolde"_s, u"Age: Marda"_s,
+                   u"Gone: Marda"_s, u"Locked: Marda"_s, u"Out: Marda"_s}));
+    const auto& sailor = project.entityTemplates()[0];
+    EXPECT_EQ(sailor.name, u"Ysolde's crew"_s);
+    EXPECT_EQ(sailor.fieldValues.at(u"summary"_s), u"Serves Ysolde."_s);
+    EXPECT_EQ(sailor.fieldValues.at(u"age"_s), u"Marda"_s);
+    ASSERT_EQ(plan.locked.size(), 2U);
+    EXPECT_EQ(plan.locked[1].name, u"Locked"_s);
+    EXPECT_EQ(plan.excludedCount, 1);
+    history.undo();
+    EXPECT_EQ(anchorOf(onChapter), u"met Marda and"_s);
+    EXPECT_EQ(project.continuityRules(), rulesBefore);
+    EXPECT_EQ(project.entityTemplates(), templatesBefore);
 }
 
 TEST_F(CodexEnginesTest, aRenamePassesOverValuesThatAreNoText)

@@ -3,6 +3,7 @@
 #include "app/codex/FieldKeys.h"
 #include "app/codex/ProjectTextSearch.h"
 #include "app/codex/Relationships.h"
+#include "app/codex/ValueConversion.h"
 #include "core/content/ObjectName.h"
 #include "core/document/Document.h"
 #include "core/entity/Entity.h"
@@ -117,6 +118,63 @@ TEST_F(CodexReadingTest, convertsValuesAndKeepsWhatDoesNotSuit)
     project.findForEdit(ids.marda)->setLocked(true);
     EXPECT_EQ(convert(u"met"_s, FieldType::Text).untouchedCount, 1);
     EXPECT_EQ(value(ids.marda, u"met"_s), u"1250"_s);
+}
+
+TEST_F(CodexReadingTest, rulesGoOnComparingWithConvertedValues)
+{
+    const QString marda = ids.marda.toString();
+    const QString mardana = ids.mardana.toString();
+    const struct
+    {
+        core::ContentId entity;
+        QString comparison;
+        QString value;
+        QString asText;
+    } rules[] = {
+        {ids.tom, u"equals"_s, marda + u'\n' + mardana, u"Marda\nMardana"_s},
+        {ids.mardana, u"oneOf"_s, mardana + u'|' + marda, u"Mardana|Marda"_s},
+        {ids.mardana, u"contains"_s, marda, u"Marda"_s},
+        {ids.mardana, u"isEmpty"_s, marda, marda},
+        {ids.mardana, u"rhymes"_s, marda, marda},
+        {ids.vaertis, u"equals"_s, marda, marda},
+        {core::ContentId::create(), u"equals"_s, marda, marda},
+        {ids.marda, u"equals"_s, marda, marda},
+    };
+    std::vector<core::timeline::ContinuityRule> stored;
+    for (const auto& rule : rules)
+        stored.push_back({rule.comparison, rule.entity, u"spouse"_s, rule.comparison, rule.value, {}});
+    project.setContinuityRules(stored);
+    project.findForEdit(ids.marda)->setLocked(true);
+
+    const ConversionPlan toText = convert(u"spouse"_s, FieldType::Text);
+    for (std::size_t rule = 0; rule < stored.size(); ++rule)
+        EXPECT_EQ(project.continuityRules()[rule].value, rules[rule].asText) << rule;
+    EXPECT_EQ(toText.ruleCount, 3);
+    EXPECT_EQ(toText.untouchedCount, 1);
+
+    project.setContinuityRules({{u"Kin"_s, ids.mardana, u"spouse"_s, u"oneOf"_s, u"Tom|Nobody"_s, {}}});
+    const ConversionPlan back = convert(u"spouse"_s, FieldType::Reference);
+    EXPECT_EQ(project.continuityRules()[0].value, ids.tom.toString() + u"|Nobody"_s);
+    ASSERT_EQ(back.keptOperands.size(), 1U);
+    EXPECT_EQ(back.keptOperands[0].rule, u"Kin"_s);
+    EXPECT_EQ(back.keptOperands[0].value, u"Nobody"_s);
+}
+
+TEST_F(CodexReadingTest, libraryEntitiesAreNamedAndFoundWhenValuesAreConverted)
+{
+    Project library;
+    const auto guest = core::ContentId::create();
+    library.insert(std::make_unique<Entity>(guest, core::CategoryId::create(), u"Guest"_s));
+    library.insert(std::make_unique<Entity>(core::ContentId::create(), core::CategoryId::create(), u"tom"_s));
+    const ObjectScope scope{{&library}, {}};
+    const ValueConversion values(project, scope);
+    const core::taxonomy::Field spouse = project.taxonomy().category(ids.characters)->fields[1];
+    EXPECT_EQ(values.inWords(spouse, guest.toString()), u"Guest"_s);
+    EXPECT_EQ(values.stored(spouse, u"guest"_s), guest.toString());
+    EXPECT_EQ(values.stored(spouse, u"Tom"_s), ids.tom.toString());
+    const ObjectScope hiding{{&library}, [](const auto&) { return true; }};
+    EXPECT_EQ(ValueConversion(project, hiding).stored(spouse, u"Guest"_s), std::nullopt);
+    EXPECT_EQ(ValueConversion(project, hiding).inWords(spouse, guest.toString()), guest.toString());
 }
 
 TEST_F(CodexReadingTest, datesBecomeTextAndComeBack)

@@ -81,7 +81,7 @@ protected:
         m_project.add(std::move(map));
     }
 
-    QStringList messages(const ContinuityScope& scope = {})
+    QStringList messages(const codex::ObjectScope& scope = {})
     {
         int number = 100;
         for (EventDetails& details : m_details) {
@@ -212,7 +212,7 @@ TEST_F(ContinuityValidatorTest, whatIsHiddenIsNeitherNamedNorMissed)
     event(u"A"_s, 0, 10, 2).participants = {idOf(1), idOf(5)};
     event(u"B"_s, 20, 10, 5);
     event(u"C"_s, 5, 10, 3).constraints = {{idOf(100), ConstraintKind::StartsAfter}};
-    const ContinuityScope hiding{{}, [](const auto& object) { return object.isAiExcluded(); }};
+    const codex::ObjectScope hiding{{}, [](const auto& object) { return object.isAiExcluded(); }};
     const QString clash = u"Ann is in two places at once: \"A\" and \"C\"."_s;
     const QString order = u"\"C\" must start after \"A\", but does not."_s;
     EXPECT_EQ(messages(hiding), QStringList({clash, order}));

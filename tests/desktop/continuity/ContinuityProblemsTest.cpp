@@ -4,7 +4,7 @@
 #include "core/timeline/TimelineCommands.h"
 #include "desktop/problems/ProblemsModel.h"
 #include "desktop/problems/ProblemsPanel.h"
-#include "desktop/support/TestDesk.h"
+#include "desktop/support/MountedLibrary.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -111,6 +111,23 @@ TEST_F(ContinuityProblemsTest, goesToTheEvent)
     EXPECT_EQ(desk.navigator.current(), feast);
     ASSERT_EQ(opened.count(), 1);
     EXPECT_EQ(opened.first().first().value<core::ContentId>(), ann) << "on whose page it stands";
+}
+
+TEST_F(ContinuityProblemsTest, entitiesOfLibrariesAreNamedAndStayWhereTheyAre)
+{
+    const core::ContentId coast = test::mountAtlas(desk, u"Coast"_s);
+    setRules({{u"Blue"_s, coast, u"colour"_s, u"isNonEmpty"_s, {}, {}}});
+    ASSERT_EQ(listed().value(2), u"Coast");
+    QSignalSpy opened(&desk.navigator, &shell::Navigator::openRequested);
+    QSignalSpy said(&desk.navigator, &shell::Navigator::said);
+    const problems::ProblemsModel& model = panel.model();
+    const auto problem = model.problemAt(model.index(0, 0, model.index(1, 0)));
+    problem.source->show(problem.object, *problem.problem);
+    EXPECT_EQ(opened.count(), 0);
+    ASSERT_EQ(said.count(), 1);
+    EXPECT_EQ(
+        said.first().first().toString(),
+        u"“Coast” stands in the library “Atlas”. Open that project to read or change it.");
 }
 
 TEST_F(ContinuityProblemsTest, anotherProjectLeavesNothingBehind)

@@ -26,33 +26,41 @@ namespace {
 constexpr qint32 fewestRows = 50;
 constexpr qint32 fewestColumns = 12;
 
-/** The part to show: what was asked for, or what is used, cut to the grid and to what one answer may hold. */
-Result<CellRange> rangeToShow(const SheetGrid& grid, const QString& wanted)
+/** What was asked for, or what is used, within the grid; and as much of it as one answer may hold. */
+struct ShownPart
+{
+    CellRange asked;
+    CellRange shown;
+};
+
+Result<ShownPart> partToShow(const SheetGrid& grid, const QString& wanted)
 {
     auto range = wanted.isEmpty() ? usedRange(grid) : rangeFromText(wanted);
     if (!range && !wanted.isEmpty())
         return Failure{u"'%1' is not a range of cells; write it like \"A1:C20\"."_s.arg(wanted)};
-    CellRange shown = range.value_or(CellRange());
-    if (shown.first.row >= grid.rowCount || shown.first.column >= grid.columnCount)
+    ShownPart part{range.value_or(CellRange()), {}};
+    if (part.asked.first.row >= grid.rowCount || part.asked.first.column >= grid.columnCount)
         return Failure{u"'%1' lies outside of this sheet of %2 rows and %3 columns."_s.arg(
             wanted, QString::number(grid.rowCount), QString::number(grid.columnCount))};
-    shown.last.row = std::min(shown.last.row, grid.rowCount - 1);
-    shown.last.column = std::min(shown.last.column, grid.columnCount - 1);
-    const auto columns = std::min(shown.columnCount(), mostShownCells);
-    const auto rows = std::max<qint64>(1, std::min(shown.rowCount(), mostShownCells / columns));
-    shown.last.column = shown.first.column + static_cast<qint32>(columns) - 1;
-    shown.last.row = shown.first.row + static_cast<qint32>(rows) - 1;
-    return shown;
+    part.asked.last.row = std::min(part.asked.last.row, grid.rowCount - 1);
+    part.asked.last.column = std::min(part.asked.last.column, grid.columnCount - 1);
+    const auto columns = std::min(part.asked.columnCount(), mostShownCells);
+    const auto rows = std::max<qint64>(1, std::min(part.asked.rowCount(), mostShownCells / columns));
+    part.shown = part.asked;
+    part.shown.last.column = part.shown.first.column + static_cast<qint32>(columns) - 1;
+    part.shown.last.row = part.shown.first.row + static_cast<qint32>(rows) - 1;
+    return part;
 }
 
-QString partNote(const SheetGrid& grid, const CellRange& shown, const QString& wanted)
+QString partNote(const ShownPart& part)
 {
-    const auto used = usedRange(grid);
-    const bool isAllShown = !used || (shown.contains(used->first) && shown.contains(used->last));
-    if (isAllShown || !wanted.isEmpty())
+    if (part.shown == part.asked)
         return {};
-    return u"\n\nNOTE: only %1 of %2 is shown. Call get_spreadsheet again with \"range\" for the rest."_s.arg(
-        rangeText(shown), rangeText(*used));
+    const QString shown = QString::number(part.shown.rowCount() * part.shown.columnCount());
+    const QString all = QString::number(part.asked.rowCount() * part.asked.columnCount());
+    return u"\n\nNOTE: only %1 of %2 is shown (%3 of %4 cells). Call get_spreadsheet again with \"range\" "
+           u"for "
+           "the rest."_s.arg(rangeText(part.shown), rangeText(part.asked), shown, all);
 }
 
 /** The header, in bold, and the rows below it as cells. */
@@ -104,18 +112,19 @@ McpToolResult getSpreadsheet(ToolContext& context, const ToolArguments& argument
         sheet.title(), QString::number(sheet.grid().rowCount), QString::number(sheet.grid().columnCount));
     if (found.value().library)
         text += u' ' + mountedMark(found.value().library->name);
-    const auto* category = context.workspace.project().taxonomy().category(sheet.linkedCategoryId());
+    const core::project::Project& owner =
+        found.value().library ? *found.value().library->project : context.workspace.project();
+    const auto* category = owner.taxonomy().category(sheet.linkedCategoryId());
     if (category)
         text += u" It belongs to the category '%1'."_s.arg(category->name);
     if (!usedRange(sheet.grid()))
         return McpToolResult::success(text + u" All cells are empty."_s);
     const QString wanted = arguments.text(u"range").trimmed();
-    const auto range = rangeToShow(sheet.grid(), wanted);
-    if (!range)
-        return McpToolResult::failure(range.message());
+    const auto part = partToShow(sheet.grid(), wanted);
+    if (!part)
+        return McpToolResult::failure(part.message());
     return McpToolResult::success(
-        text + u"\n\n"_s + markdownTable(sheet.grid(), range.value()) +
-        partNote(sheet.grid(), range.value(), wanted));
+        text + u"\n\n"_s + markdownTable(sheet.grid(), part.value().shown) + partNote(part.value()));
 }
 
 McpToolResult createSpreadsheet(ToolContext& context, const ToolArguments& arguments)

@@ -7,9 +7,8 @@
 #include "app/mcp/world/FieldValues.h"
 #include "app/mcp/world/WorldLookup.h"
 #include "app/timeline/ContinuityValidator.h"
-#include "app/timeline/RuleComparison.h"
+#include "app/timeline/RuleOperand.h"
 #include "core/entity/Entity.h"
-#include "core/entity/Schema.h"
 #include "core/timeline/TimelineCommands.h"
 
 namespace tw::app::mcp {
@@ -20,26 +19,14 @@ using core::Result;
 using core::entity::Entity;
 using core::project::Project;
 using core::taxonomy::Field;
-using core::taxonomy::FieldType;
 using core::timeline::ContinuityRule;
 using timeline::ContinuityConflict;
-using timeline::ContinuityScope;
 using timeline::RuleComparison;
 using workspace::Workspace;
 
 namespace {
 
 using RuleList = std::vector<ContinuityRule>;
-
-/** The mounted libraries too, and nothing that is excluded from AI. */
-ContinuityScope scopeFor(const Workspace& workspace)
-{
-    ContinuityScope scope;
-    for (const workspace::MountedLibrary& library : workspace.libraries())
-        scope.libraries.push_back(library.project.get());
-    scope.isHidden = [](const core::content::ContentObject& object) { return object.isAiExcluded(); };
-    return scope;
-}
 
 QStringList namesOf(const RuleList& rules)
 {
@@ -92,11 +79,11 @@ QString operandText(const Workspace& workspace, const ContinuityRule& rule, Rule
     return shownOperand(comparison, timeline::operandOf(values));
 }
 
-/** What is stored for an operand: as the field's own values are, where those are not what people write. */
+/** What is stored for an operand: as the field's own values are, where the rule compares with those. */
 Result<QString> readOperand(
     const Workspace& workspace, const Field& field, RuleComparison comparison, const QString& text)
 {
-    if (field.type != FieldType::Reference && field.type != FieldType::Date)
+    if (!comparesWithValues(comparison, field.type))
         return text;
     QStringList values;
     for (const QString& value : timeline::operandValues(comparison, text)) {
@@ -167,9 +154,9 @@ Result<ContinuityRule> readRule(const Workspace& workspace, const ToolArguments&
 McpToolResult getConflicts(ToolContext& context, const ToolArguments& /*arguments*/)
 {
     const Project& project = context.workspace.project();
-    const ContinuityScope scope = scopeFor(context.workspace);
-    std::vector<ContinuityConflict> conflicts = validateTimeline(project, scope);
-    const auto broken = validateRules(project, project.continuityRules(), scope);
+    const codex::ObjectScope scope = assistantScope(context.workspace);
+    std::vector<ContinuityConflict> conflicts = timeline::validateTimeline(project, scope);
+    const auto broken = timeline::validateRules(project, project.continuityRules(), scope);
     conflicts.insert(conflicts.end(), broken.begin(), broken.end());
     if (conflicts.empty())
         return McpToolResult::success(u"No conflicts found."_s);
@@ -200,7 +187,8 @@ McpToolResult createContinuityRule(ToolContext& context, const ToolArguments& ar
         context.workspace.undoStack().push(
             std::make_unique<core::timeline::SetContinuityRulesCommand>(project, std::move(rules)));
         QString text = u"Created continuity rule '%1'."_s.arg(rule.value().name);
-        const auto broken = validateRules(project, std::span(&rule.value(), 1), scopeFor(context.workspace));
+        const auto broken =
+            timeline::validateRules(project, std::span(&rule.value(), 1), assistantScope(context.workspace));
         for (const ContinuityConflict& conflict : broken)
             text += u" It does not hold now: %1"_s.arg(conflict.message);
         return McpToolResult::success(text);

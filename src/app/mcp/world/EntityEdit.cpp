@@ -231,6 +231,12 @@ QJsonObject entityContentProperties()
         {u"death"_s, textProperty(u"Death or end, in the project's calendar; null for none."_s)}};
 }
 
+QString lifespanNote(const core::entity::Lifespan& lifespan)
+{
+    const bool isReversed = lifespan.birth && lifespan.death && *lifespan.death < *lifespan.birth;
+    return isReversed ? u" Note: its death lies before its birth."_s : QString();
+}
+
 QString missingFieldsText(const Schema& schema, const core::entity::FieldValues& values)
 {
     QStringList names;

@@ -31,6 +31,9 @@ struct EntityContent
 /** The arguments above as schema properties. */
 [[nodiscard]] QJsonObject entityContentProperties();
 
+/** What to say of an entity that ends before it begins, with a blank before it; empty for any other. */
+[[nodiscard]] QString lifespanNote(const core::entity::Lifespan& lifespan);
+
 /** The required fields that an entity leaves empty, as a sentence with a blank before it; empty when there
  * are none. */
 [[nodiscard]] QString missingFieldsText(

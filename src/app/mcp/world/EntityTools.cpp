@@ -42,8 +42,10 @@ McpToolResult createEntity(ToolContext& context, const ToolArguments& arguments)
     entity->setLifespan(content.value().lifespan);
     entity->setAliases(content.value().aliases);
     entity->setTags(content.value().tags);
-    const QString answer = u"Created entity '%1' in '%2'.%3"_s.arg(
-        name.value(), category.value()->name, missingFieldsText(schema, content.value().values));
+    const QString notes =
+        missingFieldsText(schema, content.value().values) + lifespanNote(content.value().lifespan);
+    const QString answer =
+        u"Created entity '%1' in '%2'.%3"_s.arg(name.value(), category.value()->name, notes);
     return applyAsUndoStep(context.workspace, context.changeLog, u"MCP: create entity"_s, [&] {
         context.workspace.undoStack().push(std::make_unique<core::content::AddObjectCommand>(
             context.workspace.projectForEdit(), std::move(entity)));
@@ -73,7 +75,9 @@ public:
             return McpToolResult::success(
                 u"Entity '%1' already matches; nothing changed."_s.arg(m_entity.name()));
         }
-        return McpToolResult::success(u"Updated entity '%1'."_s.arg(m_entity.name()));
+        const bool isLifespanGiven = m_arguments.has(u"birth") || m_arguments.has(u"death");
+        return McpToolResult::success(u"Updated entity '%1'.%2"_s.arg(
+            m_entity.name(), isLifespanGiven ? lifespanNote(m_entity.lifespan()) : QString()));
     }
 
 private:

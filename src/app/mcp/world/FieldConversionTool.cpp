@@ -53,6 +53,14 @@ QString convertedText(
         text += u" Kept %1 value(s) that %2, as literal text: %3."_s.arg(
             QString::number(kept.size()), lackOf(request.type), quotedList(kept));
     }
+    if (plan.ruleCount > 0) {
+        text +=
+            u" Converted what %1 continuity rule(s) compare it with."_s.arg(QString::number(plan.ruleCount));
+    }
+    for (const ConversionPlan::KeptOperand& kept : plan.keptOperands) {
+        text += u" The continuity rule '%1' still compares it with the literal text '%2'."_s.arg(
+            kept.rule, shortenForDisplay(kept.value));
+    }
     if (plan.untouchedCount > 0) {
         text += u" Left %1 value(s) of locked entities or entities excluded from AI as they were."_s.arg(
             QString::number(plan.untouchedCount));
@@ -85,7 +93,8 @@ McpToolResult convertField(ToolContext& context, const ToolArguments& arguments)
         category.id, before.key, type.value(), tidied(arguments.textList(u"options")), target.value()};
     if (request.type == FieldType::Choice && request.options.isEmpty())
         return McpToolResult::failure(u"Converting to a choice field needs a non-empty \"options\" array."_s);
-    const ConversionPlan plan = codex::planConversion(workspace.project(), request);
+    const ConversionPlan plan =
+        codex::planConversion(workspace.project(), request, assistantScope(workspace));
     const QString answer = convertedText(category, before, request, plan);
     return applyAsUndoStep(context.workspace, context.changeLog, u"MCP: convert field"_s, [&] {
         plan.edits.push(context.workspace.projectForEdit(), context.workspace.undoStack());
@@ -106,7 +115,9 @@ Tool convertFieldTool()
              u"Changes a category's OWN field to a new type (text/number/boolean/date/reference/choice/url) "
              "-- the way to make a field created as text (e.g. \"Spouse\") a real reference, with the values "
              "already entered taken along. Converts the current values and the states over time of every "
-             "entity that has the field, and those of templates: names become references, dates of the "
+             "entity that has the field, those of templates, and what continuity rules compare the field "
+             "with: "
+             "names become references, dates of the "
              "project's calendar become dates, \"yes\" and \"no\" become true and false, and back into words "
              "again. A value that does not suit the new type is never lost: it stays as literal text, and "
              "the answer lists it. \"options\" is needed for a choice, \"reference_category\" limits a "

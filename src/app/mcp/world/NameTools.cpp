@@ -33,12 +33,32 @@ QString holderText(const Project& project, const NameHolder& holder)
         return u"plot thread '%1'"_s.arg(holder.name);
     case NameHolder::Kind::Category:
         return u"category '%1'"_s.arg(holder.name);
+    case NameHolder::Kind::ContinuityRule:
+        return u"continuity rule '%1'"_s.arg(holder.name);
+    case NameHolder::Kind::EntityTemplate:
+        return u"entity template '%1'"_s.arg(holder.name);
     case NameHolder::Kind::Object:
         break;
     }
     return u"%1 '%2'"_s.arg(
         kindWord(project.find(holder.id)->kind()),
         holder.name.isEmpty() ? holder.id.toString() : holder.name);
+}
+
+/** Refuses what would be called like another of those that are no objects. */
+template <class Named>
+Result<void> checkNamesake(
+    const std::vector<Named>& others, QStringView kindWord, const QString& oldName, const QString& newName)
+{
+    const auto isTaken = [&](const Named& other) {
+        return other.name != oldName &&
+               core::content::foldedName(other.name) == core::content::foldedName(newName);
+    };
+    if (std::ranges::none_of(others, isTaken))
+        return {};
+    return Failure{
+        u"A %1 named '%2' already exists; renaming onto it would leave both unreachable by name."_s.arg(
+            kindWord, newName)};
 }
 
 /** Refuses a rename after which something could no longer be called by its name. */
@@ -48,19 +68,15 @@ Result<void> checkCollisions(const Project& project, const RenamePlan& plan, con
         const QString newName = codex::renamedText(holder.name, change).text;
         if (newName == holder.name)
             continue;
-        if (holder.kind == NameHolder::Kind::Object) {
-            if (auto checked = checkRename(project, *project.find(holder.id), newName); !checked)
-                return checked;
-        } else if (holder.kind == NameHolder::Kind::PlotThread) {
-            const auto isTaken = [&](const core::plot::PlotThread& thread) {
-                return thread.name != holder.name &&
-                       core::content::foldedName(thread.name) == core::content::foldedName(newName);
-            };
-            if (std::ranges::any_of(project.plotThreads(), isTaken)) {
-                return Failure{u"A plot thread named '%1' already exists; renaming onto it would leave both "
-                               "unreachable by name."_s.arg(newName)};
-            }
-        }
+        Result<void> checked;
+        if (holder.kind == NameHolder::Kind::Object)
+            checked = checkRename(project, *project.find(holder.id), newName);
+        else if (holder.kind == NameHolder::Kind::PlotThread)
+            checked = checkNamesake(project.plotThreads(), u"plot thread", holder.name, newName);
+        else if (holder.kind == NameHolder::Kind::ContinuityRule)
+            checked = checkNamesake(project.continuityRules(), u"continuity rule", holder.name, newName);
+        if (!checked)
+            return checked;
     }
     return {};
 }
@@ -186,7 +202,9 @@ Tool renameObjectTool()
              "state-over-time values, task and timeline-event descriptions, comment text, and plot-thread "
              "names and descriptions. Matches whole words in exactly the case given, so renaming 'Marda' "
              "never touches 'Mardana' or 'MARDA'; a possessive or a name in italics is matched. Variants and "
-             "footnotes of documents are included, version snapshots are history and stay, and so do "
+             "footnotes of documents, the words that a comment is anchored to, and the names and values of "
+             "continuity rules and entity templates are included, version snapshots are history and stay, "
+             "and so do "
              "formatting, link targets, and values that are no text (references follow the object by "
              "themselves). Locked objects, objects excluded from AI and mounted libraries are left alone, "
              "and the answer says where the name remains. Refused when an object would get a name that "

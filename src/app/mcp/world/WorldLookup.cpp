@@ -90,6 +90,15 @@ Result<const Category*> findCategoryForChange(const Workspace& workspace, const 
     return found.value().category;
 }
 
+codex::ObjectScope assistantScope(const Workspace& workspace)
+{
+    codex::ObjectScope scope;
+    for (const workspace::MountedLibrary& library : workspace.libraries())
+        scope.libraries.push_back(library.project.get());
+    scope.isHidden = [](const core::content::ContentObject& object) { return object.isAiExcluded(); };
+    return scope;
+}
+
 QString shownName(const core::content::ContentObject& object)
 {
     const QString name = core::content::objectName(object);

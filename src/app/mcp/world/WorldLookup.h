@@ -1,6 +1,7 @@
 // What the tools of this family look up and say alike.
 #pragma once
 
+#include "app/codex/ScopedLookup.h"
 #include "app/mcp/registry/ObjectFinder.h"
 #include "app/mcp/registry/ToolTable.h"
 
@@ -35,6 +36,9 @@ struct FoundCategory
  */
 [[nodiscard]] core::Result<const core::taxonomy::Category*> findCategoryForChange(
     const workspace::Workspace& workspace, const QString& name);
+
+/** Where engines look on behalf of an assistant: the libraries too, and nothing that is excluded from AI. */
+[[nodiscard]] codex::ObjectScope assistantScope(const workspace::Workspace& workspace);
 
 /** The object's name as answers give it: the id of one that has none. */
 [[nodiscard]] QString shownName(const core::content::ContentObject& object);

@@ -63,9 +63,35 @@ TEST_F(SheetToolsTest, aHugeSheetIsShownInPart)
     grid.cells[{999'999, 15'999}].text = u"end"_s;
     sheet.setGrid(std::move(grid));
     const QString text = call("get_spreadsheet", R"({"title":"Huge"})").text;
-    EXPECT_TRUE(text.contains(u"NOTE: only A1:EWV1 of A1:WQJ1000000 is shown."))
-        << text.right(120).toStdString();
+    EXPECT_TRUE(text.endsWith(u"NOTE: only A1:EWV1 of A1:WQJ1000000 is shown (4000 of 16000000000 cells). "
+                              u"Call get_spreadsheet again "
+                              "with \"range\" for the rest."))
+        << text.right(160).toStdString();
+    const auto noteOf = [this](const char* arguments) {
+        return call("get_spreadsheet", arguments).text.section(u"\n\n"_s, 2).section(u'.', 0, 0);
+    };
+    EXPECT_EQ(
+        noteOf(R"({"title":"Huge","range":"A1:C2000"})"),
+        u"NOTE: only A1:C1333 of A1:C2000 is shown (3999 of 6000 cells)"_s);
+    EXPECT_EQ(noteOf(R"({"title":"Huge","range":"A1:D1000"})"), QString());
+    EXPECT_EQ(noteOf(R"({"title":"Huge","range":"A999999:B2000000"})"), QString());
     EXPECT_TRUE(call("get_spreadsheet", R"({"title":"Huge","range":"WQJ1000000"})").text.contains(u"end"));
+}
+
+TEST_F(SheetToolsTest, aSheetOfALibraryBelongsToACategoryThere)
+{
+    mountLibrary(u"Atlas"_s, [](core::project::Project& library) {
+        const auto category = core::CategoryId::create();
+        library.taxonomyForEdit().insert({category, u"Ports"_s, {}, {}, {}, {}, 0, {}});
+        auto sheet = std::make_unique<Spreadsheet>(core::ContentId::create(), u"Tolls"_s);
+        sheet->setLinkedCategoryId(category);
+        library.add(std::move(sheet));
+    });
+    EXPECT_EQ(
+        call("get_spreadsheet", R"({"title":"Tolls"})").text,
+        u"Spreadsheet 'Tolls': 0 rows, 0 columns. From the mounted library 'Atlas'. It belongs to the "
+        u"category "
+        "'Ports'. All cells are empty."_s);
 }
 
 TEST_F(SheetToolsTest, createsSheetsWithRows)

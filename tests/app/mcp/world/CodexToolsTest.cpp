@@ -161,7 +161,10 @@ TEST_F(CodexToolsTest, fieldsAreConvertedWithTheirValues)
          R"({"category": "Characters", "field": "Spouse", "type": "choice", "options": ["Tom"]})", oneStep,
          u"Converted field 'Spouse' on 'Characters' from reference to choice. Migrated 1 value(s). Kept 4 "
          "value(s) that are none of the options, as literal text: 'Marda Mardana', 'Marda', 'Mardana', "
-         "'Marda'."_s},
+         "'Marda'. The continuity rule 'Wed' still compares it with the literal text 'Marda'."_s},
+        {"convert_field", R"({"category": "Characters", "field": "Spouse", "type": "text"})", oneStep,
+         u"Converted field 'Spouse' on 'Characters' from reference to text. Migrated 5 value(s). Converted "
+         "what 1 continuity rule(s) compare it with."_s},
         {"convert_field", R"({"category": "Characters", "field": "Age", "type": "number"})", none,
          u"Field 'Age' on 'Characters' is already a number field; nothing changed."_s},
         {"convert_field", R"({"category": "Characters", "field": "Age", "type": "choice"})", failure,

@@ -179,6 +179,11 @@ TEST_F(ObjectToolsTest, namesAreSearchedCheckedAndRenamed)
          u"'Marda' is the same name; nothing changed."_s},
         {"rename_object", R"({"old_name": "Marda", "new_name": "Tom"})", failure,
          u"An entity named 'Tom' already exists; renaming onto it would leave both unreachable by name."_s},
+        {"rename_object", R"({"old_name": "Wed", "new_name": "Wife"})", oneStep,
+         u"Renamed 'Wed' to 'Wife': 1 occurrence(s) in 1 object(s)."_s},
+        {"rename_object", R"({"old_name": "Sailor", "new_name": "Sailor's mate", "dry_run": true})", none,
+         u"Would rename 'Sailor' to 'Sailor's mate': 1 occurrence(s) in 1 object(s). Nothing has been "
+         "changed.\n- entity template 'Sailor': 1"_s},
         {"rename_object", R"({"old_name": "Marda", "new_name": " "})", failure,
          u"A non-empty name is required."_s},
         {"rename_object", R"({"old_name": "Marda"})", failure,
