@@ -129,10 +129,20 @@ TEST_F(RichCorpusPageTest, typingAndUndoBringBackTheBytes)
         typeAndUndo(text, (index++ % 7) / 6.0);
 }
 
-TEST_F(RichCorpusPageTest, linesOfAMegabyteAreNoDifferent)
+TEST(RichCorpusTest, linesOfAMegabyteAreNoDifferent)
 {
-    for (const QString& text : longLines())
-        typeAndUndo(text, 0.5);
+    // Without a page around them: the toolkit breaks such a paragraph for seconds.
+    for (const QString& text : longLines()) {
+        Shown shown;
+        shown.apply(text);
+        ASSERT_EQ(shown.body.text(), text);
+        QTextCursor cursor(&shown.document);
+        cursor.setPosition(shown.document.characterCount() / 2);
+        cursor.insertText(u"q"_s);
+        ASSERT_NE(shown.body.text(), text);
+        shown.apply(text);
+        ASSERT_EQ(shown.reread(), text);
+    }
 }
 
 TEST(RichCorpusTest, allIsCountedAsTheDocumentIs)
