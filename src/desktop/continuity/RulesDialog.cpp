@@ -4,6 +4,7 @@
 #include "desktop/continuity/RuleForm.h"
 #include "desktop/fields/ListEditor.h"
 #include "desktop/fields/NoteLabel.h"
+#include "desktop/fields/TabOrder.h"
 #include "desktop/shell/ProjectSession.h"
 
 #include <QDialogButtonBox>
@@ -75,6 +76,7 @@ RulesDialog::RulesDialog(const shell::DeskContext& desk, RuleList rules, QWidget
     layout->addLayout(columns, 1);
     layout->addWidget(m_note);
     layout->addWidget(buttons);
+    fields::setTabOrderAsLaidOut(*this);
     resize(fontMetrics().averageCharWidth() * charactersWide, fontMetrics().height() * linesHigh);
     m_list->list().setCurrentRow(0);
     showCurrent();
