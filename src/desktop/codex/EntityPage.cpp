@@ -6,6 +6,7 @@
 #include "desktop/codex/LifespanSection.h"
 #include "desktop/codex/RelatedSections.h"
 #include "desktop/codex/TimedValuesSection.h"
+#include "desktop/fields/TabOrder.h"
 #include "desktop/icons/IconSet.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
@@ -160,6 +161,7 @@ void EntityPage::followChanges(const ProjectChanges& changes)
         showEntity();
     for (EntitySection* const section : m_sections)
         section->follow(changes);
+    fields::setTabOrderAsLaidOut(*this);
     if (changes.concerns(objectId())) {
         emit titleChanged();
         emit statusTextChanged();
@@ -176,6 +178,7 @@ void EntityPage::showEntity()
         section->setReadOnly(entity->isLocked());
     }
     m_lockNotice->setVisible(entity->isLocked());
+    fields::setTabOrderAsLaidOut(*this);
 }
 
 } // namespace tw::desktop::codex

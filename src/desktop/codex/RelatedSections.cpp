@@ -33,12 +33,26 @@ QVBoxLayout* makeColumn(EntitySection* section)
     return layout;
 }
 
+/** Tab goes from link to link; Shift+Tab leaves at once, since the toolkit's label would never let go of it.
+ */
+class LinkLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    bool focusNextPrevChild(bool isNext) override
+    {
+        return isNext ? QLabel::focusNextPrevChild(true) : QWidget::focusNextPrevChild(false);
+    }
+};
+
 } // namespace
 
 LinkList::LinkList(const shell::DeskContext& desk, const QString& name, QWidget* parent)
     : QWidget(parent)
     , m_desk(desk)
-    , m_label(new QLabel(this))
+    , m_label(new LinkLabel(this))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

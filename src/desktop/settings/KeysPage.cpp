@@ -5,6 +5,7 @@
 #include "desktop/settings/Shortcuts.h"
 #include "desktop/shell/Questions.h"
 
+#include <QAccessibleWidget>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeySequenceEdit>
@@ -28,6 +29,14 @@ QPushButton* makeButton(const QString& text, QWidget* parent)
     return button;
 }
 
+/** The toolkit has a screen reader take the field for a pane. */
+QAccessibleInterface* describeKeyField(const QString& className, QObject* object)
+{
+    auto* const field =
+        className == "QKeySequenceEdit"_L1 ? qobject_cast<QKeySequenceEdit*>(object) : nullptr;
+    return field ? new QAccessibleWidget(field, QAccessible::HotkeyField) : nullptr;
+}
+
 } // namespace
 
 KeysPage::KeysPage(const shell::DeskContext& desk, Shortcuts& shortcuts, QWidget* parent)
@@ -38,6 +47,7 @@ KeysPage::KeysPage(const shell::DeskContext& desk, Shortcuts& shortcuts, QWidget
     , m_keys(new QKeySequenceEdit(this))
     , m_note(new fields::NoteLabel(desk.themes, this))
 {
+    QAccessible::installFactory(describeKeyField);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     addTable(*layout);

@@ -101,6 +101,8 @@ void DockLayout::addPanel(const PanelSpec& spec, QWidget* panel)
     dock->setAccessibleName(spec.title);
     dock->toggleViewAction()->setObjectName(u"windows."_s + spec.objectName);
     dock->setWidget(panel, ads::CDockWidget::ForceNoScrollArea);
+    // As with the centre.
+    dock->setFocusPolicy(Qt::NoFocus);
     dock->setMinimumSizeHintMode(ads::CDockWidget::MinimumSizeHintFromContent);
     dock->setIcon(m_icons.icon(spec.icon));
     dock->toggleViewAction()->setIcon(m_icons.icon(spec.icon));

@@ -150,8 +150,8 @@ TEST(SearchTest, tellsHowManyMatchesWereReplaced)
 {
     const struct
     {
-        const char16_t* body;
-        const char16_t* replacement;
+        QStringView body;
+        QStringView replacement;
         qsizetype made;
         qsizetype refused;
     } cases[] = {
@@ -164,9 +164,9 @@ TEST(SearchTest, tellsHowManyMatchesWereReplaced)
     };
     const TextMatcher matcher = matcherOf({u"tide"_s});
     for (const auto& sample : cases) {
-        const DocumentBody body{QString(sample.body)};
+        const DocumentBody body{sample.body.toString()};
         const auto result = buildReplacement(
-            body, matcher, findMatches(matcher, body, all).value(), QString(sample.replacement));
+            body, matcher, findMatches(matcher, body, all).value(), sample.replacement.toString());
         EXPECT_EQ(result.made, sample.made) << body.text.toStdString();
         EXPECT_EQ(result.refused, sample.refused) << body.text.toStdString();
         EXPECT_EQ(result.text == body, sample.made == 0) << body.text.toStdString();

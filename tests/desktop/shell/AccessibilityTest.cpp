@@ -20,6 +20,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPointer>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QSet>
 #include <QStackedWidget>
@@ -84,12 +86,20 @@ bool hasFittingRole(const QWidget& widget, QAccessible::Role role)
          QAccessible::Pane});
 }
 
+/** Of choices that exclude each other, Tab reaches the one that is made. */
+bool isLeftToTheArrowKeys(const QWidget& widget)
+{
+    const auto* const radio = qobject_cast<const QRadioButton*>(&widget);
+    return radio && !radio->isChecked();
+}
+
 QList<QWidget*> controlsOf(const QWidget& area, Qt::FocusPolicy policy)
 {
     QList<QWidget*> found;
     for (QWidget* const widget : area.findChildren<QWidget*>()) {
         if (widget->isVisible() && widget->isEnabled() && widget->width() > 0 &&
-            (widget->focusPolicy() & policy) == policy && !isInnerPart(*widget))
+            (widget->focusPolicy() & policy) == policy && !isInnerPart(*widget) &&
+            !isLeftToTheArrowKeys(*widget))
             found.append(widget);
     }
     return found;
@@ -120,11 +130,22 @@ QWidget* focusedControl()
 /** Presses Tab, or Shift+Tab, from where the keyboard is, until it leaves the area or goes in circles. */
 QList<QWidget*> walk(const QWidget& area, Qt::Key key)
 {
+    // A date has parts and a line of links several; whatever keeps the key for longer keeps it for good.
+    constexpr int mostParts = 300;
     QList<QWidget*> reached;
-    for (QWidget* at = focusedControl();
-         at && (at == &area || area.isAncestorOf(at)) && !reached.contains(at); at = focusedControl()) {
-        reached.append(at);
+    int presses = 0;
+    for (QWidget* at = focusedControl(); at && (at == &area || area.isAncestorOf(at));
+         at = focusedControl()) {
+        const bool isSame = !reached.isEmpty() && reached.constLast() == at;
+        if (!isSame && reached.contains(at))
+            break;
+        presses = isSame ? presses + 1 : 0;
+        if (presses > mostParts)
+            break;
+        if (!isSame)
+            reached.append(at);
         QTest::keyClick(QApplication::focusWidget(), key);
+        QCoreApplication::processEvents();
     }
     return reached;
 }
@@ -139,15 +160,20 @@ QStringList controlsOutOfReach(QWidget& area)
     if (controls.isEmpty())
         return {};
     QStringList faults;
+    const QList<QPointer<QWidget>> known(controls.begin(), controls.end());
     const auto note = [&](const QList<QWidget*>& reached, const QString& key) {
-        for (const QWidget* const widget : controls) {
-            if (!reached.contains(widget))
-                faults.append(key + u" does not reach: "_s + describe(*widget));
+        for (const QPointer<QWidget>& widget : known) {
+            // Leaving a field may have put others in the place of those that were there.
+            if (widget && widget->isVisible() && widget->isEnabled() && !reached.contains(widget))
+                faults.append(u"%1 does not reach %2 but ends at %3"_s.arg(
+                    key, describe(*widget), reached.isEmpty() ? QString() : describe(*reached.last())));
         }
     };
     first->setFocus(Qt::TabFocusReason);
     const QList<QWidget*> there = walk(area, Qt::Key_Tab);
     note(there, u"Tab"_s);
+    if (there.isEmpty())
+        return faults;
     there.constLast()->setFocus(Qt::BacktabFocusReason);
     note(walk(area, Qt::Key_Backtab), u"Shift+Tab"_s);
     return faults;
@@ -257,11 +283,10 @@ TEST_F(AccessibilityTest, theTabKeyGoesRoundEveryDialog)
                 pages->setCurrentIndex(page);
             look(u"%1 %2"_s.arg(entry.name).arg(page));
         }
-        // Once round: behind the last control comes the first.
-        QWidget* const begin = focusedControl();
+        // Behind the last control comes another one of the dialog.
         const QList<QWidget*> reached = walk(*dialog, Qt::Key_Tab);
-        if (!reached.isEmpty() && focusedControl() != begin)
-            faults.append(entry.name + u": the way ends before it is back at "_s + describe(*begin));
+        if (!reached.isEmpty() && !reached.contains(focusedControl()))
+            faults.append(entry.name + u": the Tab key leads out of it"_s);
     }
     EXPECT_TRUE(faults.isEmpty()) << faults.join(u'\n').toStdString();
 }
