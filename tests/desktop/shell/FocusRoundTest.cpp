@@ -154,7 +154,7 @@ TEST_F(FocusRoundTest, doesNothingAmissWithoutAProject)
     EXPECT_TRUE(QApplication::focusWidget()->isVisible());
 }
 
-TEST_F(FocusRoundTest, theNameAtTheCursorIsShownReadAndFollowed)
+TEST_F(FocusRoundTest, theNameAtTheCursorIsShownAndRead)
 {
     open(u"The Spike"_s);
     auto* const page = qobject_cast<manuscript::TextPage*>(work().currentPage())->richPage();
@@ -182,11 +182,15 @@ TEST_F(FocusRoundTest, theNameAtTheCursorIsShownReadAndFollowed)
     QTest::keyClick(card, Qt::Key_X);
     EXPECT_FALSE(card->isVisible());
     EXPECT_EQ(page->toPlainText().size(), before.size() + 1) << "whoever types goes on writing";
-    trigger(u"edit.undo"_s);
-    QTextCursor again = page->document()->find(u"Dace Hollick"_s);
-    again.setPosition(again.selectionStart() + 1);
-    page->setTextCursor(again);
+}
 
+TEST_F(FocusRoundTest, theNameAtTheCursorIsFollowed)
+{
+    open(u"The Spike"_s);
+    auto* const page = qobject_cast<manuscript::TextPage*>(work().currentPage())->richPage();
+    QTextCursor cursor = page->document()->find(u"Dace Hollick"_s);
+    cursor.setPosition(cursor.selectionStart() + 1);
+    page->setTextCursor(cursor);
     press(Qt::Key_F12);
     EXPECT_EQ(objectTitle(*desk.session.project().find(work().currentPage()->objectId())), u"Dace Hollick"_s);
 }
