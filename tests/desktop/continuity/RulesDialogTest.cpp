@@ -59,12 +59,13 @@ protected:
         return made;
     }
 
+    /** Types and leaves the field, whether or not the dialog is the active window. */
     static void type(QLineEdit& edit, const QString& text)
     {
         edit.setFocus();
         edit.selectAll();
         QTest::keyClicks(&edit, text);
-        QTest::keyClick(&edit, Qt::Key_Tab);
+        emit edit.editingFinished();
     }
 
     static QPushButton& button(QWidget& dialog, const QString& text)
