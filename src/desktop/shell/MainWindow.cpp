@@ -116,6 +116,8 @@ MainWindow::MainWindow(const DeskContext& desk, QString samplePath)
     connect(m_workArea, &WorkArea::currentPageChanged, this, &MainWindow::followPage);
     connect(m_workArea, &WorkArea::currentPageChanged, this, &MainWindow::showCenter);
     connect(&desk.session, &ProjectSession::historyChanged, this, &MainWindow::refreshHistory);
+    connect(&desk.session, &ProjectSession::typingBegan, this, &MainWindow::refreshHistory);
+    connect(&desk.session, &ProjectSession::typingEnded, this, &MainWindow::refreshHistory);
     connect(&desk.session, &ProjectSession::saveStateChanged, this, &MainWindow::refreshTitle);
     connect(
         &desk.session, &ProjectSession::changed, this, [this](const core::project::ProjectChanges& changes) {

@@ -394,7 +394,9 @@ void MainWindow::refreshHistory()
 {
     const ProjectSession& session = m_desk.session;
     m_undoAction->setEnabled(session.canUndo());
-    m_undoAction->setText(session.canUndo() ? tr("Undo %1").arg(session.undoText()) : tr("Undo"));
+    // What is still being typed has no name.
+    const bool isNamed = session.canUndo() && !session.isTypingPending();
+    m_undoAction->setText(isNamed ? tr("Undo %1").arg(session.undoText()) : tr("Undo"));
     m_redoAction->setEnabled(session.canRedo());
     m_redoAction->setText(session.canRedo() ? tr("Redo %1").arg(session.redoText()) : tr("Redo"));
 }

@@ -108,8 +108,10 @@ public:
     [[nodiscard]] MacroScope macro(const QString& label);
     void undo();
     void redo();
-    [[nodiscard]] bool canUndo() const { return m_workspace->history().canUndo(); }
-    [[nodiscard]] bool canRedo() const { return m_workspace->history().canRedo(); }
+    /** True while an editor holds typing as well: an undo takes that back. */
+    [[nodiscard]] bool canUndo() const { return isTypingPending() || m_workspace->history().canUndo(); }
+    /** Typing leaves nothing to be redone. */
+    [[nodiscard]] bool canRedo() const { return !isTypingPending() && m_workspace->history().canRedo(); }
     [[nodiscard]] QString undoText() const { return m_workspace->history().undoText(); }
     [[nodiscard]] QString redoText() const { return m_workspace->history().redoText(); }
 

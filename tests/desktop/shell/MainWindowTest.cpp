@@ -130,6 +130,23 @@ TEST_F(MainWindowTest, writesUndoesSavesClosesAndFindsEverythingAgain)
     EXPECT_EQ(again->value(u"clerkNumber"_s), u"59"_s);
 }
 
+TEST_F(MainWindowTest, typingIsUndoneBeforeItIsAStep)
+{
+    manuscript::BodyEditor& text = openText(u"The Spike"_s);
+    const QString before = text.toPlainText();
+    QAction* const undo = action(u"Undo"_s);
+    EXPECT_FALSE(undo->isEnabled());
+    QTest::keyClicks(&text, u"x"_s);
+    ASSERT_TRUE(undo->isEnabled());
+    undo->trigger();
+    EXPECT_EQ(text.toPlainText(), before);
+    EXPECT_FALSE(undo->isEnabled());
+    QAction* const redo = action(u"Redo Edit document body"_s);
+    EXPECT_TRUE(redo->isEnabled());
+    QTest::keyClicks(&text, u"y"_s);
+    EXPECT_FALSE(redo->isEnabled()) << "another line was begun";
+}
+
 TEST_F(MainWindowTest, focusModeLeavesTheTextAloneAndComesBack)
 {
     manuscript::BodyEditor& text = openText(u"The Spike"_s);
