@@ -69,35 +69,14 @@ private:
 
 } // namespace
 
-bool isWordCharacter(QChar character)
-{
-    // Halves of a surrogate pair count as letters: the scripts beyond the first plane are letters all.
-    return character.isLetterOrNumber() || character.isMark() || character.isSurrogate();
-}
-
-bool joinsWords(QChar character)
-{
-    return character == u'\'' || character == u'\u2019' || character == u'-' || character == u'\u2010' ||
-           character == u'\u2011' || character == u'_';
-}
-
 qint64 countWords(QStringView text)
 {
-    enum class Place
-    {
-        Outside,
-        InWord,
-        /** After a hyphen or an apostrophe that joins, if a word goes on behind it. */
-        AfterJoint,
-    };
-    qint64 words = 0;
-    Place place = Place::Outside;
+    WordTally tally;
     Absences absences(text);
     for (qsizetype index = 0; index < text.size(); ++index) {
         const QChar character = text[index];
         if (isWordCharacter(character)) {
-            words += place == Place::Outside ? 1 : 0;
-            place = Place::InWord;
+            tally.addWordCharacter();
             continue;
         }
         if (character == QChar::ObjectReplacementCharacter)
@@ -108,9 +87,9 @@ qint64 countWords(QStringView text)
                 continue;
             }
         }
-        place = place == Place::InWord && joinsWords(character) ? Place::AfterJoint : Place::Outside;
+        tally.addOther(character);
     }
-    return words;
+    return tally.words();
 }
 
 } // namespace tw::core::document

@@ -56,14 +56,7 @@ private:
     /** Up to the next blank line; -1 when there is markup in it that cannot be passed over. */
     [[nodiscard]] qint64 countPlainParagraph()
     {
-        enum class Place
-        {
-            Outside,
-            InWord,
-            AfterJoint,
-        };
-        qint64 words = 0;
-        Place place = Place::Outside;
+        WordTally tally;
         bool isLineEmpty = true;
         for (; m_position < m_body.size(); ++m_position) {
             const QChar character = m_body[m_position];
@@ -71,18 +64,17 @@ private:
                 if (isLineEmpty && isListNumber())
                     return -1;
                 isLineEmpty = false;
-                words += place == Place::Outside ? 1 : 0;
-                place = Place::InWord;
+                tally.addWordCharacter();
                 continue;
             }
             if (beginsMarkup(character) || (isEmphasisMark(character) && isWithinWord()))
                 return -1;
-            place = place == Place::InWord && joinsWords(character) ? Place::AfterJoint : Place::Outside;
+            tally.addOther(character);
             if (isLineEnd(character) && endsParagraph())
-                return words;
+                break;
             isLineEmpty = isLineEnd(character) || (isLineEmpty && character.isSpace());
         }
-        return words;
+        return tally.words();
     }
 
     /** At the first sign of a line. */
