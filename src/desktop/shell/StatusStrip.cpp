@@ -8,6 +8,7 @@
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/theme/ThemeManager.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
@@ -28,7 +29,25 @@ QString grouped(qint64 number)
     return QLocale().toString(number);
 }
 
-QLabel* addLabel(QStatusBar& bar)
+/** One place in the bar that comes and goes as a whole. */
+QWidget* addPlace(QStatusBar& bar)
+{
+    auto* const place = new QWidget(&bar);
+    auto* const row = new QHBoxLayout(place);
+    row->setContentsMargins({});
+    row->setSpacing(bar.fontMetrics().averageCharWidth());
+    bar.addPermanentWidget(place);
+    return place;
+}
+
+QLabel* addLabel(QWidget& place)
+{
+    auto* const label = new QLabel(&place);
+    place.layout()->addWidget(label);
+    return label;
+}
+
+QLabel* addPermanentLabel(QStatusBar& bar)
 {
     auto* const label = new QLabel(&bar);
     bar.addPermanentWidget(label);
@@ -46,27 +65,39 @@ StatusStrip::StatusStrip(const DeskContext& desk, const goals::WritingSession& w
     : QObject(&bar)
     , m_desk(desk)
     , m_writing(writing)
-    , m_pageText(addLabel(bar))
-    , m_storyDate(addLabel(bar))
-    , m_projectWords(addLabel(bar))
-    , m_sessionWords(addLabel(bar))
-    , m_dailyTarget(new QProgressBar(&bar))
-    , m_saveIcon(nullptr)
-    , m_saveText(nullptr)
+    , m_bar(bar)
+    , m_counts(addPlace(bar))
+    , m_pageText(addLabel(*m_counts))
+    , m_storyDate(addLabel(*m_counts))
+    , m_projectWords(addLabel(*m_counts))
+    , m_sessionWords(addLabel(*m_counts))
+    , m_dailyTarget(new QProgressBar(m_counts))
+    , m_saveIcon(addPermanentLabel(bar))
+    , m_saveText(addPermanentLabel(bar))
 {
     m_dailyTarget->setTextVisible(false);
     m_dailyTarget->setFixedHeight(barHeight);
     m_dailyTarget->setFixedWidth(bar.fontMetrics().averageCharWidth() * 12);
     m_dailyTarget->setAccessibleName(tr("Words of the day's target"));
-    bar.addPermanentWidget(m_dailyTarget);
-    m_saveIcon = addLabel(bar);
-    m_saveText = addLabel(bar);
+    m_counts->layout()->addWidget(m_dailyTarget);
+    connect(&bar, &QStatusBar::messageChanged, this, &StatusStrip::giveRoomTo);
     // It hears of changes of the project first.
     connect(&writing, &goals::WritingSession::changed, this, &StatusStrip::followChanges);
     connect(&desk.session, &ProjectSession::saveStateChanged, this, &StatusStrip::refreshSaveState);
     connect(&desk.themes, &theme::ThemeManager::themeChanged, this, &StatusStrip::refreshSaveState);
     refreshWords();
     refreshSaveState();
+}
+
+void StatusStrip::giveRoomTo(const QString& message)
+{
+    m_counts->show();
+    if (message.isEmpty())
+        return;
+    // Where they stand is known only once they are laid out again.
+    m_bar.layout()->activate();
+    const int room = m_counts->geometry().left() - m_bar.fontMetrics().averageCharWidth();
+    m_counts->setVisible(m_bar.fontMetrics().horizontalAdvance(message) <= room);
 }
 
 void StatusStrip::setPage(WorkPage* page)

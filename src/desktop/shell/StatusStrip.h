@@ -18,7 +18,9 @@ namespace tw::desktop::shell {
 
 class WorkPage;
 
-/** What the status bar always shows: words, the day's target, the scene's story date, whether all is saved.
+/**
+ * What the status bar shows beside its messages: words, the day's target, the scene's story date, whether all
+ * is saved. A message that would be cut has the room of all but the last.
  */
 class StatusStrip final : public QObject
 {
@@ -34,6 +36,7 @@ public:
     void followSettings();
 
 private:
+    void giveRoomTo(const QString& message);
     void followChanges();
     void refreshWords();
     void refreshPage();
@@ -42,6 +45,9 @@ private:
     DeskContext m_desk;
     const goals::WritingSession& m_writing;
     QPointer<WorkPage> m_page;
+    QStatusBar& m_bar;
+    /** Holds everything up to the day's target. */
+    QWidget* m_counts;
     QLabel* m_pageText;
     QLabel* m_storyDate;
     QLabel* m_projectWords;

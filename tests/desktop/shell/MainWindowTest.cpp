@@ -23,6 +23,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTest>
@@ -270,6 +271,18 @@ TEST_F(MainWindowTest, theStoryDateIsToldInEveryReckoningAlsoInOneWithoutAName)
     const auto labels = window->statusBar()->findChildren<QLabel*>();
     EXPECT_TRUE(std::ranges::any_of(
         labels, [](const QLabel* label) { return label->toolTip().contains(u"\n(unnamed reckoning): "_s); }));
+}
+
+TEST_F(MainWindowTest, aMessageThatWouldBeCutHasTheRoomOfTheCounts)
+{
+    QStatusBar& bar = *window->statusBar();
+    const auto* const target = bar.findChild<QProgressBar*>();
+    bar.showMessage(u"Saved."_s);
+    EXPECT_TRUE(target->isVisible());
+    bar.showMessage(QString(window->width(), u'w'));
+    EXPECT_FALSE(target->isVisible());
+    bar.clearMessage();
+    EXPECT_TRUE(target->isVisible());
 }
 
 TEST_F(MainWindowTest, everyPanelStandsInTheWindowsMenuOnce)
