@@ -1,6 +1,7 @@
 #include "desktop/shell/ProjectLife.h"
 
 #include "app/persistence/bundle/BackupList.h"
+#include "app/persistence/files/FaultyFileSystem.h"
 #include "core/document/DocumentCommands.h"
 #include "desktop/manuscript/BodyEditor.h"
 #include "desktop/manuscript/DocumentPage.h"
@@ -39,7 +40,7 @@ class ProjectLifeTest : public testing::Test
 {
 protected:
     ProjectLifeTest()
-        : desk(folder.path())
+        : desk(folder.path(), files)
         , window(desk.context, QString())
     {
         window.show();
@@ -78,6 +79,7 @@ protected:
     }
 
     QTemporaryDir folder;
+    app::persistence::FaultyFileSystem files;
     test::TestDesk desk;
     MainWindow window;
 };
@@ -133,11 +135,11 @@ TEST_F(ProjectLifeTest, whatIsDiscardedAfterAFailedSaveIsNotThereAgain)
     const QString file = path(u"Tide.vellory"_s);
     const auto failToSave = [&](const QString& text) {
         type(text);
-        desk.files.failingReplacements[file] = app::persistence::FaultyFileSystem::always;
+        files.failingReplacements[file] = app::persistence::FaultyFileSystem::always;
         const NextMessage close(u"Close"_s);
         window.life().save();
         EXPECT_TRUE(close.text.contains(QDir::toNativeSeparators(file)));
-        desk.files.failingReplacements.clear();
+        files.failingReplacements.clear();
     };
     type(u"Kept."_s);
     window.life().save();
@@ -169,8 +171,8 @@ TEST_F(ProjectLifeTest, whatHindersASaveIsToldUntilItWorks)
         int& left;
         QString advice;
     } cases[] = {
-        {desk.files.writesLeft, u"The disk of %1 is full. Free some space there, then try again."_s},
-        {desk.files.changesLeft,
+        {files.writesLeft, u"The disk of %1 is full. Free some space there, then try again."_s},
+        {files.changesLeft,
          u"Nothing may be written in %1. Allow it there, or choose another place, then try again."_s},
     };
     for (const auto& sample : cases) {

@@ -10,8 +10,6 @@
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/theme/ThemeManager.h"
 
-#include "app/persistence/files/FaultyFileSystem.h"
-
 #include <QDir>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -31,6 +29,11 @@ public:
     /** With nothing open; settings and data lie in the folder, as those of an earlier start may. */
     explicit TestDesk(const QString& folderPath)
         : folder(folderPath)
+    {}
+    /** The same upon a file system with faults, which must outlive the desk. */
+    TestDesk(const QString& folderPath, app::persistence::FileSystem& faulty)
+        : folder(folderPath)
+        , files(faulty)
     {}
 
     /** Adds a document straight to the project, as a file would bring it. */
@@ -60,13 +63,14 @@ public:
 
 private:
     QTemporaryDir m_ownFolder;
+    app::persistence::DiskFileSystem m_disk;
 
 public:
     QDir folder;
     QSettings settings{folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
     desktop::theme::ThemeManager themes{settings};
     desktop::icons::IconSet icons{themes};
-    app::persistence::FaultyFileSystem files;
+    app::persistence::FileSystem& files = m_disk;
     app::persistence::StorageEnvironment environment{files, folder.filePath(QStringLiteral("data"))};
     desktop::shell::ProjectSession session{environment};
     desktop::shell::Navigator navigator;
