@@ -76,7 +76,10 @@ bool DiskFileSystem::syncFolder(const QString& path)
 
 WriteObstacle DiskFileSystem::obstacleAt(const QString& folder, qint64 bytes)
 {
-    QFileInfo place(folder);
+    if (folder.isEmpty())
+        return WriteObstacle::None;
+    // Absolute, so that the way up ends at a root.
+    QFileInfo place(QFileInfo(folder).absoluteFilePath());
     while (!place.isDir() && !place.isRoot())
         place.setFile(place.path());
     const QStorageInfo medium(place.filePath());
