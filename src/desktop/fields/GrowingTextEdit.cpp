@@ -1,5 +1,7 @@
 #include "desktop/fields/GrowingTextEdit.h"
 
+#include "desktop/fields/LongWords.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -28,6 +30,7 @@ GrowingTextEdit::GrowingTextEdit(QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setLineWrapMode(WidgetWidth);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    breakLongWordsAnywhere(*document());
     document()->setDocumentMargin(innerMargin);
     connect(
         document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,

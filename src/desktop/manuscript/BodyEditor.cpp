@@ -1,6 +1,7 @@
 #include "desktop/manuscript/BodyEditor.h"
 
 #include "core/document/WordCount.h"
+#include "desktop/fields/LongWords.h"
 #include "desktop/theme/ThemeManager.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -59,6 +60,7 @@ BodyEditor::BodyEditor(theme::ThemeManager& themes, QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setTabChangesFocus(false);
     setLineWrapMode(WidgetWidth);
+    fields::breakLongWordsAnywhere(*document());
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setAccessibleName(tr("Text of the document"));
