@@ -62,6 +62,12 @@ FinderPopup::FinderPopup(const theme::ThemeManager& themes, QWidget* window)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { followFocus(now); });
 }
 
+FinderPopup::~FinderPopup()
+{
+    // Its widget loses the keyboard while it dies; nobody is left to follow it.
+    qApp->disconnect(this);
+}
+
 void FinderPopup::open(FinderSource& source)
 {
     if (!isVisible()) {

@@ -30,6 +30,7 @@ class FinderPopup final : public QFrame
 public:
     /** A child of the window, which it lies over. */
     FinderPopup(const theme::ThemeManager& themes, QWidget* window);
+    ~FinderPopup() override;
 
     /** Shows what the source offers, and takes the keyboard; another one takes its place. */
     void open(FinderSource& source);

@@ -34,6 +34,12 @@ CardEditor::CardEditor(QWidget* parent)
     });
 }
 
+CardEditor::~CardEditor()
+{
+    // The fields go after this, and the keyboard with one of them.
+    qApp->disconnect(this);
+}
+
 void CardEditor::finish()
 {
     // The keyboard leaves once more while the editor is taken away.

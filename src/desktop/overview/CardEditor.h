@@ -14,6 +14,7 @@ class CardEditor final : public QFrame
 
 public:
     explicit CardEditor(QWidget* parent);
+    ~CardEditor() override;
 
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString synopsis() const;

@@ -76,6 +76,8 @@ WorkArea::WorkArea(const DeskContext& desk, QWidget* parent)
 
 WorkArea::~WorkArea()
 {
+    // The pages go after this, and the keyboard with one of them.
+    qApp->disconnect(this);
     for (int index = 0; index < count(); ++index)
         disconnect(widget(index), nullptr, this, nullptr);
 }
