@@ -9,7 +9,8 @@ inline constexpr int longestWord = 10'000;
 
 /**
  * Has the lines of a document break anywhere for as long as it holds a word longer than that: laying one out
- * that may only break in need takes the square of its length, minutes for a megabyte. Call once, at the start.
+ * that may only break in need takes the square of its length, minutes for a megabyte. Call once, at the
+ * start.
  */
 void breakLongWordsAnywhere(QTextDocument& document);
 

@@ -54,7 +54,7 @@ QString outlineHeading(OutlineColumn column)
 
 bool isEditable(OutlineColumn column)
 {
-    return column != OutlineColumn::Words && column != OutlineColumn::StoryDate;
+    return column != OutlineColumn::Words;
 }
 
 QString outlineText(const Document& document, OutlineColumn column, const shell::ProjectSession& session)
@@ -92,6 +92,7 @@ QVariant outlineValue(const Document& document, OutlineColumn column)
     case OutlineColumn::Target:
         return document.wordCountTarget();
     case OutlineColumn::StoryDate:
+        return document.sceneInstant() ? QVariant(*document.sceneInstant()) : QVariant();
     case OutlineColumn::Words:
         break;
     }
@@ -134,6 +135,9 @@ bool setOutlineValue(
                apply<doc::SetDocumentTargetCommand>(session, *document, document->wordCountTarget(), target);
     }
     case OutlineColumn::StoryDate:
+        return apply<doc::SetDocumentSceneInstantCommand>(
+            session, *document, document->sceneInstant(),
+            value.isValid() ? std::optional(value.toLongLong()) : std::nullopt);
     case OutlineColumn::Words:
         break;
     }

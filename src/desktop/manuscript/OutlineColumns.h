@@ -33,14 +33,14 @@ inline constexpr int outlineColumnCount = static_cast<int>(OutlineColumn::Target
 
 [[nodiscard]] QString outlineHeading(OutlineColumn column);
 
-/** Words and the story date are found out, all else is written. */
+/** Words are counted, all else is written. */
 [[nodiscard]] bool isEditable(OutlineColumn column);
 
 /** As it is read in a row; empty for none. Titles and words are the model's own. */
 [[nodiscard]] QString outlineText(
     const core::document::Document& document, OutlineColumn column, const shell::ProjectSession& session);
 
-/** As it is edited. */
+/** As it is edited: text, a number of words, or an instant of the story in minutes, invalid for none. */
 [[nodiscard]] QVariant outlineValue(const core::document::Document& document, OutlineColumn column);
 
 /** The names that documents of the project have, sorted. */

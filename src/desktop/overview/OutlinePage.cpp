@@ -4,8 +4,10 @@
 #include "desktop/manuscript/ManuscriptModel.h"
 #include "desktop/manuscript/StatusColors.h"
 #include "desktop/overview/ChoiceDelegate.h"
+#include "desktop/overview/CountDelegate.h"
+#include "desktop/overview/DateDelegate.h"
+#include "desktop/overview/OutlineTree.h"
 #include "desktop/shell/ProjectSession.h"
-#include "desktop/trees/CommittingView.h"
 #include "desktop/trees/OpenRows.h"
 
 #include <QHeaderView>
@@ -47,15 +49,11 @@ int widthIn(OutlineColumn column, const QFontMetrics& metrics)
 
 OutlinePage::OutlinePage(const OverviewContext& context, const ContentId& rootId, QWidget* parent)
     : OverviewPage(context, {rootId, outlineView}, parent)
-    , m_tree(new trees::CommittingView<QTreeView>(context.desk.session, this))
+    , m_tree(new OutlineTree(context.desk.session, this))
 {
     m_tree->setAccessibleName(tr("Outline"));
-    m_tree->setUniformRowHeights(true);
-    m_tree->setAllColumnsShowFocus(false);
-    m_tree->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_tree->setTextElideMode(Qt::ElideRight);
     m_tree->setAutoExpandDelay(600);
-    m_tree->setTabKeyNavigation(true);
     setList(*m_tree, [this](const ContentId& id) { renameIn(id); });
     setUpColumns();
     connect(m_tree, &QTreeView::collapsed, this, [this](const QModelIndex& index) {
@@ -88,6 +86,9 @@ void OutlinePage::setUpColumns()
     delegate(OutlineColumn::Status, [&session] { return manuscript::orderedStatuses(session.project()); });
     delegate(
         OutlineColumn::PointOfView, [&session] { return manuscript::knownPointsOfView(session.project()); });
+    m_tree->setItemDelegateForColumn(
+        static_cast<int>(OutlineColumn::StoryDate), new DateDelegate(context().desk, m_tree));
+    m_tree->setItemDelegateForColumn(static_cast<int>(OutlineColumn::Target), new CountDelegate(m_tree));
     QHeaderView& header = *m_tree->header();
     header.setSectionsMovable(true);
     header.setFirstSectionMovable(false);

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
@@ -167,6 +168,100 @@ TEST_F(OverviewTest, cellsOfTheOutlineAreEditedAsOneStepEach)
     EXPECT_FALSE(manuscript::setOutlineValue(desk.session, two, OutlineColumn::Target, u"many"_s));
     EXPECT_FALSE(manuscript::setOutlineValue(desk.session, two, OutlineColumn::Target, -5));
     EXPECT_FALSE(manuscript::setOutlineValue(desk.session, two, OutlineColumn::Title, u"  "_s));
+}
+
+TEST_F(OverviewTest, theKeyboardComesToEveryCellOfTheOutline)
+{
+    const auto page = show<OutlinePage>(part);
+    QTreeView& tree = page->tree();
+    tree.header()->moveSection(3, 1);
+    tree.hideColumn(static_cast<int>(OutlineColumn::Words));
+    const auto place = [&] {
+        return tree.currentIndex().siblingAtColumn(0).data().toString() + u' ' +
+               QString::number(tree.header()->visualIndex(tree.currentIndex().column()));
+    };
+    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+    const auto placesOf = [&](Qt::Key key) {
+        QStringList places;
+        while (QApplication::focusWidget() == &tree && places.size() < 50) {
+            places.append(place());
+            press(key);
+        }
+        return places;
+    };
+    QStringList there = placesOf(Qt::Key_Tab);
+    EXPECT_EQ(there.size(), 3 * 6) << there.join(u", "_s).toStdString();
+    EXPECT_EQ(there.first(), u"One 0"_s);
+    EXPECT_EQ(there.last(), u"Below 6"_s);
+    tree.setFocus();
+    QStringList back = placesOf(Qt::Key_Backtab);
+    std::reverse(back.begin(), back.end());
+    EXPECT_EQ(back, there);
+    tree.setFocus();
+    for (int count = 0; count < 9; ++count)
+        press(Qt::Key_Right);
+    EXPECT_EQ(place(), u"One 6"_s) << "and no further";
+    for (int count = 0; count < 9; ++count)
+        press(Qt::Key_Left);
+    EXPECT_EQ(place(), u"One 0"_s);
+}
+
+TEST_F(OverviewTest, tabEditsTheNextCellThatCanBe)
+{
+    const auto page = show<OutlinePage>(part);
+    QTreeView& tree = page->tree();
+    action(u"manuscript.rename"_s)->trigger();
+    QTest::keyClicks(QApplication::focusWidget(), u"First"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"Dusk."_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(desk.document(one).title(), u"First"_s);
+    EXPECT_EQ(desk.document(one).synopsis(), u"Dusk."_s);
+    // Over the words, which nobody writes, to the target and on to the next title.
+    const QModelIndex row = static_cast<DocumentFilter*>(tree.model())->indexOf(one);
+    tree.setCurrentIndex(row.siblingAtColumn(static_cast<int>(OutlineColumn::StoryDate)));
+    action(u"manuscript.rename"_s)->trigger();
+    for (int count = 0; count < 2; ++count)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::keyClicks(QApplication::focusWidget(), u"Second"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(desk.document(two).title(), u"Second"_s);
+}
+
+TEST_F(OverviewTest, aStoryDateIsTypedIntoItsCellAndStaysUntilItReads)
+{
+    const auto page = show<OutlinePage>(part);
+    QTreeView& tree = page->tree();
+    const QModelIndex row = static_cast<DocumentFilter*>(tree.model())->indexOf(one);
+    const QModelIndex cell = row.siblingAtColumn(static_cast<int>(OutlineColumn::StoryDate));
+    const auto press = [](Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); };
+    tree.setCurrentIndex(cell);
+    action(u"manuscript.rename"_s)->trigger();
+    QTest::keyClicks(QApplication::focusWidget(), u"never ever"_s);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Tab}) {
+        press(key);
+        auto* const line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_TRUE(line && tree.isAncestorOf(line)) << key;
+        EXPECT_EQ(line->text(), u"never ever"_s);
+    }
+    press(Qt::Key_Escape);
+    QTest::keyClicks(QApplication::focusWidget(), u"312"_s);
+    press(Qt::Key_Return);
+    QCoreApplication::processEvents();
+    const auto& calendar = desk.session.project().calendar();
+    ASSERT_TRUE(desk.document(one).sceneInstant());
+    EXPECT_EQ(calendar.partsFromMinutes(*desk.document(one).sceneInstant()).year, 312);
+    EXPECT_EQ(QApplication::focusWidget(), &tree);
+
+    action(u"manuscript.rename"_s)->trigger();
+    static_cast<QLineEdit*>(QApplication::focusWidget())->selectAll();
+    press(Qt::Key_Delete);
+    press(Qt::Key_Tab);
+    EXPECT_FALSE(desk.document(one).sceneInstant());
+    desk.session.undo();
+    EXPECT_TRUE(desk.document(one).sceneInstant());
 }
 
 TEST_F(OverviewTest, cardsAreWrittenAddedMovedAndRemovedFromTheKeyboard)

@@ -244,7 +244,9 @@ TEST_F(AccessibilityTest, theTabKeyGoesThroughEveryPanelAndBack)
     look(u"entity"_s, *work->currentPage());
     show(u"Part One: The Day Book"_s, overview::corkboardView);
     look(u"corkboard"_s, *work->currentPage());
-    // The outline keeps the Tab key for its cells, and texts keep it for themselves: F6 leads on from there.
+    show(u"Part One: The Day Book"_s, overview::outlineView);
+    look(u"outline"_s, *work->currentPage());
+    // Texts keep the Tab key for themselves: F6 leads on from there.
     show(u"Itemised"_s, {});
     for (QWidget* const part : work->currentPage()->parts().sliced(1)) {
         part->show();
