@@ -36,6 +36,14 @@ QCompleter* completerOf(QAbstractItemModel* model, QObject* parent)
     return completer;
 }
 
+/** Editable before any other control is made: Tab comes back to a box from wherever its line stands. */
+QComboBox* makeEditableBox(QWidget* parent)
+{
+    auto* const box = new QComboBox(parent);
+    box->setEditable(true);
+    return box;
+}
+
 } // namespace
 
 RuleForm::RuleForm(const shell::DeskContext& desk, QWidget* parent)
@@ -46,7 +54,7 @@ RuleForm::RuleForm(const shell::DeskContext& desk, QWidget* parent)
     , m_name(new QLineEdit(this))
     , m_entity(new QLineEdit(this))
     , m_entityNote(new NoteLabel(desk.themes, this))
-    , m_field(new QComboBox(this))
+    , m_field(makeEditableBox(this))
     , m_comparison(new QComboBox(this))
     , m_value(new QLineEdit(this))
     , m_valueNote(new NoteLabel(desk.themes, this))
@@ -55,7 +63,6 @@ RuleForm::RuleForm(const shell::DeskContext& desk, QWidget* parent)
     fillChoices();
     m_entity->setCompleter(completerOf(m_choices, this));
     m_value->setCompleter(completerOf(m_valueChoices, this));
-    m_field->setEditable(true);
     m_date->setCalendar(desk.session.project().calendar());
     m_date->focusProxy()->setAccessibleName(tr("On"));
     for (const RuleComparison comparison : app::timeline::allRuleComparisons)

@@ -5,7 +5,6 @@
 #include "desktop/continuity/RuleValue.h"
 #include "desktop/fields/ListEditor.h"
 #include "desktop/fields/NoteLabel.h"
-#include "desktop/fields/TabOrder.h"
 #include "desktop/shell/ObjectTitles.h"
 #include "desktop/shell/ProjectSession.h"
 
@@ -80,7 +79,6 @@ RulesDialog::RulesDialog(const shell::DeskContext& desk, const RuleList& rules, 
     layout->addLayout(columns, 1);
     layout->addWidget(m_note);
     layout->addWidget(buttons);
-    fields::setTabOrderAsLaidOut(*this);
     resize(fontMetrics().averageCharWidth() * charactersWide, fontMetrics().height() * linesHigh);
     m_list->list().setCurrentRow(0);
     showCurrent();
