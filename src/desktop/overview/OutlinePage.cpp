@@ -15,6 +15,8 @@
 #include <QSettings>
 #include <QTreeView>
 
+#include <algorithm>
+
 namespace tw::desktop::overview {
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,24 +27,30 @@ namespace {
 
 constexpr QLatin1StringView headerKey("outline/header");
 
-int widthIn(OutlineColumn column, const QFontMetrics& metrics)
+/** In characters: what a column needs to be of use, and what shows most of its texts whole. */
+struct ColumnWidth
 {
-    const auto ofCharacters = [&metrics](int count) { return metrics.averageCharWidth() * count; };
+    int least;
+    int full;
+};
+
+ColumnWidth widthOf(OutlineColumn column)
+{
     switch (column) {
     case OutlineColumn::Title:
-        return ofCharacters(28);
+        return {20, 28};
     case OutlineColumn::Synopsis:
-        return ofCharacters(32);
+        return {18, 32};
     case OutlineColumn::StoryDate:
-        return ofCharacters(22);
+        return {14, 22};
     case OutlineColumn::Status:
     case OutlineColumn::PointOfView:
-        return ofCharacters(14);
+        return {12, 14};
     case OutlineColumn::Words:
     case OutlineColumn::Target:
         break;
     }
-    return ofCharacters(9);
+    return {8, 9};
 }
 
 } // namespace
@@ -68,7 +76,8 @@ OutlinePage::OutlinePage(const OverviewContext& context, const ContentId& rootId
 
 OutlinePage::~OutlinePage()
 {
-    context().desk.settings.setValue(headerKey, m_tree->header()->saveState());
+    if (m_isArranged)
+        context().desk.settings.setValue(headerKey, m_tree->header()->saveState());
 }
 
 QIcon OutlinePage::icon() const
@@ -93,9 +102,38 @@ void OutlinePage::setUpColumns()
     header.setSectionsMovable(true);
     header.setFirstSectionMovable(false);
     header.setStretchLastSection(false);
-    for (int column = 0; column < manuscript::outlineColumnCount; ++column)
-        header.resizeSection(column, widthIn(static_cast<OutlineColumn>(column), fontMetrics()));
-    header.restoreState(context().desk.settings.value(headerKey).toByteArray());
+    m_isArranged = header.restoreState(context().desk.settings.value(headerKey).toByteArray());
+    const auto noteArrangement = [this] { m_isArranged = m_isArranged || !m_isFitting; };
+    connect(&header, &QHeaderView::sectionResized, this, noteArrangement);
+    connect(&header, &QHeaderView::sectionMoved, this, noteArrangement);
+    connect(m_tree, &OutlineTree::resized, this, &OutlinePage::fitColumns);
+    fitColumns();
+}
+
+void OutlinePage::fitColumns()
+{
+    if (m_isArranged)
+        return;
+    const QScopedValueRollback guard(m_isFitting, true);
+    const int character = fontMetrics().averageCharWidth();
+    int least = 0;
+    int full = 0;
+    for (int column = 0; column < manuscript::outlineColumnCount; ++column) {
+        least += character * widthOf(static_cast<OutlineColumn>(column)).least;
+        full += character * widthOf(static_cast<OutlineColumn>(column)).full;
+    }
+    const int room = m_tree->viewport()->width();
+    const double share = std::clamp((room - least) / static_cast<double>(full - least), 0.0, 1.0);
+    int left = room;
+    for (int column = 0; column < manuscript::outlineColumnCount; ++column) {
+        const ColumnWidth width = widthOf(static_cast<OutlineColumn>(column));
+        const int pixels = static_cast<int>(character * (width.least + share * (width.full - width.least)));
+        m_tree->header()->resizeSection(column, pixels);
+        left -= pixels;
+    }
+    // Nothing else has as much to say.
+    const int synopsis = static_cast<int>(OutlineColumn::Synopsis);
+    m_tree->header()->resizeSection(synopsis, m_tree->header()->sectionSize(synopsis) + std::max(0, left));
 }
 
 void OutlinePage::renameIn(const ContentId& id)

@@ -4,9 +4,9 @@
 
 #include <QSet>
 
-class QTreeView;
-
 namespace tw::desktop::overview {
+
+class OutlineTree;
 
 /** The documents below one as a table that is edited in its cells. */
 class OutlinePage final : public OverviewPage
@@ -19,18 +19,22 @@ public:
 
     [[nodiscard]] QIcon icon() const override;
 
-    [[nodiscard]] QTreeView& tree() { return *m_tree; }
+    [[nodiscard]] OutlineTree& tree() { return *m_tree; }
 
 protected:
     void restoreView() override;
 
 private:
     void setUpColumns();
+    /** Until the writer arranges the columns, they fill the width there is. */
+    void fitColumns();
     void renameIn(const core::ContentId& id);
 
-    QTreeView* m_tree;
+    OutlineTree* m_tree;
     QSet<core::ContentId> m_collapsed;
     bool m_isRestoring = false;
+    bool m_isArranged = false;
+    bool m_isFitting = false;
 };
 
 } // namespace tw::desktop::overview

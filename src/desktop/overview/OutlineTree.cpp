@@ -14,6 +14,12 @@ OutlineTree::OutlineTree(shell::ProjectSession& session, QWidget* parent)
     setTabKeyNavigation(true);
 }
 
+void OutlineTree::resizeEvent(QResizeEvent* event)
+{
+    CommittingView::resizeEvent(event);
+    emit resized();
+}
+
 QModelIndex OutlineTree::besideInRow(const QModelIndex& cell, int step) const
 {
     int place = header()->visualIndex(cell.column()) + step;

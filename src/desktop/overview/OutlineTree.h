@@ -18,7 +18,11 @@ class OutlineTree final : public trees::CommittingView<QTreeView>
 public:
     OutlineTree(shell::ProjectSession& session, QWidget* parent);
 
+signals:
+    void resized();
+
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 

@@ -219,6 +219,10 @@ QString OverviewPage::title() const
 
 void OverviewPage::takeFocus()
 {
+    // The list would take the first row for the current one, and not show it.
+    if (const QModelIndex first = m_filter->index(0, 0, m_filter->rootIndex());
+        first.isValid() && !m_list->currentIndex().isValid())
+        selectCurrent(m_filter->idAt(first));
     m_list->setFocus(Qt::OtherFocusReason);
 }
 

@@ -23,6 +23,8 @@ public:
         , m_typing(new shell::PendingEdit(session, this, [this] { finishEditing(); }))
     {}
 
+    using View::edit;
+
 protected:
     bool edit(const QModelIndex& index, QAbstractItemView::EditTrigger trigger, QEvent* event) override
     {

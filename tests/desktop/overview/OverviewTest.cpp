@@ -4,6 +4,7 @@
 #include "desktop/manuscript/ManuscriptModel.h"
 #include "desktop/overview/CorkboardPage.h"
 #include "desktop/overview/OutlinePage.h"
+#include "desktop/overview/OutlineTree.h"
 #include "desktop/shell/Navigator.h"
 #include "desktop/support/TestDesk.h"
 
@@ -189,6 +190,7 @@ TEST_F(OverviewTest, theKeyboardComesToEveryCellOfTheOutline)
         }
         return places;
     };
+    EXPECT_TRUE(tree.selectionModel()->isRowSelected(0, tree.rootIndex())) << "where the keyboard begins";
     QStringList there = placesOf(Qt::Key_Tab);
     EXPECT_EQ(there.size(), 3 * 6) << there.join(u", "_s).toStdString();
     EXPECT_EQ(there.first(), u"One 0"_s);
@@ -204,6 +206,28 @@ TEST_F(OverviewTest, theKeyboardComesToEveryCellOfTheOutline)
     for (int count = 0; count < 9; ++count)
         press(Qt::Key_Left);
     EXPECT_EQ(place(), u"One 0"_s);
+}
+
+TEST_F(OverviewTest, theOutlineFillsItsWidthUntilItIsArranged)
+{
+    {
+        const auto page = show<OutlinePage>(part);
+        QHeaderView& header = *page->tree().header();
+        for (const int width : {1600, 1000}) {
+            page->resize(width, 600);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(header.length(), page->tree().viewport()->width()) << width;
+        }
+    }
+    EXPECT_FALSE(desk.settings.contains(u"outline/header"_s)) << "nobody arranged it";
+    {
+        const auto page = show<OutlinePage>(part);
+        page->tree().header()->resizeSection(0, 333);
+        page->resize(1500, 600);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(page->tree().header()->sectionSize(0), 333);
+    }
+    EXPECT_EQ(show<OutlinePage>(part)->tree().header()->sectionSize(0), 333) << "and stays so";
 }
 
 TEST_F(OverviewTest, tabEditsTheNextCellThatCanBe)
