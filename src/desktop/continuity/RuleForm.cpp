@@ -160,6 +160,8 @@ void RuleForm::setDraft(const RuleDraft& draft)
     m_value->setText(draft.typedValue ? *draft.typedValue : value.inWords(rule));
     m_shownField = value.fieldOf(rule);
     m_date->setInstant(rule.instant);
+    if (draft.typedDate)
+        m_date->setTypedText(*draft.typedDate);
     showValueState();
     showValueFault();
 }
@@ -263,6 +265,16 @@ void RuleForm::focusValue()
 {
     m_value->setFocus();
     m_value->selectAll();
+}
+
+void RuleForm::focusDate()
+{
+    m_date->setFocus();
+}
+
+std::optional<QString> RuleForm::unreadDate() const
+{
+    return m_date->isReadable() ? std::nullopt : std::optional(m_date->lineEdit().text());
 }
 
 void RuleForm::focusName()

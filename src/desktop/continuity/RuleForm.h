@@ -28,6 +28,8 @@ struct RuleDraft
     core::timeline::ContinuityRule rule;
     /** What was typed for it to compare with, in words; none while what the rule holds stands. */
     std::optional<QString> typedValue = {};
+    /** What was typed for its date and does not read as one. */
+    std::optional<QString> typedDate = {};
 };
 
 /** The fields of one continuity rule: about whom, which property, how it compares with what, and when. */
@@ -44,6 +46,9 @@ public:
     [[nodiscard]] const RuleDraft& draft() const { return m_draft; }
     void focusName();
     void focusValue();
+    void focusDate();
+    /** What stands in the field of the date and does not read as one. */
+    [[nodiscard]] std::optional<QString> unreadDate() const;
     /** Takes what was typed as if the field had been left; false while a date does not read. */
     [[nodiscard]] bool commit();
 

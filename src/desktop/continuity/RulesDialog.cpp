@@ -120,11 +120,19 @@ void RulesDialog::removeRow(int row)
     delete m_list->list().takeItem(row);
 }
 
+void RulesDialog::keepUnreadDate()
+{
+    if (m_shown)
+        m_rules[*m_shown].typedDate = m_form->unreadDate();
+}
+
 void RulesDialog::showCurrent()
 {
+    keepUnreadDate();
     const int row = m_list->list().currentRow();
+    m_shown = row >= 0 ? std::optional(ruleOfRow(row)) : std::nullopt;
     m_form->setEnabled(row >= 0);
-    m_form->setDraft(row >= 0 ? m_rules[ruleOfRow(row)] : RuleDraft());
+    m_form->setDraft(m_shown ? m_rules[*m_shown] : RuleDraft());
 }
 
 void RulesDialog::takeForm()
@@ -143,6 +151,11 @@ bool RulesDialog::storeValues()
     const RuleValue value(m_desk.session);
     for (int row = 0; row < m_list->list().count(); ++row) {
         RuleDraft& draft = m_rules[ruleOfRow(row)];
+        if (draft.typedDate) {
+            m_list->list().setCurrentRow(row);
+            m_form->focusDate();
+            return false;
+        }
         if (!draft.typedValue)
             continue;
         const RuleValue::Reading reading = value.read(draft.rule, *draft.typedValue);
@@ -161,6 +174,7 @@ void RulesDialog::accept()
 {
     if (!m_form->commit())
         return;
+    keepUnreadDate();
     const QString fault = faultIn(rules());
     m_note->setNote(fault, fields::NoteLabel::Tone::Error);
     if (fault.isEmpty() && storeValues())

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+#include <optional>
 #include <vector>
 
 namespace tw::desktop::fields {
@@ -43,12 +44,16 @@ private:
     void showCurrent();
     void takeForm();
     [[nodiscard]] std::size_t ruleOfRow(int row) const;
+    /** What was typed for a date stays with its rule until it reads. */
+    void keepUnreadDate();
     /** Stores what was typed as the values of the rules; false, with the form at the first that cannot be. */
     [[nodiscard]] bool storeValues();
 
     shell::DeskContext m_desk;
     /** The rows of the list know their numbers here; removed ones stay. */
     std::vector<RuleDraft> m_rules;
+    /** The one in the form; none while there is none. */
+    std::optional<std::size_t> m_shown;
     fields::ListEditor* m_list;
     RuleForm* m_form;
     fields::NoteLabel* m_note;

@@ -53,6 +53,12 @@ void StoryDateEdit::setInstant(const std::optional<StoryInstant>& instant)
     m_reading->setNote({});
 }
 
+void StoryDateEdit::setTypedText(const QString& text)
+{
+    m_text->setText(text);
+    showReading();
+}
+
 void StoryDateEdit::setReadOnly(bool readOnly)
 {
     m_text->setReadOnly(readOnly);

@@ -33,6 +33,8 @@ public:
     /** Shows the instant in the calendar; emits nothing. */
     void setInstant(const std::optional<core::calendar::StoryInstant>& instant);
     [[nodiscard]] const std::optional<core::calendar::StoryInstant>& instant() const { return m_instant; }
+    /** Shows what was typed earlier, and how it reads; emits nothing. */
+    void setTypedText(const QString& text);
     void setReadOnly(bool readOnly);
     [[nodiscard]] const QLineEdit& lineEdit() const { return *m_text; }
 

@@ -3,6 +3,7 @@
 #include "app/codex/DateText.h"
 #include "core/entity/Entity.h"
 #include "desktop/fields/NoteLabel.h"
+#include "desktop/fields/StoryDateEdit.h"
 #include "desktop/shell/ProjectSession.h"
 #include "desktop/support/MountedLibrary.h"
 #include "desktop/support/NextDialog.h"
@@ -164,6 +165,29 @@ TEST_F(RulesDialogTest, rulesThatAreNotCompleteAreNotApplied)
         dialog.accept();
         EXPECT_EQ(dialog.result() == QDialog::Accepted, row.fault.isEmpty()) << row.fault.toStdString();
     }
+}
+
+TEST_F(RulesDialogTest, aDateThatDoesNotReadStaysWithItsRule)
+{
+    const ContinuityRule hair{u"Hair"_s, ann, u"hair_1"_s, u"isEmpty"_s, {}, 5};
+    const ContinuityRule other{u"Other"_s, ann, u"hair_1"_s, u"isEmpty"_s, {}, 7};
+    RulesDialog dialog(desk.context, {hair, other}, nullptr);
+    auto& list = *dialog.findChild<QListWidget*>();
+    auto& date = *qobject_cast<QLineEdit*>(dialog.findChild<fields::StoryDateEdit*>()->focusProxy());
+    type(date, u"whenever"_s);
+    list.setCurrentRow(1);
+    EXPECT_NE(date.text(), u"whenever"_s);
+    dialog.accept();
+    EXPECT_NE(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(list.currentRow(), 0) << "where there is something to mend";
+    EXPECT_EQ(date.text(), u"whenever"_s);
+    type(date, u"312"_s);
+    list.setCurrentRow(1);
+    dialog.accept();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    const auto& calendar = desk.session.project().calendar();
+    EXPECT_EQ(calendar.partsFromMinutes(*dialog.rules().front().instant).year, 312);
+    EXPECT_EQ(dialog.rules().back(), other);
 }
 
 TEST_F(RulesDialogTest, valuesAreReadAndTypedInWords)
