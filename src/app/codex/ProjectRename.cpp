@@ -1,5 +1,6 @@
 #include "app/codex/ProjectRename.h"
 
+#include "app/codex/Actor.h"
 #include "app/codex/CategoryEdits.h"
 #include "core/canvas/CanvasCommands.h"
 #include "core/chart/ChartCommands.h"
@@ -190,18 +191,13 @@ void renameIn(HolderRename& holder, const Entity& owner, const Project& project)
     });
 }
 
-bool isLeftAlone(const ContentObject& object)
-{
-    return object.isLocked() || object.isAiExcluded();
-}
-
 void renameIn(HolderRename& holder, const research::Comment& owner, const Project& project)
 {
     holder.edit<research::SetCommentCommand>(
         owner, owner.details(), [&](auto& details) { holder.rename(details.body); });
     // The anchor is found in the text it was taken from, so it stays as that text does.
     const auto* const target = project.find(owner.target().targetId);
-    if (target && !isLeftAlone(*target)) {
+    if (target && !isLeftAlone(*target, Actor::Assistant)) {
         holder.edit<research::SetCommentTargetCommand>(
             owner, owner.target(), [&](auto& place) { holder.rename(place.anchor); });
     }

@@ -58,9 +58,9 @@ QString partNote(const ShownPart& part)
         return {};
     const QString shown = QString::number(part.shown.rowCount() * part.shown.columnCount());
     const QString all = QString::number(part.asked.rowCount() * part.asked.columnCount());
-    return u"\n\nNOTE: only %1 of %2 is shown (%3 of %4 cells). Call get_spreadsheet again with \"range\" "
-           u"for "
-           "the rest."_s.arg(rangeText(part.shown), rangeText(part.asked), shown, all);
+    return u"\n\nNOTE: only %1 of %2 is shown (%3 of %4 cells). "
+           u"Call get_spreadsheet again with \"range\" for the rest."_s.arg(
+               rangeText(part.shown), rangeText(part.asked), shown, all);
 }
 
 /** The header, in bold, and the rows below it as cells. */
