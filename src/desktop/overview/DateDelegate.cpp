@@ -20,6 +20,17 @@ namespace {
 /** A date needs that many to be read while it is typed. */
 constexpr int leastCharacters = 44;
 
+/** The line over the cell, and what it reads as over the rows beneath, as far as there is room. */
+void fitOver(QWidget& editor, const QRect& cell)
+{
+    const int room = editor.parentWidget()->width();
+    const int characters = editor.fontMetrics().averageCharWidth() * leastCharacters;
+    const int width = std::min(room, std::max(cell.width(), characters));
+    const int height = editor.hasHeightForWidth() ? editor.heightForWidth(width) : editor.sizeHint().height();
+    editor.setGeometry(
+        std::clamp(cell.left(), 0, room - width), cell.top(), width, std::max(cell.height(), height));
+}
+
 } // namespace
 
 DateDelegate::DateDelegate(const shell::DeskContext& desk, QObject* parent)
@@ -27,16 +38,15 @@ DateDelegate::DateDelegate(const shell::DeskContext& desk, QObject* parent)
     , m_desk(desk)
 {}
 
-QWidget* DateDelegate::createEditor(
-    QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const
+QWidget* DateDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const
 {
     auto* const edit = new StoryDateEdit(m_desk.themes, parent);
     edit->setAutoFillBackground(true);
     edit->setCalendar(m_desk.session.project().calendar());
     // The line has the keyboard, and the delegate hears of what comes to it.
     edit->focusProxy()->installEventFilter(const_cast<DateDelegate*>(this));
-    connect(edit, &StoryDateEdit::typed, this, [this, edit, option, index] {
-        updateEditorGeometry(edit, option, index);
+    connect(edit, &StoryDateEdit::typed, edit, [edit] {
+        fitOver(*edit, {edit->pos(), QSize(edit->width(), 0)});
     });
     return edit;
 }
@@ -59,15 +69,7 @@ void DateDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, cons
 void DateDelegate::updateEditorGeometry(
     QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const
 {
-    // The line over the cell, and what it reads as over the rows beneath, as far as there is room.
-    const int room = editor->parentWidget()->width();
-    const int width = std::min(
-        room, std::max(option.rect.width(), editor->fontMetrics().averageCharWidth() * leastCharacters));
-    const int height =
-        editor->hasHeightForWidth() ? editor->heightForWidth(width) : editor->sizeHint().height();
-    editor->setGeometry(
-        std::clamp(option.rect.left(), 0, room - width), option.rect.top(), width,
-        std::max(option.rect.height(), height));
+    fitOver(*editor, option.rect);
 }
 
 bool DateDelegate::eventFilter(QObject* watched, QEvent* event)
