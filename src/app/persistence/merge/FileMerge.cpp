@@ -99,7 +99,8 @@ WritingLog joinedLog(const WritingLog& base, WritingLog mine, const WritingLog& 
             day->words = static_cast<qint64>(static_cast<quint64>(day->words) + gain);
             continue;
         }
-        const auto later = std::ranges::find_if(mine, [&](const auto& entry) { return entry.date > date; });
+        const auto later =
+            std::ranges::find_if(mine, [&logged = date](const auto& entry) { return entry.date > logged; });
         mine.insert(later, {date, static_cast<qint64>(gain)});
     }
     return mine;
