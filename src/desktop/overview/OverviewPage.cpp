@@ -12,6 +12,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
