@@ -1,5 +1,7 @@
 #include "desktop/overview/OutlineTree.h"
 
+#include "desktop/fields/StoryDateEdit.h"
+
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
@@ -67,6 +69,12 @@ QModelIndex OutlineTree::moveCursor(CursorAction action, Qt::KeyboardModifiers m
     default:
         return QTreeView::moveCursor(action, modifiers);
     }
+}
+
+bool OutlineTree::isStorable(const QWidget& editor) const
+{
+    const auto* const date = qobject_cast<const fields::StoryDateEdit*>(&editor);
+    return !date || date->isReadable();
 }
 
 void OutlineTree::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint)

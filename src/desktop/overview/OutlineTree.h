@@ -23,6 +23,7 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    bool isStorable(const QWidget& editor) const override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 

@@ -26,6 +26,9 @@ public:
     using View::edit;
 
 protected:
+    /** Whether what stands in the editor can be stored; what cannot is left there to be mended. */
+    virtual bool isStorable(const QWidget&) const { return true; }
+
     bool edit(const QModelIndex& index, QAbstractItemView::EditTrigger trigger, QEvent* event) override
     {
         const bool isEditing = View::edit(index, trigger, event);
@@ -73,7 +76,7 @@ private:
         if (isOpen(editor))
             commitData(editor);
         // The commit may have made the rows anew, and the editor is let go.
-        if (isOpen(editor))
+        if (isOpen(editor) && isStorable(*editor))
             closeEditor(editor, QAbstractItemDelegate::NoHint);
     }
 

@@ -270,6 +270,8 @@ TEST_F(OverviewTest, aStoryDateIsTypedIntoItsCellAndStaysUntilItReads)
         ASSERT_TRUE(line && tree.isAncestorOf(line)) << key;
         EXPECT_EQ(line->text(), u"never ever"_s);
     }
+    desk.session.commitPendingEdits();
+    EXPECT_TRUE(tree.isPersistentEditorOpen(cell)) << "a save leaves it to be mended";
     press(Qt::Key_Escape);
     QTest::keyClicks(QApplication::focusWidget(), u"312"_s);
     press(Qt::Key_Return);
